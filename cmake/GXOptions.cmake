@@ -1,0 +1,32 @@
+# What is built, and with which flags. As a part of another project, only the library itself is.
+option(GX_BUILD_QT "Build the Qt host (needs Qt 6.4)" ${PROJECT_IS_TOP_LEVEL})
+option(GX_BUILD_GALLERY "Build the demo application (needs the Qt host)" ${GX_BUILD_QT})
+option(GX_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
+option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
+option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" ${PROJECT_IS_TOP_LEVEL})
+option(GX_SANITIZE "Check addresses and undefined behaviour at run time" OFF)
+
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+# Every target of this project links to this one.
+add_library(gx_flags INTERFACE)
+target_compile_features(gx_flags INTERFACE cxx_std_20)
+# Results have to be the same on every machine: no fused multiply-add, no rearranged sums.
+target_compile_options(gx_flags INTERFACE -ffp-contract=off -fno-fast-math)
+target_compile_options(gx_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wsign-conversion -Wold-style-cast)
+# g++ 12 sees overlapping copies in the standard library's own string operator+ (GCC bug 105651).
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(gx_flags INTERFACE -Wno-restrict)
+endif()
+if(GX_WARNINGS_AS_ERRORS)
+  target_compile_options(gx_flags INTERFACE -Werror)
+endif()
+if(GX_SANITIZE)
+  target_compile_options(gx_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(gx_flags INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "CGGeometry.h"
+#include "NSObject.h"
+
+namespace gx {
+
+/// A set of values under keys, from which a view restores its frame and properties (`initWithCoder`).
+///
+/// An application fills one from its interface file with the `encode…` operations and hands it to
+/// `create<T>(coder)`. Reading never fails: a key that is missing, or whose value is of another kind,
+/// reads as 0, false or nothing; numbers convert among each other as `NSNumber` does.
+class NSCoder : public NSObject {
+public:
+    void encodeBool_forKey(bool value, std::string key);
+    void encodeInteger_forKey(NSInteger value, std::string key);
+    void encodeDouble_forKey(double value, std::string key);
+    void encodeString_forKey(std::string value, std::string key);
+    void encodeCGRect_forKey(CGRect value, std::string key);
+
+    /// Virtual, so that an application can read its own format on demand.
+    virtual bool containsValueForKey(std::string_view key) const;
+    virtual bool decodeBoolForKey(std::string_view key) const;
+    virtual NSInteger decodeIntegerForKey(std::string_view key) const;
+    virtual double decodeDoubleForKey(std::string_view key) const;
+    virtual std::optional<std::string> decodeStringForKey(std::string_view key) const;
+    /// The zero rectangle if there is none.
+    virtual CGRect decodeCGRectForKey(std::string_view key) const;
+
+private:
+    using Value = std::variant<bool, NSInteger, double, std::string, CGRect>;
+    const Value* find(std::string_view key) const;
+
+    std::map<std::string, Value, std::less<>> values_;
+};
+
+} // namespace gx

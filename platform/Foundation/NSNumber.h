@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "NSObject.h"
+
+namespace gx {
+
+/// A handle to an immutable boxed number. Copying copies the handle, so two handles may share one box.
+///
+/// The box remembers the type that it was made with and converts on reading, in one rounding:
+/// - fractions truncate toward zero;
+/// - an integer box narrows modulo the width of the target;
+/// - a floating-point box outside the range of an integer saturates, and NaN reads as integer 0; a double
+///   beyond the range of a float reads as infinity.
+///
+/// An empty handle (`NSNumber()`) answers 0 to every question and false to `bool`.
+class NSNumber {
+public:
+    enum class Type { None, Bool, Int, Integer, Float, Double };
+
+    NSNumber() = default;
+
+    static NSNumber numberWithBool(bool value);
+    /// Boxes 32 bits.
+    static NSNumber numberWithInt(std::int32_t value);
+    /// Boxes 64 bits.
+    static NSNumber numberWithInteger(NSInteger value);
+    static NSNumber numberWithFloat(float value);
+    static NSNumber numberWithDouble(double value);
+
+    /// True for any number but 0 and NaN.
+    bool boolValue() const;
+    std::int32_t intValue() const;
+    NSInteger integerValue() const;
+    float floatValue() const;
+    double doubleValue() const;
+
+    /// The type that the box was made with; `None` for an empty handle.
+    Type type() const;
+    /// Whether both handles hold the same box (equal numbers in two boxes are not identical). Two empty
+    /// handles are identical.
+    bool isIdenticalTo(const NSNumber& other) const { return box_ == other.box_; }
+    /// Whether the handle holds a box, whatever its value.
+    explicit operator bool() const { return box_ != nullptr; }
+
+private:
+    struct Box {
+        Type type;
+        union {
+            std::int64_t integer;
+            double floating;
+        };
+    };
+
+    static NSNumber boxInteger(Type type, std::int64_t value);
+    static NSNumber boxFloating(Type type, double value);
+    bool isFloating() const;
+
+    std::shared_ptr<const Box> box_;
+};
+
+} // namespace gx

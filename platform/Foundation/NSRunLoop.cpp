@@ -1,0 +1,43 @@
+#include "NSRunLoop.h"
+
+namespace gx {
+
+const Ref<NSRunLoop>& NSRunLoop::mainRunLoop() {
+    static const Ref<NSRunLoop> loop = create<NSRunLoop>();
+    return loop;
+}
+
+void NSRunLoop::performBlock(std::function<void()> block) {
+    if (!block) return;
+    const bool wasEmpty = !hasWork();
+    queue_.push_back(std::move(block));
+    if (wasEmpty) wake();
+}
+
+void NSRunLoop::runPass() {
+    if (next_ == running_.size()) {
+        running_.clear();
+        running_.swap(queue_);
+        next_ = 0;
+    }
+    while (next_ < running_.size()) {
+        const std::function<void()> block = std::move(running_[next_]);
+        ++next_;
+        block();
+    }
+    if (!queue_.empty()) wake();
+}
+
+bool NSRunLoop::hasWork() const { return !queue_.empty() || next_ < running_.size(); }
+
+void NSRunLoop::setWakeHandler(std::function<void()> handler) {
+    wakeHandler_ = std::move(handler);
+    if (hasWork()) wake();
+}
+
+void NSRunLoop::wake() const {
+    const std::function<void()> handler = wakeHandler_; // The handler may be replaced while it runs.
+    if (handler) handler();
+}
+
+} // namespace gx

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "NSObject.h"
+
+namespace gx {
+
+/// The queue of the interface thread: work that has to wait until the present call has returned.
+///
+/// A host pumps it with `runPass`, once for each turn of its own event loop. Without a host, a test or an
+/// application calls `runPass` itself.
+class NSRunLoop : public NSObject {
+public:
+    /// The one queue of the interface thread; never empty.
+    static const Ref<NSRunLoop>& mainRunLoop();
+
+    /// Queues `block` for the next pass. An empty block is ignored.
+    void performBlock(std::function<void()> block);
+    /// Runs, in order, what was queued before the call. What the blocks queue themselves waits for the next
+    /// pass, also when a block calls `runPass`: then the nested call takes over what is still to run.
+    void runPass();
+    /// Whether a pass would do anything.
+    bool hasWork() const;
+
+    /// Called whenever the queue stops being empty, so that a host can schedule a pass. One host at a time.
+    void setWakeHandler(std::function<void()> handler);
+
+private:
+    void wake() const;
+
+    std::vector<std::function<void()>> queue_;
+    std::vector<std::function<void()>> running_;
+    std::size_t next_ = 0;
+    std::function<void()> wakeHandler_;
+};
+
+} // namespace gx

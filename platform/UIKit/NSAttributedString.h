@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "UIColor.h"
+#include "UIFont.h"
+
+namespace gx {
+
+/// How text is drawn. What is absent is left to whoever draws it.
+struct NSTextAttributes {
+    Ref<UIFont> font;
+    std::optional<UIColor> foregroundColor;
+};
+
+/// One run of text with the attributes it is drawn with. Immutable.
+class NSAttributedString : public NSObject {
+public:
+    static Ref<NSAttributedString> attributedStringWithString_attributes(std::string string, NSTextAttributes attributes);
+
+    const std::string& string() const { return string_; }
+    const NSTextAttributes& attributes() const { return attributes_; }
+
+private:
+    std::string string_;
+    NSTextAttributes attributes_;
+};
+
+/// The size of one line of text in the font of the attributes, or in the system font if they name none.
+CGSize sizeWithAttributes(std::string_view text, const NSTextAttributes& attributes);
+
+} // namespace gx

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "CGGeometry.h"
+#include "NSObject.h"
+
+namespace gx {
+
+enum class UIFontWeight { Regular, Medium, Semibold, Bold };
+
+/// A font: family, size in points and weight. Immutable, so it can be shared and compared.
+class UIFont : public NSObject {
+public:
+    /// The size of text that nobody chose a font for.
+    static constexpr CGFloat labelFontSize = 17;
+
+    /// The host's own interface family. A size that is not above 0, or no number, becomes `labelFontSize`.
+    static Ref<UIFont> systemFontOfSize_weight(CGFloat size, UIFontWeight weight = UIFontWeight::Regular);
+    static Ref<UIFont> fontWithName_size_weight(std::string family, CGFloat size, UIFontWeight weight);
+
+    /// Empty for the host's own interface family.
+    const std::string& familyName() const { return family_; }
+    CGFloat pointSize() const { return size_; }
+    UIFontWeight weight() const { return weight_; }
+
+    bool isEqualToFont(const UIFont& other) const;
+
+private:
+    std::string family_;
+    CGFloat size_ = labelFontSize;
+    UIFontWeight weight_ = UIFontWeight::Regular;
+};
+
+} // namespace gx

@@ -1,0 +1,19 @@
+#include "UIGraphicsContext.h"
+
+namespace gx {
+
+void UIGraphicsContext::fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius) {
+    const UIColorComponents& components = color.resolved(style_);
+    if (components.alpha > 0 && !CGRectIsEmpty(rect)) fillRectWithComponents(rect, components, cornerRadius);
+}
+
+void UIGraphicsContext::drawText(std::string_view text, const UIFont& font, const UIColor& color, CGPoint origin) {
+    const UIColorComponents& components = color.resolved(style_);
+    if (components.alpha > 0 && !text.empty()) drawTextWithComponents(text, font, components, origin);
+}
+
+void UIGraphicsContext::drawImage(const UIImage& image, CGRect rect) {
+    if (!CGRectIsEmpty(rect)) drawImageInRect(image, rect);
+}
+
+} // namespace gx

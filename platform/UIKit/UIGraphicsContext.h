@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string_view>
+
+#include "CGGeometry.h"
+#include "UIColor.h"
+#include "UIFont.h"
+#include "UIImage.h"
+
+namespace gx {
+
+/// The canvas that a host gives to a window for one frame. It starts with the origin at the window's top left,
+/// y growing downward, one unit a point.
+///
+/// Views draw with the operations here; a host implements the protected ones. Colours arrive there resolved
+/// for the look of the frame.
+class UIGraphicsContext {
+public:
+    virtual ~UIGraphicsContext() = default;
+
+    /// The look that colours are resolved for; the window sets it before it draws.
+    UIUserInterfaceStyle userInterfaceStyle() const { return style_; }
+    void setUserInterfaceStyle(UIUserInterfaceStyle style) { style_ = style; }
+
+    /// Keep and restore transform, clip and alpha. Calls nest and come in pairs.
+    virtual void saveState() = 0;
+    virtual void restoreState() = 0;
+    /// Move and scale what follows, on top of what is in force.
+    virtual void translate(CGFloat x, CGFloat y) = 0;
+    virtual void scale(CGFloat x, CGFloat y) = 0;
+    /// Confines what follows to the rectangle, within what it is confined to already.
+    virtual void clipToRect(CGRect rect) = 0;
+    /// Makes what follows fainter: the factor, from 0 to 1, multiplies with the one in force.
+    virtual void multiplyAlpha(double alpha) = 0;
+
+    /// Fills a rectangle, its corners rounded by `cornerRadius` points.
+    void fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius = 0);
+    /// Draws one line of text with its line box at `origin` (top left).
+    void drawText(std::string_view text, const UIFont& font, const UIColor& color, CGPoint origin);
+    /// Draws the whole image into the rectangle.
+    void drawImage(const UIImage& image, CGRect rect);
+
+protected:
+    virtual void fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) = 0;
+    virtual void drawTextWithComponents(std::string_view text, const UIFont& font, const UIColorComponents& color, CGPoint origin) = 0;
+    virtual void drawImageInRect(const UIImage& image, CGRect rect) = 0;
+
+private:
+    UIUserInterfaceStyle style_ = UIUserInterfaceStyle::Light;
+};
+
+} // namespace gx

@@ -1,0 +1,39 @@
+#pragma once
+
+/// What a host and this library ask of each other, in both directions.
+///
+/// A host puts views on a real screen. It gives the library, once at its start:
+/// - `UITextEngine::setShared`: how wide and high a text is;
+/// - `UIImageLoader::setShared`: how picture files are read;
+/// - `NSLocale::setCurrentLocale`: the user's decimal separator and writing direction;
+/// - `NSRunLoop::mainRunLoop()->setWakeHandler`: when to call `runPass`;
+/// and to each window that it shows:
+/// - its size (`setFrame`), and itself with `setHost`;
+/// - fingers, the mouse with its button held, and scrolling (`touchBegan_at_time` … `scroll`);
+/// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when tick says so.
+///
+/// The library asks of a host, through the window: frames and ticks (`UIWindowHost`). All of it happens on
+/// one thread. Nothing else is needed: without a host everything works headless.
+
+#include "NSLocale.h"
+#include "NSRunLoop.h"
+#include "UIGraphicsContext.h"
+#include "UIImage.h"
+#include "UITextEngine.h"
+#include "UIWindow.h"
+
+namespace gx {
+
+/// The window's questions to its host.
+class UIWindowHost {
+public:
+    virtual ~UIWindowHost() = default;
+
+    /// Something on screen has changed: call `tick` soon, and again after each frame until it answers false.
+    /// May be called at any time, also within `tick` and `draw`.
+    virtual void windowNeedsFrame() = 0;
+    /// A row has passed a wheel's band during a turn by the user: the moment for a click or a slight vibration.
+    virtual void wheelDidTick() {}
+};
+
+} // namespace gx

@@ -1,0 +1,32 @@
+#include "UIImage.h"
+
+namespace gx {
+
+namespace {
+Ref<UIImageLoader>& sharedLoader() {
+    static Ref<UIImageLoader> loader;
+    return loader;
+}
+} // namespace
+
+Ref<UIImage> UIImage::imageWithPixels_width_height_scale(std::vector<std::uint8_t> pixels, int width, int height, double scale) {
+    const bool isSized = width > 0 && height > 0 && scale > 0;
+    if (!isSized) return nullptr;
+    if (pixels.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4) return nullptr;
+    auto image = create<UIImage>();
+    image->pixels_ = std::move(pixels);
+    image->width_ = width;
+    image->height_ = height;
+    image->scale_ = scale;
+    return image;
+}
+
+Ref<UIImage> UIImage::imageWithContentsOfFile(const std::string& path) {
+    const Ref<UIImageLoader> loader = UIImageLoader::shared();
+    return loader ? loader->imageWithContentsOfFile(path) : nullptr;
+}
+
+Ref<UIImageLoader> UIImageLoader::shared() { return sharedLoader(); }
+void UIImageLoader::setShared(Ref<UIImageLoader> loader) { sharedLoader() = std::move(loader); }
+
+} // namespace gx

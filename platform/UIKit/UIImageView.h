@@ -1,0 +1,37 @@
+#pragma once
+
+#include "UIImage.h"
+#include "UIView.h"
+
+namespace gx {
+
+enum UIViewContentMode {
+    UIViewContentModeScaleToFill = 0,     ///< stretched over the bounds
+    UIViewContentModeScaleAspectFit = 1,  ///< as large as shows everything, its shape kept
+    UIViewContentModeScaleAspectFill = 2, ///< as small as covers the bounds, its shape kept
+    UIViewContentModeCenter = 4           ///< in its own size, in the middle
+};
+
+/// Shows one image in its bounds. Takes no touches.
+class UIImageView : public UIView {
+public:
+    bool initWithFrame(CGRect frame) override;
+    /// Also restores "contentMode".
+    bool initWithCoder(const Ref<NSCoder>& coder) override;
+
+    const Ref<UIImage>& image() const { return image_; }
+    void setImage(Ref<UIImage> image);
+    UIViewContentMode contentMode() const { return contentMode_; }
+    void setContentMode(UIViewContentMode mode);
+
+    /// The size of the image.
+    CGSize sizeThatFits(CGSize available) const override;
+    bool showsSomething() const override { return image_ != nullptr; }
+    void drawRect(UIGraphicsContext& context, CGRect rect) override;
+
+private:
+    Ref<UIImage> image_;
+    UIViewContentMode contentMode_ = UIViewContentModeScaleToFill;
+};
+
+} // namespace gx

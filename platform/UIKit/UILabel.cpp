@@ -1,0 +1,116 @@
+#include "UILabel.h"
+
+#include "UIGraphicsContext.h"
+#include "UITextEngine.h"
+
+namespace gx {
+
+namespace {
+const Ref<UIFont>& defaultFont() {
+    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(UIFont::labelFontSize);
+    return font;
+}
+constexpr std::string_view ellipsis = "\u2026";
+} // namespace
+
+bool UILabel::initLabel() {
+    font_ = defaultFont();
+    setUserInteractionEnabled(false);
+    return true;
+}
+
+bool UILabel::initWithFrame(CGRect frame) { return UIView::initWithFrame(frame) && initLabel(); }
+
+bool UILabel::initWithCoder(const Ref<NSCoder>& coder) {
+    if (!UIView::initWithCoder(coder) || !initLabel()) return false;
+    if (!coder) return true;
+    text_ = coder->decodeStringForKey("text");
+    if (coder->containsValueForKey("fontSize")) font_ = UIFont::systemFontOfSize_weight(coder->decodeDoubleForKey("fontSize"));
+    const NSInteger alignment = coder->decodeIntegerForKey("textAlignment");
+    if (alignment == NSTextAlignmentCenter) alignment_ = NSTextAlignmentCenter;
+    if (alignment == NSTextAlignmentRight) alignment_ = NSTextAlignmentRight;
+    return true;
+}
+
+void UILabel::textDidChange() {
+    isFitted_ = false;
+    setNeedsDisplay();
+}
+
+void UILabel::setText(std::optional<std::string> text) {
+    if (text == text_ && !attributedText_) return;
+    text_ = std::move(text);
+    attributedText_ = nullptr;
+    textDidChange();
+}
+
+void UILabel::setAttributedText(Ref<NSAttributedString> text) {
+    if (text && text == attributedText_) return;
+    text_ = text ? std::optional<std::string>(text->string()) : std::nullopt;
+    attributedText_ = std::move(text);
+    textDidChange();
+}
+
+void UILabel::setFont(Ref<UIFont> font) {
+    if (!font) font = defaultFont();
+    if (font == font_ || (font_ && font->isEqualToFont(*font_))) return;
+    font_ = std::move(font);
+    textDidChange();
+}
+
+void UILabel::setTextColor(const UIColor& color) {
+    if (color == textColor_) return;
+    textColor_ = color;
+    setNeedsDisplay();
+}
+
+void UILabel::setTextAlignment(NSTextAlignment alignment) {
+    if (alignment == alignment_) return;
+    alignment_ = alignment;
+    setNeedsDisplay();
+}
+
+const UIFont& UILabel::drawnFont() const {
+    if (attributedText_ && attributedText_->attributes().font) return *attributedText_->attributes().font;
+    return font_ ? *font_ : *defaultFont();
+}
+
+const UIColor& UILabel::drawnColor() const {
+    if (attributedText_ && attributedText_->attributes().foregroundColor) return *attributedText_->attributes().foregroundColor;
+    return textColor_;
+}
+
+CGSize UILabel::sizeThatFits(CGSize) const {
+    if (!text_) return {};
+    return UITextEngine::shared()->sizeOfText_font(*text_, drawnFont());
+}
+
+void UILabel::fitText(CGFloat width) const {
+    if (isFitted_ && width == fittedWidth_) return;
+    isFitted_ = true;
+    fittedWidth_ = width;
+    fittedText_ = text_.value_or("");
+    UITextEngine& engine = *UITextEngine::shared();
+    fittedSize_ = engine.sizeOfText_font(fittedText_, drawnFont());
+    // A hair more than the bounds is no reason to cut: it comes from adding up fractions.
+    constexpr CGFloat tolerance = 0.01;
+    std::size_t length = fittedText_.size();
+    while (fittedSize_.width > width + tolerance && length > 0) {
+        do --length;
+        while (length > 0 && (static_cast<unsigned char>((*text_)[length]) & 0xC0U) == 0x80U);
+        fittedText_.assign(*text_, 0, length);
+        fittedText_ += ellipsis;
+        fittedSize_ = engine.sizeOfText_font(fittedText_, drawnFont());
+    }
+}
+
+void UILabel::drawRect(UIGraphicsContext& context, CGRect rect) {
+    if (!text_ || text_->empty()) return;
+    fitText(rect.size.width);
+    const CGFloat room = rect.size.width - fittedSize_.width;
+    const CGFloat share = alignment_ == NSTextAlignmentLeft ? 0 : alignment_ == NSTextAlignmentCenter ? 0.5 : 1;
+    const CGPoint origin = {rect.origin.x + room * share, rect.origin.y + 0.5 * (rect.size.height - fittedSize_.height)};
+    context.drawText(fittedText_, drawnFont(), drawnColor(), origin);
+}
+
+} // namespace gx

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "NSAttributedString.h"
+#include "UIView.h"
+
+namespace gx {
+
+enum NSTextAlignment { NSTextAlignmentLeft = 0, NSTextAlignmentCenter = 1, NSTextAlignmentRight = 2 };
+
+/// One line of text, aligned in its bounds and centred on their height. A text that is too long ends in "…".
+/// Takes no touches.
+class UILabel : public UIView {
+public:
+    bool initWithFrame(CGRect frame) override;
+    /// Also restores "text", "textAlignment" and "fontSize".
+    bool initWithCoder(const Ref<NSCoder>& coder) override;
+
+    const std::optional<std::string>& text() const { return text_; }
+    /// Replaces an attributed text.
+    void setText(std::optional<std::string> text);
+    /// The text with the attributes that it was given; nothing if it was set as plain text.
+    const Ref<NSAttributedString>& attributedText() const { return attributedText_; }
+    /// Its attributes go before the label's own font and colour.
+    void setAttributedText(Ref<NSAttributedString> text);
+
+    /// Never empty.
+    const Ref<UIFont>& font() const { return font_; }
+    /// An empty reference gives the system font in `UIFont::labelFontSize`.
+    void setFont(Ref<UIFont> font);
+    const UIColor& textColor() const { return textColor_; }
+    void setTextColor(const UIColor& color);
+    NSTextAlignment textAlignment() const { return alignment_; }
+    void setTextAlignment(NSTextAlignment alignment);
+
+    /// The size of the text.
+    CGSize sizeThatFits(CGSize available) const override;
+    bool showsSomething() const override { return text_ && !text_->empty(); }
+    void drawRect(UIGraphicsContext& context, CGRect rect) override;
+
+private:
+    bool initLabel();
+    const UIFont& drawnFont() const;
+    const UIColor& drawnColor() const;
+    void textDidChange();
+    void fitText(CGFloat width) const;
+
+    std::optional<std::string> text_;
+    Ref<NSAttributedString> attributedText_;
+    Ref<UIFont> font_;
+    UIColor textColor_ = UIColor::labelColor();
+    NSTextAlignment alignment_ = NSTextAlignmentLeft;
+
+    // The text as it fits into a width, measured once for each change.
+    mutable std::string fittedText_;
+    mutable CGSize fittedSize_;
+    mutable CGFloat fittedWidth_ = 0;
+    mutable bool isFitted_ = false;
+};
+
+} // namespace gx

@@ -1,0 +1,143 @@
+#include "UIPickerColumn.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "NSArithmetic.h"
+#include "UIGraphicsContext.h"
+
+namespace gx {
+
+namespace {
+
+// The look of the cylinder, chosen by eye on a wheel of 216 points with rows of 40: how far the rows at the edge are turned
+// away (in radians, 65 degrees), and how much fainter a row is that has just left the band.
+constexpr double edgeAngle = 1.1344640137963142;
+constexpr double fadeOutsideBand = 0.42;
+
+} // namespace
+
+bool UIPickerColumn::initWithFrame(CGRect frame) {
+    if (!UIView::initWithFrame(frame)) return false;
+    setUserInteractionEnabled(false); // The wheel takes the touches, to know which column a finger belongs to.
+    setClipsToBounds(true);
+    return true;
+}
+
+CGFloat UIPickerColumn::radius() const { return 0.5 * bounds().size.height / std::sin(edgeAngle); }
+
+double UIPickerColumn::reach() const { return std::min(radius() * edgeAngle / rowHeight_, highestReach); }
+
+CGRect UIPickerColumn::frameOfRow(NSInteger row) const {
+    return CGRectMake(0, static_cast<CGFloat>(row - anchor_) * rowHeight_, bounds().size.width, rowHeight_);
+}
+
+void UIPickerColumn::setRowHeight(CGFloat height) { rowHeight_ = height; }
+
+void UIPickerColumn::scrollToAnchor_offset(NSInteger anchor, double offset) {
+    const CGSize size = bounds().size;
+    const bool isMoved = anchor != anchor_;
+    anchor_ = anchor;
+    offset_ = offset;
+    setBounds({{0, (offset + 0.5) * rowHeight_ - 0.5 * size.height}, size});
+    if (!isMoved) return;
+    for (const Row& entry : shown_) entry.view->setFrame(frameOfRow(entry.row));
+}
+
+UIPickerColumn::Range UIPickerColumn::rowsInSight(NSInteger count) const {
+    if (count <= 0 || bounds().size.height <= 0) return {};
+    // A row reaches half a row to either side of its middle.
+    const auto first = truncateTo<NSInteger>(std::floor(offset_ - reach() - 0.5)) + 1;
+    const auto last = truncateTo<NSInteger>(std::ceil(offset_ + reach() + 0.5));
+    // The anchor is one of the rows, so the distances to the ends are safe, and the rows in sight are few.
+    const NSInteger firstRow = anchor_ + std::clamp(first, -anchor_, count - anchor_);
+    const NSInteger lastRow = anchor_ + std::clamp(last, -anchor_, count - anchor_);
+    return {firstRow, std::max(firstRow, lastRow)};
+}
+
+std::optional<double> UIPickerColumn::offsetDrawnAt(CGFloat y) const {
+    const double sine = (y - 0.5 * bounds().size.height) / radius();
+    if (!(std::fabs(sine) < 1)) return std::nullopt;
+    return offset_ + std::asin(sine) * radius() / rowHeight_;
+}
+
+Ref<UIView> UIPickerColumn::viewForRow(NSInteger row) const {
+    const auto entry = std::find_if(shown_.begin(), shown_.end(), [row](const Row& shown) { return shown.row == row; });
+    return entry == shown_.end() ? nullptr : entry->view;
+}
+
+bool UIPickerColumn::showsSomething() const {
+    return std::any_of(shown_.begin(), shown_.end(), [](const Row& entry) { return entry.view->showsSomething(); });
+}
+
+void UIPickerColumn::recycleRowsOutside(Range range) {
+    for (std::size_t i = shown_.size(); i-- > 0;) {
+        if (shown_[i].row >= range.first && shown_[i].row < range.last) continue;
+        pool_.push_back(std::move(shown_[i]));
+        shown_[i] = std::move(shown_.back());
+        shown_.pop_back();
+    }
+}
+
+UIPickerColumn::Row UIPickerColumn::takeRow(NSInteger row, bool isDelegates) {
+    const auto take = [](std::vector<Row>& rows, std::vector<Row>::iterator entry) {
+        Row taken = std::move(*entry);
+        *entry = std::move(rows.back());
+        rows.pop_back();
+        return taken;
+    };
+    const auto same = std::find_if(shown_.begin(), shown_.end(), [row](const Row& entry) { return entry.row == row; });
+    if (same != shown_.end()) {
+        Row taken = take(shown_, same);
+        if (taken.isDelegates == isDelegates) return taken;
+        pool_.push_back(std::move(taken));
+    }
+    const auto pooled =
+        std::find_if(pool_.begin(), pool_.end(), [isDelegates](const Row& entry) { return entry.isDelegates == isDelegates; });
+    return pooled == pool_.end() ? Row{row, nullptr, isDelegates} : take(pool_, pooled);
+}
+
+void UIPickerColumn::showRow(Row row) {
+    if (row.view->superview().get() != this) addSubview(row.view);
+    row.view->setFrame(frameOfRow(row.row));
+    shown_.push_back(std::move(row));
+}
+
+void UIPickerColumn::pool(Row row) {
+    if (row.view) pool_.push_back(std::move(row));
+}
+
+void UIPickerColumn::trimPool(std::size_t size) {
+    while (pool_.size() > size) {
+        const Ref<UIView> view = std::move(pool_.back().view);
+        pool_.pop_back();
+        if (view->superview().get() == this) view->removeFromSuperview();
+    }
+}
+
+void UIPickerColumn::removeAllRows() {
+    recycleRowsOutside({});
+    trimPool(0);
+}
+
+void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
+    // In the column's coordinates the middle of the band lies here; offset 0 is the middle of the anchor row.
+    const CGFloat middle = (offset_ + 0.5) * rowHeight_;
+    for (const Row& entry : shown_) {
+        if (entry.view->superview().get() != this) continue; // The delegate has put its view elsewhere.
+        const double rows = static_cast<double>(entry.row - anchor_) - offset_;
+        const double angle = rows * rowHeight_ / radius();
+        if (std::fabs(angle) >= edgeAngle + 0.5 * rowHeight_ / radius()) continue;
+        const double shortening = std::cos(angle);
+        if (shortening <= 0) continue;
+        context.saveState();
+        context.translate(0, middle + radius() * std::sin(angle));
+        context.scale(1, shortening);
+        context.translate(0, -CGRectGetMidY(entry.view->frame()));
+        context.multiplyAlpha((1 - fadeOutsideBand * std::min(std::fabs(rows), 1.0)) * shortening);
+        drawView(*entry.view, context);
+        context.restoreState();
+    }
+}
+
+} // namespace gx

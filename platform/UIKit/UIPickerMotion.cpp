@@ -1,0 +1,130 @@
+#include "UIPickerMotion.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace gx {
+
+namespace {
+
+// The rate as a drag: a free fling follows v(t) = v0·e^(−drag·t), and so runs v0 / drag.
+const double drag = -1000.0 * std::log(UIPickerMotion::decelerationRate);
+
+// A fling that has come down to this speed is over; in rows per second. Chosen by eye: what is slower looks like standing.
+constexpr double restSpeed = 0.25;
+constexpr NSTimeInterval shortestFling = 0.22;
+
+// How hard the end pulls back, per second: critically damped, so it swings over once and never through. Chosen so that a
+// strong fling (50 rows a second) shows about one empty row and is back within half a second.
+constexpr double endStiffness = 18;
+constexpr NSTimeInterval bounceDuration = 0.5;
+
+/// The share of its way that a fling has run: drag and a constant friction that brings it to a stop at `duration`
+/// exactly, with no speed left. 0 at 0, 1 at `duration`.
+double flingShare(NSTimeInterval elapsed, NSTimeInterval duration) {
+    const double left = std::exp(-drag * duration);
+    const double whole = 1 - left - drag * duration * left;
+    return (1 - std::exp(-drag * elapsed) - drag * elapsed * left) / whole;
+}
+
+/// The speed with which that curve begins, in ways per second.
+double flingStartSpeed(NSTimeInterval duration) {
+    const double left = std::exp(-drag * duration);
+    return drag * (1 - left) / (1 - left - drag * duration * left);
+}
+
+/// The duration for which a fling over `distance` begins with `velocity`, both positive. The start speed falls
+/// as the duration grows, so the interval can be halved.
+NSTimeInterval flingDuration(double distance, double velocity) {
+    NSTimeInterval shortest = shortestFling;
+    NSTimeInterval longest = std::max(shortest, std::log(std::max(velocity / restSpeed, 1.0)) / drag);
+    constexpr int halvings = 40;
+    for (int i = 0; i < halvings; ++i) {
+        const NSTimeInterval middle = 0.5 * (shortest + longest);
+        (distance * flingStartSpeed(middle) > velocity ? shortest : longest) = middle;
+    }
+    return 0.5 * (shortest + longest);
+}
+
+} // namespace
+
+double UIPickerMotion::travelOfVelocity(double velocity) { return velocity / drag; }
+
+double UIPickerMotion::rubberBand(double distance, double extent) {
+    if (!(extent > 0) || !(distance > 0)) return 0;
+    return (1 - 1 / (0.55 * distance / extent + 1)) * extent;
+}
+
+double UIPickerMotion::rubberBandInverse(double displayed, double extent) {
+    if (!(extent > 0) || !(displayed > 0)) return 0;
+    // The band never shows more than `extent`; just below it the way would be endless.
+    const double share = std::min(displayed / extent, 0.99);
+    return (1 / (1 - share) - 1) * extent / 0.55;
+}
+
+UIPickerMotion UIPickerMotion::ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start) {
+    UIPickerMotion motion;
+    motion.from_ = from;
+    motion.to_ = to;
+    motion.duration_ = duration;
+    motion.start_ = start;
+    return motion;
+}
+
+UIPickerMotion UIPickerMotion::fling(double from, double velocity, double to, double end, NSTimeInterval start) {
+    const double distance = to - from;
+    const bool isOnward = distance * velocity > 0;
+    // Rounding to a row may send a slow fling back, or nowhere: then there is no speed to keep.
+    if (!isOnward) return ease(from, to, snapDuration, start);
+
+    UIPickerMotion motion = ease(from, to, 0, start);
+    motion.velocity_ = velocity;
+    const double travel = travelOfVelocity(velocity);
+    if (std::fabs(travel) > std::fabs(end - from) && to == end) {
+        motion.curve_ = Curve::Bounce;
+        motion.impact_ = -std::log(1 - distance / travel) / drag;
+        motion.impactSpeed_ = velocity - drag * distance;
+        motion.duration_ = motion.impact_ + bounceDuration;
+    } else {
+        motion.curve_ = Curve::Fling;
+        motion.duration_ = flingDuration(std::fabs(distance), std::fabs(velocity));
+    }
+    return motion;
+}
+
+void UIPickerMotion::beginAt(NSTimeInterval time) {
+    if (!start_) start_ = time;
+}
+
+double UIPickerMotion::flownAt(NSTimeInterval elapsed) const {
+    const double distance = to_ - from_;
+    switch (curve_) {
+    case Curve::Ease: {
+        const double left = 1 - elapsed / duration_;
+        return distance * (1 - left * left * left);
+    }
+    case Curve::Fling:
+        return distance * flingShare(elapsed, duration_);
+    case Curve::Bounce:
+        if (elapsed < impact_) return velocity_ / drag * (1 - std::exp(-drag * elapsed));
+        const NSTimeInterval since = elapsed - impact_;
+        return distance + impactSpeed_ * since * std::exp(-endStiffness * since);
+    }
+    return distance;
+}
+
+double UIPickerMotion::positionAt(NSTimeInterval time) const {
+    if (isOverAt(time)) return to_;
+    const NSTimeInterval elapsed = start_ ? time - *start_ : 0;
+    // Time that runs backward, or is no number, stands still.
+    return elapsed > 0 ? from_ + flownAt(elapsed) : from_;
+}
+
+bool UIPickerMotion::isOverAt(NSTimeInterval time) const { return start_ && time - *start_ >= duration_; }
+
+void UIPickerMotion::shiftOrigin(double rows) {
+    from_ -= rows;
+    to_ -= rows;
+}
+
+} // namespace gx

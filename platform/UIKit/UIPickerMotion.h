@@ -1,0 +1,59 @@
+#pragma once
+
+#include <optional>
+
+#include "NSObject.h"
+
+namespace gx {
+
+/// Where a wheel's column is as a function of time alone: the same curve at any frame rate, ending exactly on
+/// its landing row. Positions are in rows, speeds in rows per second, times in seconds.
+class UIPickerMotion {
+public:
+    /// What is left of a fling's speed after each millisecond. Prescribed: it is the pace at which everything that
+    /// scrolls on the phone comes to rest.
+    static constexpr double decelerationRate = 0.998;
+    /// How long a request with animation takes, and a tap on a row. Prescribed.
+    static constexpr NSTimeInterval requestDuration = 0.3;
+    /// How long it takes to sit down on the nearest row. Chosen by eye: shorter looks like a jump, longer like glue.
+    static constexpr NSTimeInterval snapDuration = 0.22;
+    /// How long one notch of the mouse wheel takes. Chosen by eye, short enough not to lag behind a fast finger.
+    static constexpr NSTimeInterval notchDuration = 0.14;
+
+    /// How far a fling of this speed runs by itself.
+    static double travelOfVelocity(double velocity);
+    /// The finger's way `distance` beyond an end, as far as the column follows it; never more than `extent`. Both in one unit.
+    static double rubberBand(double distance, double extent);
+    /// The way of the finger that gives a column this far beyond its end.
+    static double rubberBandInverse(double displayed, double extent);
+
+    /// Slows down evenly from `from` to `to`. Without a start it begins at the first time it is asked about.
+    static UIPickerMotion ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start);
+    /// Begins with `velocity`, as far as the rounding to a row allows, and comes to rest on `to`. `end` is the
+    /// last row that way: a fling that would run beyond it bounces there.
+    static UIPickerMotion fling(double from, double velocity, double to, double end, NSTimeInterval start);
+
+    /// Fixes the start, if that is still open.
+    void beginAt(NSTimeInterval time);
+    double positionAt(NSTimeInterval time) const;
+    bool isOverAt(NSTimeInterval time) const;
+    double landing() const { return to_; }
+    /// Counts all positions from a row that lies `rows` further on.
+    void shiftOrigin(double rows);
+
+private:
+    enum class Curve { Ease, Fling, Bounce };
+
+    double flownAt(NSTimeInterval elapsed) const;
+
+    Curve curve_ = Curve::Ease;
+    double from_ = 0;
+    double to_ = 0;
+    double velocity_ = 0;
+    NSTimeInterval duration_ = 0;
+    NSTimeInterval impact_ = 0; // Bounce: when the end is reached …
+    double impactSpeed_ = 0;    // … and how fast.
+    std::optional<NSTimeInterval> start_;
+};
+
+} // namespace gx

@@ -1,0 +1,266 @@
+#include "UIPickerTurn.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "NSArithmetic.h"
+
+namespace gx {
+
+void UIVelocityTracker::reset() { count_ = next_ = 0; }
+
+void UIVelocityTracker::add(NSTimeInterval time, CGFloat place) {
+    samples_[next_] = {time, place};
+    next_ = (next_ + 1) % samples_.size();
+    count_ = std::min(count_ + 1, samples_.size());
+}
+
+double UIVelocityTracker::velocityAt(NSTimeInterval time) const {
+    if (count_ < 2) return 0;
+    const std::size_t size = samples_.size();
+    const Sample& latest = samples_[(next_ + size - 1) % size];
+    if (!(time - latest.time <= stillness)) return 0;
+    Sample earliest = latest;
+    for (std::size_t back = 2; back <= count_; ++back) {
+        const Sample& sample = samples_[(next_ + size - back) % size];
+        if (!(latest.time - sample.time <= memory)) break;
+        earliest = sample;
+    }
+    const double velocity = (latest.place - earliest.place) / (latest.time - earliest.time);
+    return std::isfinite(velocity) ? std::clamp(velocity, -highest, highest) : 0;
+}
+
+// Position
+
+bool UIPickerTurn::isMoving() const {
+    return state_ == State::Gliding || state_ == State::Requested || state_ == State::Scrolled || state_ == State::Landed;
+}
+
+bool UIPickerTurn::isUsersTurn() const { return isTurning() && state_ != State::Requested; }
+
+NSInteger UIPickerTurn::rowAtOffset(double offset) const {
+    const NSInteger row = wrappingAdd(anchor_, truncateTo<NSInteger>(std::round(std::clamp(offset, firstOffset(), lastOffset()))));
+    return std::clamp<NSInteger>(row, 0, std::max<NSInteger>(count_ - 1, 0));
+}
+
+NSInteger UIPickerTurn::rowInBand() const { return count_ > 0 ? rowAtOffset(offset_) : 0; }
+
+NSInteger UIPickerTurn::landingRow() const {
+    switch (state_) {
+    case State::Gliding:
+    case State::Requested:
+        return wrappingAdd(anchor_, truncateTo<NSInteger>(std::round(motion_.landing())));
+    case State::Landed:
+        return landed_;
+    default:
+        return rowInBand();
+    }
+}
+
+void UIPickerTurn::anchorAt(NSInteger row) {
+    const auto rows = static_cast<double>(row - anchor_); // Both lie in [0, count), so the difference is safe.
+    anchor_ = row;
+    offset_ -= rows;
+    raw_ -= rows;
+    motion_.shiftOrigin(rows);
+}
+
+void UIPickerTurn::setRows_height_extent(NSInteger count, CGFloat rowHeight, CGFloat extent, NSInteger reportedRow) {
+    const bool hasLanding = state_ == State::Gliding || state_ == State::Requested || state_ == State::Landed;
+    const NSInteger landing = landingRow();
+    const bool isUsers = isUsersTurn();
+    count_ = std::max<NSInteger>(count, 0);
+    rowHeight_ = rowHeight;
+    extent_ = extent;
+    if (count_ == 0) {
+        // Nothing is left to land on, so nothing is reported.
+        standOnRow(0);
+        return;
+    }
+    if (hasLanding && landing >= count_) {
+        standOnRow(reportedRow);
+        if (isUsers) {
+            state_ = State::Landed;
+            landed_ = anchor_;
+        }
+        return;
+    }
+    if (anchor_ >= count_) anchorAt(count_ - 1);
+    if (state_ == State::Dragged || state_ == State::Scrolled) offset_ = bandedOffset(raw_);
+}
+
+void UIPickerTurn::standOnRow(NSInteger row) {
+    anchor_ = std::clamp<NSInteger>(row, 0, std::max<NSInteger>(count_ - 1, 0));
+    offset_ = 0;
+    finger_.reset();
+    state_ = State::AtRest;
+}
+
+void UIPickerTurn::goToRow(NSInteger row) {
+    glideToRow(row, UIPickerMotion::requestDuration, std::nullopt);
+    finger_.reset();
+    state_ = State::Requested;
+}
+
+void UIPickerTurn::glideToRow(NSInteger row, NSTimeInterval duration, std::optional<NSTimeInterval> start) {
+    // Counted from the row that it lands on, the movement ends on exactly that row however far it comes from.
+    anchorAt(std::clamp<NSInteger>(row, 0, std::max<NSInteger>(count_ - 1, 0)));
+    motion_ = UIPickerMotion::ease(offset_, 0, duration, start);
+    state_ = State::Gliding;
+}
+
+void UIPickerTurn::snap(std::optional<NSTimeInterval> start) { glideToRow(rowInBand(), UIPickerMotion::snapDuration, start); }
+
+// The finger
+
+double UIPickerTurn::bandedOffset(double raw) const {
+    const double extent = extent_ / rowHeight_;
+    if (raw < firstOffset()) return firstOffset() - UIPickerMotion::rubberBand(firstOffset() - raw, extent);
+    if (raw > lastOffset()) return lastOffset() + UIPickerMotion::rubberBand(raw - lastOffset(), extent);
+    return raw;
+}
+
+double UIPickerTurn::rawOffset(double displayed) const {
+    const double extent = extent_ / rowHeight_;
+    if (displayed < firstOffset()) {
+        return firstOffset() - UIPickerMotion::rubberBandInverse(firstOffset() - displayed, extent);
+    }
+    if (displayed > lastOffset()) return lastOffset() + UIPickerMotion::rubberBandInverse(displayed - lastOffset(), extent);
+    return displayed;
+}
+
+void UIPickerTurn::follow(double rows) {
+    if (!std::isfinite(rows)) return;
+    raw_ += rows;
+    offset_ = bandedOffset(raw_);
+}
+
+void UIPickerTurn::touchBegan(std::int64_t identifier, CGFloat y, NSTimeInterval time) {
+    if (finger_ || count_ == 0) return;
+    stoppedMotion_ = isTurning();
+    if (!isUsersTurn()) passed_ = rowInBand();
+    finger_ = identifier;
+    touchStart_ = lastTouch_ = y;
+    raw_ = rawOffset(offset_);
+    velocity_.reset();
+    velocity_.add(time, y);
+    notches_ = 0;
+    state_ = State::Touched;
+}
+
+void UIPickerTurn::touchMoved(CGFloat y, NSTimeInterval time) {
+    if (!std::isfinite(y)) return;
+    velocity_.add(time, y);
+    if (state_ == State::Touched) {
+        if (std::fabs(y - touchStart_) <= touchSlop) return;
+        state_ = State::Dragged;
+        // The column starts where the finger crossed the slop, so that it does not jump.
+        lastTouch_ = touchStart_ + std::copysign(touchSlop, y - touchStart_);
+    }
+    follow((lastTouch_ - y) / rowHeight_);
+    lastTouch_ = y;
+}
+
+void UIPickerTurn::touchEnded(CGFloat y, NSTimeInterval time, std::optional<NSInteger> tappedRow) {
+    // The release itself is no movement, but some systems report the last piece of one only with it.
+    if (y != lastTouch_ && (state_ == State::Dragged || std::fabs(y - touchStart_) > touchSlop)) touchMoved(y, time);
+    finger_.reset();
+    // 1. A finger that stopped the column and did not move: the column sits down where it was stopped.
+    if (state_ == State::Touched && stoppedMotion_) {
+        snap(time);
+        return;
+    }
+    // 2. A tap. On the centre row, and beside the rows, it turns nothing.
+    if (state_ == State::Touched) {
+        state_ = State::AtRest;
+        if (tappedRow && *tappedRow != rowInBand()) glideToRow(*tappedRow, UIPickerMotion::requestDuration, time);
+        return;
+    }
+    // 3. Let go beyond an end: back to the end, whatever the speed.
+    if (offset_ < firstOffset() || offset_ > lastOffset()) {
+        snap(time);
+        return;
+    }
+    // 4. A fling: first the row, then the curve that ends on it. Without speed this is the nearest row.
+    const double velocity = -velocity_.velocityAt(time) / rowHeight_;
+    anchorAt(rowAtOffset(offset_ + UIPickerMotion::travelOfVelocity(velocity)));
+    motion_ = UIPickerMotion::fling(offset_, velocity, 0, velocity < 0 ? firstOffset() : lastOffset(), time);
+    state_ = State::Gliding;
+}
+
+void UIPickerTurn::touchCancelled(NSTimeInterval time) {
+    finger_.reset();
+    const bool turnedNothing = state_ == State::Touched && !stoppedMotion_;
+    if (turnedNothing) {
+        state_ = State::AtRest;
+    } else {
+        snap(time);
+    }
+}
+
+// The mouse wheel and the trackpad
+
+bool UIPickerTurn::scrollNotches(double notches) {
+    if (finger_ || count_ == 0 || !std::isfinite(notches)) return false;
+    notches_ += notches;
+    const double whole = std::trunc(notches_);
+    if (whole == 0) return true;
+    notches_ -= whole;
+    // Each notch counts from the row that the last one is still on its way to, so none is lost.
+    const NSInteger from = state_ == State::Gliding ? landingRow() : rowInBand();
+    const NSInteger row = from + std::clamp<NSInteger>(truncateTo<NSInteger>(whole), -from, count_ - 1 - from);
+    if (row == from && !isTurning()) return true; // At the end there is nothing to turn.
+    if (!isUsersTurn()) passed_ = from;
+    glideToRow(row, UIPickerMotion::notchDuration, std::nullopt);
+    return true;
+}
+
+bool UIPickerTurn::scrollPoints(CGFloat points, NSTimeInterval time, bool isFinished) {
+    if (finger_ || count_ == 0) return false;
+    const bool isScrolled = state_ == State::Scrolled;
+    if (points == 0 && !isScrolled) return true;
+    if (!isScrolled) {
+        if (!isUsersTurn()) passed_ = rowInBand();
+        raw_ = rawOffset(offset_);
+        state_ = State::Scrolled;
+    }
+    follow(points / rowHeight_);
+    lastScroll_ = time;
+    if (isFinished) snap(time);
+    return true;
+}
+
+// Time
+
+bool UIPickerTurn::advanceToTime(NSTimeInterval time) {
+    if (state_ == State::Scrolled && time - lastScroll_ >= scrollIdle) snap(time);
+    if (state_ != State::Gliding && state_ != State::Requested) return isMoving();
+    motion_.beginAt(time);
+    offset_ = motion_.positionAt(time);
+    if (motion_.isOverAt(time)) settle();
+    return isMoving();
+}
+
+void UIPickerTurn::settle() {
+    const bool turnedNothing = state_ == State::Touched && !stoppedMotion_;
+    const bool isReported = isUsersTurn() && !turnedNothing;
+    standOnRow(landingRow());
+    if (!isReported) return;
+    state_ = State::Landed;
+    landed_ = anchor_;
+}
+
+NSInteger UIPickerTurn::takePassedRows() {
+    const NSInteger before = passed_;
+    passed_ = rowInBand();
+    if (!isUsersTurn()) return 0;
+    return passed_ > before ? passed_ - before : before - passed_;
+}
+
+std::optional<NSInteger> UIPickerTurn::takeLanding() {
+    if (state_ != State::Landed) return std::nullopt;
+    state_ = State::AtRest;
+    return landed_;
+}
+
+} // namespace gx

@@ -1,0 +1,136 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "CGGeometry.h"
+#include "NSObject.h"
+#include "UIPickerMotion.h"
+
+namespace gx {
+
+/// The speed of a finger, from its latest places.
+class UIVelocityTracker {
+public:
+    void reset();
+    void add(NSTimeInterval time, CGFloat place);
+    /// In places per second; 0 if the finger had stopped before `time`.
+    double velocityAt(NSTimeInterval time) const;
+
+private:
+    // Faster than any finger or flick that a screen reports; what lies beyond comes from two places at nearly one time.
+    static constexpr double highest = 1e6;
+    // A finger that has not moved for so long is holding still.
+    static constexpr NSTimeInterval stillness = 0.06;
+    // Older places say nothing about the speed now.
+    static constexpr NSTimeInterval memory = 0.1;
+
+    struct Sample {
+        NSTimeInterval time = 0;
+        CGFloat place = 0;
+    };
+    std::array<Sample, 8> samples_;
+    std::size_t count_ = 0;
+    std::size_t next_ = 0;
+};
+
+/// The movement of one column of a wheel: where it stands, what a finger, a mouse wheel or a request does to
+/// it, and on which row it lands. It knows rows but no views, and asks nobody anything.
+///
+/// A position is a row and a part of one, kept as a whole row (the anchor) and an offset from it in rows, so
+/// that the last of 10^18 rows is met as exactly as the first.
+class UIPickerTurn {
+public:
+    enum class State {
+        AtRest,    ///< on a row
+        Touched,   ///< a finger lies on it and has not moved
+        Dragged,   ///< it follows a finger
+        Scrolled,  ///< it follows a trackpad
+        Gliding,   ///< on its own to the row where the user's turn ends
+        Requested, ///< on its way to the row that the program asked for
+        Landed     ///< a user's turn has ended; whoever asks for the landing reports it
+    };
+
+    /// A finger that moved less has not moved: in points, what a resting finger trembles.
+    static constexpr CGFloat touchSlop = 6;
+    /// A trackpad that was silent for so long has let go.
+    static constexpr NSTimeInterval scrollIdle = 0.12;
+
+    State state() const { return state_; }
+    /// Whether the position changes with time alone.
+    bool isMoving() const;
+    /// Whether anything is going on, so that the column need not stand on the row it reports.
+    bool isTurning() const { return state_ != State::AtRest; }
+    bool isUsersTurn() const;
+    /// The row that the movement ends on.
+    NSInteger landingRow() const;
+
+    NSInteger anchorRow() const { return anchor_; }
+    /// From the anchor, in rows.
+    double offset() const { return offset_; }
+    /// The row nearest to the middle, held to the rows there are.
+    NSInteger rowInBand() const;
+
+    /// Takes the rows there are now. A movement whose landing row is gone ends: a user's turn then lands on
+    /// `reportedRow`.
+    void setRows_height_extent(NSInteger count, CGFloat rowHeight, CGFloat extent, NSInteger reportedRow);
+    /// Stands on a row at once; whatever went on is over, and a finger that lies there turns nothing more.
+    void standOnRow(NSInteger row);
+    /// Goes there in the time of an animated request.
+    void goToRow(NSInteger row);
+
+    bool hasFinger(std::int64_t identifier) const { return finger_ == identifier; }
+    /// A moving column stops under the finger. Ignored while another finger holds it, and without rows.
+    void touchBegan(std::int64_t identifier, CGFloat y, NSTimeInterval time);
+    void touchMoved(CGFloat y, NSTimeInterval time);
+    /// `tappedRow`: the row under the finger, if it lies on one.
+    void touchEnded(CGFloat y, NSTimeInterval time, std::optional<NSInteger> tappedRow);
+    void touchCancelled(NSTimeInterval time);
+    /// One notch is one row. Answers whether it turns anything; a finger on the column goes before.
+    bool scrollNotches(double notches);
+    /// Follows a trackpad by points.
+    bool scrollPoints(CGFloat points, NSTimeInterval time, bool isFinished);
+
+    /// Moves to where the column is at `time`. Answers whether it moves on.
+    bool advanceToTime(NSTimeInterval time);
+    /// Ends the movement at once, a user's turn on its landing row.
+    void settle();
+    /// How many rows have passed the band in a user's turn since the last call.
+    NSInteger takePassedRows();
+    /// The row that a user's turn has ended on, once; the column is at rest then.
+    std::optional<NSInteger> takeLanding();
+
+private:
+    void anchorAt(NSInteger row);
+    double firstOffset() const { return static_cast<double>(-anchor_); }
+    double lastOffset() const { return static_cast<double>(count_ - 1 - anchor_); }
+    NSInteger rowAtOffset(double offset) const;
+    void follow(double rows);
+    double bandedOffset(double raw) const;
+    double rawOffset(double displayed) const;
+    void glideToRow(NSInteger row, NSTimeInterval duration, std::optional<NSTimeInterval> start);
+    void snap(std::optional<NSTimeInterval> start);
+
+    NSInteger count_ = 0;
+    CGFloat rowHeight_ = 32;
+    CGFloat extent_ = 0;
+
+    State state_ = State::AtRest;
+    NSInteger anchor_ = 0;
+    double offset_ = 0;
+    UIPickerMotion motion_;
+    NSInteger landed_ = 0;
+    NSInteger passed_ = 0; // The row in the band when last asked which have passed.
+
+    std::optional<std::int64_t> finger_;
+    bool stoppedMotion_ = false; // The finger came down on a moving column.
+    CGFloat touchStart_ = 0;     // Where it came down.
+    CGFloat lastTouch_ = 0;
+    double raw_ = 0; // The offset that the finger asks for, ends or not.
+    UIVelocityTracker velocity_;
+    double notches_ = 0; // Parts of a notch that have not made a row yet.
+    NSTimeInterval lastScroll_ = 0;
+};
+
+} // namespace gx

@@ -1,0 +1,499 @@
+#include "UIPickerView.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "NSArithmetic.h"
+#include "UIGraphicsContext.h"
+#include "UIHost.h"
+#include "UILabel.h"
+#include "UIPickerColumn.h"
+
+namespace gx {
+
+CGFloat UIPickerViewDelegate::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger) { return UIPickerView::automaticDimension; }
+CGFloat UIPickerViewDelegate::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) {
+    return UIPickerView::automaticDimension;
+}
+std::optional<std::string> UIPickerViewDelegate::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {
+    return std::nullopt;
+}
+Ref<NSAttributedString> UIPickerViewDelegate::pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger,
+                                                                                            NSInteger) {
+    return nullptr;
+}
+Ref<UIView> UIPickerViewDelegate::pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>&, NSInteger, NSInteger,
+                                                                                 const Ref<UIView>&) {
+    return nullptr;
+}
+void UIPickerViewDelegate::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {}
+
+/// What the wheel knows of one column. Held by pointer, so that it stays in place when a callback brings more columns.
+struct UIPickerView::Component {
+    NSInteger requested = 0;
+    NSInteger rows = 0;
+    CGFloat width = automaticDimension; // As the delegate gave it.
+    CGFloat rowHeight = defaultRowHeight;
+    bool areRowsKnown = false;
+    bool areRowsAsked = false;
+    bool areSizesKnown = false;
+    bool areSizesAsked = false;
+    UIPickerTurn turn;
+    Ref<UIPickerColumn> column; // Only while it is on the screen.
+};
+
+namespace {
+
+constexpr CGFloat bandInset = 8;
+constexpr CGFloat bandCornerRadius = 8;
+// A moving column has one row more in sight at some moments than at others; one view waits for it on either side.
+constexpr std::size_t poolSize = 2;
+
+/// A length that a delegate may give; nothing if it leaves it to the wheel.
+std::optional<CGFloat> given(CGFloat dimension) {
+    if (dimension == UIPickerView::automaticDimension || std::isnan(dimension)) return std::nullopt;
+    return std::clamp(dimension, 0.0, 1e6); // Wider than any screen: sums of widths stay exact.
+}
+
+bool isShowable(CGRect bounds) { return !CGRectIsEmpty(bounds) && std::isfinite(bounds.size.width) && std::isfinite(bounds.size.height); }
+
+} // namespace
+
+UIPickerView::UIPickerView() = default;
+UIPickerView::~UIPickerView() = default;
+
+bool UIPickerView::initWithFrame(CGRect frame) { return UIView::initWithFrame(frame); }
+bool UIPickerView::initWithCoder(const Ref<NSCoder>& coder) { return UIView::initWithCoder(coder); }
+
+void UIPickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataSource) {
+    dataSource_ = std::move(dataSource);
+    noteStale();
+}
+
+void UIPickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
+    delegate_ = std::move(delegate);
+    // Views that one delegate has made mean nothing to another.
+    for (const auto& component : components_) {
+        if (component->column) component->column->removeAllRows();
+    }
+    noteStale();
+}
+
+void UIPickerView::setShowsSelectionIndicator(bool shows) {
+    if (shows == showsBand_) return;
+    showsBand_ = shows;
+    setNeedsDisplay();
+}
+
+void UIPickerView::setFrame(CGRect frame) {
+    const CGSize before = bounds().size;
+    UIView::setFrame(frame);
+    if (bounds().size != before) noteStale();
+}
+
+void UIPickerView::setBounds(CGRect newBounds) {
+    const CGSize before = bounds().size;
+    UIView::setBounds(newBounds);
+    if (bounds().size != before) noteStale();
+}
+
+// Answers
+
+void UIPickerView::noteStale() {
+    isCountKnown_ = false;
+    for (const auto& component : components_) component->areRowsKnown = component->areSizesKnown = false;
+    areRowsDue_ = true;
+    setNeedsLayout();
+}
+
+// In each of the next three, who asks back while a question is open hears the last answer, instead of asking for
+// ever. What a callback makes stale meanwhile stays stale.
+
+void UIPickerView::refreshComponents() {
+    if (isCountKnown_ || isCountAsked_) return;
+    isCountKnown_ = isCountAsked_ = true;
+    const Ref<UIPickerViewDataSource> source = dataSource_.lock();
+    const NSInteger answer = source ? source->numberOfComponentsInPickerView(self()) : 0;
+    isCountAsked_ = false;
+    count_ = std::clamp<NSInteger>(answer, 0, highestComponentCount);
+    while (static_cast<NSInteger>(components_.size()) < count_) components_.push_back(std::make_unique<Component>());
+}
+
+bool UIPickerView::exists(NSInteger component) {
+    refreshComponents();
+    return component >= 0 && component < count_;
+}
+
+UIPickerView::Component& UIPickerView::at(NSInteger component) { return *components_[static_cast<std::size_t>(component)]; }
+
+NSInteger UIPickerView::refreshedRows(NSInteger component) {
+    if (!exists(component)) return 0;
+    Component& entry = at(component);
+    if (!entry.areRowsKnown && !entry.areRowsAsked) {
+        entry.areRowsKnown = entry.areRowsAsked = true;
+        const Ref<UIPickerViewDataSource> source = dataSource_.lock();
+        const NSInteger answer = source ? source->pickerView_numberOfRowsInComponent(self(), component) : 0;
+        entry.areRowsAsked = false;
+        entry.rows = std::max<NSInteger>(answer, 0);
+    }
+    return entry.rows;
+}
+
+void UIPickerView::refreshSizes(NSInteger component) {
+    Component& entry = at(component);
+    if (entry.areSizesKnown || entry.areSizesAsked) return;
+    entry.areSizesKnown = entry.areSizesAsked = true;
+    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
+    const CGFloat width = delegate ? delegate->pickerView_widthForComponent(self(), component) : automaticDimension;
+    const CGFloat height = delegate ? delegate->pickerView_rowHeightForComponent(self(), component) : automaticDimension;
+    entry.areSizesAsked = false;
+    entry.width = given(width).value_or(automaticDimension);
+    const CGFloat givenHeight = given(height).value_or(0);
+    entry.rowHeight = givenHeight > 0 ? givenHeight : defaultRowHeight;
+}
+
+CGFloat UIPickerView::widthOfComponent(NSInteger component) const {
+    const CGFloat width = components_[static_cast<std::size_t>(component)]->width;
+    if (width != automaticDimension) return width;
+    const auto count = static_cast<CGFloat>(count_);
+    return std::max(0.0, (bounds().size.width - (count - 1) * columnGap) / count);
+}
+
+NSInteger UIPickerView::heldRow(NSInteger component, NSInteger row) {
+    return std::clamp<NSInteger>(row, 0, std::max<NSInteger>(refreshedRows(component) - 1, 0));
+}
+
+NSInteger UIPickerView::numberOfComponents() {
+    refreshComponents();
+    return count_;
+}
+
+NSInteger UIPickerView::numberOfRowsInComponent(NSInteger component) { return refreshedRows(component); }
+
+CGSize UIPickerView::rowSizeForComponent(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    if (!isShowable(bounds()) || !exists(component)) return {};
+    for (NSInteger i = 0; i < count_; ++i) refreshSizes(i);
+    return exists(component) ? CGSize{widthOfComponent(component), at(component).rowHeight} : CGSize{};
+}
+
+NSInteger UIPickerView::selectedRowInComponent(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    return exists(component) ? heldRow(component, at(component).requested) : -1;
+}
+
+Ref<UIView> UIPickerView::viewForRow_forComponent(NSInteger row, NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    if (isShowable(bounds())) layoutIfNeeded();
+    if (!exists(component) || !at(component).column) return nullptr;
+    return at(component).column->viewForRow(row);
+}
+
+NSInteger UIPickerView::rowInBandOfComponent(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    if (!exists(component)) return -1;
+    const UIPickerTurn& turn = at(component).turn;
+    return turn.isTurning() ? heldRow(component, turn.rowInBand()) : selectedRowInComponent(component);
+}
+
+bool UIPickerView::isTurning() const {
+    return std::any_of(components_.begin(), components_.end(), [](const auto& component) { return component->turn.isTurning(); });
+}
+
+bool UIPickerView::isMoving() const {
+    return std::any_of(components_.begin(), components_.end(), [](const auto& component) { return component->turn.isMoving(); });
+}
+
+// Orders
+
+void UIPickerView::reloadAllComponents() { noteStale(); }
+
+void UIPickerView::reloadComponent(NSInteger component) {
+    if (exists(component)) noteStale();
+}
+
+void UIPickerView::selectRow_inComponent_animated(NSInteger row, NSInteger component, bool animated) {
+    const Ref<UIPickerView> keep = self();
+    if (!exists(component)) return;
+    const NSInteger count = refreshedRows(component);
+    const NSInteger reported = selectedRowInComponent(component);
+    const NSInteger asked = heldRow(component, row);
+    if (!exists(component)) return; // The answers may have changed the columns.
+    Component& entry = at(component);
+    entry.requested = row;
+    if (asked != reported || !entry.turn.isTurning()) {
+        const bool isAnimated = animated && asked != reported && window() && entry.column;
+        entry.turn.setRows_height_extent(count, entry.rowHeight, bounds().size.height, reported);
+        if (!entry.turn.isTurning()) entry.turn.standOnRow(isAnimated ? reported : asked);
+        if (isAnimated) {
+            entry.turn.goToRow(asked);
+            startMoving();
+        } else {
+            entry.turn.standOnRow(asked);
+        }
+    }
+    noteStale();
+}
+
+void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    if (refreshedRows(component) == 0) return;
+    const NSInteger held = heldRow(component, row);
+    if (!exists(component)) return;
+    Component& entry = at(component);
+    entry.requested = held;
+    entry.turn.standOnRow(held);
+    noteStale();
+    if (const Ref<UIPickerViewDelegate> delegate = delegate_.lock()) {
+        delegate->pickerView_didSelectRow_inComponent(keep, held, component);
+    }
+}
+
+void UIPickerView::settle() {
+    const Ref<UIPickerView> keep = self();
+    for (NSInteger i = 0; i < count_; ++i) {
+        at(i).turn.settle();
+        scrollColumn(i);
+    }
+    reportLandings();
+}
+
+void UIPickerView::reportLandings() {
+    // Ascending, also when a report changes the columns or what they do; a request for another row has ended a turn
+    // before its report.
+    for (NSInteger i = 0; i < count_; ++i) {
+        if (const std::optional<NSInteger> row = at(i).turn.takeLanding()) turnToRow_inComponent(*row, i);
+    }
+}
+
+// Layout
+
+void UIPickerView::layoutSubviews() {
+    UIView::layoutSubviews();
+    if (!isShowable(bounds())) return;
+    const Ref<UIPickerView> keep = self();
+    const bool areRowsDue = areRowsDue_;
+    areRowsDue_ = false;
+    refreshComponents();
+    for (NSInteger i = 0; i < count_; ++i) {
+        refreshSizes(i);
+        refreshedRows(i);
+    }
+    placeColumns();
+    for (NSInteger i = 0; i < count_; ++i) {
+        const NSInteger reported = heldRow(i, at(i).requested);
+        if (i >= count_ || !at(i).column) continue;
+        Component& entry = at(i);
+        entry.turn.setRows_height_extent(entry.rows, entry.rowHeight, bounds().size.height, reported);
+        if (!entry.turn.isTurning()) entry.turn.standOnRow(reported);
+        scrollColumn(i);
+        showRows(i, areRowsDue);
+    }
+    // A turn whose row is gone has landed and still has to be told of, in the next frame.
+    if (isTurning()) startMoving();
+}
+
+void UIPickerView::placeColumns() {
+    for (std::size_t i = static_cast<std::size_t>(count_); i < components_.size(); ++i) {
+        Component& gone = *components_[i];
+        gone.turn.standOnRow(0);
+        if (const Ref<UIPickerColumn> column = std::move(gone.column)) column->removeFromSuperview();
+        gone.column = nullptr;
+    }
+    CGFloat total = static_cast<CGFloat>(std::max<NSInteger>(count_ - 1, 0)) * columnGap;
+    for (NSInteger i = 0; i < count_; ++i) total += widthOfComponent(i);
+    CGFloat x = CGRectGetMidX(bounds()) - 0.5 * total;
+    for (NSInteger i = 0; i < count_; ++i) {
+        Component& entry = at(i);
+        const CGRect frame = CGRectMake(x, CGRectGetMinY(bounds()), widthOfComponent(i), bounds().size.height);
+        if (!entry.column) {
+            entry.column = create<UIPickerColumn>(frame);
+            insertSubview_atIndex(entry.column, i); // Below the labels that a subclass lays over the columns.
+        }
+        entry.column->setFrame(frame);
+        entry.column->setRowHeight(entry.rowHeight);
+        x += frame.size.width + columnGap;
+    }
+}
+
+void UIPickerView::scrollColumn(NSInteger component) {
+    const Component& entry = at(component);
+    if (entry.column) entry.column->scrollToAnchor_offset(entry.turn.anchorRow(), entry.turn.offset());
+}
+
+void UIPickerView::showRows(NSInteger component, bool anew) {
+    const Ref<UIPickerColumn> column = at(component).column;
+    if (!column) return;
+    const UIPickerColumn::Range range = column->rowsInSight(at(component).rows);
+    column->recycleRowsOutside(range);
+    for (NSInteger row = range.first; row < range.last; ++row) {
+        if (anew || !column->viewForRow(row)) showRow(component, row);
+        if (component >= count_ || at(component).column != column) return; // The delegate has changed the wheel.
+    }
+    column->trimPool(poolSize);
+}
+
+void UIPickerView::showRow(NSInteger component, NSInteger row) {
+    const Ref<UIPickerColumn> column = at(component).column;
+    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
+    const Ref<UIPickerView> keep = self();
+    UIPickerColumn::Row offered = column->takeRow(row, true);
+    Ref<UIView> view = delegate ? delegate->pickerView_viewForRow_forComponent_reusingView(keep, row, component, offered.view) : nullptr;
+    // A view above the column cannot show a row of it.
+    if (view && column->isDescendantOfView(view)) view = nullptr;
+    if (view) {
+        if (offered.view && offered.view != view) column->pool(std::move(offered));
+        column->showRow({row, std::move(view), true});
+        return;
+    }
+    column->pool(std::move(offered));
+    const UIPickerColumn::Row own = column->takeRow(row, false);
+    auto label = std::static_pointer_cast<UILabel>(own.view);
+    if (!label) {
+        label = create<UILabel>(CGRectNull);
+        label->setTextAlignment(NSTextAlignmentCenter);
+    }
+    const Ref<NSAttributedString> attributed =
+        delegate ? delegate->pickerView_attributedTitleForRow_forComponent(keep, row, component) : nullptr;
+    if (attributed) {
+        label->setAttributedText(attributed);
+    } else {
+        label->setText(delegate ? delegate->pickerView_titleForRow_forComponent(keep, row, component) : std::nullopt);
+    }
+    column->showRow({row, std::move(label), false});
+}
+
+void UIPickerView::didMoveToWindow() {
+    UIView::didMoveToWindow();
+    // Without a window no time passes: what moves arrives.
+    if (isTurning() && !window()) settle();
+}
+
+void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
+    UIView::drawRect(context, rect);
+    if (!showsBand_ || count_ == 0) return;
+    CGFloat height = 0;
+    for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
+    const CGRect band = CGRectMake(rect.origin.x + bandInset, CGRectGetMidY(rect) - 0.5 * height, rect.size.width - 2 * bandInset, height);
+    context.fillRect(band, UIColor::tertiarySystemFillColor(), bandCornerRadius);
+}
+
+// Turning
+
+NSInteger UIPickerView::componentAt(CGPoint point) const {
+    for (NSInteger i = 0; i < count_; ++i) {
+        const Component& entry = *components_[static_cast<std::size_t>(i)];
+        if (entry.column && CGRectContainsPoint(entry.column->frame(), point)) return i;
+    }
+    return -1;
+}
+
+NSInteger UIPickerView::componentOfTouch(std::int64_t identifier) const {
+    for (NSInteger i = 0; i < count_; ++i) {
+        if (components_[static_cast<std::size_t>(i)]->turn.hasFinger(identifier)) return i;
+    }
+    return -1;
+}
+
+bool UIPickerView::canTurn(NSInteger component) {
+    return component >= 0 && component < count_ && at(component).rows > 0 && at(component).column && at(component).column->showsSomething();
+}
+
+void UIPickerView::startMoving() {
+    if (const Ref<UIWindow> window = this->window()) {
+        window->animateView(refTo<UIView>(this));
+    } else if (isMoving()) {
+        settle();
+    }
+}
+
+void UIPickerView::tellTicks(NSInteger rows) {
+    // Faster than a hundred rows a frame nobody can tell ticks apart.
+    constexpr NSInteger highest = 100;
+    for (NSInteger i = 0; i < std::min(rows, highest); ++i) {
+        const Ref<UIWindow> window = this->window();
+        if (!window || !window->host()) return;
+        window->host()->wheelDidTick();
+    }
+}
+
+void UIPickerView::touchBegan(const UITouch& touch) {
+    const Ref<UIPickerView> keep = self();
+    layoutIfNeeded();
+    const CGPoint point = convertPointFromWindow(touch.locationInWindow);
+    const NSInteger component = componentAt(point);
+    if (!canTurn(component)) {
+        UIView::touchBegan(touch);
+        return;
+    }
+    at(component).turn.touchBegan(touch.identifier, point.y, touch.timestamp);
+}
+
+void UIPickerView::touchMoved(const UITouch& touch) {
+    const NSInteger component = componentOfTouch(touch.identifier);
+    if (component < 0) {
+        UIView::touchMoved(touch);
+        return;
+    }
+    at(component).turn.touchMoved(convertPointFromWindow(touch.locationInWindow).y, touch.timestamp);
+    startMoving();
+}
+
+void UIPickerView::touchEnded(const UITouch& touch) {
+    const NSInteger component = componentOfTouch(touch.identifier);
+    if (component < 0) {
+        UIView::touchEnded(touch);
+        return;
+    }
+    Component& entry = at(component);
+    const CGPoint point = convertPointFromWindow(touch.locationInWindow);
+    std::optional<NSInteger> tappedRow;
+    if (entry.column) {
+        if (const auto offset = entry.column->offsetDrawnAt(point.y - CGRectGetMinY(entry.column->frame()))) {
+            const NSInteger row = wrappingAdd(entry.turn.anchorRow(), truncateTo<NSInteger>(std::round(*offset)));
+            if (row >= 0 && row < entry.rows) tappedRow = row;
+        }
+    }
+    entry.turn.touchEnded(point.y, touch.timestamp, tappedRow);
+    startMoving();
+}
+
+void UIPickerView::touchCancelled(const UITouch& touch) {
+    const NSInteger component = componentOfTouch(touch.identifier);
+    if (component < 0) {
+        UIView::touchCancelled(touch);
+        return;
+    }
+    at(component).turn.touchCancelled(touch.timestamp);
+    startMoving();
+}
+
+bool UIPickerView::scrolled(const UIScroll& scroll) {
+    const Ref<UIPickerView> keep = self();
+    layoutIfNeeded();
+    const NSInteger component = componentAt(convertPointFromWindow(scroll.locationInWindow));
+    if (!canTurn(component)) return UIView::scrolled(scroll);
+    UIPickerTurn& turn = at(component).turn;
+    const bool isTaken = scroll.unit == UIScroll::Unit::Notches ? turn.scrollNotches(scroll.deltaY)
+                                                                : turn.scrollPoints(scroll.deltaY, scroll.timestamp, scroll.isFinished);
+    startMoving();
+    return isTaken;
+}
+
+bool UIPickerView::advanceToTime(NSTimeInterval time) {
+    const Ref<UIPickerView> keep = self();
+    NSInteger passed = 0;
+    for (NSInteger i = 0; i < count_; ++i) {
+        Component& entry = at(i);
+        entry.turn.advanceToTime(time);
+        passed = wrappingAdd(passed, entry.turn.takePassedRows());
+        if (isLayoutDue()) continue; // The layout that follows shows the rows anyway.
+        scrollColumn(i);
+        showRows(i, false);
+    }
+    tellTicks(passed);
+    reportLandings();
+    return isMoving();
+}
+
+} // namespace gx

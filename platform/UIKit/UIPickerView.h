@@ -1,0 +1,134 @@
+#pragma once
+
+#include <vector>
+
+#include "UIPickerTurn.h"
+#include "UIPickerViewProtocols.h"
+#include "UIView.h"
+
+namespace gx {
+
+class UIPickerColumn;
+
+/// A wheel: columns of rows that the user turns with finger, mouse or trackpad.
+///
+/// What is shown. Columns stand side by side, 5 points apart, together centred in the bounds. Rows are
+/// virtual: only views of rows in sight exist, so neither a reload nor a frame costs more with more rows.
+///
+/// Answers it keeps. What the data source and the delegate say of counts and sizes is kept until a reload, a
+/// new data source or delegate, new bounds or a request (a selection by the program or the user) makes it
+/// stale; the next question or layout asks again, and shows the rows in sight anew, once.
+///
+/// Selection. For each component the wheel remembers the row last requested, exactly as given, and answers it
+/// held to the rows there are at that moment. A moving column reports the row it last stood on or was last
+/// asked for, until it has come to rest. The delegate is told of turns by the user alone.
+///
+/// The wheel owns neither its data source nor its delegate. Both may do anything while they are asked.
+class UIPickerView : public UIView {
+public:
+    /// The answer of a delegate that leaves a width or a height to the wheel.
+    static constexpr CGFloat automaticDimension = -1;
+    /// The height of a row that no delegate gives one. Prescribed by the phone's wheel.
+    static constexpr CGFloat defaultRowHeight = 32;
+    /// Between two columns. Prescribed by the phone's wheel.
+    static constexpr CGFloat columnGap = 5;
+    /// More columns than fit on any screen; the bound keeps a wrong answer from filling the memory.
+    static constexpr NSInteger highestComponentCount = 256;
+
+    UIPickerView();
+    ~UIPickerView() override;
+
+    WeakRef<UIPickerViewDataSource> dataSource() const { return dataSource_; }
+    virtual void setDataSource(WeakRef<UIPickerViewDataSource> dataSource);
+    WeakRef<UIPickerViewDelegate> delegate() const { return delegate_; }
+    virtual void setDelegate(WeakRef<UIPickerViewDelegate> delegate);
+
+    /// The band behind the row in the middle. Default true.
+    bool showsSelectionIndicator() const { return showsBand_; }
+    void setShowsSelectionIndicator(bool shows);
+
+    // Questions
+
+    virtual NSInteger numberOfComponents();
+    /// 0 for a component that does not exist.
+    virtual NSInteger numberOfRowsInComponent(NSInteger component);
+    /// The zero size for a component that does not exist, or while the bounds are empty.
+    virtual CGSize rowSizeForComponent(NSInteger component);
+    /// The row last requested, held to the rows there are: 0 in a component without rows or never asked for, −1 for a component that does
+    /// not exist.
+    virtual NSInteger selectedRowInComponent(NSInteger component);
+    /// The view that shows a row now; nothing for a row that is not in sight. Lays the wheel out first if that is due.
+    virtual Ref<UIView> viewForRow_forComponent(NSInteger row, NSInteger component);
+    /// The row that is nearest to the band now, also during a movement; −1 for a component that does not exist.
+    NSInteger rowInBandOfComponent(NSInteger component);
+    /// Whether any column is turning, by the user or by an animated request.
+    bool isTurning() const;
+
+    // Orders
+
+    virtual void reloadAllComponents();
+    /// Ignored for a component that does not exist.
+    virtual void reloadComponent(NSInteger component);
+    /// Requests a row, which need not exist (yet). A request for the row that the column reports leaves a
+    /// movement alone, any other one ends it. Without a window, animation has no clock and the row is shown at once. The delegate is not
+    /// told. Ignored for a component that does not exist.
+    virtual void selectRow_inComponent_animated(NSInteger row, NSInteger component, bool animated);
+    /// What every turn by the user ends in: stands on the row, requests it and tells the delegate. The row is held to the
+    /// rows there are; ignored for a component without rows.
+    virtual void turnToRow_inComponent(NSInteger row, NSInteger component);
+    /// Ends every movement at once, the user's turns on the rows they were heading for, and reports those.
+    void settle();
+
+    bool initWithFrame(CGRect frame) override;
+    bool initWithCoder(const Ref<NSCoder>& coder) override;
+    void setFrame(CGRect frame) override;
+    void setBounds(CGRect bounds) override;
+    void layoutSubviews() override;
+    void didMoveToWindow() override;
+    void drawRect(UIGraphicsContext& context, CGRect rect) override;
+    void touchBegan(const UITouch& touch) override;
+    void touchMoved(const UITouch& touch) override;
+    void touchEnded(const UITouch& touch) override;
+    void touchCancelled(const UITouch& touch) override;
+    bool scrolled(const UIScroll& scroll) override;
+    bool advanceToTime(NSTimeInterval time) override;
+
+private:
+    struct Component;
+
+    Ref<UIPickerView> self() { return refTo(this); }
+    bool exists(NSInteger component);
+    Component& at(NSInteger component);
+
+    void noteStale();
+    void refreshComponents();
+    NSInteger refreshedRows(NSInteger component);
+    void refreshSizes(NSInteger component);
+    NSInteger heldRow(NSInteger component, NSInteger row);
+    CGFloat widthOfComponent(NSInteger component) const;
+
+    void placeColumns();
+    void showRows(NSInteger component, bool anew);
+    void showRow(NSInteger component, NSInteger row);
+    void scrollColumn(NSInteger component);
+
+    NSInteger componentAt(CGPoint point) const;
+    NSInteger componentOfTouch(std::int64_t identifier) const;
+    bool canTurn(NSInteger component);
+    bool isMoving() const;
+    void startMoving();
+    void tellTicks(NSInteger rows);
+    void reportLandings();
+
+    WeakRef<UIPickerViewDataSource> dataSource_;
+    WeakRef<UIPickerViewDelegate> delegate_;
+    // Only grows, so that a component that comes back stands where it was asked to; `count_` of them exist.
+    std::vector<std::unique_ptr<Component>> components_;
+    NSInteger count_ = 0;
+    bool isCountKnown_ = false;
+    bool isCountAsked_ = false;
+    bool areRowsDue_ = true;
+    bool showsBand_ = true;
+};
+
+} // namespace gx

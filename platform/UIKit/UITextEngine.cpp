@@ -1,0 +1,25 @@
+#include "UITextEngine.h"
+
+#include <algorithm>
+
+namespace gx {
+
+namespace {
+Ref<UITextEngine>& sharedEngine() {
+    static Ref<UITextEngine> engine = create<UIFixedWidthTextEngine>();
+    return engine;
+}
+} // namespace
+
+const Ref<UITextEngine>& UITextEngine::shared() { return sharedEngine(); }
+
+void UITextEngine::setShared(Ref<UITextEngine> engine) { sharedEngine() = engine ? std::move(engine) : create<UIFixedWidthTextEngine>(); }
+
+CGSize UIFixedWidthTextEngine::sizeOfText_font(std::string_view text, const UIFont&) {
+    // Every byte that does not continue a code point starts one.
+    const auto startsCodePoint = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
+    const auto count = std::count_if(text.begin(), text.end(), startsCodePoint);
+    return {static_cast<CGFloat>(count) * codePointWidth_, lineHeight_};
+}
+
+} // namespace gx

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string_view>
+
+#include "CGGeometry.h"
+#include "NSObject.h"
+#include "UIFont.h"
+
+namespace gx {
+
+/// Measures text, on behalf of everything that has to place it. A host replaces the shared one by an engine
+/// that knows its fonts; without a host the fixed-width engine answers.
+class UITextEngine : public NSObject {
+public:
+    /// Never empty.
+    static const Ref<UITextEngine>& shared();
+    /// Takes effect for what measures afterwards. An empty reference restores the fixed-width engine.
+    static void setShared(Ref<UITextEngine> engine);
+
+    /// The size of one line of UTF-8 text: its advance width and the line height of the font. Empty text has
+    /// no width and a full line height.
+    virtual CGSize sizeOfText_font(std::string_view text, const UIFont& font) = 0;
+};
+
+/// Gives every code point the same width and every line the same height, whatever the font: 10 and 20 points
+/// unless set otherwise. What tests measure with.
+class UIFixedWidthTextEngine : public UITextEngine {
+public:
+    CGSize sizeOfText_font(std::string_view text, const UIFont& font) override;
+
+    CGFloat codePointWidth() const { return codePointWidth_; }
+    void setCodePointWidth(CGFloat width) { codePointWidth_ = width; }
+    CGFloat lineHeight() const { return lineHeight_; }
+    void setLineHeight(CGFloat height) { lineHeight_ = height; }
+
+private:
+    CGFloat codePointWidth_ = 10;
+    CGFloat lineHeight_ = 20;
+};
+
+} // namespace gx

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+
+#include "CGGeometry.h"
+#include "NSObject.h"
+
+namespace gx {
+
+/// One finger, or the mouse with its button held, as a view receives it.
+struct UITouch {
+    /// The same for one finger from its beginning to its end.
+    std::int64_t identifier = 0;
+    /// In seconds, on the clock of `UIWindow::tick`.
+    NSTimeInterval timestamp = 0;
+    /// In the window's coordinates; `UIView::convertPointFromWindow` brings it into a view's.
+    CGPoint locationInWindow;
+};
+
+/// A turn of the mouse wheel or a stroke on a trackpad. Positive deltas move toward later rows: right and down.
+struct UIScroll {
+    enum class Unit {
+        Notches, ///< clicks of a mouse wheel, also fractions of one
+        Points   ///< a trackpad's distances, in points
+    };
+    Unit unit = Unit::Notches;
+    CGFloat deltaX = 0;
+    CGFloat deltaY = 0;
+    NSTimeInterval timestamp = 0;
+    CGPoint locationInWindow;
+    /// The fingers have left the trackpad and it glides no more: nothing else is coming.
+    bool isFinished = false;
+};
+
+} // namespace gx

@@ -1,0 +1,378 @@
+#include "UIView.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "NSLayoutConstraint.h"
+#include "UIGraphicsContext.h"
+#include "UIWindow.h"
+
+namespace gx {
+
+UIView::~UIView() {
+    for (const Ref<UIView>& view : subviews_) view->superview_ = nullptr;
+}
+
+bool UIView::init() { return initWithFrame(CGRectZero); }
+
+bool UIView::initWithFrame(CGRect frame) {
+    if (!NSObject::init()) return false;
+    frame_ = frame;
+    return true;
+}
+
+bool UIView::initWithCoder(const Ref<NSCoder>& coder) {
+    if (!NSObject::init()) return false;
+    if (!coder) return true;
+    frame_ = coder->decodeCGRectForKey("frame");
+    if (coder->containsValueForKey("bounds")) boundsOrigin_ = coder->decodeCGRectForKey("bounds").origin;
+    isHidden_ = coder->decodeBoolForKey("hidden");
+    clipsToBounds_ = coder->decodeBoolForKey("clipsToBounds");
+    tag_ = coder->decodeIntegerForKey("tag");
+    if (coder->containsValueForKey("alpha")) setAlpha(coder->decodeDoubleForKey("alpha"));
+    if (coder->containsValueForKey("userInteractionEnabled")) {
+        isInteractive_ = coder->decodeBoolForKey("userInteractionEnabled");
+    }
+    const auto colorForKey = [&coder](const char* key) -> std::optional<UIColor> {
+        if (!coder->containsValueForKey(key)) return std::nullopt;
+        return UIColor::colorWithHex(static_cast<unsigned>(coder->decodeIntegerForKey(key)));
+    };
+    backgroundColor_ = colorForKey("backgroundColor");
+    tintColor_ = colorForKey("tintColor");
+    return true;
+}
+
+void UIView::awakeFromNib() {}
+
+// Geometry
+
+void UIView::setFrame(CGRect frame) {
+    if (frame == frame_) return;
+    const CGSize sizeBefore = bounds().size;
+    frame_ = frame;
+    if (bounds().size != sizeBefore) setNeedsLayout();
+    setNeedsDisplay();
+}
+
+CGRect UIView::bounds() const { return {boundsOrigin_, {CGRectGetWidth(frame_), CGRectGetHeight(frame_)}}; }
+
+void UIView::setBounds(CGRect newBounds) {
+    if (newBounds == bounds()) return;
+    boundsOrigin_ = newBounds.origin;
+    const CGSize size = {CGRectGetWidth(newBounds), CGRectGetHeight(newBounds)};
+    if (size != bounds().size) {
+        const CGPoint middle = center();
+        frame_ = {{middle.x - 0.5 * size.width, middle.y - 0.5 * size.height}, size};
+        setNeedsLayout();
+    }
+    setNeedsDisplay();
+}
+
+CGPoint UIView::center() const { return {CGRectGetMidX(frame_), CGRectGetMidY(frame_)}; }
+
+void UIView::setCenter(CGPoint center) {
+    const CGSize size = bounds().size;
+    setFrame({{center.x - 0.5 * size.width, center.y - 0.5 * size.height}, size});
+}
+
+UIView* UIView::root() const {
+    const UIView* view = this;
+    while (view->superview_) view = view->superview_;
+    return const_cast<UIView*>(view); // NOLINT(cppcoreguidelines-pro-type-const-cast): views above are not const because this one is
+}
+
+CGPoint UIView::originInRoot() const {
+    // The point (0, 0) of this view's coordinates, in the coordinates of the topmost view.
+    CGPoint point;
+    for (const UIView* view = this; view->superview_; view = view->superview_) {
+        point.x += view->frame_.origin.x - view->boundsOrigin_.x;
+        point.y += view->frame_.origin.y - view->boundsOrigin_.y;
+    }
+    return point;
+}
+
+CGRect UIView::convertRect_fromView(CGRect rect, const Ref<UIView>& view) const {
+    if (!view) return CGRectZero;
+    return {convertPoint_fromView(rect.origin, view), rect.size};
+}
+
+CGRect UIView::convertRect_toView(CGRect rect, const Ref<UIView>& view) const {
+    if (!view) return CGRectZero;
+    return {convertPoint_toView(rect.origin, view), rect.size};
+}
+
+CGPoint UIView::convertPoint_fromView(CGPoint point, const Ref<UIView>& view) const {
+    if (!view) return {};
+    const CGPoint there = view->originInRoot();
+    const CGPoint here = originInRoot();
+    return {point.x + there.x - here.x, point.y + there.y - here.y};
+}
+
+CGPoint UIView::convertPoint_toView(CGPoint point, const Ref<UIView>& view) const {
+    if (!view) return {};
+    const CGPoint there = view->originInRoot();
+    const CGPoint here = originInRoot();
+    return {point.x + here.x - there.x, point.y + here.y - there.y};
+}
+
+CGPoint UIView::convertPointFromWindow(CGPoint point) const {
+    const CGPoint here = originInRoot();
+    return {point.x - here.x, point.y - here.y};
+}
+
+// The tree
+
+Ref<UIView> UIView::superview() const { return refTo(superview_); }
+
+Ref<UIWindow> UIView::window() const { return refTo(root()->asWindow()); }
+
+bool UIView::contains(const UIView& view) const {
+    for (const UIView* above = &view; above; above = above->superview_) {
+        if (above == this) return true;
+    }
+    return false;
+}
+
+bool UIView::isDescendantOfView(const Ref<UIView>& view) const { return view && view->contains(*this); }
+
+void UIView::addSubview(const Ref<UIView>& view) { insertSubview_atIndex(view, static_cast<NSInteger>(subviews_.size())); }
+
+void UIView::insertSubview_atIndex(const Ref<UIView>& view, NSInteger index) {
+    if (!view || view->contains(*this)) return;
+    // The argument may be an entry of a list that changes here. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const Ref<UIView> added = view;
+    const UIColor tintBefore = added->tintColor();
+    if (added->superview_ == this) {
+        subviews_.erase(std::find(subviews_.begin(), subviews_.end(), added));
+    } else {
+        added->removeFromSuperview();
+    }
+    const auto size = static_cast<NSInteger>(subviews_.size());
+    subviews_.insert(subviews_.begin() + std::clamp<NSInteger>(index, 0, size), added);
+    const bool isNew = added->superview_ != this;
+    added->superview_ = this;
+    if (added->needsLayout_ || added->isLayoutDueBelow_) added->setNeedsLayout();
+    setNeedsLayout();
+    setNeedsDisplay();
+    if (isNew) added->noteTreeChange(tintBefore);
+}
+
+void UIView::removeFromSuperview() {
+    if (!superview_) return;
+    UIView& above = *superview_;
+    const auto entry =
+        std::find_if(above.subviews_.begin(), above.subviews_.end(), [this](const Ref<UIView>& view) { return view.get() == this; });
+    const Ref<UIView> keep = *entry;
+    const UIColor tintBefore = tintColor();
+    above.setNeedsDisplay();
+    above.subviews_.erase(entry);
+    above.constraints_.erase(std::remove_if(above.constraints_.begin(), above.constraints_.end(),
+                                            [&keep](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == keep; }),
+                             above.constraints_.end());
+    superview_ = nullptr;
+    noteTreeChange(tintBefore);
+}
+
+void UIView::noteTreeChange(const std::optional<UIColor>& tintBefore) {
+    if (tintColor() != tintBefore) notifyTint();
+    notifyWindow();
+}
+
+void UIView::notifyWindow() {
+    const Ref<UIView> keep = refTo(this);
+    didMoveToWindow();
+    for (std::size_t i = 0; i < subviews_.size(); ++i) {
+        const Ref<UIView> view = subviews_[i];
+        view->notifyWindow();
+    }
+}
+
+void UIView::didMoveToWindow() {}
+
+// Layout
+
+void UIView::setNeedsLayout() {
+    needsLayout_ = true;
+    for (UIView* above = superview_; above && !above->isLayoutDueBelow_; above = above->superview_) {
+        above->isLayoutDueBelow_ = true;
+    }
+    setNeedsDisplay();
+}
+
+void UIView::layoutIfNeeded() {
+    if (isLayingOut_) return;
+    const Ref<UIView> keep = refTo(this);
+    if (needsLayout_) {
+        needsLayout_ = false;
+        isLayingOut_ = true;
+        layoutSubviews();
+        isLayingOut_ = false;
+    }
+    if (!isLayoutDueBelow_) return;
+    isLayoutDueBelow_ = false;
+    for (std::size_t i = 0; i < subviews_.size(); ++i) {
+        const Ref<UIView> view = subviews_[i];
+        view->layoutIfNeeded();
+    }
+}
+
+void UIView::layoutSubviews() {
+    // Each pinned view is placed once, by all its pins together, when its first pin is met.
+    for (std::size_t i = 0; i < constraints_.size(); ++i) {
+        const Ref<UIView> item = constraints_[i]->firstItem();
+        if (!item || item->superview_ != this) continue;
+        const auto isForItem = [&item](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == item; };
+        const auto present = constraints_.begin() + static_cast<std::ptrdiff_t>(i);
+        if (std::any_of(constraints_.begin(), present, isForItem)) continue;
+        NSLayoutPins pins;
+        std::for_each(present, constraints_.end(), [&](const Ref<NSLayoutConstraint>& constraint) {
+            if (isForItem(constraint)) pins.add(*constraint);
+        });
+        item->setFrame(pins.frameInBounds_from(bounds(), item->frame()));
+    }
+}
+
+CGSize UIView::sizeThatFits(CGSize) const { return bounds().size; }
+
+void UIView::sizeToFit() {
+    const CGPoint origin = CGRectIsNull(frame_) ? CGPoint{} : frame_.origin;
+    setFrame({origin, sizeThatFits(bounds().size)});
+}
+
+void UIView::addConstraints(const std::vector<Ref<NSLayoutConstraint>>& constraints) {
+    for (const Ref<NSLayoutConstraint>& constraint : constraints) {
+        if (constraint) constraints_.push_back(constraint);
+    }
+    setNeedsLayout();
+}
+
+// Appearance
+
+void UIView::setBackgroundColor(std::optional<UIColor> color) {
+    if (color == backgroundColor_) return;
+    backgroundColor_ = color;
+    setNeedsDisplay();
+}
+
+void UIView::setAlpha(double alpha) {
+    const double held = std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0);
+    if (held == alpha_) return;
+    alpha_ = held;
+    setNeedsDisplay();
+}
+
+void UIView::setHidden(bool hidden) {
+    if (hidden == isHidden_) return;
+    isHidden_ = hidden;
+    setNeedsDisplay();
+}
+
+void UIView::setClipsToBounds(bool clips) {
+    if (clips == clipsToBounds_) return;
+    clipsToBounds_ = clips;
+    setNeedsDisplay();
+}
+
+void UIView::setCornerRadius(CGFloat radius) {
+    const CGFloat held = radius > 0 ? radius : 0;
+    if (held == cornerRadius_) return;
+    cornerRadius_ = held;
+    setNeedsDisplay();
+}
+
+UIColor UIView::tintColor() const {
+    for (const UIView* view = this; view; view = view->superview_) {
+        if (view->tintColor_) return *view->tintColor_;
+    }
+    return UIColor::systemBlueColor();
+}
+
+void UIView::setTintColor(std::optional<UIColor> color) {
+    const UIColor before = tintColor();
+    tintColor_ = color;
+    if (tintColor() != before) notifyTint();
+}
+
+void UIView::notifyTint() {
+    const Ref<UIView> keep = refTo(this);
+    tintColorDidChange();
+    setNeedsDisplay();
+    for (std::size_t i = 0; i < subviews_.size(); ++i) {
+        const Ref<UIView> view = subviews_[i];
+        if (!view->tintColor_) view->notifyTint();
+    }
+}
+
+void UIView::tintColorDidChange() {}
+
+// Drawing
+
+void UIView::setNeedsDisplay() {
+    if (UIWindow* window = root()->asWindow()) window->requestFrame();
+}
+
+void UIView::renderInContext(UIGraphicsContext& context) {
+    context.saveState();
+    drawContent(context);
+    context.restoreState();
+}
+
+void UIView::drawView(UIView& view, UIGraphicsContext& context) {
+    if (view.isHidden_ || view.alpha_ == 0 || CGRectIsEmpty(view.frame_)) return;
+    context.saveState();
+    context.translate(CGRectGetMinX(view.frame_), CGRectGetMinY(view.frame_));
+    if (view.alpha_ < 1) context.multiplyAlpha(view.alpha_);
+    view.drawContent(context);
+    context.restoreState();
+}
+
+void UIView::drawContent(UIGraphicsContext& context) {
+    const CGRect area = {{}, bounds().size};
+    if (clipsToBounds_) context.clipToRect(area);
+    if (backgroundColor_) context.fillRect(area, *backgroundColor_, cornerRadius_);
+    if (boundsOrigin_ != CGPoint{}) context.translate(-boundsOrigin_.x, -boundsOrigin_.y);
+    drawRect(context, bounds());
+    drawSubviews(context);
+}
+
+bool UIView::showsSomething() const { return true; }
+
+void UIView::drawRect(UIGraphicsContext&, CGRect) {}
+
+void UIView::drawSubviews(UIGraphicsContext& context) {
+    for (const Ref<UIView>& view : subviews_) drawView(*view, context);
+}
+
+// Events
+
+Ref<UIView> UIView::hitTest(CGPoint point) {
+    if (isHidden_ || !isInteractive_ || alpha_ < 0.01 || !CGRectContainsPoint(bounds(), point)) return nullptr;
+    for (auto entry = subviews_.rbegin(); entry != subviews_.rend(); ++entry) {
+        UIView& view = **entry;
+        const CGPoint inside = {point.x - view.frame_.origin.x + view.boundsOrigin_.x,
+                                point.y - view.frame_.origin.y + view.boundsOrigin_.y};
+        if (Ref<UIView> hit = view.hitTest(inside)) return hit;
+    }
+    return refTo(this);
+}
+
+void UIView::touchBegan(const UITouch& touch) {
+    if (const Ref<UIView> above = superview()) above->touchBegan(touch);
+}
+void UIView::touchMoved(const UITouch& touch) {
+    if (const Ref<UIView> above = superview()) above->touchMoved(touch);
+}
+void UIView::touchEnded(const UITouch& touch) {
+    if (const Ref<UIView> above = superview()) above->touchEnded(touch);
+}
+void UIView::touchCancelled(const UITouch& touch) {
+    if (const Ref<UIView> above = superview()) above->touchCancelled(touch);
+}
+bool UIView::scrolled(const UIScroll& scroll) {
+    const Ref<UIView> above = superview();
+    return above && above->scrolled(scroll);
+}
+
+bool UIView::advanceToTime(NSTimeInterval) { return false; }
+
+} // namespace gx

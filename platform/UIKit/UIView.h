@@ -1,0 +1,188 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "CGGeometry.h"
+#include "NSCoder.h"
+#include "NSObject.h"
+#include "UIColor.h"
+#include "UITouch.h"
+
+namespace gx {
+
+class NSLayoutConstraint;
+class UIGraphicsContext;
+class UIWindow;
+
+/// A rectangle in a tree of views: it has a place in its superview, draws itself, lays out its subviews and
+/// receives touches. The base of everything on the screen.
+///
+/// Invariants: a view has at most one superview, never itself or a view below it; a superview owns its
+/// subviews and nobody owns upward. The size of `bounds` is always the size of `frame`.
+class UIView : public NSObject {
+public:
+    ~UIView() override;
+
+    /// The zero rectangle as frame.
+    bool init() override;
+    virtual bool initWithFrame(CGRect frame);
+    /// Restores, where the coder has them: "frame", "bounds", "hidden", "alpha", "userInteractionEnabled", "clipsToBounds",
+    /// "tag", and as 0xRRGGBB "backgroundColor" and "tintColor". An empty coder gives the defaults.
+    virtual bool initWithCoder(const Ref<NSCoder>& coder);
+    /// Whoever loads an interface calls this on every view once all are connected; `create` does not.
+    virtual void awakeFromNib();
+
+    // Geometry
+
+    /// The view's rectangle in its superview's coordinates.
+    CGRect frame() const { return frame_; }
+    /// A new size makes a layout due. The null rectangle is kept as it is and gives empty bounds.
+    virtual void setFrame(CGRect frame);
+    /// The view's rectangle in its own coordinates; its origin says which point lies at the view's top left.
+    CGRect bounds() const;
+    /// A new size keeps the centre of the frame where it is.
+    virtual void setBounds(CGRect bounds);
+    CGPoint center() const;
+    /// Moves the view, through `setFrame`.
+    void setCenter(CGPoint center);
+
+    /// Conversions run over the nearest common view or, for views in separate trees, as if both trees' roots
+    /// lay on each other. From and to an absent view, a rectangle is the zero rectangle and a point (0, 0).
+    CGRect convertRect_fromView(CGRect rect, const Ref<UIView>& view) const;
+    CGRect convertRect_toView(CGRect rect, const Ref<UIView>& view) const;
+    CGPoint convertPoint_fromView(CGPoint point, const Ref<UIView>& view) const;
+    CGPoint convertPoint_toView(CGPoint point, const Ref<UIView>& view) const;
+    /// From the coordinates of the window, or of the topmost view if there is none.
+    CGPoint convertPointFromWindow(CGPoint point) const;
+
+    // The tree
+
+    /// Empty for a view without one.
+    Ref<UIView> superview() const;
+    const std::vector<Ref<UIView>>& subviews() const { return subviews_; }
+    Ref<UIWindow> window() const;
+    /// True for the view itself and for every view above it.
+    bool isDescendantOfView(const Ref<UIView>& view) const;
+    /// On top of the others. An empty reference, the view itself and a view above it are ignored.
+    void addSubview(const Ref<UIView>& view);
+    /// Below the subviews from `index` on; an index outside the list means its nearer end.
+    void insertSubview_atIndex(const Ref<UIView>& view, NSInteger index);
+    /// Drops the superview's constraints on this view with it.
+    void removeFromSuperview();
+    /// Called after the view came into a window, left one or changed it.
+    virtual void didMoveToWindow();
+
+    // Layout
+
+    void setNeedsLayout();
+    /// Lays out this view and what is below it, as far as that is due. Needs no window. A layout that asks
+    /// for another is answered by the next pass, and a layout within a layout of the same view does nothing:
+    /// so this always ends.
+    void layoutIfNeeded();
+    /// Places the subviews; here by the constraints that were added to this view.
+    virtual void layoutSubviews();
+    /// The size that shows everything; here the present one.
+    virtual CGSize sizeThatFits(CGSize available) const;
+    /// Takes that size and keeps the origin.
+    void sizeToFit();
+
+    /// Kept for readers of the layout: constraints move a view whatever it says.
+    bool translatesAutoresizingMaskIntoConstraints() const { return translatesMask_; }
+    void setTranslatesAutoresizingMaskIntoConstraints(bool translates) { translatesMask_ = translates; }
+    void addConstraints(const std::vector<Ref<NSLayoutConstraint>>& constraints);
+    const std::vector<Ref<NSLayoutConstraint>>& constraints() const { return constraints_; }
+
+    // Appearance
+
+    std::optional<UIColor> backgroundColor() const { return backgroundColor_; }
+    void setBackgroundColor(std::optional<UIColor> color);
+    /// From 0 to 1; others are held to that range.
+    double alpha() const { return alpha_; }
+    void setAlpha(double alpha);
+    bool isHidden() const { return isHidden_; }
+    virtual void setHidden(bool hidden);
+    bool clipsToBounds() const { return clipsToBounds_; }
+    void setClipsToBounds(bool clips);
+    /// The corners of the background, in points.
+    CGFloat cornerRadius() const { return cornerRadius_; }
+    void setCornerRadius(CGFloat radius);
+    /// The view's own tint, or the one handed down from above, or the system's blue.
+    UIColor tintColor() const;
+    /// Nothing hands down the superview's again.
+    void setTintColor(std::optional<UIColor> color);
+    /// Called when the tint in force has changed, here or above.
+    virtual void tintColorDidChange();
+    NSInteger tag() const { return tag_; }
+    void setTag(NSInteger tag) { tag_ = tag; }
+
+    // Drawing
+
+    /// Asks for a new frame; the window tells its host.
+    void setNeedsDisplay();
+    /// Draws this view and what is below it, its frame's origin at the canvas's origin.
+    void renderInContext(UIGraphicsContext& context);
+    /// Whether there is anything to see; a label without text shows nothing. Here true.
+    virtual bool showsSomething() const;
+    /// Draws the view's own content, above its background and below its subviews, in its own coordinates.
+    virtual void drawRect(UIGraphicsContext& context, CGRect rect);
+
+    // Events
+
+    bool isUserInteractionEnabled() const { return isInteractive_; }
+    void setUserInteractionEnabled(bool enabled) { isInteractive_ = enabled; }
+    /// The topmost view that takes touches at a point of this view's coordinates; nothing outside the bounds.
+    Ref<UIView> hitTest(CGPoint point);
+
+    /// A touch is sent to the view it began on until it ends; here it is handed to the superview.
+    virtual void touchBegan(const UITouch& touch);
+    virtual void touchMoved(const UITouch& touch);
+    virtual void touchEnded(const UITouch& touch);
+    virtual void touchCancelled(const UITouch& touch);
+    /// Here it is handed to the superview. Answers whether someone made use of it.
+    virtual bool scrolled(const UIScroll& scroll);
+
+    /// Called by the window before each frame, for views that asked with `UIWindow::animateView`. Answers
+    /// whether the view goes on moving.
+    virtual bool advanceToTime(NSTimeInterval time);
+
+protected:
+    /// Whether the next layout pass will lay out this view itself.
+    bool isLayoutDue() const { return needsLayout_; }
+    bool isLayingOut() const { return isLayingOut_; }
+    /// Draws the subviews, in this view's coordinates.
+    virtual void drawSubviews(UIGraphicsContext& context);
+    /// Draws the view with its background and subviews, in its superview's coordinates.
+    static void drawView(UIView& view, UIGraphicsContext& context);
+    /// A window answers itself.
+    virtual UIWindow* asWindow() { return nullptr; }
+
+private:
+    UIView* root() const;
+    CGPoint originInRoot() const;
+    bool contains(const UIView& view) const;
+    void noteTreeChange(const std::optional<UIColor>& tintBefore);
+    void notifyTint();
+    void notifyWindow();
+    void drawContent(UIGraphicsContext& context);
+
+    CGRect frame_;
+    CGPoint boundsOrigin_;
+    UIView* superview_ = nullptr; // Cleared by the superview before it goes.
+    std::vector<Ref<UIView>> subviews_;
+    std::vector<Ref<NSLayoutConstraint>> constraints_;
+    std::optional<UIColor> backgroundColor_;
+    std::optional<UIColor> tintColor_;
+    double alpha_ = 1;
+    CGFloat cornerRadius_ = 0;
+    NSInteger tag_ = 0;
+    bool isHidden_ = false;
+    bool clipsToBounds_ = false;
+    bool isInteractive_ = true;
+    bool translatesMask_ = true;
+    bool needsLayout_ = true;
+    bool isLayoutDueBelow_ = false;
+    bool isLayingOut_ = false;
+};
+
+} // namespace gx

@@ -1,0 +1,111 @@
+#include "UIWindow.h"
+
+#include <algorithm>
+
+#include "UIHost.h"
+
+namespace gx {
+
+UIWindow::~UIWindow() {
+    // Views that outlive the window learn that they have left it, and may settle.
+    while (!subviews().empty()) {
+        const Ref<UIView> view = subviews().back();
+        view->removeFromSuperview();
+    }
+}
+
+void UIWindow::setUserInterfaceStyle(UIUserInterfaceStyle style) {
+    if (style == style_) return;
+    style_ = style;
+    setNeedsDisplay();
+}
+
+std::vector<UIWindow::Touch>::iterator UIWindow::findTouch(std::int64_t identifier) {
+    return std::find_if(touches_.begin(), touches_.end(),
+                        [identifier](const Touch& entry) { return entry.touch.identifier == identifier; });
+}
+
+void UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
+    touchCancelled_at_time(identifier, time);
+    layoutIfNeeded(); // The finger aims at what the next frame would show.
+    const UITouch touch = {identifier, time, location};
+    const Ref<UIView> view = hitTest(location);
+    if (!view) return;
+    touches_.push_back({touch, view});
+    view->touchBegan(touch);
+}
+
+void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
+    const auto entry = findTouch(identifier);
+    if (entry == touches_.end()) return;
+    entry->touch.locationInWindow = location;
+    entry->touch.timestamp = time;
+    const UITouch touch = entry->touch;
+    if (const Ref<UIView> view = entry->view.lock()) view->touchMoved(touch);
+}
+
+void UIWindow::touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
+    const auto entry = findTouch(identifier);
+    if (entry == touches_.end()) return;
+    const UITouch touch = {identifier, time, location};
+    const Ref<UIView> view = entry->view.lock();
+    touches_.erase(entry);
+    if (view) view->touchEnded(touch);
+}
+
+void UIWindow::touchCancelled_at_time(std::int64_t identifier, NSTimeInterval time) {
+    const auto entry = findTouch(identifier);
+    if (entry == touches_.end()) return;
+    UITouch touch = entry->touch;
+    touch.timestamp = time;
+    const Ref<UIView> view = entry->view.lock();
+    touches_.erase(entry);
+    if (view) view->touchCancelled(touch);
+}
+
+bool UIWindow::scroll(const UIScroll& scroll) {
+    layoutIfNeeded();
+    const Ref<UIView> view = hitTest(scroll.locationInWindow);
+    return view && view->scrolled(scroll);
+}
+
+bool UIWindow::tick(NSTimeInterval time) {
+    if (isTicking_) return true; // A callback may not turn time within a turn.
+    const Ref<UIView> keep = refTo<UIView>(this);
+    isTicking_ = true;
+    // Views may start or stop to move while others advance; those that start now join in the next frame.
+    const std::size_t count = moving_.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const Ref<UIView> view = moving_[i].lock();
+        const bool isHere = view && view->isDescendantOfView(keep);
+        if (!isHere || !view->advanceToTime(time)) moving_[i].reset();
+    }
+    moving_.erase(std::remove_if(moving_.begin(), moving_.end(), [](const WeakRef<UIView>& view) { return view.expired(); }),
+                  moving_.end());
+    layoutIfNeeded();
+    const bool draws = needsFrame_ || !moving_.empty();
+    needsFrame_ = false;
+    isTicking_ = false;
+    return draws;
+}
+
+void UIWindow::draw(UIGraphicsContext& context) {
+    layoutIfNeeded();
+    context.setUserInterfaceStyle(style_);
+    renderInContext(context);
+}
+
+void UIWindow::animateView(const Ref<UIView>& view) {
+    const auto isView = [&view](const WeakRef<UIView>& entry) { return entry.lock() == view; };
+    if (!view || std::any_of(moving_.begin(), moving_.end(), isView)) return;
+    moving_.push_back(view);
+    requestFrame();
+}
+
+void UIWindow::requestFrame() {
+    const bool wasRequested = needsFrame_;
+    needsFrame_ = true;
+    if (!wasRequested && host_) host_->windowNeedsFrame();
+}
+
+} // namespace gx
