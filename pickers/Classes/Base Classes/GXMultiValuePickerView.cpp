@@ -1,0 +1,203 @@
+#include "GXMultiValuePickerView.h"
+
+#include "GXStyleSheet.h"
+#include "NSArithmetic.h"
+
+namespace gx {
+
+namespace {
+
+/// Between a description label and the widest title next to it. Prescribed by the product.
+constexpr CGFloat labelGap = 10;
+
+GXMultiValuePickerView::Factory& sharedFactory() {
+    static GXMultiValuePickerView::Factory factory;
+    return factory;
+}
+
+Ref<UILabel> createLabel(const Ref<GXStyleSheetFont>& font) {
+    auto label = create<UILabel>(CGRectNull);
+    label->setBackgroundColor(UIColor::clearColor());
+    setStyleSheetFont(label, font);
+    return label;
+}
+
+CGSize sizeOfText(const std::optional<std::string>& text, const Ref<GXStyleSheetFont>& font) {
+    if (!text) return {};
+    return sizeWithAttributes(*text, {font ? font->font() : nullptr, std::nullopt});
+}
+
+} // namespace
+
+void GXMultiValuePickerView::setFactory(Factory factory) { sharedFactory() = std::move(factory); }
+
+Ref<GXMultiValuePickerView> GXMultiValuePickerView::wheelWithFrame(CGRect frame) {
+    const Factory factory = sharedFactory(); // It may be replaced while it runs.
+    const Ref<GXMultiValuePickerView> wheel = factory ? factory(frame) : nullptr;
+    return wheel ? wheel : create<GXMultiValuePickerView>(frame);
+}
+
+bool GXMultiValuePickerView::initWithFrame(CGRect frame) {
+    if (!UIPickerView::initWithFrame(frame)) return false;
+    initGXMultiValuePickerView();
+    return true;
+}
+
+bool GXMultiValuePickerView::initWithCoder(const Ref<NSCoder>& coder) {
+    if (!UIPickerView::initWithCoder(coder)) return false;
+    initGXMultiValuePickerView();
+    return true;
+}
+
+void GXMultiValuePickerView::initGXMultiValuePickerView() {
+    setShowsSelectionIndicator(true);
+    leftDescLabel_ = createLabel(labelFont());
+    addSubview(leftDescLabel_);
+    rightDescLabel_ = createLabel(labelFont());
+    addSubview(rightDescLabel_);
+}
+
+// Fonts: asked for at every use, since the application may change the style sheet at any time.
+
+Ref<GXStyleSheetFont> GXMultiValuePickerView::labelFont() const {
+    return customLabelFont_ ? customLabelFont_ : GXStyleSheet::globalStyleSheet()->pickerLabelFont();
+}
+
+Ref<GXStyleSheetFont> GXMultiValuePickerView::valueFont() const {
+    return customValueFont_ ? customValueFont_ : GXStyleSheet::globalStyleSheet()->pickerValueFont();
+}
+
+void GXMultiValuePickerView::setCustomLabelFont(Ref<GXStyleSheetFont> font) {
+    customLabelFont_ = std::move(font);
+    setStyleSheetFont(leftDescLabel_, labelFont());
+    setStyleSheetFont(rightDescLabel_, labelFont());
+}
+
+void GXMultiValuePickerView::setCustomValueFont(Ref<GXStyleSheetFont> font) { customValueFont_ = std::move(font); }
+
+// Texts
+
+void GXMultiValuePickerView::setLeftLabelText(std::optional<std::string> text) {
+    leftLabelText_ = std::move(text);
+    leftDescLabel_->setText(leftLabelText_);
+    if (!areLabelsPlacedByLayout()) setupLeftLabelFrame();
+}
+
+void GXMultiValuePickerView::setRightLabelText(std::optional<std::string> text) {
+    rightLabelText_ = std::move(text);
+    rightDescLabel_->setText(rightLabelText_);
+    if (!areLabelsPlacedByLayout()) setupRightLabelFrame();
+}
+
+void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::string> text, NSUInteger component) {
+    if (!sources()) return;
+    Ref<UILabel>& entry = separators_[component];
+    if (!entry) {
+        entry = createLabel(valueFont());
+        addSubview(entry);
+    }
+    const Ref<UILabel> label = entry;
+    label->setText(std::move(text));
+    label->sizeToFit();
+    if (!areLabelsPlacedByLayout()) updateSeparatorFrames();
+}
+
+Ref<UILabel> GXMultiValuePickerView::separatorAfterComponent(NSUInteger component) const {
+    const auto entry = separators_.find(component);
+    return entry == separators_.end() ? nullptr : entry->second;
+}
+
+// Occasions to place the labels
+
+void GXMultiValuePickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
+    UIPickerView::setDelegate(std::move(delegate));
+    if (areLabelsPlacedByLayout()) return;
+    setupLeftLabelFrame();
+    setupRightLabelFrame();
+}
+
+void GXMultiValuePickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataSource) {
+    UIPickerView::setDataSource(std::move(dataSource));
+    if (areLabelsPlacedByLayout()) return;
+    setupLeftLabelFrame();
+    setupRightLabelFrame();
+}
+
+void GXMultiValuePickerView::reloadAllComponents() {
+    UIPickerView::reloadAllComponents();
+    if (!areLabelsPlacedByLayout()) reloadLabelFrames();
+}
+
+void GXMultiValuePickerView::layoutSubviews() {
+    UIPickerView::layoutSubviews();
+    reloadLabelFrames();
+}
+
+/// Placing a label needs the rows laid out. Where that is due, the layout places all labels itself, and doing
+/// it once more would only measure every text twice.
+bool GXMultiValuePickerView::areLabelsPlacedByLayout() {
+    if (!sources() || !isLayoutDue() || isLayingOut()) return false;
+    layoutIfNeeded();
+    return true;
+}
+
+void GXMultiValuePickerView::reloadLabelFrames() {
+    if (!sources()) return;
+    setupRightLabelFrame();
+    setupLeftLabelFrame();
+    updateSeparatorFrames();
+}
+
+// Places
+
+GXMultiValuePickerView::Sources GXMultiValuePickerView::sources() const { return {dataSource().lock(), delegate().lock()}; }
+
+CGRect GXMultiValuePickerView::rowRectOfComponent(NSInteger component) {
+    Ref<UIView> view = viewForRow_forComponent(selectedRowInComponent(component), component);
+    // While the column spins, the row it reports may be far out of sight. Every row in sight has the same left and
+    // right edge, so the label stays where it is.
+    if (!view) view = viewForRow_forComponent(rowInBandOfComponent(component), component);
+    return convertRect_fromView(view ? view->bounds() : CGRectZero, view);
+}
+
+CGFloat GXMultiValuePickerView::widestTitleWidth(const Sources& sources, NSInteger component) {
+    const Ref<UIPickerView> wheel = refTo<UIPickerView>(this);
+    const NSInteger rows = sources.dataSource->pickerView_numberOfRowsInComponent(wheel, component);
+    // The last title is taken to be the widest: the numbers of a column grow.
+    const auto title = sources.delegate->pickerView_titleForRow_forComponent(wheel, wrappingSubtract<NSInteger>(rows, 1), component);
+    return sizeOfText(title, valueFont()).width;
+}
+
+void GXMultiValuePickerView::setupLeftLabelFrame() {
+    const Sources sources = this->sources();
+    if (!sources) return;
+    const CGRect row = rowRectOfComponent(0);
+    const CGFloat title = widestTitleWidth(sources, 0);
+    const CGSize size = sizeOfText(leftDescLabel_->text(), labelFont());
+    leftDescLabel_->setFrame({{CGRectGetMaxX(row) - title - labelGap - size.width, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
+}
+
+void GXMultiValuePickerView::setupRightLabelFrame() {
+    const Sources sources = this->sources();
+    if (!sources) return;
+    const NSInteger count = numberOfComponents();
+    const NSInteger last = count - 1;
+    const CGRect row = rowRectOfComponent(last);
+    const CGFloat title = widestTitleWidth(sources, last);
+    const CGFloat width = sources.delegate->pickerView_widthForComponent(refTo<UIPickerView>(this), last);
+    const CGSize size = sizeOfText(rightDescLabel_->text(), labelFont());
+    // A single column is centred and its titles are right-aligned; the last of several is left-aligned.
+    const CGFloat x = count == 1 ? CGRectGetMidX(bounds()) + 0.5 * width + labelGap : CGRectGetMinX(row) + title + labelGap;
+    rightDescLabel_->setFrame({{x, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
+}
+
+void GXMultiValuePickerView::updateSeparatorFrames() {
+    for (NSInteger i = 0; i < numberOfComponents() - 1; ++i) {
+        const Ref<UILabel> label = separatorAfterComponent(static_cast<NSUInteger>(i));
+        if (!label) continue;
+        setStyleSheetFont(label, valueFont());
+        label->setCenter({CGRectGetMidX(rowRectOfComponent(i + 1)), CGRectGetMidY(bounds())});
+    }
+}
+
+} // namespace gx

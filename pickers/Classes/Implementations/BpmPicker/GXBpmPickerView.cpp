@@ -1,0 +1,35 @@
+#include "GXBpmPickerView.h"
+
+#include "GXLocalization.h"
+
+namespace gx {
+
+bool GXBpmPickerView::initWithFrame(CGRect frame) {
+    if (!GXBasePickerView::initWithFrame(frame)) return false;
+    initGXBpmPickerView();
+    return true;
+}
+
+bool GXBpmPickerView::initWithCoder(const Ref<NSCoder>& coder) {
+    if (!GXBasePickerView::initWithCoder(coder)) return false;
+    initGXBpmPickerView();
+    return true;
+}
+
+bool GXBpmPickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
+    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
+    initGXBpmPickerView();
+    return true;
+}
+
+void GXBpmPickerView::initGXBpmPickerView() {
+    setMinValue(NSNumber::numberWithInt(0));
+    setMaxValue(NSNumber::numberWithInt(240));
+    setStepSize(NSNumber::numberWithInt(10));
+    setCurrentValue(NSNumber::numberWithInt(160));
+    pickerView()->setRightLabelText(
+        GXLocalization::sharedLocalization()->localizedStringWithKey_comment("bpm", "unit bpm (beats per minute)"));
+    pickerView()->reloadAllComponents();
+}
+
+} // namespace gx

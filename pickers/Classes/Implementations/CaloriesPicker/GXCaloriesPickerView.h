@@ -1,0 +1,29 @@
+#pragma once
+
+#include "GXBasePickerView.h"
+#include "GXCaloriesFormatter.h"
+
+namespace gx {
+
+/// Picks an amount of energy: 0 to 99990 in steps of 10, starting at 0.
+///
+/// The unit beside the wheel is the formatter's, and is fixed at construction: neither another unit system nor
+/// another formatter changes it. Who wants another one sets `pickerView()->setRightLabelText`.
+class GXCaloriesPickerView : public GXBasePickerView {
+public:
+    bool initWithFrame(CGRect frame) override;
+    bool initWithCoder(const Ref<NSCoder>& coder) override;
+    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
+
+    /// Made when first asked for, for the unit system of that moment.
+    const Ref<GXCaloriesFormatter>& caloriesFormatter();
+    /// Stores only.
+    void setCaloriesFormatter(Ref<GXCaloriesFormatter> formatter) { caloriesFormatter_ = std::move(formatter); }
+
+private:
+    void initGXCaloriesPickerView();
+
+    Ref<GXCaloriesFormatter> caloriesFormatter_;
+};
+
+} // namespace gx

@@ -1,0 +1,417 @@
+#include "GXBasePickerView.h"
+
+#include <limits>
+
+#include "GXStyleSheet.h"
+#include "PickerTest.h"
+#include "TestWindow.h"
+#include "UILabel.h"
+
+using namespace gx;
+
+namespace {
+using BasePicker = PickerTest<GXBasePickerView>;
+constexpr NSInteger highest = std::numeric_limits<NSInteger>::max();
+constexpr NSInteger lowest = std::numeric_limits<NSInteger>::min();
+} // namespace
+
+// Construction
+
+TEST_F(BasePicker, DefaultsAreBoxed32BitIntegers) {
+    for (const auto& [number, value] :
+         {std::pair(picker->minValue(), 0), {picker->maxValue(), 100}, {picker->stepSize(), 1}, {picker->currentValue(), 0}}) {
+        EXPECT_EQ(number.type(), NSNumber::Type::Int);
+        EXPECT_EQ(number.intValue(), value);
+    }
+    EXPECT_FALSE(picker->isMetric());
+    EXPECT_FALSE(picker->customValueFont());
+    EXPECT_FALSE(picker->customLabelFont());
+}
+
+TEST_F(BasePicker, SetUpGivesTheWheelItsDelegateBeforeItsDataSourceAndSelectsNothing) {
+    EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source"}));
+    EXPECT_EQ(wheel().superview(), picker);
+    EXPECT_FALSE(wheel().translatesAutoresizingMaskIntoConstraints());
+    EXPECT_EQ(picker->constraints().size(), 4U);
+}
+
+TEST_F(BasePicker, TheWheelFillsThePickerWhateverItsSize) {
+    EXPECT_EQ(wheel().frame(), CGRectMake(0, 0, 320, 216));
+    picker->setFrame(CGRectMake(10, 10, 200, 150));
+    picker->layoutIfNeeded();
+    EXPECT_EQ(wheel().frame(), CGRectMake(0, 0, 200, 150));
+}
+
+TEST(BasePickerConstruction, RowsAreAsHighAsTheStyleSheetSaysOrAsGiven) {
+    struct Style : GXStyleSheet {
+        double pickerRowHeight() const override { return 0.1; }
+    };
+    GXStyleSheet::setGlobalStyleSheet(create<Style>());
+    const auto styled = create<GXBasePickerView>(CGRectMake(0, 0, 320, 216));
+    const auto coded = create<GXBasePickerView>(create<NSCoder>());
+    GXStyleSheet::setGlobalStyleSheet(nullptr);
+    // The height is kept in single precision.
+    EXPECT_EQ(styled->pickerView_rowHeightForComponent(styled->pickerView(), 0), 0.10000000149011612);
+    EXPECT_EQ(coded->pickerView_rowHeightForComponent(coded->pickerView(), 7), 0.10000000149011612);
+    const auto given = create<GXBasePickerView>(CGRectMake(0, 0, 320, 216), 60.5F);
+    EXPECT_EQ(given->pickerView_rowHeightForComponent(given->pickerView(), 0), 60.5);
+}
+
+TEST(BasePickerConstruction, ACoderRestoresTheFrame) {
+    const auto coder = create<NSCoder>();
+    coder->encodeCGRect_forKey(CGRectMake(5, 6, 300, 200), "frame");
+    const auto picker = create<GXBasePickerView>(coder);
+    ASSERT_TRUE(picker);
+    EXPECT_EQ(picker->frame(), CGRectMake(5, 6, 300, 200));
+    EXPECT_EQ(picker->pickerView()->frame(), CGRectMake(0, 0, 300, 200));
+    EXPECT_EQ(picker->maxValue().intValue(), 100);
+}
+
+// Rows
+
+TEST_F(BasePicker, TheDefaultsShow0To99InOneColumn) {
+    EXPECT_EQ(wheel().numberOfComponents(), 1);
+    EXPECT_EQ(rows(), 100);
+    EXPECT_EQ(title(0), "0");
+    EXPECT_EQ(title(99), "99");
+}
+
+TEST_F(BasePicker, TheMaximumIsNotOfferedAndAPartialStepIsLost) {
+    picker->setMaxValue(boxed(240));
+    picker->setStepSize(boxed(10));
+    EXPECT_EQ(rows(), 24);
+    EXPECT_EQ(title(23), "230");
+    picker->setMaxValue(boxed(25));
+    EXPECT_EQ(rows(), 2);
+    EXPECT_EQ(title(1), "10");
+    picker->setMaxValue(boxed(29));
+    EXPECT_EQ(rows(), 2);
+    picker->setMaxValue(boxed(30));
+    EXPECT_EQ(rows(), 3);
+}
+
+TEST_F(BasePicker, BoundsAndStepsAreReadByTheirIntegerParts) {
+    picker->setMinValue(boxedDouble(-1.9));
+    picker->setMaxValue(boxedFloat(8.9F));
+    picker->setStepSize(boxedDouble(3.99));
+    EXPECT_EQ(rows(), 3); // (8 + 1) / 3
+    EXPECT_EQ(title(0), "-1");
+    EXPECT_EQ(title(2), "5");
+}
+
+TEST_F(BasePicker, WithoutARangeThereAreNoRowsAndTheWidthIsMeasuredOnTheRowBeforeTheFirst) {
+    picker->setMaxValue(boxed(0));
+    EXPECT_EQ(rows(), 0);
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 50.0);
+    picker->setMinValue(boxed(-99998));
+    picker->setMaxValue(boxed(-99998));
+    // The row before the first is -99999: 6 code points of 10 points, times 1.8 in single precision.
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 60 * 1.7999999523162842);
+}
+
+TEST_F(BasePicker, ATitleBeyond32BitsWraps) {
+    picker->setMinValue(boxedInteger(2147483647));
+    EXPECT_EQ(title(0), "2147483647");
+    EXPECT_EQ(title(1), "-2147483648");
+    EXPECT_EQ(title(2), "-2147483647");
+}
+
+TEST_F(BasePicker, ColumnsAreAtLeast50WideAndElse1Point8TimesTheirLastTitle) {
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 50.0); // "99" gives 36
+    picker->setMaxValue(boxed(1000));                                               // "999" gives 54
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 30 * 1.7999999523162842);
+}
+
+TEST_F(BasePicker, WidthsAreMeasuredInTheLabelFontAndRowsDrawnInTheValueFont) {
+    struct Engine : UITextEngine {
+        CGSize sizeOfText_font(std::string_view text, const UIFont& font) override {
+            return {static_cast<CGFloat>(text.size()) * font.pointSize(), font.pointSize()};
+        }
+    };
+    UITextEngine::setShared(create<Engine>());
+    picker->setMaxValue(boxed(1000));
+    picker->setCustomValueFont(GXStyleSheetFont::fontWithFamily_size_weight_color("", 30.0, UIFontWeight::Regular, UIColor::blackColor()));
+    picker->setCustomLabelFont(GXStyleSheetFont::fontWithFamily_size_weight_color("", 40.0, UIFontWeight::Regular, UIColor::blackColor()));
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 120 * 1.7999999523162842);
+    const auto label = std::dynamic_pointer_cast<UILabel>(wheel().viewForRow_forComponent(0, 0));
+    EXPECT_EQ(label->font()->pointSize(), 30);
+    UITextEngine::setShared(nullptr);
+}
+
+// Row views
+
+TEST_F(BasePicker, ARowIsAClearLabelWithTheRowsTitleInTheValueFont) {
+    const auto label =
+        std::dynamic_pointer_cast<UILabel>(picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), 12, 0, nullptr));
+    ASSERT_TRUE(label);
+    EXPECT_EQ(label->text(), "12");
+    EXPECT_TRUE(CGRectIsNull(label->frame()));
+    EXPECT_EQ(label->backgroundColor(), UIColor::clearColor());
+    EXPECT_EQ(label->font(), GXStyleSheet::globalStyleSheet()->pickerValueFont()->font());
+}
+
+TEST_F(BasePicker, AnOfferedLabelIsUsedAgainWithItsFontAndAnyOtherViewIsNot) {
+    const auto label = create<UILabel>(CGRectZero);
+    EXPECT_EQ(picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), 3, 0, label), label);
+    EXPECT_EQ(label->text(), "3");
+    EXPECT_EQ(label->font(), GXStyleSheet::globalStyleSheet()->pickerValueFont()->font());
+    const auto view = create<UIView>(CGRectZero);
+    EXPECT_NE(picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), 3, 0, view), view);
+}
+
+namespace {
+class ThreeColumns : public GXBasePickerView {
+public:
+    NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>&) override { return 3; }
+};
+NSTextAlignment alignmentIn(GXBasePickerView& picker, NSInteger component) {
+    const Ref<UIView> view = picker.pickerView_viewForRow_forComponent_reusingView(picker.pickerView(), 0, component, nullptr);
+    return std::dynamic_pointer_cast<UILabel>(view)->textAlignment();
+}
+} // namespace
+
+TEST_F(BasePicker, ASingleColumnIsRightAligned) { EXPECT_EQ(alignmentIn(*picker, 0), NSTextAlignmentRight); }
+
+TEST(BasePickerSubclass, ThreeColumnsAreAlignedRightCentreLeft) {
+    const auto picker = create<ThreeColumns>(CGRectMake(0, 0, 320, 216));
+    EXPECT_EQ(alignmentIn(*picker, 0), NSTextAlignmentRight);
+    EXPECT_EQ(alignmentIn(*picker, 1), NSTextAlignmentCenter);
+    EXPECT_EQ(alignmentIn(*picker, 2), NSTextAlignmentLeft);
+    EXPECT_EQ(picker->pickerView()->numberOfComponents(), 3) << "the wheel asks through the object";
+}
+
+// Setters
+
+TEST_F(BasePicker, ABoundReloadsAndThenReselects) {
+    EXPECT_EQ(callsOf([&] { picker->setMinValue(boxed(-5)); }), (Calls{"reload", "select 5 in 0"}));
+    EXPECT_EQ(callsOf([&] { picker->setMaxValue(boxed(7)); }), (Calls{"reload", "select 5 in 0"}));
+    EXPECT_EQ(callsOf([&] { picker->setStepSize(boxed(2)); }), (Calls{"reload", "select 2 in 0"}));
+}
+
+TEST_F(BasePicker, TheVerySameBoxDoesNothingAndAnEqualOneReloads) {
+    const NSNumber same = picker->minValue();
+    EXPECT_EQ(callsOf([&] { picker->setMinValue(same); }), Calls{});
+    EXPECT_EQ(callsOf([&] { picker->setMinValue(boxed(0)); }), (Calls{"reload", "select 0 in 0"}));
+    EXPECT_EQ(callsOf([&] { picker->setMaxValue(picker->maxValue()); }), Calls{});
+    EXPECT_EQ(callsOf([&] { picker->setMaxValue(boxed(100)); }), (Calls{"reload", "select 0 in 0"}));
+    EXPECT_EQ(callsOf([&] { picker->setStepSize(picker->stepSize()); }), Calls{});
+    EXPECT_EQ(callsOf([&] { picker->setStepSize(boxed(1)); }), (Calls{"reload", "select 0 in 0"}));
+}
+
+TEST_F(BasePicker, AStepBelow1Becomes1) {
+    for (const NSNumber& step : {boxed(0), boxed(-5), boxedDouble(0.5), boxedInteger(lowest), boxedDouble(-0.0),
+                                 boxedDouble(std::numeric_limits<double>::quiet_NaN()), NSNumber()}) {
+        picker->setStepSize(boxed(7));
+        picker->setStepSize(step);
+        EXPECT_EQ(picker->stepSize().integerValue(), 1);
+    }
+    picker->setStepSize(boxedDouble(1.5));
+    EXPECT_EQ(picker->stepSize().doubleValue(), 1.5) << "kept as given, read as 1";
+}
+
+TEST_F(BasePicker, TheCurrentValueIsStoredAndSelectedWithoutAReloadOrANotice) {
+    const NSNumber value = boxed(37);
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(value); }), (Calls{"select 37 in 0"}));
+    EXPECT_TRUE(picker->currentValue().isIdenticalTo(value));
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(value); }), (Calls{"select 37 in 0"})) << "also for the same box";
+    EXPECT_TRUE(notices->list.empty());
+}
+
+TEST_F(BasePicker, AFractionIsCutOffBeforeTheRowIsCounted) {
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxedDouble(7.9)); }), (Calls{"select 7 in 0"}));
+    picker->setStepSize(boxed(2));
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(9)); }), (Calls{"select 4 in 0"}));
+}
+
+TEST_F(BasePicker, AValueBelowTheMinimumIsStoredButLeavesTheWheelAlone) {
+    picker->setCurrentValue(boxed(5));
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(-1)); }), Calls{});
+    EXPECT_EQ(picker->currentValue().intValue(), -1);
+    EXPECT_EQ(selected(), 5);
+}
+
+TEST_F(BasePicker, TheLowerBoundIsTestedAsFloatsAndTheRowCountedInIntegers) {
+    picker->setMinValue(boxedDouble(0.5));
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxedDouble(0.25)); }), Calls{});
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxedDouble(0.5)); }), (Calls{"select 0 in 0"}));
+    // As floats both are 16777216, so the value is not below the minimum, and its row is −1.
+    picker->setMinValue(boxed(16777217));
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(16777216)); }), (Calls{"select -1 in 0"}));
+}
+
+TEST_F(BasePicker, ThereIsNoUpperClamp) {
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(100)); }), (Calls{"select 100 in 0"}));
+    EXPECT_EQ(selected(), 99);
+    picker->setMaxValue(boxed(101));
+    EXPECT_EQ(selected(), 100) << "more rows: the value shows";
+}
+
+TEST_F(BasePicker, FontsReachTheWheelWhichReloads) {
+    const auto font = GXStyleSheet::globalStyleSheet()->pickerLabelFont();
+    EXPECT_EQ(callsOf([&] { picker->setCustomLabelFont(font); }), (Calls{"label font", "reload"}));
+    EXPECT_EQ(callsOf([&] { picker->setCustomValueFont(font); }), (Calls{"value font", "reload"}));
+    EXPECT_EQ(wheel().customLabelFont(), font);
+    EXPECT_EQ(wheel().customValueFont(), font);
+    EXPECT_EQ(picker->customLabelFont(), font);
+}
+
+TEST_F(BasePicker, MetricIsStoredOnly) {
+    EXPECT_EQ(callsOf([&] { picker->setIsMetric(true); }), Calls{});
+    EXPECT_TRUE(picker->isMetric());
+}
+
+TEST_F(BasePicker, WithoutAWheelEveryOperationIsSafe) {
+    picker->setPickerView(nullptr);
+    EXPECT_FALSE(picker->pickerView());
+    picker->setMinValue(boxed(1));
+    picker->setStepSize(boxed(0));
+    picker->setCurrentValue(boxed(5));
+    picker->setCustomLabelFont(nullptr);
+    picker->setCustomValueFont(nullptr);
+    picker->setIsMetric(true);
+    EXPECT_EQ(picker->currentValue().intValue(), 5);
+    picker->pickerView_didSelectRow_inComponent(nullptr, 2, 0);
+    EXPECT_EQ(notices->list.back().value.intValue(), 3);
+}
+
+// The user's turns
+
+TEST_F(BasePicker, ATurnStoresTheRowsValueAs64BitsAndSendsOneNotice) {
+    EXPECT_EQ(turn(37), Calls{}) << "the wheel is not selected again";
+    EXPECT_EQ(picker->currentValue().type(), NSNumber::Type::Integer);
+    EXPECT_EQ(picker->currentValue().integerValue(), 37);
+    ASSERT_EQ(notices->list.size(), 1U);
+    EXPECT_EQ(notices->list[0].picker, picker);
+    EXPECT_TRUE(notices->list[0].value.isIdenticalTo(picker->currentValue()));
+    EXPECT_EQ(notices->list[0].component, 0);
+}
+
+TEST(BasePickerSubclass, WhateverColumnIsTurnedComponent0IsReported) {
+    const auto picker = create<ThreeColumns>(CGRectMake(0, 0, 320, 216));
+    const auto notices = create<PickerNotices>();
+    picker->setDelegate(notices);
+    picker->pickerView()->turnToRow_inComponent(8, 2);
+    ASSERT_EQ(notices->list.size(), 1U);
+    EXPECT_EQ(notices->list[0].component, 0);
+    EXPECT_EQ(notices->list[0].value.integerValue(), 8);
+}
+
+TEST(BasePickerSubclass, OverridesTakeEffectInTheBasesOwnRules) {
+    class Words : public GXBasePickerView {
+    public:
+        int informed = 0;
+        int selected = 0;
+        NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) override { return 3; }
+        std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger) override {
+            return row == 2 ? "twelve chars" : "short";
+        }
+        void selectCurrentValue() override { ++selected; }
+        void informDelegateOfValueChange() override { ++informed; }
+    };
+    const auto picker = create<Words>(CGRectMake(0, 0, 320, 216));
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 120 * 1.7999999523162842);
+    EXPECT_EQ(std::dynamic_pointer_cast<UILabel>(picker->pickerView()->viewForRow_forComponent(0, 0))->text(), "short");
+    picker->setMinValue(boxed(1));
+    picker->setMaxValue(boxed(1));
+    picker->setStepSize(boxed(1));
+    picker->setCurrentValue(boxed(1));
+    EXPECT_EQ(picker->selected, 4);
+    picker->pickerView()->turnToRow_inComponent(1, 0);
+    EXPECT_EQ(picker->informed, 1);
+}
+
+TEST_F(BasePicker, AFingerTurnsTheWheelAndTheDelegateIsToldOnce) {
+    TestWindow window(picker);
+    window.drag({160, 108}, {160, 108 - 126}); // three rows of 40 and the slop
+    window.runUntilStill();
+    ASSERT_EQ(notices->list.size(), 1U);
+    EXPECT_EQ(notices->list[0].value.integerValue(), 3);
+    EXPECT_EQ(picker->currentValue().integerValue(), 3);
+}
+
+// Delegates
+
+TEST_F(BasePicker, ADelegateThatDiedIsSkipped) {
+    notices = nullptr;
+    turn(3);
+    EXPECT_EQ(picker->currentValue().integerValue(), 3);
+    EXPECT_FALSE(picker->delegate().lock());
+}
+
+TEST_F(BasePicker, ADelegateMaySetValuesInItsNotice) {
+    notices->whenTold = [&](const PickerNotices::Notice&) {
+        picker->setMaxValue(boxed(50));
+        picker->setCurrentValue(boxed(40));
+    };
+    turn(3);
+    EXPECT_EQ(notices->list.size(), 1U);
+    EXPECT_EQ(picker->currentValue().intValue(), 40);
+    EXPECT_EQ(selected(), 40);
+    EXPECT_EQ(rows(), 50);
+}
+
+TEST_F(BasePicker, ADelegateMayReplaceItselfInItsNotice) {
+    const auto other = create<PickerNotices>();
+    notices->whenTold = [&](const PickerNotices::Notice&) {
+        picker->setDelegate(other);
+        notices = nullptr;
+    };
+    turn(3);
+    turn(4);
+    EXPECT_EQ(other->list.size(), 1U);
+}
+
+TEST_F(BasePicker, ADelegateMayDropTheLastReferenceToThePickerInItsNotice) {
+    const WeakRef<GXBasePickerView> weak = picker;
+    const Ref<GXMultiValuePickerView> wheel = picker->pickerView();
+    notices->whenTold = [&](const PickerNotices::Notice&) {
+        notices->list.clear();
+        picker = nullptr;
+    };
+    wheel->turnToRow_inComponent(3, 0);
+    EXPECT_TRUE(weak.expired());
+    wheel->turnToRow_inComponent(4, 0);
+}
+
+// Extremes
+
+TEST_F(BasePicker, TheLargestAndSmallestIntegersNeverLeaveTheWheelWithoutItsRows) {
+    for (const NSInteger minimum : {lowest, NSInteger{-1}, NSInteger{0}, highest}) {
+        for (const NSInteger maximum : {lowest, NSInteger{0}, highest}) {
+            for (const NSInteger step : {lowest, NSInteger{1}, highest}) {
+                picker->setMinValue(boxedInteger(minimum));
+                picker->setMaxValue(boxedInteger(maximum));
+                picker->setStepSize(boxedInteger(step));
+                picker->setCurrentValue(boxedInteger(highest));
+                picker->setCurrentValue(boxedInteger(lowest));
+                picker->layoutIfNeeded();
+                const NSInteger count = rows();
+                EXPECT_GE(count, 0);
+                EXPECT_GE(selected(), 0);
+                EXPECT_LE(selected(), std::max<NSInteger>(count - 1, 0));
+                turn(count - 1);
+            }
+        }
+    }
+}
+
+TEST_F(BasePicker, AMinimumAboveTheMaximumGivesNoRows) {
+    picker->setMinValue(boxed(200));
+    EXPECT_EQ(rows(), 0);
+    picker->layoutIfNeeded();
+    turn(0);
+    EXPECT_TRUE(notices->list.empty()) << "there is no row to turn to";
+}
+
+TEST_F(BasePicker, EmptyAndNaNNumbersReadAs0) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    picker->setMinValue(NSNumber());
+    EXPECT_EQ(rows(), 100);
+    picker->setCurrentValue(NSNumber());
+    EXPECT_EQ(selected(), 0);
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxedDouble(nan)); }), (Calls{"select 0 in 0"})) << "no number is not below";
+    picker->setMaxValue(boxedDouble(nan));
+    EXPECT_EQ(rows(), 0);
+    picker->setMaxValue(boxedDouble(1e300));
+    EXPECT_EQ(rows(), highest);
+}
