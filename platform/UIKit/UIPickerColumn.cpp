@@ -46,12 +46,14 @@ void UIPickerColumn::scrollToAnchor_offset(NSInteger anchor, double offset) {
 
 UIPickerColumn::Range UIPickerColumn::rowsInSight(NSInteger count) const {
     if (count <= 0 || bounds().size.height <= 0) return {};
+    // The anchor is one of the rows, so the distances to the ends are safe; the offset may be as large as both together.
+    const NSInteger toFirst = -anchor_;
+    const NSInteger toEnd = count - anchor_;
     // A row reaches half a row to either side of its middle.
-    const auto first = truncateTo<NSInteger>(std::floor(offset_ - reach() - 0.5)) + 1;
+    const auto first = truncateTo<NSInteger>(std::floor(offset_ - reach() - 0.5));
     const auto last = truncateTo<NSInteger>(std::ceil(offset_ + reach() + 0.5));
-    // The anchor is one of the rows, so the distances to the ends are safe, and the rows in sight are few.
-    const NSInteger firstRow = anchor_ + std::clamp(first, -anchor_, count - anchor_);
-    const NSInteger lastRow = anchor_ + std::clamp(last, -anchor_, count - anchor_);
+    const NSInteger firstRow = anchor_ + std::clamp(first, toFirst - 1, toEnd - 1) + 1;
+    const NSInteger lastRow = anchor_ + std::clamp(last, toFirst, toEnd);
     return {firstRow, std::max(firstRow, lastRow)};
 }
 

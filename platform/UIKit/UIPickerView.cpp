@@ -286,6 +286,9 @@ void UIPickerView::layoutSubviews() {
         Component& entry = at(i);
         entry.turn.setRows_height_extent(entry.rows, entry.rowHeight, bounds().size.height, reported);
         if (!entry.turn.isTurning()) entry.turn.standOnRow(reported);
+        // New rows may let a request through that was held to the last one so far.
+        const bool isRequested = entry.turn.state() == UIPickerTurn::State::Requested;
+        if (isRequested && entry.turn.landingRow() != reported) entry.turn.goToRow(reported);
         scrollColumn(i);
         showRows(i, areRowsDue);
     }
@@ -455,7 +458,7 @@ void UIPickerView::touchEnded(const UITouch& touch) {
         }
     }
     entry.turn.touchEnded(point.y, touch.timestamp, tappedRow);
-    startMoving();
+    letGo(entry);
 }
 
 void UIPickerView::touchCancelled(const UITouch& touch) {
@@ -465,6 +468,12 @@ void UIPickerView::touchCancelled(const UITouch& touch) {
         return;
     }
     at(component).turn.touchCancelled(touch.timestamp);
+    letGo(at(component));
+}
+
+void UIPickerView::letGo(Component& component) {
+    // Under a finger that turned nothing a column stays where it is, whatever is reloaded; now it may have to follow.
+    if (!component.turn.isTurning()) setNeedsLayout();
     startMoving();
 }
 

@@ -116,6 +116,7 @@ private:
     NSInteger componentOfTouch(std::int64_t identifier) const;
     bool canTurn(NSInteger component);
     bool isMoving() const;
+    void letGo(Component& component);
     void startMoving();
     void tellTicks(NSInteger rows);
     void reportLandings();

@@ -379,6 +379,42 @@ TEST_F(Turning, AnAnimatedRequestTakes300MillisecondsAndTellsNobody) {
     EXPECT_FALSE(window.tick(1));
 }
 
+TEST_F(Turning, AnAnimatedRequestOverAllRowsThereCanBeEndsExactly) {
+    constexpr NSInteger largest = std::numeric_limits<NSInteger>::max();
+    source->rows = {largest};
+    wheel->reloadAllComponents();
+    window.tick(0);
+    for (const NSInteger row : {largest - 1, NSInteger{0}}) {
+        wheel->selectRow_inComponent_animated(row, 0, true);
+        window.runUntilStill();
+        EXPECT_EQ(wheel->selectedRowInComponent(0), row);
+        EXPECT_DOUBLE_EQ(rowsFrom(row), 0);
+    }
+}
+
+TEST_F(Turning, AnAnimatedRequestThatMoreRowsMakePossibleGoesOnToItsRow) {
+    wheel->selectRow_inComponent_animated(500, 0, true); // held to 99 as yet
+    window.run(0.1);
+    source->rows = {1000};
+    wheel->reloadAllComponents();
+    window.runUntilStill();
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 500);
+    EXPECT_DOUBLE_EQ(rowsFrom(500), 0);
+}
+
+TEST_F(Turning, ATouchThatTurnedNothingLeavesTheColumnOnTheRowItReportsThen) {
+    wheel->selectRow_inComponent_animated(500, 0, false); // held to 99 as yet
+    window.down(centre);
+    source->rows = {1000};
+    wheel->reloadAllComponents();
+    window.tick(0.01);
+    window.up(centre);
+    window.runUntilStill();
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 500);
+    EXPECT_DOUBLE_EQ(rowsFrom(500), 0);
+    EXPECT_EQ(source->notices, Notices{});
+}
+
 TEST_F(Turning, SettlingEndsATurnAtOnceOnItsLandingRowAndReportsIt) {
     window.fling(centre, {160, 8}, 10);
     window.run(0.1);
