@@ -14,6 +14,8 @@ namespace {
 // away (in radians, 65 degrees), and how much fainter a row is that has just left the band.
 constexpr double edgeAngle = 1.1344640137963142;
 constexpr double fadeOutsideBand = 0.42;
+// How far the eye is from the cylinder, in its radii: rows that turn away also move away, and so narrow toward the wheel's middle.
+constexpr double eyeDistance = 3;
 
 } // namespace
 
@@ -125,6 +127,8 @@ void UIPickerColumn::removeAllRows() {
 void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
     // In the column's coordinates the middle of the band lies here; offset 0 is the middle of the anchor row.
     const CGFloat middle = (offset_ + 0.5) * rowHeight_;
+    const Ref<UIView> wheel = superview();
+    const CGFloat vanishing = wheel ? CGRectGetMidX(wheel->bounds()) - CGRectGetMinX(frame()) : CGRectGetMidX(bounds());
     for (const Row& entry : shown_) {
         if (entry.view->superview().get() != this) continue; // The delegate has put its view elsewhere.
         const double rows = static_cast<double>(entry.row - anchor_) - offset_;
@@ -132,10 +136,11 @@ void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
         if (std::fabs(angle) >= edgeAngle + 0.5 * rowHeight_ / radius()) continue;
         const double shortening = std::cos(angle);
         if (shortening <= 0) continue;
+        const double narrowing = eyeDistance / (eyeDistance + 1 - shortening);
         context.saveState();
-        context.translate(0, middle + radius() * std::sin(angle));
-        context.scale(1, shortening);
-        context.translate(0, -CGRectGetMidY(entry.view->frame()));
+        context.translate(vanishing, middle + radius() * std::sin(angle));
+        context.scale(narrowing, shortening);
+        context.translate(-vanishing, -CGRectGetMidY(entry.view->frame()));
         context.multiplyAlpha((1 - fadeOutsideBand * std::min(std::fabs(rows), 1.0)) * shortening);
         drawView(*entry.view, context);
         context.restoreState();

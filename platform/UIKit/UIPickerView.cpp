@@ -55,6 +55,11 @@ std::optional<CGFloat> given(CGFloat dimension) {
     return std::clamp(dimension, 0.0, 1e6); // Wider than any screen: sums of widths stay exact.
 }
 
+const Ref<UIFont>& titleFont() {
+    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(UIPickerView::titleFontSize, UIFontWeight::Medium);
+    return font;
+}
+
 bool isShowable(CGRect bounds) { return !CGRectIsEmpty(bounds) && std::isfinite(bounds.size.width) && std::isfinite(bounds.size.height); }
 
 } // namespace
@@ -355,6 +360,7 @@ void UIPickerView::showRow(NSInteger component, NSInteger row) {
     if (!label) {
         label = create<UILabel>(CGRectNull);
         label->setTextAlignment(NSTextAlignmentCenter);
+        label->setFont(titleFont());
     }
     const Ref<NSAttributedString> attributed =
         delegate ? delegate->pickerView_attributedTitleForRow_forComponent(keep, row, component) : nullptr;

@@ -30,6 +30,8 @@ public:
     static constexpr CGFloat automaticDimension = -1;
     /// The height of a row that no delegate gives one. Prescribed by the phone's wheel.
     static constexpr CGFloat defaultRowHeight = 32;
+    /// The size of titles that no delegate gives a view or a font, in points. Chosen to fill a row as the pickers' own rows do.
+    static constexpr CGFloat titleFontSize = 22;
     /// Between two columns. Prescribed by the phone's wheel.
     static constexpr CGFloat columnGap = 5;
     /// More columns than fit on any screen; the bound keeps a wrong answer from filling the memory.
