@@ -1,0 +1,214 @@
+#include "GXSpeedPickerView.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "GXTitleReading.h"
+#include "GXWheelOrders.h"
+#include "NSArithmetic.h"
+#include "NSLocale.h"
+
+namespace gx {
+
+namespace {
+
+constexpr NSInteger wholeComponent = 0;
+constexpr NSInteger separatorComponent = 1;
+constexpr NSInteger tenthsComponent = 2;
+
+// Of a separator column, and of one that does not exist. Prescribed by the product.
+constexpr CGFloat separatorWidth = 3;
+constexpr CGFloat unknownWidth = 40;
+
+// Prescribed by the product, as rounded as they are; none is the exact reciprocal of another.
+constexpr double kphPerMps = 3.6;
+constexpr double mphPerMps = 2.23693629;
+constexpr double mpsPerKph = 0.277777778;
+constexpr double mpsPerMph = 0.44704;
+
+// The quantity that the unit beside the wheel is named for.
+constexpr NSInteger labelledQuantity = 1;
+
+NSInteger wholePart(double speed) { return truncateTo<NSInteger>(speed); }
+
+std::int32_t tenthsDigit(double speed) { return truncateTo<std::int32_t>(std::round(speed * 10)) % 10; }
+
+} // namespace
+
+bool GXSpeedPickerView::initWithFrame(CGRect frame) {
+    if (!GXBasePickerView::initWithFrame(frame)) return false;
+    initGXSpeedPickerView();
+    return true;
+}
+
+bool GXSpeedPickerView::initWithCoder(const Ref<NSCoder>& coder) {
+    if (!GXBasePickerView::initWithCoder(coder)) return false;
+    initGXSpeedPickerView();
+    return true;
+}
+
+bool GXSpeedPickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
+    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
+    initGXSpeedPickerView();
+    return true;
+}
+
+void GXSpeedPickerView::initGXSpeedPickerView() {
+    setMaxValue(NSNumber::numberWithDouble(13.8888889)); // 50 km/h
+    setMinValue(NSNumber::numberWithDouble(0.0));
+    setCurrentValue(NSNumber::numberWithDouble(2.7777777799999996)); // 10 km/h
+    showUnit();
+    const Ref<NSLocale> locale = NSLocale::currentLocale();
+    setSeparatorText_afterComponent(pickerView(), locale->objectForKey(NSLocaleDecimalSeparator), wholeComponent);
+}
+
+// Properties
+
+const Ref<GXSpeedFormatter>& GXSpeedPickerView::speedFormatter() {
+    if (!speedFormatter_) speedFormatter_ = create<GXSpeedFormatter>(1, isMetric(), true);
+    return speedFormatter_;
+}
+
+void GXSpeedPickerView::showUnit() {
+    const Ref<GXSpeedFormatter> formatter = speedFormatter();
+    setRightLabelText(pickerView(), formatter->unit(NSNumber::numberWithInteger(labelledQuantity)));
+}
+
+double GXSpeedPickerView::displayed(const NSNumber& value) const {
+    return isMetric() ? mpsToKph(value.doubleValue()) : mpsToMph(value.doubleValue());
+}
+
+// The copies go first, since the base class's setters reload and select by them.
+
+void GXSpeedPickerView::setMinValue(NSNumber value) {
+    setMinSpeedInMphOrKph(displayed(value));
+    GXBasePickerView::setMinValue(std::move(value));
+}
+
+void GXSpeedPickerView::setMaxValue(NSNumber value) {
+    setMaxSpeedInMphOrKph(displayed(value));
+    GXBasePickerView::setMaxValue(std::move(value));
+}
+
+void GXSpeedPickerView::setCurrentValue(NSNumber value) {
+    setCurrentSpeedInMphOrKph(displayed(value));
+    GXBasePickerView::setCurrentValue(std::move(value));
+}
+
+void GXSpeedPickerView::setIsMetric(bool metric) {
+    if (metric == isMetric()) return;
+    GXBasePickerView::setIsMetric(metric);
+    setMaxSpeedInMphOrKph(displayed(maxValue()));
+    setMinSpeedInMphOrKph(displayed(minValue()));
+    setCurrentSpeedInMphOrKph(displayed(currentValue()));
+    reloadAllComponents(pickerView());
+    if (const Ref<GXSpeedFormatter> formatter = speedFormatter_) formatter->setMetric(isMetric());
+    showUnit();
+    selectCurrentValue();
+}
+
+double GXSpeedPickerView::mpsToKph(double speed) const { return speed * kphPerMps; }
+
+double GXSpeedPickerView::mpsToMph(double speed) const { return speed * mphPerMps; }
+
+double GXSpeedPickerView::kphToMps(double speed) const { return speed * mpsPerKph; }
+
+double GXSpeedPickerView::mphToMps(double speed) const { return speed * mpsPerMph; }
+
+// What the columns offer
+
+bool GXSpeedPickerView::isOnMinimumsWholeNumber() const { return wholePart(currentSpeedInMphOrKph_) == wholePart(minSpeedInMphOrKph_); }
+
+NSInteger GXSpeedPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 3; }
+
+NSInteger GXSpeedPickerView::rowsOfTenths() const {
+    // 1. The minimum's whole number goes first: a maximum with the same one does not shorten it.
+    if (isOnMinimumsWholeNumber()) return 10 - tenthsDigit(minSpeedInMphOrKph_);
+    // 2. The maximum's tenth is offered.
+    if (wholePart(currentSpeedInMphOrKph_) == wholePart(maxSpeedInMphOrKph_)) return tenthsDigit(maxSpeedInMphOrKph_) + 1;
+    // 3. Any other whole number.
+    return 10;
+}
+
+NSInteger GXSpeedPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
+    switch (component) {
+    case wholeComponent:
+        return wrappingAdd<NSInteger>(wholePart(std::floor(maxSpeedInMphOrKph_ - minSpeedInMphOrKph_)), 1);
+    case tenthsComponent:
+        return rowsOfTenths();
+    default:
+        return 1;
+    }
+}
+
+std::optional<std::string> GXSpeedPickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                  NSInteger component) {
+    NSInteger first = 0;
+    switch (component) {
+    case wholeComponent:
+        first = wholePart(minSpeedInMphOrKph_);
+        break;
+    case tenthsComponent:
+        first = isOnMinimumsWholeNumber() ? tenthsDigit(minSpeedInMphOrKph_) : 0;
+        break;
+    default:
+        return std::nullopt;
+    }
+    return std::to_string(narrowTo32Bits(wrappingAdd(first, row)));
+}
+
+CGFloat GXSpeedPickerView::pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
+    switch (component) {
+    case wholeComponent:
+    case tenthsComponent:
+        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, component), pickerView);
+    case separatorComponent:
+        return separatorWidth;
+    default:
+        return unknownWidth;
+    }
+}
+
+// From the wheel to the value
+
+double GXSpeedPickerView::numberSelectedInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
+    const NSInteger row = selectedRowInComponent(pickerView, component);
+    return doubleValueOfTitle(pickerView_titleForRow_forComponent(pickerView, row, component));
+}
+
+void GXSpeedPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& wheel, NSInteger, NSInteger) {
+    const Ref<GXBasePickerView> keep = self();
+    // The tenths are titled for the value before the turn, as the user saw them.
+    const double whole = numberSelectedInComponent(wheel, wholeComponent);
+    const double tenths = numberSelectedInComponent(wheel, tenthsComponent);
+    checkMetricAndInformDelegate(whole + tenths / 10.0);
+    reloadComponent(pickerView(), tenthsComponent);
+    selectCurrentValue();
+}
+
+void GXSpeedPickerView::checkMetricAndInformDelegate(double speed) {
+    const Ref<GXBasePickerView> keep = self();
+    double value = isMetric() ? kphToMps(speed) : mphToMps(speed);
+    const double maximum = maxValue().doubleValue();
+    const double minimum = minValue().doubleValue();
+    if (value > maximum) value = maximum;
+    if (value < minimum) value = minimum;
+    setCurrentValue(NSNumber::numberWithDouble(value));
+    informDelegateOfValueChange();
+}
+
+// From the value to the wheel
+
+void GXSpeedPickerView::selectCurrentValue() {
+    // The difference is cut off, not the two speeds: 6.2 above a minimum of 5.5 is on the row of 5.
+    const NSInteger above = wholePart(std::max(currentSpeedInMphOrKph_ - minSpeedInMphOrKph_, 0.0));
+    const NSInteger wholeRow = quotient(above, stepSize().integerValue());
+    selectRow_inComponent(pickerView(), wholeRow, wholeComponent);
+    std::int32_t tenthsRow = tenthsDigit(currentSpeedInMphOrKph_);
+    // On the first row the minimum is divided by ten here, and not multiplied as for the tenths offered: with the minimum 5.5, 6.2 is on
+    // row 2 − 1.
+    if (wholeRow == 0) tenthsRow -= truncateTo<std::int32_t>(std::round(minSpeedInMphOrKph_ / 10.0)) % 10;
+    selectRow_inComponent(pickerView(), tenthsRow, tenthsComponent);
+}
+
+} // namespace gx
