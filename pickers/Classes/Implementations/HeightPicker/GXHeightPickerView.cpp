@@ -1,0 +1,203 @@
+#include "GXHeightPickerView.h"
+
+#include <cmath>
+
+#include "GXLocalization.h"
+#include "NSArithmetic.h"
+
+namespace gx {
+
+namespace {
+
+// The rows: 120 to 220 cm, 4 to 6 feet, 0 to 11 inches.
+constexpr NSInteger lowestCentimetres = 120;
+constexpr NSInteger centimetreRows = 101;
+constexpr NSInteger lowestFeet = 4;
+constexpr NSInteger feetRows = 3;
+constexpr NSInteger inchRows = 12;
+constexpr NSInteger unitRows = 2;
+constexpr NSInteger unitRowMetric = 0;
+constexpr NSInteger unitRowImperial = 1;
+constexpr NSInteger metricUnitColumn = 1;
+constexpr NSInteger imperialUnitColumn = 2;
+
+constexpr CGFloat centimetreWidth = 100;
+constexpr CGFloat otherWidth = 60;
+constexpr CGFloat rowHeight = 40;
+
+// What is shown without a height: 180 cm, or 5 feet 10 inches.
+constexpr NSInteger defaultCentimetreRow = 60;
+constexpr NSInteger defaultFeetRow = 1;
+constexpr NSInteger defaultInchRow = 10;
+
+// 1 / 30.48 and 1 / 2.54, to as many digits as the product prescribes.
+constexpr double feetPerCentimetre = 0.032808399;
+constexpr double inchesPerCentimetre = 0.393700787;
+constexpr double inchesPerFoot = 12;
+// Back to centimetres in single precision.
+constexpr float centimetresPerFoot = 30.48F;
+constexpr float centimetresPerInch = 2.54F;
+
+} // namespace
+
+bool GXHeightPickerView::initWithFrame(CGRect frame) {
+    if (!UIPickerView::initWithFrame(frame)) return false;
+    setupSelf();
+    return true;
+}
+
+void GXHeightPickerView::awakeFromNib() {
+    UIPickerView::awakeFromNib();
+    setupSelf();
+}
+
+GXHeightPickerView::~GXHeightPickerView() {
+    // What is left of the wheel must not ask this part of it any more.
+    UIPickerView::setDataSource({});
+    UIPickerView::setDelegate({});
+}
+
+void GXHeightPickerView::setupSelf() {
+    setDataSource(refTo(this));
+    setDelegate(refTo(this));
+    setTintColor(UIColor::blackColor());
+}
+
+void GXHeightPickerView::tintColorDidChange() {
+    UIPickerView::tintColorDidChange();
+    UIPickerView::reloadAllComponents();
+}
+
+// The height
+
+void GXHeightPickerView::setHeightInCm(CGFloat height) {
+    heightInCm_ = height;
+    reload();
+}
+
+void GXHeightPickerView::setIsMetric(bool isMetric) {
+    isMetric_ = isMetric;
+    reload();
+}
+
+void GXHeightPickerView::reload() {
+    // The rows are asked for before the wheel knows the new columns. It keeps the requests, so that the right rows appear with the reload.
+    calculatePickerValues();
+    reloadAllComponents();
+    performSelectorOnMainThread_waitUntilDone(&GXHeightPickerView::reload2ndStage, false);
+}
+
+void GXHeightPickerView::reload2ndStage() {
+    if (isMetric_) {
+        selectRow_inComponent_animated(unitRowMetric, metricUnitColumn, false);
+    } else {
+        selectRow_inComponent_animated(unitRowImperial, imperialUnitColumn, false);
+    }
+}
+
+void GXHeightPickerView::calculatePickerValues() {
+    if (isMetric_) {
+        const bool isGiven = heightInCm_ > 0;
+        const auto row = truncateTo<NSInteger>(heightInCm_ - static_cast<double>(lowestCentimetres));
+        selectRow_inComponent_animated(isGiven ? row : defaultCentimetreRow, 0, false);
+        return;
+    }
+    NSInteger feetRow = defaultFeetRow;
+    NSInteger inchRow = defaultInchRow;
+    if (heightInCm_ >= static_cast<double>(lowestCentimetres)) { // False for what is no number.
+        const double feet = std::floor(heightInCm_ * feetPerCentimetre);
+        if (feet < lowestFeet) {
+            feetRow = inchRow = 0;
+        } else if (feet < lowestFeet + feetRows) {
+            feetRow = truncateTo<NSInteger>(feet) - lowestFeet;
+            // Up to 12, which the wheel shows as 11: 182 cm read 5 feet 11 inches and not 6 feet.
+            inchRow = truncateTo<NSInteger>(std::round(heightInCm_ * inchesPerCentimetre - feet * inchesPerFoot));
+        } else {
+            feetRow = feetRows - 1;
+            inchRow = inchRows - 1;
+        }
+    }
+    selectRow_inComponent_animated(feetRow, 0, false);
+    selectRow_inComponent_animated(inchRow, 1, false);
+}
+
+void GXHeightPickerView::recalculateHeight() {
+    const Ref<GXHeightPickerView> keep = refTo(this);
+    if (isMetric_) {
+        setHeightInCm(static_cast<CGFloat>(wrappingAdd(selectedRowInComponent(0), lowestCentimetres)));
+    } else {
+        const float feet = static_cast<float>(wrappingAdd(selectedRowInComponent(0), lowestFeet)) * centimetresPerFoot;
+        const float inches = static_cast<float>(selectedRowInComponent(1)) * centimetresPerInch;
+        const float height = feet + inches;
+        setHeightInCm(CGFloat{height});
+    }
+    if (const Ref<GXHeightPickerViewDelegate> told = heightDelegate_.lock()) {
+        told->heightPickerView_didSelectHeightInCm_metric(keep, heightInCm_, isMetric_);
+    }
+}
+
+Ref<NSAttributedString> GXHeightPickerView::styleString(std::optional<std::string> text) const {
+    if (!text) return nullptr;
+    return NSAttributedString::attributedStringWithString_attributes(*std::move(text), {nullptr, tintColor()});
+}
+
+// Answers to the wheel
+
+GXHeightPickerView::Column GXHeightPickerView::columnOf(NSInteger component) const {
+    if (component == 0) return isMetric_ ? Column::Centimetres : Column::Feet;
+    return component == 1 && !isMetric_ ? Column::Inches : Column::Unit;
+}
+
+std::optional<std::string> GXHeightPickerView::titleOfRow(NSInteger row, Column column) const {
+    switch (column) {
+    case Column::Centimetres:
+        return std::to_string(narrowTo32Bits(wrappingAdd(row, lowestCentimetres)));
+    case Column::Feet:
+        return std::to_string(narrowTo32Bits(wrappingAdd(row, lowestFeet))) + "'";
+    case Column::Inches:
+        return std::to_string(narrowTo32Bits(row)) + "\"";
+    case Column::Unit:
+        break;
+    }
+    const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
+    return row == unitRowMetric ? localization->localizedStringWithKey_comment("cm", "unit cm (centimeter)")
+                                : localization->localizedStringWithKey_comment("ft", "unit ft (feet)");
+}
+
+NSInteger GXHeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return isMetric_ ? 2 : 3; }
+
+NSInteger GXHeightPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
+    switch (columnOf(component)) {
+    case Column::Centimetres:
+        return centimetreRows;
+    case Column::Feet:
+        return feetRows;
+    case Column::Inches:
+        return inchRows;
+    case Column::Unit:
+        break;
+    }
+    return unitRows;
+}
+
+CGFloat GXHeightPickerView::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger component) {
+    return columnOf(component) == Column::Centimetres ? centimetreWidth : otherWidth;
+}
+
+CGFloat GXHeightPickerView::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) { return rowHeight; }
+
+Ref<NSAttributedString> GXHeightPickerView::pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                          NSInteger component) {
+    return styleString(titleOfRow(row, columnOf(component)));
+}
+
+void GXHeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) {
+    const Ref<GXHeightPickerView> keep = refTo(this);
+    if (component == (isMetric_ ? metricUnitColumn : imperialUnitColumn)) {
+        setIsMetric(row == unitRowMetric);
+        calculatePickerValues();
+    }
+    recalculateHeight();
+}
+
+} // namespace gx

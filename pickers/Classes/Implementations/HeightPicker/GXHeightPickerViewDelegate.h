@@ -1,0 +1,20 @@
+#pragma once
+
+#include "CGGeometry.h"
+#include "NSObject.h"
+
+namespace gx {
+
+class GXHeightPickerView;
+
+/// Is told when the user has turned a height picker.
+class GXHeightPickerViewDelegate {
+public:
+    virtual ~GXHeightPickerViewDelegate() = default;
+
+    /// Called once after each turn by the user, also one of the unit column, never after a setter. `height` is in centimetres whatever the
+    /// unit; `metric` is false for feet and inches. The call may do anything to the picker, drop the last reference to it included.
+    virtual void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>& pickerView, CGFloat height, bool metric) = 0;
+};
+
+} // namespace gx
