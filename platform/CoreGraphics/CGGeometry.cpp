@@ -8,7 +8,12 @@ namespace gx {
 
 namespace {
 constexpr CGFloat infinity = std::numeric_limits<CGFloat>::infinity();
+
+/// Whether one of its numbers is no number.
+bool hasNoPlace(CGRect rect) {
+    return std::isnan(rect.origin.x) || std::isnan(rect.origin.y) || std::isnan(rect.size.width) || std::isnan(rect.size.height);
 }
+} // namespace
 
 const CGRect CGRectZero = {{0, 0}, {0, 0}};
 const CGRect CGRectNull = {{infinity, infinity}, {0, 0}};
@@ -38,8 +43,7 @@ bool CGRectIsNull(CGRect rect) { return rect.origin.x == infinity || rect.origin
 
 bool CGRectIsEmpty(CGRect rect) {
     const bool hasArea = CGRectGetWidth(rect) > 0 && CGRectGetHeight(rect) > 0;
-    const bool isPlaced = !std::isnan(rect.origin.x) && !std::isnan(rect.origin.y);
-    return CGRectIsNull(rect) || !hasArea || !isPlaced;
+    return CGRectIsNull(rect) || !hasArea || hasNoPlace(rect);
 }
 
 bool CGRectEqualToRect(CGRect first, CGRect second) { return CGRectStandardize(first) == CGRectStandardize(second); }
@@ -63,7 +67,7 @@ CGRect CGRectInset(CGRect rect, CGFloat dx, CGFloat dy) {
 }
 
 CGRect CGRectIntersection(CGRect first, CGRect second) {
-    if (CGRectIsNull(first) || CGRectIsNull(second)) return CGRectNull;
+    if (CGRectIsNull(first) || CGRectIsNull(second) || hasNoPlace(first) || hasNoPlace(second)) return CGRectNull;
     const CGFloat minX = std::max(CGRectGetMinX(first), CGRectGetMinX(second));
     const CGFloat minY = std::max(CGRectGetMinY(first), CGRectGetMinY(second));
     const CGFloat maxX = std::min(CGRectGetMaxX(first), CGRectGetMaxX(second));

@@ -8,36 +8,38 @@
 /// Arithmetic that is defined for every input, for values that an application may set to anything.
 namespace gx {
 
-/// Sums, differences and products that wrap around as two's complement numbers.
+// Narrower integers would be widened to int on the way, and overflow there.
 template <class Integer>
+concept WrappingInteger = std::is_signed_v<Integer> && sizeof(Integer) >= sizeof(int);
+
+/// Sums, differences and products that wrap around as two's complement numbers.
+template <WrappingInteger Integer>
 constexpr Integer wrappingAdd(Integer a, Integer b) {
     using Unsigned = std::make_unsigned_t<Integer>;
     return static_cast<Integer>(static_cast<Unsigned>(a) + static_cast<Unsigned>(b));
 }
-template <class Integer>
+template <WrappingInteger Integer>
 constexpr Integer wrappingSubtract(Integer a, Integer b) {
     using Unsigned = std::make_unsigned_t<Integer>;
     return static_cast<Integer>(static_cast<Unsigned>(a) - static_cast<Unsigned>(b));
 }
-template <class Integer>
+template <WrappingInteger Integer>
 constexpr Integer wrappingMultiply(Integer a, Integer b) {
     using Unsigned = std::make_unsigned_t<Integer>;
     return static_cast<Integer>(static_cast<Unsigned>(a) * static_cast<Unsigned>(b));
 }
 
 /// The quotient truncated toward zero. By zero it is 0; the smallest integer by −1 wraps to itself.
-template <class Integer>
+template <WrappingInteger Integer>
 constexpr Integer quotient(Integer dividend, Integer divisor) {
-    static_assert(std::is_signed_v<Integer>);
     if (divisor == 0) return 0;
     if (divisor == -1) return wrappingSubtract(Integer{0}, dividend);
     return dividend / divisor;
 }
 
 /// The remainder with the sign of the dividend. By zero, and by −1, it is 0.
-template <class Integer>
+template <WrappingInteger Integer>
 constexpr Integer remainder(Integer dividend, Integer divisor) {
-    static_assert(std::is_signed_v<Integer>);
     if (divisor == 0 || divisor == -1) return 0;
     return dividend % divisor;
 }

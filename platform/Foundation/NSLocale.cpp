@@ -10,12 +10,13 @@ namespace {
 
 // Languages that write a decimal comma, and those written from right to left. Source: the number symbols and
 // character orders of the Unicode Common Locale Data Repository for each language.
-constexpr std::array<std::string_view, 39> commaLanguages = {"af", "az", "be", "bg", "bs", "ca", "cs", "da", "de", "el", "es", "et", "eu",
-                                                             "fi", "fo", "fr", "gl", "hr", "hu", "hy", "id", "is", "it", "ka", "kk", "lt",
-                                                             "lv", "mk", "nb", "nl", "pl", "pt", "ro", "ru", "sk", "sl", "sv", "tr", "uk"};
+constexpr std::array<std::string_view, 44> commaLanguages = {
+    "af", "az", "be", "bg", "bs", "ca", "cs", "da", "de", "el", "es", "et", "eu", "fi", "fo", "fr", "gl", "hr", "hu", "hy", "id", "is",
+    "it", "ka", "kk", "lt", "lv", "mk", "nb", "nl", "nn", "no", "pl", "pt", "ro", "ru", "sk", "sl", "sq", "sr", "sv", "tr", "uk", "vi"};
 constexpr std::array<std::string_view, 5> rightToLeftLanguages = {"ar", "fa", "he", "ur", "yi"};
 // Regions that write a point although the language writes a comma elsewhere, or the other way round.
-constexpr std::array<std::string_view, 5> pointRegions = {"de_CH", "de_LI", "es_MX", "es_US", "it_CH"};
+constexpr std::array<std::string_view, 15> pointRegions = {"de_CH", "de_LI", "es_419", "es_CU", "es_DO", "es_GT", "es_HN", "es_MX",
+                                                           "es_NI", "es_PA", "es_PE",  "es_PR", "es_SV", "es_US", "it_CH"};
 constexpr std::array<std::string_view, 1> commaRegions = {"en_ZA"};
 
 std::string languageOf(std::string_view identifier) { return std::string(identifier.substr(0, identifier.find_first_of("_-@."))); }

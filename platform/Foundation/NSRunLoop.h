@@ -18,8 +18,9 @@ public:
 
     /// Queues `block` for the next pass. An empty block is ignored.
     void performBlock(std::function<void()> block);
-    /// Runs, in order, what was queued before the call. What the blocks queue themselves waits for the next
-    /// pass, also when a block calls `runPass`: then the nested call takes over what is still to run.
+    /// Runs, in order, what was queued before the call. What the blocks queue themselves waits for the next call. A
+    /// block may call `runPass` itself, as a nested event loop does: that takes over what is still to run or, after the
+    /// last block, runs what came since.
     void runPass();
     /// Whether a pass would do anything.
     bool hasWork() const;

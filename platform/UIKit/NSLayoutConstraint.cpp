@@ -1,7 +1,6 @@
 #include "NSLayoutConstraint.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -21,7 +20,8 @@ constexpr CGFloat standardDistance = 8;
 /// What one format says: a direction, a view's name, and the pins on either side of it.
 class VisualFormat {
 public:
-    VisualFormat(std::string_view text, const NSLayoutConstraint::Metrics& metrics) : rest_(text), metrics_(metrics), isVertical_(accept("V:")) {
+    VisualFormat(std::string_view text, const NSLayoutConstraint::Metrics& metrics)
+        : rest_(text), metrics_(metrics), isVertical_(accept("V:")) {
         if (!isVertical_) accept("H:");
         isValid_ = readLeadingPin() && readView() && readTrailingPin() && rest_.empty();
     }
@@ -40,7 +40,8 @@ private:
     }
 
     std::string readName() {
-        const auto isPart = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_'; };
+        // Not by the C library, whose answer depends on the C locale.
+        const auto isPart = [](char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; };
         const auto end = std::find_if_not(rest_.begin(), rest_.end(), isPart);
         const auto length = static_cast<std::size_t>(end - rest_.begin());
         std::string name(rest_.substr(0, length));

@@ -1,5 +1,7 @@
 #include "UIImage.h"
 
+#include <cmath>
+
 namespace gx {
 
 namespace {
@@ -10,9 +12,10 @@ Ref<UIImageLoader>& sharedLoader() {
 } // namespace
 
 Ref<UIImage> UIImage::imageWithPixels_width_height_scale(std::vector<std::uint8_t> pixels, int width, int height, double scale) {
-    const bool isSized = width > 0 && height > 0 && scale > 0;
+    const bool isSized = width > 0 && height > 0 && scale > 0 && std::isfinite(scale);
     if (!isSized) return nullptr;
-    if (pixels.size() != static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4) return nullptr;
+    // In 64 bits, where no two ints overflow, whatever the machine's word.
+    if (pixels.size() != static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) * 4) return nullptr;
     auto image = create<UIImage>();
     image->pixels_ = std::move(pixels);
     image->width_ = width;

@@ -45,7 +45,7 @@ void UILabel::setText(std::optional<std::string> text) {
 }
 
 void UILabel::setAttributedText(Ref<NSAttributedString> text) {
-    if (text && text == attributedText_) return;
+    if (text == attributedText_ && (text || !text_)) return;
     text_ = text ? std::optional<std::string>(text->string()) : std::nullopt;
     attributedText_ = std::move(text);
     textDidChange();

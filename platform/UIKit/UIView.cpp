@@ -25,7 +25,11 @@ bool UIView::initWithCoder(const Ref<NSCoder>& coder) {
     if (!NSObject::init()) return false;
     if (!coder) return true;
     frame_ = coder->decodeCGRectForKey("frame");
-    if (coder->containsValueForKey("bounds")) boundsOrigin_ = coder->decodeCGRectForKey("bounds").origin;
+    if (coder->containsValueForKey("bounds")) {
+        const CGRect bounds = coder->decodeCGRectForKey("bounds");
+        boundsOrigin_ = bounds.origin;
+        if (!coder->containsValueForKey("frame")) frame_ = {{}, bounds.size};
+    }
     isHidden_ = coder->decodeBoolForKey("hidden");
     clipsToBounds_ = coder->decodeBoolForKey("clipsToBounds");
     tag_ = coder->decodeIntegerForKey("tag");
@@ -81,14 +85,23 @@ UIView* UIView::root() const {
     return const_cast<UIView*>(view); // NOLINT(cppcoreguidelines-pro-type-const-cast): views above are not const because this one is
 }
 
-CGPoint UIView::originInRoot() const {
-    // The point (0, 0) of this view's coordinates, in the coordinates of the topmost view.
+CGPoint UIView::originIn(const UIView* above) const {
+    // The point (0, 0) of this view's coordinates, in those of a view above it or, without one, of the topmost view.
     CGPoint point;
-    for (const UIView* view = this; view->superview_; view = view->superview_) {
-        point.x += view->frame_.origin.x - view->boundsOrigin_.x;
-        point.y += view->frame_.origin.y - view->boundsOrigin_.y;
+    for (const UIView* view = this; view != above && view->superview_; view = view->superview_) {
+        point.x += CGRectGetMinX(view->frame_) - view->boundsOrigin_.x;
+        point.y += CGRectGetMinY(view->frame_) - view->boundsOrigin_.y;
     }
     return point;
+}
+
+CGPoint UIView::originSeenFrom(const UIView& view) const {
+    // No further up than both have in common: a view up there may have no place.
+    const UIView* common = this;
+    while (common && !common->contains(view)) common = common->superview_;
+    const CGPoint here = originIn(common);
+    const CGPoint there = view.originIn(common);
+    return {here.x - there.x, here.y - there.y};
 }
 
 CGRect UIView::convertRect_fromView(CGRect rect, const Ref<UIView>& view) const {
@@ -103,20 +116,18 @@ CGRect UIView::convertRect_toView(CGRect rect, const Ref<UIView>& view) const {
 
 CGPoint UIView::convertPoint_fromView(CGPoint point, const Ref<UIView>& view) const {
     if (!view) return {};
-    const CGPoint there = view->originInRoot();
-    const CGPoint here = originInRoot();
-    return {point.x + there.x - here.x, point.y + there.y - here.y};
+    const CGPoint origin = view->originSeenFrom(*this);
+    return {point.x + origin.x, point.y + origin.y};
 }
 
 CGPoint UIView::convertPoint_toView(CGPoint point, const Ref<UIView>& view) const {
     if (!view) return {};
-    const CGPoint there = view->originInRoot();
-    const CGPoint here = originInRoot();
-    return {point.x + here.x - there.x, point.y + here.y - there.y};
+    const CGPoint origin = originSeenFrom(*view);
+    return {point.x + origin.x, point.y + origin.y};
 }
 
 CGPoint UIView::convertPointFromWindow(CGPoint point) const {
-    const CGPoint here = originInRoot();
+    const CGPoint here = originIn(nullptr);
     return {point.x - here.x, point.y - here.y};
 }
 
@@ -139,22 +150,25 @@ void UIView::addSubview(const Ref<UIView>& view) { insertSubview_atIndex(view, s
 
 void UIView::insertSubview_atIndex(const Ref<UIView>& view, NSInteger index) {
     if (!view || view->contains(*this)) return;
+    const Ref<UIView> keep = refTo(this);
     // The argument may be an entry of a list that changes here. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const Ref<UIView> added = view;
-    const UIColor tintBefore = added->tintColor();
-    if (added->superview_ == this) {
-        subviews_.erase(std::find(subviews_.begin(), subviews_.end(), added));
-    } else {
+    const bool isNew = added->superview_ != this;
+    if (isNew) {
         added->removeFromSuperview();
+        // Who was told of that may have put the view elsewhere, or this one below it.
+        if (added->superview_ || added->contains(*this)) return;
+    } else {
+        subviews_.erase(std::find(subviews_.begin(), subviews_.end(), added));
     }
+    const UIColor tintBefore = added->tintColor();
     const auto size = static_cast<NSInteger>(subviews_.size());
     subviews_.insert(subviews_.begin() + std::clamp<NSInteger>(index, 0, size), added);
-    const bool isNew = added->superview_ != this;
     added->superview_ = this;
     if (added->needsLayout_ || added->isLayoutDueBelow_) added->setNeedsLayout();
     setNeedsLayout();
     setNeedsDisplay();
-    if (isNew) added->noteTreeChange(tintBefore);
+    if (isNew) added->noteTreeChange(tintBefore, nullptr);
 }
 
 void UIView::removeFromSuperview() {
@@ -164,26 +178,30 @@ void UIView::removeFromSuperview() {
         std::find_if(above.subviews_.begin(), above.subviews_.end(), [this](const Ref<UIView>& view) { return view.get() == this; });
     const Ref<UIView> keep = *entry;
     const UIColor tintBefore = tintColor();
+    const UIWindow* windowBefore = root()->asWindow();
     above.setNeedsDisplay();
     above.subviews_.erase(entry);
     above.constraints_.erase(std::remove_if(above.constraints_.begin(), above.constraints_.end(),
                                             [&keep](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == keep; }),
                              above.constraints_.end());
     superview_ = nullptr;
-    noteTreeChange(tintBefore);
+    noteTreeChange(tintBefore, windowBefore);
 }
 
-void UIView::noteTreeChange(const std::optional<UIColor>& tintBefore) {
+void UIView::noteTreeChange(const UIColor& tintBefore, const UIWindow* windowBefore) {
     if (tintColor() != tintBefore) notifyTint();
-    notifyWindow();
+    if (root()->asWindow() != windowBefore) notifyWindow();
 }
+
+// In each of the walks down the tree, who is called may change the list of subviews. Whoever comes or goes meanwhile is
+// told by that.
 
 void UIView::notifyWindow() {
     const Ref<UIView> keep = refTo(this);
+    const std::vector<Ref<UIView>> below = subviews_;
     didMoveToWindow();
-    for (std::size_t i = 0; i < subviews_.size(); ++i) {
-        const Ref<UIView> view = subviews_[i];
-        view->notifyWindow();
+    for (const Ref<UIView>& view : below) {
+        if (view->superview_ == this) view->notifyWindow();
     }
 }
 
@@ -210,22 +228,26 @@ void UIView::layoutIfNeeded() {
     }
     if (!isLayoutDueBelow_) return;
     isLayoutDueBelow_ = false;
-    for (std::size_t i = 0; i < subviews_.size(); ++i) {
-        const Ref<UIView> view = subviews_[i];
-        view->layoutIfNeeded();
+    const std::vector<Ref<UIView>> below = subviews_;
+    for (const Ref<UIView>& view : below) {
+        if (view->superview_ == this) view->layoutIfNeeded();
+        // A view that asks again, or is in the middle of its own layout, waits for the next pass.
+        if (view->superview_ == this && (view->needsLayout_ || view->isLayoutDueBelow_)) isLayoutDueBelow_ = true;
     }
 }
 
 void UIView::layoutSubviews() {
-    // Each pinned view is placed once, by all its pins together, when its first pin is met.
-    for (std::size_t i = 0; i < constraints_.size(); ++i) {
-        const Ref<UIView> item = constraints_[i]->firstItem();
+    // Each pinned view is placed once, by all its pins together, when its first pin is met. Being placed, it may change
+    // the list.
+    const std::vector<Ref<NSLayoutConstraint>> constraints = constraints_;
+    for (std::size_t i = 0; i < constraints.size(); ++i) {
+        const Ref<UIView> item = constraints[i]->firstItem();
         if (!item || item->superview_ != this) continue;
         const auto isForItem = [&item](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == item; };
-        const auto present = constraints_.begin() + static_cast<std::ptrdiff_t>(i);
-        if (std::any_of(constraints_.begin(), present, isForItem)) continue;
+        const auto present = constraints.begin() + static_cast<std::ptrdiff_t>(i);
+        if (std::any_of(constraints.begin(), present, isForItem)) continue;
         NSLayoutPins pins;
-        std::for_each(present, constraints_.end(), [&](const Ref<NSLayoutConstraint>& constraint) {
+        std::for_each(present, constraints.end(), [&](const Ref<NSLayoutConstraint>& constraint) {
             if (isForItem(constraint)) pins.add(*constraint);
         });
         item->setFrame(pins.frameInBounds_from(bounds(), item->frame()));
@@ -295,11 +317,11 @@ void UIView::setTintColor(std::optional<UIColor> color) {
 
 void UIView::notifyTint() {
     const Ref<UIView> keep = refTo(this);
+    const std::vector<Ref<UIView>> below = subviews_;
     tintColorDidChange();
     setNeedsDisplay();
-    for (std::size_t i = 0; i < subviews_.size(); ++i) {
-        const Ref<UIView> view = subviews_[i];
-        if (!view->tintColor_) view->notifyTint();
+    for (const Ref<UIView>& view : below) {
+        if (view->superview_ == this && !view->tintColor_) view->notifyTint();
     }
 }
 
@@ -340,7 +362,10 @@ bool UIView::showsSomething() const { return true; }
 void UIView::drawRect(UIGraphicsContext&, CGRect) {}
 
 void UIView::drawSubviews(UIGraphicsContext& context) {
-    for (const Ref<UIView>& view : subviews_) drawView(*view, context);
+    for (std::size_t i = 0; i < subviews_.size(); ++i) {
+        const Ref<UIView> view = subviews_[i]; // Drawing may change the list.
+        drawView(*view, context);
+    }
 }
 
 // Events
@@ -349,8 +374,8 @@ Ref<UIView> UIView::hitTest(CGPoint point) {
     if (isHidden_ || !isInteractive_ || alpha_ < 0.01 || !CGRectContainsPoint(bounds(), point)) return nullptr;
     for (auto entry = subviews_.rbegin(); entry != subviews_.rend(); ++entry) {
         UIView& view = **entry;
-        const CGPoint inside = {point.x - view.frame_.origin.x + view.boundsOrigin_.x,
-                                point.y - view.frame_.origin.y + view.boundsOrigin_.y};
+        const CGPoint inside = {point.x - CGRectGetMinX(view.frame_) + view.boundsOrigin_.x,
+                                point.y - CGRectGetMinY(view.frame_) + view.boundsOrigin_.y};
         if (Ref<UIView> hit = view.hitTest(inside)) return hit;
     }
     return refTo(this);

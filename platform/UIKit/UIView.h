@@ -27,8 +27,9 @@ public:
     /// The zero rectangle as frame.
     bool init() override;
     virtual bool initWithFrame(CGRect frame);
-    /// Restores, where the coder has them: "frame", "bounds", "hidden", "alpha", "userInteractionEnabled", "clipsToBounds",
-    /// "tag", and as 0xRRGGBB "backgroundColor" and "tintColor". An empty coder gives the defaults.
+    /// Restores, where the coder has them: "frame", "bounds" (its size counts only without a frame), "hidden", "alpha",
+    /// "userInteractionEnabled", "clipsToBounds", "tag", and as 0xRRGGBB "backgroundColor" and "tintColor". An empty coder gives the
+    /// defaults.
     virtual bool initWithCoder(const Ref<NSCoder>& coder);
     /// Whoever loads an interface calls this on every view once all are connected; `create` does not.
     virtual void awakeFromNib();
@@ -159,9 +160,10 @@ protected:
 
 private:
     UIView* root() const;
-    CGPoint originInRoot() const;
+    CGPoint originIn(const UIView* above) const;
+    CGPoint originSeenFrom(const UIView& view) const;
     bool contains(const UIView& view) const;
-    void noteTreeChange(const std::optional<UIColor>& tintBefore);
+    void noteTreeChange(const UIColor& tintBefore, const UIWindow* windowBefore);
     void notifyTint();
     void notifyWindow();
     void drawContent(UIGraphicsContext& context);

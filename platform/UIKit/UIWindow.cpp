@@ -14,6 +14,11 @@ UIWindow::~UIWindow() {
     }
 }
 
+void UIWindow::setHost(UIWindowHost* host) {
+    host_ = host;
+    if (host_ && needsFrame_) host_->windowNeedsFrame();
+}
+
 void UIWindow::setUserInterfaceStyle(UIUserInterfaceStyle style) {
     if (style == style_) return;
     style_ = style;
@@ -26,6 +31,7 @@ std::vector<UIWindow::Touch>::iterator UIWindow::findTouch(std::int64_t identifi
 }
 
 void UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     touchCancelled_at_time(identifier, time);
     layoutIfNeeded(); // The finger aims at what the next frame would show.
     const UITouch touch = {identifier, time, location};
@@ -64,6 +70,7 @@ void UIWindow::touchCancelled_at_time(std::int64_t identifier, NSTimeInterval ti
 }
 
 bool UIWindow::scroll(const UIScroll& scroll) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     layoutIfNeeded();
     const Ref<UIView> view = hitTest(scroll.locationInWindow);
     return view && view->scrolled(scroll);
@@ -90,6 +97,7 @@ bool UIWindow::tick(NSTimeInterval time) {
 }
 
 void UIWindow::draw(UIGraphicsContext& context) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     layoutIfNeeded();
     context.setUserInterfaceStyle(style_);
     renderInContext(context);

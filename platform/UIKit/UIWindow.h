@@ -15,7 +15,8 @@ public:
     ~UIWindow() override;
 
     /// Whom the window asks for frames; not owned, and must be cleared before it goes.
-    void setHost(UIWindowHost* host) { host_ = host; }
+    /// A host that comes while a frame is due is asked for it at once.
+    void setHost(UIWindowHost* host);
     UIWindowHost* host() const { return host_; }
 
     /// The look that colours are drawn in.

@@ -1,0 +1,282 @@
+#include "UILabel.h"
+
+#include <gtest/gtest.h>
+
+#include "RecordingCanvas.h"
+#include "UITextEngine.h"
+#include "UIWindow.h"
+
+using namespace gx;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+/// Ten points a code point, twenty a line, and counts how often it measures.
+struct CountingEngine : UIFixedWidthTextEngine {
+    int count = 0;
+    CGSize sizeOfText_font(std::string_view text, const UIFont& font) override {
+        ++count;
+        return UIFixedWidthTextEngine::sizeOfText_font(text, font);
+    }
+};
+
+struct Label : testing::Test {
+    Ref<CountingEngine> engine = create<CountingEngine>();
+    Ref<UILabel> label = create<UILabel>(CGRectMake(5, 6, 100, 40));
+    RecordingCanvas canvas;
+
+    Label() {
+        UITextEngine::setShared(engine);
+        label->setTextColor(UIColor::blackColor());
+    }
+    ~Label() override { UITextEngine::setShared(nullptr); }
+
+    Calls drawn() {
+        canvas.calls.clear();
+        canvas.fontSizes.clear();
+        label->renderInContext(canvas);
+        return canvas.painted();
+    }
+    Calls drawnInWidth(CGFloat width) {
+        label->setFrame(CGRectMake(0, 0, width, 20));
+        return drawn();
+    }
+};
+
+} // namespace
+
+TEST_F(Label, ANewLabelShowsNothing) {
+    EXPECT_EQ(label->text(), std::nullopt);
+    EXPECT_FALSE(label->attributedText());
+    EXPECT_FALSE(label->showsSomething());
+    EXPECT_EQ(label->textAlignment(), NSTextAlignmentLeft);
+    EXPECT_EQ(label->font()->pointSize(), 17);
+    EXPECT_EQ(create<UILabel>()->textColor(), UIColor::labelColor());
+    EXPECT_EQ(drawn(), Calls{});
+}
+
+TEST_F(Label, ItTakesNoTouches) {
+    EXPECT_FALSE(label->isUserInteractionEnabled());
+    EXPECT_FALSE(create<UILabel>(create<NSCoder>())->isUserInteractionEnabled());
+    EXPECT_FALSE(create<UILabel>()->isUserInteractionEnabled());
+}
+
+TEST_F(Label, AnEmptyTextShowsNothingAndIsNotTheSameAsNone) {
+    label->setText("");
+    EXPECT_EQ(label->text(), "");
+    EXPECT_FALSE(label->showsSomething());
+    EXPECT_EQ(drawn(), Calls{});
+    EXPECT_EQ(label->sizeThatFits({}), CGSizeMake(0, 20));
+    label->setText(std::nullopt);
+    EXPECT_EQ(label->sizeThatFits({}), CGSizeMake(0, 0));
+}
+
+TEST_F(Label, ATextIsCentredOnTheHeightAndAlignedOnTheWidth) {
+    label->setText("abc");
+    EXPECT_TRUE(label->showsSomething());
+    // 30 by 20 points in 100 by 40.
+    EXPECT_EQ(drawn(), Calls{"text abc at 0 10 with 0 0 0 1"});
+    label->setTextAlignment(NSTextAlignmentCenter);
+    EXPECT_EQ(drawn(), Calls{"text abc at 35 10 with 0 0 0 1"});
+    label->setTextAlignment(NSTextAlignmentRight);
+    EXPECT_EQ(drawn(), Calls{"text abc at 70 10 with 0 0 0 1"});
+}
+
+TEST_F(Label, ATextIsPlacedInBoundsThatAreScrolled) {
+    label->setText("abc");
+    label->setTextAlignment(NSTextAlignmentRight);
+    label->setBounds(CGRectMake(1000, 2000, 100, 40));
+    EXPECT_EQ(drawn(), Calls{"text abc at 1070 2010 with 0 0 0 1"});
+}
+
+TEST_F(Label, ALineHigherThanTheBoundsStaysCentred) {
+    label->setText("abc");
+    label->setFrame(CGRectMake(0, 0, 100, 10));
+    EXPECT_EQ(drawn(), Calls{"text abc at 0 -5 with 0 0 0 1"});
+}
+
+TEST_F(Label, TheFittingSizeIsTheTexts) {
+    label->setText("abc");
+    EXPECT_EQ(label->sizeThatFits({5, 5}), CGSizeMake(30, 20)) << "whatever there is room for";
+    label->sizeToFit();
+    EXPECT_EQ(label->frame(), CGRectMake(5, 6, 30, 20));
+    EXPECT_EQ(drawn(), Calls{"text abc at 0 0 with 0 0 0 1"});
+}
+
+TEST_F(Label, ATextThatIsTooLongEndsInAnEllipsis) {
+    label->setText("abcdef");
+    EXPECT_EQ(drawnInWidth(60), Calls{"text abcdef at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(59), Calls{"text abcd\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(50), Calls{"text abcd\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(49), Calls{"text abc\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(20), Calls{"text a\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(5), Calls{"text \u2026 at 0 0 with 0 0 0 1"}) << "at least that there is something";
+}
+
+TEST_F(Label, ABoundsThatIsAHairTooNarrowIsNoReasonToCut) {
+    label->setText("abcdef");
+    label->setTextAlignment(NSTextAlignmentRight);
+    EXPECT_EQ(drawnInWidth(59.995), Calls{"text abcdef at -0.005 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(59.985), Calls{"text abcd\u2026 at 9.985 0 with 0 0 0 1"});
+}
+
+TEST_F(Label, WhatIsCutIsAlignedAsItIs) {
+    label->setText("abcdef");
+    label->setTextAlignment(NSTextAlignmentRight);
+    EXPECT_EQ(drawnInWidth(59), Calls{"text abcd\u2026 at 9 0 with 0 0 0 1"});
+    label->setTextAlignment(NSTextAlignmentCenter);
+    EXPECT_EQ(drawn(), Calls{"text abcd\u2026 at 4.5 0 with 0 0 0 1"});
+}
+
+TEST_F(Label, ATextIsCutBetweenCodePoints) {
+    label->setText("\u00e4\u20ac\U0001F3C3z");
+    EXPECT_EQ(drawnInWidth(40), Calls{"text \u00e4\u20ac\U0001F3C3z at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(39), Calls{"text \u00e4\u20ac\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(29), Calls{"text \u00e4\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnInWidth(19), Calls{"text \u2026 at 0 0 with 0 0 0 1"});
+}
+
+TEST_F(Label, ATextIsCutBetweenCodePointsAlsoWhereHalfOfOneWouldFit) {
+    struct ByteEngine : UITextEngine {
+        CGSize sizeOfText_font(std::string_view text, const UIFont&) override { return {10.0 * static_cast<CGFloat>(text.size()), 20}; }
+    };
+    UITextEngine::setShared(create<ByteEngine>());
+    label->setText("\u00e4\u00e4\u00e4\u00e4");
+    // 65 points hold six bytes, three of them the ellipsis: there is room for one and a half of the others.
+    EXPECT_EQ(drawnInWidth(65), Calls{"text \u00e4\u2026 at 0 0 with 0 0 0 1"});
+}
+
+TEST_F(Label, ATextOfStrayBytesIsCutWithoutEnd) {
+    label->setText("a\x80\x80\x80");
+    engine->setCodePointWidth(1000);
+    EXPECT_EQ(drawnInWidth(10), Calls{"text \u2026 at 0 0 with 0 0 0 1"});
+}
+
+TEST_F(Label, ATextIsMeasuredOnceHoweverOftenItIsDrawn) {
+    label->setText("abc");
+    engine->count = 0;
+    drawn();
+    EXPECT_EQ(engine->count, 1);
+    drawn();
+    label->setFrame(CGRectMake(50, 60, 100, 80)); // The width stays.
+    label->setTextAlignment(NSTextAlignmentRight);
+    label->setTextColor(UIColor::whiteColor());
+    label->setText("abc");
+    drawn();
+    EXPECT_EQ(engine->count, 1);
+}
+
+TEST_F(Label, WhatChangesTheTextOrTheWidthMeasuresAnew) {
+    label->setText("abc");
+    drawn();
+    engine->count = 0;
+    label->setText("abcd");
+    drawn();
+    EXPECT_EQ(engine->count, 1);
+    label->setFont(UIFont::systemFontOfSize_weight(30));
+    drawn();
+    EXPECT_EQ(engine->count, 2);
+    label->setFrame(CGRectMake(0, 0, 90, 40));
+    drawn();
+    EXPECT_EQ(engine->count, 3);
+    label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("abcd", {}));
+    drawn();
+    EXPECT_EQ(engine->count, 4);
+}
+
+TEST_F(Label, AnAttributedTextGoesBeforeTheLabelsOwnFontAndColour) {
+    label->setFont(UIFont::systemFontOfSize_weight(10));
+    const auto text = NSAttributedString::attributedStringWithString_attributes(
+        "xy", {UIFont::systemFontOfSize_weight(33), UIColor::colorWithRed_green_blue_alpha(1, 0, 0, 1)});
+    label->setAttributedText(text);
+    EXPECT_EQ(label->attributedText(), text);
+    EXPECT_EQ(label->text(), "xy");
+    EXPECT_TRUE(label->showsSomething());
+    EXPECT_EQ(drawn(), Calls{"text xy at 0 10 with 1 0 0 1"});
+    EXPECT_EQ(canvas.fontSizes, std::vector<CGFloat>{33});
+}
+
+TEST_F(Label, WhatAnAttributedTextLeavesOpenTheLabelGives) {
+    label->setFont(UIFont::systemFontOfSize_weight(10));
+    label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("xy", {}));
+    EXPECT_EQ(drawn(), Calls{"text xy at 0 10 with 0 0 0 1"});
+    EXPECT_EQ(canvas.fontSizes, std::vector<CGFloat>{10});
+}
+
+TEST_F(Label, APlainTextReplacesAnAttributedOneAlsoOfTheSameWords) {
+    label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("xy", {nullptr, UIColor::whiteColor()}));
+    label->setText("xy");
+    EXPECT_FALSE(label->attributedText());
+    EXPECT_EQ(drawn(), Calls{"text xy at 0 10 with 0 0 0 1"});
+}
+
+TEST_F(Label, NoAttributedTextIsNoText) {
+    label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("xy", {}));
+    label->setAttributedText(nullptr);
+    EXPECT_EQ(label->text(), std::nullopt);
+    EXPECT_EQ(drawn(), Calls{});
+}
+
+TEST_F(Label, AnEmptyReferenceGivesTheSystemFont) {
+    label->setFont(UIFont::systemFontOfSize_weight(40, UIFontWeight::Bold));
+    label->setFont(nullptr);
+    ASSERT_TRUE(label->font());
+    EXPECT_EQ(label->font()->pointSize(), 17);
+    EXPECT_EQ(label->font()->weight(), UIFontWeight::Regular);
+}
+
+TEST_F(Label, AChangeAsksForAFrameAndTheSameValueDoesNot) {
+    const auto window = create<UIWindow>(CGRectMake(0, 0, 200, 200));
+    window->addSubview(label);
+    window->tick(0);
+    label->setText("a");
+    EXPECT_TRUE(window->tick(1));
+    label->setText("a");
+    EXPECT_FALSE(window->tick(1));
+    label->setFont(UIFont::systemFontOfSize_weight(30));
+    EXPECT_TRUE(window->tick(1));
+    label->setFont(UIFont::systemFontOfSize_weight(30));
+    EXPECT_FALSE(window->tick(1)) << "another font object, but the same font";
+    label->setTextColor(UIColor::whiteColor());
+    EXPECT_TRUE(window->tick(1));
+    label->setTextColor(UIColor::whiteColor());
+    EXPECT_FALSE(window->tick(1));
+    label->setTextAlignment(NSTextAlignmentCenter);
+    EXPECT_TRUE(window->tick(1));
+    label->setTextAlignment(NSTextAlignmentCenter);
+    EXPECT_FALSE(window->tick(1));
+    const auto text = NSAttributedString::attributedStringWithString_attributes("a", {});
+    label->setAttributedText(text);
+    EXPECT_TRUE(window->tick(1));
+    label->setAttributedText(text);
+    EXPECT_FALSE(window->tick(1));
+    label->setText(std::nullopt);
+    EXPECT_TRUE(window->tick(1));
+    label->setText(std::nullopt);
+    EXPECT_FALSE(window->tick(1));
+    label->setAttributedText(nullptr);
+    EXPECT_FALSE(window->tick(1)) << "there was none";
+}
+
+TEST_F(Label, ItRestoresTextAlignmentAndFontSize) {
+    const auto coder = create<NSCoder>();
+    coder->encodeString_forKey("abc", "text");
+    coder->encodeInteger_forKey(2, "textAlignment");
+    coder->encodeDouble_forKey(25, "fontSize");
+    coder->encodeCGRect_forKey(CGRectMake(1, 2, 3, 4), "frame");
+    const auto restored = create<UILabel>(coder);
+    EXPECT_EQ(restored->text(), "abc");
+    EXPECT_EQ(restored->textAlignment(), NSTextAlignmentRight);
+    EXPECT_EQ(restored->font()->pointSize(), 25);
+    EXPECT_EQ(restored->frame(), CGRectMake(1, 2, 3, 4));
+}
+
+TEST_F(Label, WhatACoderLacksKeepsItsDefault) {
+    const auto coder = create<NSCoder>();
+    coder->encodeInteger_forKey(9, "textAlignment");
+    for (const auto& restored : {create<UILabel>(coder), create<UILabel>(Ref<NSCoder>())}) {
+        EXPECT_EQ(restored->text(), std::nullopt);
+        EXPECT_EQ(restored->textAlignment(), NSTextAlignmentLeft);
+        EXPECT_EQ(restored->font()->pointSize(), 17);
+    }
+}

@@ -1,0 +1,300 @@
+// The tree of views: who is above whom, and who is told of it.
+
+#include <functional>
+
+#include <gtest/gtest.h>
+
+#include "UIWindow.h"
+
+using namespace gx;
+using Views = std::vector<Ref<UIView>>;
+
+namespace {
+
+/// Counts its moves between windows and may do something then.
+struct Mover : UIView {
+    int moves = 0;
+    UIWindow* lastWindow = nullptr;
+    std::function<void()> whenMoved;
+    void didMoveToWindow() override {
+        ++moves;
+        lastWindow = window().get();
+        const std::function<void()> action = whenMoved; // It may be replaced while it runs.
+        if (action) action();
+    }
+};
+
+struct Tree : testing::Test {
+    Ref<UIView> above = create<UIView>();
+    Ref<UIView> a = create<UIView>();
+    Ref<UIView> b = create<UIView>();
+    Ref<UIView> c = create<UIView>();
+
+    void addAll() {
+        for (const Ref<UIView>& view : {a, b, c}) above->addSubview(view);
+    }
+};
+
+} // namespace
+
+TEST_F(Tree, ASubviewGoesOnTop) {
+    addAll();
+    EXPECT_EQ(above->subviews(), (Views{a, b, c}));
+    EXPECT_EQ(a->superview(), above);
+    EXPECT_FALSE(above->superview());
+}
+
+TEST_F(Tree, ASubviewGoesBelowThoseFromItsIndexOn) {
+    above->addSubview(a);
+    above->insertSubview_atIndex(b, 0);
+    EXPECT_EQ(above->subviews(), (Views{b, a}));
+    above->insertSubview_atIndex(c, 1);
+    EXPECT_EQ(above->subviews(), (Views{b, c, a}));
+}
+
+TEST_F(Tree, AnIndexOutsideTheListMeansItsNearerEnd) {
+    above->addSubview(a);
+    above->insertSubview_atIndex(b, -5);
+    EXPECT_EQ(above->subviews(), (Views{b, a}));
+    above->insertSubview_atIndex(c, 99);
+    EXPECT_EQ(above->subviews(), (Views{b, a, c}));
+}
+
+TEST_F(Tree, AddingASubviewAgainMovesItToTheTop) {
+    addAll();
+    above->addSubview(a);
+    EXPECT_EQ(above->subviews(), (Views{b, c, a}));
+    above->insertSubview_atIndex(a, 0);
+    EXPECT_EQ(above->subviews(), (Views{a, b, c}));
+    EXPECT_EQ(a->superview(), above);
+}
+
+TEST_F(Tree, ASubviewCanBeNamedByItsEntryInTheList) {
+    addAll();
+    above->addSubview(above->subviews()[0]);
+    EXPECT_EQ(above->subviews(), (Views{b, c, a}));
+    b->addSubview(above->subviews()[1]);
+    EXPECT_EQ(above->subviews(), (Views{b, a}));
+    EXPECT_EQ(b->subviews(), Views{c});
+}
+
+TEST_F(Tree, AViewHasOneSuperviewAtMost) {
+    addAll();
+    b->addSubview(a);
+    EXPECT_EQ(above->subviews(), (Views{b, c}));
+    EXPECT_EQ(b->subviews(), Views{a});
+    EXPECT_EQ(a->superview(), b);
+}
+
+TEST_F(Tree, NoViewComesBelowItselfOrNothing) {
+    above->addSubview(a);
+    a->addSubview(b);
+    above->addSubview(above);
+    b->addSubview(a);
+    b->addSubview(above);
+    above->addSubview(nullptr);
+    EXPECT_EQ(above->subviews(), Views{a});
+    EXPECT_EQ(a->subviews(), Views{b});
+    EXPECT_TRUE(b->subviews().empty());
+    EXPECT_FALSE(above->superview());
+}
+
+TEST_F(Tree, ARemovedViewHasNoSuperview) {
+    addAll();
+    b->removeFromSuperview();
+    EXPECT_EQ(above->subviews(), (Views{a, c}));
+    EXPECT_FALSE(b->superview());
+    b->removeFromSuperview();
+    EXPECT_EQ(above->subviews(), (Views{a, c})) << "it is gone already";
+}
+
+TEST_F(Tree, AViewIsADescendantOfItselfAndOfAllAboveIt) {
+    above->addSubview(a);
+    a->addSubview(b);
+    EXPECT_TRUE(b->isDescendantOfView(b));
+    EXPECT_TRUE(b->isDescendantOfView(a));
+    EXPECT_TRUE(b->isDescendantOfView(above));
+    EXPECT_FALSE(above->isDescendantOfView(b));
+    EXPECT_FALSE(b->isDescendantOfView(c));
+    EXPECT_FALSE(b->isDescendantOfView(nullptr));
+}
+
+TEST_F(Tree, ASuperviewOwnsItsSubviewsAndNobodyOwnsUpward) {
+    const WeakRef<UIView> weakA = a;
+    const WeakRef<UIView> weakAbove = above;
+    above->addSubview(a);
+    a = nullptr;
+    EXPECT_FALSE(weakA.expired());
+    above = nullptr;
+    EXPECT_TRUE(weakAbove.expired());
+    EXPECT_TRUE(weakA.expired());
+}
+
+TEST_F(Tree, ASubviewThatOutlivesItsSuperviewHasNone) {
+    above->addSubview(a);
+    above = nullptr;
+    EXPECT_FALSE(a->superview());
+    a->setNeedsLayout();
+    a->removeFromSuperview();
+    EXPECT_FALSE(a->window());
+}
+
+// Windows
+
+TEST_F(Tree, TheWindowIsTheRootIfThatIsOne) {
+    const auto window = create<UIWindow>();
+    EXPECT_EQ(window->window(), window);
+    EXPECT_FALSE(a->window());
+    above->addSubview(a);
+    window->addSubview(above);
+    EXPECT_EQ(a->window(), window);
+}
+
+TEST_F(Tree, AViewAndAllBelowItAreToldOfTheirWindow) {
+    const auto window = create<UIWindow>();
+    const auto outer = create<Mover>();
+    const auto inner = create<Mover>();
+    outer->addSubview(inner);
+    window->addSubview(outer);
+    EXPECT_EQ(outer->moves, 1);
+    EXPECT_EQ(inner->moves, 1);
+    EXPECT_EQ(inner->lastWindow, window.get());
+    outer->removeFromSuperview();
+    EXPECT_EQ(outer->moves, 2);
+    EXPECT_EQ(inner->moves, 2);
+    EXPECT_FALSE(inner->lastWindow);
+}
+
+TEST_F(Tree, WithoutAWindowNobodyIsTold) {
+    const auto mover = create<Mover>();
+    above->addSubview(mover);
+    mover->removeFromSuperview();
+    EXPECT_EQ(mover->moves, 0);
+}
+
+TEST_F(Tree, AnotherPlaceAmongTheSameSiblingsIsNoMove) {
+    const auto window = create<UIWindow>();
+    const auto mover = create<Mover>();
+    window->addSubview(mover);
+    window->addSubview(a);
+    window->addSubview(mover);
+    EXPECT_EQ(mover->moves, 1);
+}
+
+TEST_F(Tree, AViewThatGoesToAnotherWindowKnowsTheNewOne) {
+    const auto first = create<UIWindow>();
+    const auto second = create<UIWindow>();
+    const auto mover = create<Mover>();
+    first->addSubview(mover);
+    second->addSubview(mover);
+    EXPECT_EQ(mover->lastWindow, second.get());
+    EXPECT_TRUE(first->subviews().empty());
+}
+
+TEST_F(Tree, ViewsThatOutliveTheirWindowAreTold) {
+    auto window = create<UIWindow>();
+    const auto mover = create<Mover>();
+    window->addSubview(mover);
+    window = nullptr;
+    EXPECT_EQ(mover->moves, 2);
+    EXPECT_FALSE(mover->lastWindow);
+    EXPECT_FALSE(mover->superview());
+}
+
+// Callbacks that change the tree
+
+TEST_F(Tree, AllAreToldOfTheWindowThoughOneOfThemLeaves) {
+    const auto window = create<UIWindow>();
+    const auto leaving = create<Mover>();
+    const auto staying = create<Mover>();
+    above->addSubview(leaving);
+    above->addSubview(staying);
+    leaving->whenMoved = [&] {
+        leaving->whenMoved = nullptr;
+        leaving->removeFromSuperview();
+    };
+    window->addSubview(above);
+    EXPECT_EQ(leaving->moves, 2) << "it came and left";
+    EXPECT_EQ(staying->moves, 1);
+    EXPECT_EQ(staying->lastWindow, window.get());
+}
+
+TEST_F(Tree, AViewThatASiblingTakesAwayIsToldOfThatAlone) {
+    const auto window = create<UIWindow>();
+    const auto taker = create<Mover>();
+    const auto taken = create<Mover>();
+    above->addSubview(taker);
+    above->addSubview(taken);
+    taker->whenMoved = [&] {
+        taker->whenMoved = nullptr;
+        taken->removeFromSuperview();
+    };
+    window->addSubview(above);
+    EXPECT_EQ(taken->moves, 1) << "it left, before it was told that it came";
+    EXPECT_EQ(taken->lastWindow, nullptr);
+}
+
+TEST_F(Tree, AViewAddedWhenItsSuperviewComesIsToldOnce) {
+    const auto window = create<UIWindow>();
+    const auto outer = create<Mover>();
+    const auto inner = create<Mover>();
+    outer->whenMoved = [&] { outer->addSubview(inner); };
+    window->addSubview(outer);
+    EXPECT_EQ(inner->moves, 1);
+    outer->whenMoved = nullptr;
+}
+
+TEST_F(Tree, AViewThatGoesElsewhereOnItsWayHasOneSuperview) {
+    const auto window = create<UIWindow>();
+    const auto mover = create<Mover>();
+    window->addSubview(mover);
+    mover->whenMoved = [&] {
+        mover->whenMoved = nullptr;
+        b->addSubview(mover);
+    };
+    a->addSubview(mover); // It leaves the window on the way to a, is told, and goes to b.
+    EXPECT_EQ(mover->superview(), b);
+    EXPECT_EQ(b->subviews(), Views{mover});
+    EXPECT_TRUE(a->subviews().empty());
+}
+
+TEST_F(Tree, AViewThatTakesItsNewSuperviewOnTheWayIsNotBelowItself) {
+    const auto window = create<UIWindow>();
+    const auto mover = create<Mover>();
+    window->addSubview(mover);
+    mover->whenMoved = [&] {
+        mover->whenMoved = nullptr;
+        mover->addSubview(a);
+    };
+    a->addSubview(mover);
+    EXPECT_FALSE(mover->superview());
+    EXPECT_EQ(mover->subviews(), Views{a});
+    EXPECT_TRUE(a->subviews().empty());
+}
+
+TEST_F(Tree, ASuperviewThatNobodyHoldsAnyMoreSurvivesTheAdding) {
+    const auto window = create<UIWindow>();
+    const auto mover = create<Mover>();
+    window->addSubview(mover);
+    Ref<UIView> target = create<UIView>();
+    const WeakRef<UIView> weak = target;
+    mover->whenMoved = [&] {
+        mover->whenMoved = nullptr;
+        target = nullptr;
+    };
+    UIView& raw = *target;
+    raw.addSubview(mover);
+    EXPECT_TRUE(weak.expired());
+    EXPECT_FALSE(mover->superview());
+}
+
+TEST_F(Tree, AViewMayDropItsLastReferenceWhenItLeaves) {
+    const auto window = create<UIWindow>();
+    Ref<Mover> mover = create<Mover>();
+    const WeakRef<Mover> weak = mover;
+    window->addSubview(mover);
+    mover->whenMoved = [&mover] { mover = nullptr; };
+    window->subviews()[0]->removeFromSuperview();
+    EXPECT_TRUE(weak.expired());
+    EXPECT_TRUE(window->subviews().empty());
+}
