@@ -1,0 +1,217 @@
+#include "QtCanvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPainter>
+#include <QString>
+
+namespace gx::qt {
+
+namespace {
+
+// Stands for "no clip": larger than any device, small enough for sums of coordinates.
+const QRect everywhere(QPoint(-(1 << 24), -(1 << 24)), QPoint((1 << 24) - 1, (1 << 24) - 1));
+
+QColor colorOf(const UIColorComponents& color, double alpha) {
+    const auto component = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
+    return QColor::fromRgbF(component(color.red), component(color.green), component(color.blue), component(color.alpha * alpha));
+}
+
+/// The nearest whole pixel, held to `everywhere`. Halves go upward, so that neighbours meet.
+int pixel(double coordinate) {
+    if (std::isnan(coordinate)) return 0;
+    return static_cast<int>(
+        std::clamp(std::floor(coordinate + 0.5), static_cast<double>(everywhere.left()), static_cast<double>(everywhere.right())));
+}
+
+/// In whole pixels, at least one each way.
+QRect snapped(const QRectF& area) {
+    const int left = pixel(area.left());
+    const int top = pixel(area.top());
+    return {left, top, std::max(pixel(area.right()) - left, 1), std::max(pixel(area.bottom()) - top, 1)};
+}
+
+/// The resolution in which a text is set that is drawn at this scale: the frame's own, or that doubled or halved as often as
+/// it takes. So a row that shrinks little by little while it turns away is drawn from one image all the time.
+double resolutionFor(double scale, double baseScale) {
+    constexpr double rounding = 1e-9; // What multiplying scales up and down leaves of exactly the frame's.
+    return baseScale * std::exp2(std::ceil(std::log2(scale / baseScale) - rounding));
+}
+
+bool isWhole(double scale) { return std::fabs(scale - 1) < 1e-9; }
+
+} // namespace
+
+QtCanvas::QtCanvas(Ref<QtTextEngine> engine, std::shared_ptr<QtTextImageCache> texts, std::shared_ptr<QtImageCache> pictures)
+    : engine_(std::move(engine)), texts_(std::move(texts)), pictures_(std::move(pictures)) {}
+
+void QtCanvas::begin(QPainter& painter) {
+    painter_ = &painter;
+    saved_.clear();
+    state_ = {};
+    baseScale_ = 1;
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QTransform device = painter.deviceTransform();
+    const bool isClipped = painter.hasClipping();
+    QRectF clip = isClipped ? painter.clipBoundingRect() : QRectF();
+    // A painter that is turned or sheared keeps its transform, and its units stand for device pixels.
+    if (device.type() <= QTransform::TxScale && device.isInvertible()) {
+        state_.scaleX = device.m11();
+        state_.scaleY = device.m22();
+        state_.x = device.dx();
+        state_.y = device.dy();
+        baseScale_ = std::max(std::fabs(device.m11()), std::fabs(device.m22()));
+        clip = device.mapRect(clip);
+        // From here on the painter's units are device pixels, in which it copies images fastest.
+        painter.setWorldTransform(device.inverted() * painter.worldTransform());
+    }
+    state_.clip = isClipped ? snapped(clip) : everywhere;
+    paintedClip_ = state_.clip;
+    painter.setOpacity(1);
+    paintedAlpha_ = 1;
+}
+
+void QtCanvas::end() {
+    if (!painter_) return;
+    painter_->restore();
+    painter_ = nullptr;
+}
+
+void QtCanvas::saveState() { saved_.push_back(state_); }
+
+void QtCanvas::restoreState() {
+    if (saved_.empty()) return;
+    state_ = saved_.back();
+    saved_.pop_back();
+}
+
+void QtCanvas::translate(CGFloat x, CGFloat y) {
+    state_.x += x * state_.scaleX;
+    state_.y += y * state_.scaleY;
+}
+
+void QtCanvas::scale(CGFloat x, CGFloat y) {
+    state_.scaleX *= x;
+    state_.scaleY *= y;
+}
+
+void QtCanvas::clipToRect(CGRect rect) {
+    const QRectF area = mapped(rect);
+    const QPoint first(pixel(area.left()), pixel(area.top()));
+    const QSize size(pixel(area.right()) - first.x(), pixel(area.bottom()) - first.y());
+    state_.clip = state_.clip.intersected(QRect(first, size));
+}
+
+void QtCanvas::multiplyAlpha(double alpha) { state_.alpha *= std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0); }
+
+QRectF QtCanvas::mapped(CGRect rect) const {
+    const double x = state_.x + rect.origin.x * state_.scaleX;
+    const double y = state_.y + rect.origin.y * state_.scaleY;
+    return QRectF(x, y, rect.size.width * state_.scaleX, rect.size.height * state_.scaleY).normalized();
+}
+
+/// Answers whether anything of the area is to be seen, and readies the painter's clip.
+bool QtCanvas::prepareClip(const QRectF& area) {
+    // Written so that a coordinate that is no number is never seen.
+    const bool isSeen = painter_ != nullptr && state_.alpha > 0 && !state_.clip.isEmpty() && area.left() < state_.clip.right() + 1 &&
+                        area.right() > state_.clip.left() && area.top() < state_.clip.bottom() + 1 && area.bottom() > state_.clip.top();
+    if (!isSeen) return false;
+    if (state_.clip != paintedClip_) {
+        if (state_.clip == everywhere) {
+            painter_->setClipping(false);
+        } else {
+            painter_->setClipRect(state_.clip, Qt::ReplaceClip);
+        }
+        paintedClip_ = state_.clip;
+    }
+    return true;
+}
+
+void QtCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) {
+    const QRect area = snapped(mapped(rect));
+    if (!prepareClip(area)) return;
+    if (paintedAlpha_ != 1) painter_->setOpacity(paintedAlpha_ = 1); // The colour has it.
+    const QColor filling = colorOf(color, state_.alpha);
+    const double radiusX = std::min(cornerRadius * std::fabs(state_.scaleX), 0.5 * area.width());
+    const double radiusY = std::min(cornerRadius * std::fabs(state_.scaleY), 0.5 * area.height());
+    if (!(radiusX > 0) || !(radiusY > 0)) {
+        painter_->fillRect(area.intersected(state_.clip), filling);
+        return;
+    }
+    painter_->setRenderHint(QPainter::Antialiasing);
+    painter_->setPen(Qt::NoPen);
+    painter_->setBrush(filling);
+    painter_->drawRoundedRect(area, radiusX, radiusY);
+    painter_->setRenderHint(QPainter::Antialiasing, false);
+}
+
+/// The image fills the area, both in device pixels.
+void QtCanvas::drawMapped(const QImage& image, const QRectF& area) {
+    if (!prepareClip(area)) return;
+    if (paintedAlpha_ != state_.alpha) painter_->setOpacity(paintedAlpha_ = state_.alpha);
+    const bool isMirrored = state_.scaleX < 0 || state_.scaleY < 0;
+    const QImage& drawn = isMirrored ? image.mirrored(state_.scaleX < 0, state_.scaleY < 0) : image;
+    if (area.width() == image.width() && area.height() == image.height()) {
+        painter_->drawImage(QPoint(pixel(area.left()), pixel(area.top())), drawn);
+    } else {
+        painter_->drawImage(area, drawn);
+    }
+}
+
+void QtCanvas::drawTextWithComponents(std::string_view text, const UIFont& font, const UIColorComponents& color, CGPoint origin) {
+    const double scale = std::max(std::fabs(state_.scaleX), std::fabs(state_.scaleY));
+    const bool isShown = painter_ != nullptr && state_.alpha > 0 && std::isfinite(scale) && scale > 0;
+    if (!isShown) return;
+    const double resolution = resolutionFor(scale, baseScale_);
+    const QtTextEngine::Face& face = engine_->faceOfFont(font);
+    const QRgb rgba = colorOf(color, 1).rgba();
+    const QtTextImage* drawn = texts_->imageOfText(text, face, font.pointSize() * resolution, rgba);
+    if (!drawn) {
+        drawTextDirectly(text, face, font.pointSize(), rgba, origin);
+        return;
+    }
+    if (drawn->image.isNull()) return;
+    // From the pixels of the image to those of the device.
+    const double shareX = state_.scaleX / resolution;
+    const double shareY = state_.scaleY / resolution;
+    double penX = state_.x + origin.x * state_.scaleX;
+    double baseline = state_.y + (origin.y + face.ascent * font.pointSize()) * state_.scaleY;
+    if (isWhole(shareX)) penX = std::floor(penX + 0.5);
+    if (isWhole(shareY)) baseline = std::floor(baseline + 0.5);
+    const QRectF area(penX - drawn->penX * shareX, baseline - drawn->baseline * shareY, drawn->image.width() * shareX,
+                      drawn->image.height() * shareY);
+    drawMapped(drawn->image, area.normalized());
+}
+
+/// For text that is too large for an image.
+void QtCanvas::drawTextDirectly(std::string_view text, const QtTextEngine::Face& face, double size, QRgb color, CGPoint origin) {
+    // What it covers is not worth measuring: the painter leaves out what is outside the clip.
+    if (!prepareClip(QRectF(everywhere))) return;
+    if (paintedAlpha_ != state_.alpha) painter_->setOpacity(paintedAlpha_ = state_.alpha);
+    const QTransform before = painter_->worldTransform();
+    const double em = size / QtTextEngine::facePixelSize;
+    painter_->translate(state_.x + origin.x * state_.scaleX, state_.y + (origin.y + face.ascent * size) * state_.scaleY);
+    painter_->scale(em * state_.scaleX, em * state_.scaleY);
+    painter_->setRenderHint(QPainter::Antialiasing);
+    painter_->setFont(face.font);
+    painter_->setPen(QColor::fromRgba(color));
+    painter_->drawText(QPointF(0, 0), QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    painter_->setRenderHint(QPainter::Antialiasing, false);
+    painter_->setWorldTransform(before);
+}
+
+void QtCanvas::drawImageInRect(const UIImage& image, CGRect rect) {
+    QRectF area = mapped(rect);
+    if (!prepareClip(area)) return;
+    const QImage picture = pictures_->imageOfSize(image, area.width(), area.height());
+    // Pixel by pixel where the sizes agree but for what adding up fractions leaves.
+    constexpr double tolerance = 1e-6;
+    if (std::fabs(area.width() - picture.width()) < tolerance && std::fabs(area.height() - picture.height()) < tolerance) {
+        area = QRectF(area.topLeft(), QSizeF(picture.size()));
+    }
+    drawMapped(picture, area);
+}
+
+} // namespace gx::qt

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <list>
+#include <memory>
+#include <vector>
+
+#include <QImage>
+
+#include "UIImage.h"
+
+namespace gx::qt {
+
+/// Pictures as Qt draws them, each converted once and halved as often as it is drawn smaller.
+///
+/// Supports: any `UIImage`; bounded by bytes, but for the picture used last; lets go of pictures that nobody holds any longer. A picture
+/// that is held by no reference at all is converted each time.
+class QtImageCache {
+public:
+    /// Enough for a screen full of icons or two photographs.
+    static constexpr std::size_t defaultCapacity = std::size_t{32} << 20U;
+
+    explicit QtImageCache(std::size_t byteCapacity = defaultCapacity) : capacity_(byteCapacity) {}
+
+    /// The one that canvases share; never empty.
+    static const std::shared_ptr<QtImageCache>& shared();
+
+    /// The whole picture, at least as large as asked for or in its full size, but less than twice as large in both directions:
+    /// smooth scaling looks at four pixels for each new one, so it must not leave out others.
+    QImage imageOfSize(const UIImage& image, double pixelWidth, double pixelHeight);
+
+    std::size_t byteCount() const { return byteCount_; }
+    std::size_t pictureCount() const { return entries_.size(); }
+    /// How many pictures were converted or halved.
+    std::size_t conversionCount() const { return conversionCount_; }
+    void purge();
+
+private:
+    struct Entry {
+        WeakRef<const NSObject> picture;
+        const UIImage* address; // Compared only, and only while the picture lives.
+        std::vector<QImage> halvings;
+    };
+    QImage halved(std::vector<QImage>& halvings, double pixelWidth, double pixelHeight);
+    void forget(std::list<Entry>::iterator entry);
+    void trim();
+
+    std::size_t capacity_;
+    std::size_t byteCount_ = 0;
+    std::size_t conversionCount_ = 0;
+    std::list<Entry> entries_; // The one used last comes first.
+};
+
+} // namespace gx::qt

@@ -1,0 +1,134 @@
+#include "QtInput.h"
+
+#include <algorithm>
+
+#include <QEventPoint>
+#include <QMouseEvent>
+#include <QPointingDevice>
+#include <QTouchEvent>
+#include <QWheelEvent>
+
+namespace gx::qt {
+
+namespace {
+
+// Qt counts a wheel in eighths of a degree; a notch is 15 degrees.
+constexpr double unitsOfNotch = 120;
+
+CGPoint pointOf(QPointF place) { return {place.x(), place.y()}; }
+
+QInputDevice::DeviceType typeOf(const QPointerEvent& event) {
+    return event.pointingDevice() ? event.pointingDevice()->type() : QInputDevice::DeviceType::Unknown;
+}
+
+/// Touches come as themselves; the mouse events that a system, or Qt, makes of them would turn everything twice. Those that Qt
+/// makes of a pen come instead of it.
+bool isOfMouse(const QMouseEvent& event) {
+    if (event.source() == Qt::MouseEventSynthesizedBySystem) return false;
+    const QInputDevice::DeviceType type = typeOf(event);
+    const bool isOfTrackpadTouch = type == QInputDevice::DeviceType::TouchPad && event.source() == Qt::MouseEventSynthesizedByQt;
+    return type != QInputDevice::DeviceType::TouchScreen && !isOfTrackpadTouch;
+}
+
+} // namespace
+
+bool QtInput::isDown(std::int64_t finger) const { return std::find(down_.begin(), down_.end(), finger) != down_.end(); }
+
+bool QtInput::begin(std::int64_t finger, QPointF place, NSTimeInterval time) {
+    window_->layoutIfNeeded();
+    const Ref<UIView> hit = window_->hitTest(pointOf(place));
+    if (!hit || hit == window_) return false; // Nothing but the window lies there.
+    if (!isDown(finger)) down_.push_back(finger);
+    window_->touchBegan_at_time(finger, pointOf(place), time);
+    return true;
+}
+
+bool QtInput::move(std::int64_t finger, QPointF place, NSTimeInterval time) {
+    if (!isDown(finger)) return false;
+    window_->touchMoved_at_time(finger, pointOf(place), time);
+    return true;
+}
+
+bool QtInput::end(std::int64_t finger, QPointF place, NSTimeInterval time) {
+    if (!isDown(finger)) return false;
+    std::erase(down_, finger);
+    window_->touchEnded_at_time(finger, pointOf(place), time);
+    return true;
+}
+
+bool QtInput::touch(const QTouchEvent& event, NSTimeInterval time) {
+    if (event.type() == QEvent::TouchCancel) {
+        cancelAll(time);
+        return true;
+    }
+    // Fingers on a trackpad move the pointer and scroll; where they lie on it means nothing on the screen.
+    if (typeOf(event) == QInputDevice::DeviceType::TouchPad) return false;
+    bool isUsed = false;
+    for (const QEventPoint& point : event.points()) {
+        switch (point.state()) {
+        case QEventPoint::State::Pressed:
+            isUsed |= begin(point.id(), point.position(), time);
+            break;
+        case QEventPoint::State::Updated:
+            isUsed |= move(point.id(), point.position(), time);
+            break;
+        case QEventPoint::State::Released:
+            isUsed |= end(point.id(), point.position(), time);
+            break;
+        default:
+            isUsed |= isDown(point.id());
+            break;
+        }
+    }
+    return isUsed;
+}
+
+bool QtInput::mousePress(const QMouseEvent& event, NSTimeInterval time) {
+    return isOfMouse(event) && event.button() == Qt::LeftButton && begin(mouseFinger, event.position(), time);
+}
+
+bool QtInput::mouseMove(const QMouseEvent& event, NSTimeInterval time) {
+    if (!isOfMouse(event) || !isDown(mouseFinger)) return false;
+    if (event.buttons().testFlag(Qt::LeftButton)) return move(mouseFinger, event.position(), time);
+    // The release went elsewhere, say to a menu.
+    std::erase(down_, mouseFinger);
+    window_->touchCancelled_at_time(mouseFinger, time);
+    return true;
+}
+
+bool QtInput::mouseRelease(const QMouseEvent& event, NSTimeInterval time) {
+    return isOfMouse(event) && event.button() == Qt::LeftButton && end(mouseFinger, event.position(), time);
+}
+
+bool QtInput::wheel(const QWheelEvent& event, NSTimeInterval time) {
+    UIScroll scroll;
+    scroll.timestamp = time;
+    scroll.locationInWindow = pointOf(event.position());
+    // Where a system reports no phases, Qt calls its pixels unreliable; there the notches tell more. The beginning and the
+    // end of a stroke may come without any distance.
+    const bool hasNotches = !event.angleDelta().isNull();
+    const bool hasPhase = event.phase() != Qt::NoScrollPhase;
+    if (hasPhase && (!event.pixelDelta().isNull() || !hasNotches)) {
+        scroll.unit = UIScroll::Unit::Points;
+        scroll.deltaX = -event.pixelDelta().x();
+        scroll.deltaY = -event.pixelDelta().y();
+        // Qt ends a stroke when its glide has ended too.
+        scroll.isFinished = event.phase() == Qt::ScrollEnd;
+    } else if (hasNotches) {
+        scroll.deltaX = -event.angleDelta().x() / unitsOfNotch;
+        scroll.deltaY = -event.angleDelta().y() / unitsOfNotch;
+    } else {
+        return false;
+    }
+    return window_->scroll(scroll);
+}
+
+void QtInput::cancelAll(NSTimeInterval time) {
+    while (!down_.empty()) {
+        const std::int64_t finger = down_.back();
+        down_.pop_back();
+        window_->touchCancelled_at_time(finger, time);
+    }
+}
+
+} // namespace gx::qt

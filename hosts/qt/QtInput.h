@@ -1,0 +1,48 @@
+#pragma once
+
+#include <vector>
+
+#include <QPointF>
+
+#include "UIWindow.h"
+
+class QMouseEvent;
+class QTouchEvent;
+class QWheelEvent;
+
+namespace gx::qt {
+
+/// Turns Qt's input events into what a window takes.
+///
+/// Supports: any number of fingers; the mouse with its left button as one more; mouse wheels, also in fractions of a notch and
+/// sideways; trackpads with strokes and glides. Does not support: pens as such (Qt makes mouse events of them), gestures, hovering.
+///
+/// Times are in seconds on the clock of the window's ticks. Each operation answers whether the event was of use; those
+/// that were not are for whoever lies around the view. What views do meanwhile may drop everything but this object,
+/// which the caller has to hold.
+class QtInput {
+public:
+    explicit QtInput(Ref<UIWindow> window) : window_(std::move(window)) {}
+
+    bool touch(const QTouchEvent& event, NSTimeInterval time);
+    bool mousePress(const QMouseEvent& event, NSTimeInterval time);
+    bool mouseMove(const QMouseEvent& event, NSTimeInterval time);
+    bool mouseRelease(const QMouseEvent& event, NSTimeInterval time);
+    bool wheel(const QWheelEvent& event, NSTimeInterval time);
+    /// Takes away all fingers, and the mouse.
+    void cancelAll(NSTimeInterval time);
+
+private:
+    /// The mouse's, apart from the fingers', which count from 0.
+    static constexpr std::int64_t mouseFinger = -1;
+
+    bool isDown(std::int64_t finger) const;
+    bool begin(std::int64_t finger, QPointF place, NSTimeInterval time);
+    bool move(std::int64_t finger, QPointF place, NSTimeInterval time);
+    bool end(std::int64_t finger, QPointF place, NSTimeInterval time);
+
+    Ref<UIWindow> window_;
+    std::vector<std::int64_t> down_;
+};
+
+} // namespace gx::qt

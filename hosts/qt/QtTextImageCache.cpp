@@ -1,0 +1,62 @@
+#include "QtTextImageCache.h"
+
+#include <cmath>
+#include <optional>
+
+#include <QPainter>
+#include <QString>
+
+namespace gx::qt {
+
+namespace {
+
+// A clear edge, so that an image that is drawn smaller or between pixels fades out and is not cut.
+constexpr double margin = 2;
+// Of an entry, beside its pixels.
+constexpr std::size_t overhead = 256;
+
+std::optional<QtTextImage> drawnText(const QString& text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {
+    const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
+    const QRectF ink = face.metrics.tightBoundingRect(text);
+    if (ink.isEmpty()) return QtTextImage{};
+    const double left = std::floor(ink.left() * scale - margin);
+    const double top = std::floor(ink.top() * scale - margin);
+    const double width = std::ceil(ink.right() * scale + margin) - left;
+    const double height = std::ceil(ink.bottom() * scale + margin) - top;
+    const bool fits = width <= QtTextImageCache::largestSide && height <= QtTextImageCache::largestSide;
+    if (!fits) return std::nullopt;
+    QtTextImage drawn = {QImage(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied),
+                         static_cast<int>(-left), static_cast<int>(-top)};
+    drawn.image.fill(Qt::transparent);
+    QPainter painter(&drawn.image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.translate(drawn.penX, drawn.baseline);
+    painter.scale(scale, scale);
+    painter.setFont(face.font);
+    painter.setPen(QColor::fromRgba(color));
+    painter.drawText(QPointF(0, 0), text);
+    return drawn;
+}
+
+} // namespace
+
+const std::shared_ptr<QtTextImageCache>& QtTextImageCache::shared() {
+    static const auto cache = std::make_shared<QtTextImageCache>();
+    return cache;
+}
+
+const QtTextImage* QtTextImageCache::imageOfText(std::string_view text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {
+    const QtTextKey key = {text, face.identifier, color, pixelsPerEm};
+    if (const QtTextImage* known = cache_.find(key)) {
+        ++hitCount_;
+        return known;
+    }
+    ++missCount_;
+    const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    std::optional<QtTextImage> drawn = drawnText(string, face, pixelsPerEm, color);
+    if (!drawn) return nullptr;
+    const std::size_t cost = static_cast<std::size_t>(drawn->image.sizeInBytes()) + text.size() + overhead;
+    return &cache_.insert(key, std::move(*drawn), cost);
+}
+
+} // namespace gx::qt

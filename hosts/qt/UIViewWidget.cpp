@@ -1,0 +1,197 @@
+#include "UIViewWidget.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QInputEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QTouchEvent>
+#include <QWheelEvent>
+
+#include "QtInput.h"
+
+namespace gx::qt {
+
+namespace {
+
+double secondsOf(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) * 1e-9; }
+
+/// Of one frame on the screen; of a usual screen's if the system does not know.
+double framePeriod(const QScreen* screen) {
+    constexpr double usualRate = 60;
+    const double rate = screen ? screen->refreshRate() : usualRate;
+    return 1 / (rate >= 1 ? rate : usualRate);
+}
+
+/// A text that is bright enough to be read on it is bright itself.
+UIUserInterfaceStyle styleOf(const QPalette& palette) {
+    constexpr int middle = 128;
+    return palette.color(QPalette::Window).lightness() < middle ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
+}
+
+} // namespace
+
+UIViewWidget::UIViewWidget(QWidget* parent)
+    : QWidget(parent), window_(gx::create<UIWindow>(CGRectMake(0, 0, width(), height()))), input_(std::make_shared<QtInput>(window_)) {
+    steadyClock_.start();
+    frameTimer_.setSingleShot(true);
+    frameTimer_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&frameTimer_, &QTimer::timeout, this, [this] { stepFrame(); });
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setMouseTracking(true);         // A move without a button tells that a release went elsewhere.
+    setFocusPolicy(Qt::ClickFocus); // A press takes the focus away from where the user was typing.
+    followPalette();
+    window_->setHost(this); // A new window asks for its first frame.
+}
+
+UIViewWidget::~UIViewWidget() { window_->setHost(nullptr); }
+
+void UIViewWidget::setRootView(Ref<UIView> view) {
+    if (view == rootView_) return;
+    if (const Ref<UIView> before = std::move(rootView_); before && before->superview() == window_) before->removeFromSuperview();
+    rootView_ = std::move(view);
+    if (!rootView_) return;
+    const CGSize size = rootView_->bounds().size;
+    sizeHint_ = QSizeF(size.width, size.height).toSize();
+    updateGeometry();
+    window_->addSubview(rootView_);
+    rootView_->setFrame(window_->bounds());
+}
+
+QSize UIViewWidget::sizeHint() const { return rootView_ && !sizeHint_.isEmpty() ? sizeHint_ : QWidget::sizeHint(); }
+
+void UIViewWidget::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    window_->setFrame(CGRectMake(0, 0, width(), height()));
+    // The application may have put the view elsewhere meanwhile.
+    if (rootView_ && rootView_->superview() == window_) rootView_->setFrame(window_->bounds());
+}
+
+// Look
+
+void UIViewWidget::setUserInterfaceStyle(std::optional<UIUserInterfaceStyle> style) {
+    fixedStyle_ = style;
+    followPalette();
+}
+
+void UIViewWidget::followPalette() { window_->setUserInterfaceStyle(fixedStyle_.value_or(styleOf(palette()))); }
+
+void UIViewWidget::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) followPalette();
+    const std::shared_ptr<QtInput> input = input_;
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) input->cancelAll(now());
+}
+
+void UIViewWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    canvas_.begin(painter);
+    window_->draw(canvas_);
+    canvas_.end();
+}
+
+// Time
+
+double UIViewWidget::now() const { return ownClock_ ? ownClock_() : secondsOf(steadyClock_); }
+
+double UIViewWidget::timeOf(const QInputEvent& event) {
+    const double delivery = now();
+    return ownClock_ ? delivery : eventClock_.timeOfEvent(event.timestamp(), delivery);
+}
+
+void UIViewWidget::setClock(std::function<double()> clock, FrameDriver driver) {
+    ownClock_ = std::move(clock);
+    driver_ = ownClock_ ? driver : FrameDriver::Timer;
+    frameTimer_.stop();
+    if (isFrameDue_) scheduleTick();
+}
+
+void UIViewWidget::windowNeedsFrame() {
+    if (isFrameDue_) return;
+    isFrameDue_ = true;
+    scheduleTick();
+}
+
+void UIViewWidget::scheduleTick() {
+    if (driver_ == FrameDriver::Hand) return;
+    // Timers know whole milliseconds only. Counting from when the last tick should have come keeps the screen's rate on average; a
+    // tick that comes late, or first after a rest, starts the count anew.
+    const double present = secondsOf(steadyClock_);
+    nextFrame_ = std::max(nextFrame_ + framePeriod(screen()), present);
+    frameTimer_.start(static_cast<int>(std::lround((nextFrame_ - present) * 1000)));
+}
+
+bool UIViewWidget::stepFrame() {
+    const QPointer<QWidget> self(this); // A delegate may drop the widget.
+    const Ref<UIWindow> window = window_;
+    const bool draws = window->tick(now());
+    if (!self) return draws;
+    isFrameDue_ = draws;
+    if (draws) {
+        update();
+        scheduleTick();
+    } else {
+        frameTimer_.stop();
+    }
+    return draws;
+}
+
+void UIViewWidget::wheelDidTick() {
+    const std::function<void()> handler = wheelTickHandler_; // The handler may be replaced while it runs.
+    if (handler) handler();
+}
+
+// Input. What the views do may drop the widget, so the input is held and nothing of the widget is used afterwards.
+
+bool UIViewWidget::event(QEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel: {
+        const auto& touch = *static_cast<QTouchEvent*>(event); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast): the type says so
+        event->setAccepted(input->touch(touch, timeOf(touch)));
+        return event->isAccepted();
+    }
+    case QEvent::WindowDeactivate: {
+        // The fingers' further way goes to another window, and so may their end.
+        const QPointer<QWidget> self(this);
+        input->cancelAll(now());
+        return self ? QWidget::event(event) : true;
+    }
+    default:
+        return QWidget::event(event);
+    }
+}
+
+void UIViewWidget::hideEvent(QHideEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    QWidget::hideEvent(event);
+    input->cancelAll(now());
+}
+
+void UIViewWidget::mousePressEvent(QMouseEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    event->setAccepted(input->mousePress(*event, timeOf(*event)));
+}
+
+void UIViewWidget::mouseMoveEvent(QMouseEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    event->setAccepted(input->mouseMove(*event, timeOf(*event)));
+}
+
+void UIViewWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    event->setAccepted(input->mouseRelease(*event, timeOf(*event)));
+}
+
+void UIViewWidget::wheelEvent(QWheelEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    event->setAccepted(input->wheel(*event, timeOf(*event)));
+}
+
+} // namespace gx::qt

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include "QtCanvas.h"
+#include "QtEventClock.h"
+#include "UIHost.h"
+
+class QInputEvent;
+
+namespace gx::qt {
+
+class QtInput;
+
+/// Shows any view in a Qt application. Call `installQtHost` once before the first view is made.
+///
+/// Supports: one root view that fills the widget; fingers, mouse, mouse wheel and trackpad (see `QtInput`); any ratio of device
+/// pixels to points, also one that changes between screens; a light and a dark look, by default the palette's. Events that no view made use
+/// of are ignored, so that a QScrollArea around the widget scrolls. Does not support: keyboard, accessibility bridge.
+///
+/// Frames. Nothing runs while nothing changes. A change starts ticks at the screen's refresh rate; each tick moves the views
+/// and has the widget painted, until one finds nothing to draw. Ticks do not depend on the widget being visible: a wheel that turns while
+/// its window is closed comes to rest, and its delegate hears of it.
+///
+/// Time. Frames are on a steady clock that starts with the widget. Input events are brought onto it by their own times
+/// (`QtEventClock`). With a clock of one's own (`setClock`) events happen at the time that it tells on their delivery.
+class UIViewWidget : public QWidget, private UIWindowHost {
+public:
+    explicit UIViewWidget(QWidget* parent = nullptr);
+    ~UIViewWidget() override;
+
+    /// What holds the views; never empty.
+    const Ref<UIWindow>& uiWindow() const { return window_; }
+
+    /// The view that fills the widget, in place of the one before. Nothing for none. Its present size becomes the widget's
+    /// size hint.
+    void setRootView(Ref<UIView> view);
+    const Ref<UIView>& rootView() const { return rootView_; }
+
+    /// The look that colours are drawn in; nothing (the default) for that of the widget's palette, also when it changes. The widget's own
+    /// background stays the palette's.
+    void setUserInterfaceStyle(std::optional<UIUserInterfaceStyle> style);
+    UIUserInterfaceStyle userInterfaceStyle() const { return window_->userInterfaceStyle(); }
+
+    /// Called for each row that passes a wheel's band during a turn by the user: the moment for a click.
+    void setWheelTickHandler(std::function<void()> handler) { wheelTickHandler_ = std::move(handler); }
+
+    // For tests and recordings
+
+    enum class FrameDriver {
+        Timer, ///< ticks come by themselves
+        Hand   ///< only `stepFrame` ticks
+    };
+    /// An empty clock gives the widget's own again, and ticks by themselves.
+    void setClock(std::function<double()> clock, FrameDriver driver = FrameDriver::Hand);
+    /// One tick, now. Answers whether something was to be drawn.
+    bool stepFrame();
+    /// Whether a tick is due, by timer or by hand.
+    bool isFrameDue() const { return isFrameDue_; }
+
+    QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void windowNeedsFrame() override;
+    void wheelDidTick() override;
+
+    double now() const;
+    double timeOf(const QInputEvent& event);
+    void scheduleTick();
+    void followPalette();
+
+    Ref<UIWindow> window_;
+    Ref<UIView> rootView_;
+    std::shared_ptr<QtInput> input_;
+    QtCanvas canvas_;
+    QtEventClock eventClock_;
+    std::optional<UIUserInterfaceStyle> fixedStyle_;
+    std::function<void()> wheelTickHandler_;
+    QSize sizeHint_;
+
+    QElapsedTimer steadyClock_;
+    std::function<double()> ownClock_;
+    FrameDriver driver_ = FrameDriver::Timer;
+    QTimer frameTimer_;
+    double nextFrame_ = 0; // When a tick that is due should come, on the steady clock.
+    bool isFrameDue_ = false;
+};
+
+} // namespace gx::qt

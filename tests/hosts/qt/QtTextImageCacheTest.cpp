@@ -1,0 +1,130 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <new>
+
+#include "Pixels.h"
+#include "QtTextImageCache.h"
+
+namespace {
+std::size_t allocations = 0;
+}
+
+// Counts what the tests here look at. The library functions below them are the usual ones.
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size > 0 ? size : 1)) return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+using namespace gx;
+using gx::qt::QtTextEngine;
+using gx::qt::QtTextImage;
+using gx::qt::QtTextImageCache;
+
+namespace {
+
+constexpr QRgb black = 0xff000000;
+
+struct QtTextImageCacheTest : testing::Test {
+    const QtTextEngine::Face& face() { return QtTextEngine::shared()->faceOfFont(*font); }
+    Ref<UIFont> font = UIFont::systemFontOfSize_weight(22);
+    QtTextImageCache cache;
+};
+
+TEST_F(QtTextImageCacheTest, ATextIsDrawnOnce) {
+    const QtTextImage* first = cache.imageOfText("42", face(), 44, black);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(cache.imageOfText("42", face(), 44, black), first);
+    EXPECT_EQ(cache.missCount(), 1U);
+    EXPECT_EQ(cache.hitCount(), 1U);
+}
+
+TEST_F(QtTextImageCacheTest, AnotherTextFontColourOrResolutionIsAnotherImage) {
+    cache.imageOfText("42", face(), 44, black);
+    cache.imageOfText("43", face(), 44, black);
+    cache.imageOfText("42", face(), 44.5, black);
+    cache.imageOfText("42", face(), 44, 0xff0000ff);
+    const Ref<UIFont> bold = UIFont::systemFontOfSize_weight(22, UIFontWeight::Bold);
+    cache.imageOfText("42", QtTextEngine::shared()->faceOfFont(*bold), 44, black);
+    EXPECT_EQ(cache.missCount(), 5U);
+    EXPECT_EQ(cache.imageCount(), 5U);
+}
+
+TEST_F(QtTextImageCacheTest, TheInkLiesWithinAClearEdge) {
+    for (const char* text : {"42", "Åg|", "/km", "f"}) {
+        const QtTextImage* drawnText = cache.imageOfText(text, face(), 66, black);
+        ASSERT_NE(drawnText, nullptr);
+        const QImage& image = drawnText->image;
+        const QRect ink = inkOf(image);
+        EXPECT_FALSE(ink.isEmpty()) << text;
+        EXPECT_TRUE(image.rect().adjusted(1, 1, -1, -1).contains(ink)) << text;
+    }
+}
+
+TEST_F(QtTextImageCacheTest, DigitsStandOnTheBaseline) {
+    const QtTextImage* drawnText = cache.imageOfText("1", face(), 88, black);
+    ASSERT_NE(drawnText, nullptr);
+    EXPECT_EQ(inkOf(drawnText->image).bottom() + 1, drawnText->baseline);
+}
+
+TEST_F(QtTextImageCacheTest, ATextWithoutInkHasNoImage) {
+    const QtTextImage* drawnText = cache.imageOfText(" ", face(), 44, black);
+    ASSERT_NE(drawnText, nullptr);
+    EXPECT_TRUE(drawnText->image.isNull());
+}
+
+TEST_F(QtTextImageCacheTest, AHitAllocatesNothing) {
+    const QtTextEngine::Face& opened = face();
+    cache.imageOfText("a text that is too long to be kept in place", opened, 44, black);
+    const std::size_t before = allocations;
+    const QtTextImage* hit = cache.imageOfText("a text that is too long to be kept in place", opened, 44, black);
+    const std::size_t after = allocations;
+    EXPECT_NE(hit, nullptr);
+    EXPECT_EQ(after, before);
+    EXPECT_EQ(cache.hitCount(), 1U);
+}
+
+TEST_F(QtTextImageCacheTest, MeasuringAKnownTextAllocatesNothing) {
+    QtTextEngine& engine = *QtTextEngine::shared();
+    const CGSize first = engine.sizeOfText_font("another text that is too long to be kept in place", *font);
+    const std::size_t before = allocations;
+    const CGSize second = engine.sizeOfText_font("another text that is too long to be kept in place", *font);
+    const std::size_t after = allocations;
+    EXPECT_EQ(second, first);
+    EXPECT_EQ(after, before);
+}
+
+TEST_F(QtTextImageCacheTest, BeyondItsBytesTheImageUnusedForLongestGoes) {
+    cache.imageOfText("11", face(), 44, black);
+    const std::size_t one = cache.byteCount();
+    cache.imageOfText("11", face(), 44, 0xff000001);
+    cache.imageOfText("11", face(), 44, 0xff000002);
+    EXPECT_EQ(cache.byteCount(), 3 * one);
+    cache.imageOfText("11", face(), 44, black); // Used again.
+    cache.setByteCapacity(2 * one);
+    EXPECT_EQ(cache.byteCount(), 2 * one);
+    EXPECT_EQ(cache.imageCount(), 2U);
+    cache.imageOfText("11", face(), 44, black);
+    cache.imageOfText("11", face(), 44, 0xff000002);
+    EXPECT_EQ(cache.missCount(), 3U);
+    cache.imageOfText("11", face(), 44, 0xff000001);
+    EXPECT_EQ(cache.missCount(), 4U);
+}
+
+TEST_F(QtTextImageCacheTest, TheLatestImageStaysWhateverItsSize) {
+    cache.setByteCapacity(0);
+    EXPECT_NE(cache.imageOfText("11", face(), 44, black), nullptr);
+    EXPECT_EQ(cache.imageCount(), 1U);
+    EXPECT_NE(cache.imageOfText("12", face(), 44, black), nullptr);
+    EXPECT_EQ(cache.imageCount(), 1U);
+}
+
+TEST_F(QtTextImageCacheTest, AnImageThatWouldBeTooLargeIsNotMade) {
+    EXPECT_EQ(cache.imageOfText("0", face(), 8000, black), nullptr);
+    EXPECT_EQ(cache.byteCount(), 0U);
+}
+
+} // namespace
