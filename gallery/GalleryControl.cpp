@@ -1,0 +1,45 @@
+#include "GalleryControl.h"
+
+#include <cmath>
+
+using namespace gx;
+
+namespace gallery {
+
+void GalleryControl::setFinger(std::optional<std::int64_t> finger) {
+    finger_ = finger;
+    setNeedsDisplay();
+}
+
+bool GalleryControl::isNearStart(const UITouch& touch) const {
+    // In the window's coordinates: a list that is scrolled carries the control along under the finger.
+    return std::hypot(touch.locationInWindow.x - start_.x, touch.locationInWindow.y - start_.y) <= slop;
+}
+
+void GalleryControl::touchBegan(const UITouch& touch) {
+    if (!finger_) {
+        start_ = touch.locationInWindow;
+        setFinger(touch.identifier);
+    }
+    UIView::touchBegan(touch);
+}
+
+void GalleryControl::touchMoved(const UITouch& touch) {
+    if (finger_ == touch.identifier && !isNearStart(touch)) setFinger(std::nullopt);
+    UIView::touchMoved(touch);
+}
+
+void GalleryControl::touchEnded(const UITouch& touch) {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    const bool isTap = finger_ == touch.identifier && isNearStart(touch);
+    if (finger_ == touch.identifier) setFinger(std::nullopt);
+    UIView::touchEnded(touch);
+    if (isTap) tapped(convertPointFromWindow(touch.locationInWindow));
+}
+
+void GalleryControl::touchCancelled(const UITouch& touch) {
+    if (finger_ == touch.identifier) setFinger(std::nullopt);
+    UIView::touchCancelled(touch);
+}
+
+} // namespace gallery

@@ -1,0 +1,81 @@
+#include "GallerySegments.h"
+
+#include "GalleryTheme.h"
+#include "UIGraphicsContext.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+constexpr CGFloat trackRadius = 11;
+constexpr CGFloat thumbInset = 3;
+} // namespace
+
+Ref<GallerySegments> GallerySegments::segmentsWithChoices(std::vector<std::string> choices, std::size_t chosen) {
+    auto segments = create<GallerySegments>(CGRectZero);
+    segments->choices_ = std::move(choices);
+    for (const std::string& choice : segments->choices_) {
+        const auto label = create<UILabel>(CGRectZero);
+        label->setText(choice);
+        label->setTextAlignment(NSTextAlignmentCenter);
+        segments->labels_.push_back(label);
+        segments->addSubview(label);
+    }
+    segments->setChosen(chosen);
+    segments->showChosen();
+    return segments;
+}
+
+void GallerySegments::setChosen(std::size_t chosen) {
+    if (chosen >= choices_.size()) return;
+    chosen_ = chosen;
+    showChosen();
+}
+
+void GallerySegments::showChosen() {
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        labels_[i]->setFont(i == chosen_ ? GalleryTheme::strongCaptionFont() : GalleryTheme::captionFont());
+        labels_[i]->setTextColor(i == chosen_ ? GalleryTheme::text() : GalleryTheme::secondaryText());
+    }
+    setNeedsDisplay();
+}
+
+CGRect GallerySegments::frameOfSegment(std::size_t index) const {
+    const CGFloat width = bounds().size.width / static_cast<CGFloat>(choices_.size());
+    return CGRectMake(static_cast<CGFloat>(index) * width, 0, width, bounds().size.height);
+}
+
+std::size_t GallerySegments::segmentAt(CGPoint point) const {
+    std::size_t index = 0;
+    while (index < choices_.size() && !CGRectContainsPoint(frameOfSegment(index), point)) ++index;
+    return index;
+}
+
+CGSize GallerySegments::sizeThatFits(CGSize available) const { return {available.width, GalleryTheme::controlHeight}; }
+
+void GallerySegments::layoutSubviews() {
+    GalleryControl::layoutSubviews();
+    for (std::size_t i = 0; i < labels_.size(); ++i) labels_[i]->setFrame(CGRectInset(frameOfSegment(i), thumbInset + 2, 0));
+}
+
+void GallerySegments::drawRect(UIGraphicsContext& context, CGRect rect) {
+    context.fillRect(rect, GalleryTheme::track(), trackRadius);
+    if (choices_.empty()) return;
+    const CGFloat radius = trackRadius - thumbInset;
+    context.fillRect(CGRectInset(frameOfSegment(chosen_), thumbInset, thumbInset), GalleryTheme::thumb(), radius);
+    if (!isHighlighted()) return;
+    const std::size_t held = segmentAt(highlightedPoint());
+    if (held < choices_.size())
+        context.fillRect(CGRectInset(frameOfSegment(held), thumbInset, thumbInset), GalleryTheme::pressed(), radius);
+}
+
+void GallerySegments::tapped(CGPoint point) {
+    const std::size_t index = segmentAt(point);
+    if (index >= choices_.size() || index == chosen_) return;
+    setChosen(index);
+    const auto action = action_; // The call may replace or drop what it was called by.
+    if (action) action(index);
+}
+
+} // namespace gallery

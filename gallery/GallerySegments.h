@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "GalleryControl.h"
+#include "UILabel.h"
+
+namespace gallery {
+
+/// One of several: choices side by side, of which one is chosen. They share the width evenly.
+///
+/// Invariant: `chosen` is one of the choices, as long as there are any.
+class GallerySegments : public GalleryControl {
+public:
+    static gx::Ref<GallerySegments> segmentsWithChoices(std::vector<std::string> choices, std::size_t chosen);
+
+    const std::vector<std::string>& choices() const { return choices_; }
+    std::size_t chosen() const { return chosen_; }
+    /// Ignored beyond the choices. The action is not called.
+    void setChosen(std::size_t chosen);
+    /// Called when the user has chosen another one.
+    void setAction(std::function<void(std::size_t chosen)> action) { action_ = std::move(action); }
+    /// The segment's rectangle in this view's coordinates.
+    gx::CGRect frameOfSegment(std::size_t index) const;
+
+    gx::CGSize sizeThatFits(gx::CGSize available) const override;
+    void layoutSubviews() override;
+    void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
+
+protected:
+    void tapped(gx::CGPoint point) override;
+
+private:
+    void showChosen();
+    std::size_t segmentAt(gx::CGPoint point) const;
+
+    std::vector<std::string> choices_;
+    std::size_t chosen_ = 0;
+    std::function<void(std::size_t)> action_;
+    std::vector<gx::Ref<gx::UILabel>> labels_;
+};
+
+} // namespace gallery

@@ -1,0 +1,66 @@
+#include "GalleryTheme.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+UIColor lightDark(unsigned light, unsigned dark) {
+    return UIColor::colorWithLight_dark(UIColor::colorWithHex(light), UIColor::colorWithHex(dark));
+}
+
+/// A font of the host's interface family, made once for each place of use.
+Ref<UIFont> font(CGFloat size, UIFontWeight weight) { return UIFont::systemFontOfSize_weight(size, weight); }
+
+} // namespace
+
+UIColor GalleryTheme::background() { return lightDark(0xF3F4F6, 0x0E1013); }
+UIColor GalleryTheme::sidebar() { return lightDark(0xFBFBFC, 0x15171B); }
+UIColor GalleryTheme::card() { return lightDark(0xFFFFFF, 0x1B1E23); }
+UIColor GalleryTheme::hairline() { return lightDark(0xE6E8EC, 0x2A2E35); }
+UIColor GalleryTheme::text() { return UIColor::labelColor(); }
+UIColor GalleryTheme::secondaryText() { return UIColor::secondaryLabelColor(); }
+UIColor GalleryTheme::accent() { return lightDark(0x0B7269, 0x56CDBF); }
+UIColor GalleryTheme::accentFill() {
+    return UIColor::colorWithLight_dark(UIColor::colorWithHex(0x0B7269, 0.10), UIColor::colorWithHex(0x56CDBF, 0.15));
+}
+UIColor GalleryTheme::track() { return lightDark(0xEBEDF0, 0x272B32); }
+UIColor GalleryTheme::thumb() { return lightDark(0xFFFFFF, 0x454B56); }
+UIColor GalleryTheme::pressed() {
+    return UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0, 0.06), UIColor::colorWithWhite_alpha(1, 0.08));
+}
+
+const Ref<UIFont>& GalleryTheme::titleFont() {
+    static const Ref<UIFont> shared = font(28, UIFontWeight::Bold);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::headingFont() {
+    static const Ref<UIFont> shared = font(17, UIFontWeight::Semibold);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::bodyFont() {
+    static const Ref<UIFont> shared = font(15, UIFontWeight::Regular);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::strongFont() {
+    static const Ref<UIFont> shared = font(15, UIFontWeight::Semibold);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::captionFont() {
+    static const Ref<UIFont> shared = font(13, UIFontWeight::Regular);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::strongCaptionFont() {
+    static const Ref<UIFont> shared = font(13, UIFontWeight::Semibold);
+    return shared;
+}
+
+Ref<UIView> GalleryTheme::makeCard() {
+    auto view = create<UIView>(CGRectZero);
+    view->setBackgroundColor(card());
+    view->setCornerRadius(cardRadius);
+    return view;
+}
+
+} // namespace gallery

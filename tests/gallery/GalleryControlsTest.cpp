@@ -1,0 +1,171 @@
+#include "GalleryTest.h"
+
+using namespace gallery;
+using namespace gx;
+
+namespace {
+
+/// A tall thing to scroll, with a button at its top.
+class TallContent : public UIView {
+public:
+    CGSize sizeThatFits(CGSize available) const override { return {available.width, 1000}; }
+};
+
+class GalleryControlsTest : public testing::Test {
+protected:
+    Ref<GalleryScroll> scroll = create<GalleryScroll>(CGRectMake(0, 0, 300, 400));
+    Ref<TallContent> content = create<TallContent>(CGRectZero);
+    Ref<GalleryButton> button = GalleryButton::buttonWithTitle_style("Press", GalleryButton::Style::Plain);
+    std::unique_ptr<TestWindow> window;
+    int taps = 0;
+
+    void SetUp() override {
+        button->setFrame(CGRectMake(0, 0, 300, 100));
+        button->setAction([this] { ++taps; });
+        content->addSubview(button);
+        scroll->setContent(content);
+        window = std::make_unique<TestWindow>(scroll);
+    }
+};
+
+} // namespace
+
+TEST_F(GalleryControlsTest, AButtonIsTappedWhereTheFingerCameDown) {
+    window->down({150, 50});
+    EXPECT_TRUE(button->isHighlighted());
+    window->move({150, 58}); // trembling
+    EXPECT_TRUE(button->isHighlighted());
+    window->up({150, 58});
+    EXPECT_FALSE(button->isHighlighted());
+    EXPECT_EQ(taps, 1);
+}
+
+TEST_F(GalleryControlsTest, AFingerThatWandersOffOrIsTakenAwayTapsNothing) {
+    window->down({150, 50});
+    window->move({159, 50});
+    EXPECT_FALSE(button->isHighlighted());
+    window->move({150, 50});
+    window->up({150, 50});
+    window->down({150, 50});
+    window->up({150, 59}); // Some systems tell of the last piece of the way only now.
+    window->down({150, 50});
+    (*window)->touchCancelled_at_time(1, window->now);
+    EXPECT_FALSE(button->isHighlighted());
+    EXPECT_EQ(taps, 0);
+}
+
+TEST_F(GalleryControlsTest, OnlyTheFirstFingerTaps) {
+    window->down({150, 50}, 1);
+    window->down({160, 50}, 2);
+    window->up({160, 50}, 2);
+    EXPECT_EQ(taps, 0);
+    window->up({150, 50}, 1);
+    EXPECT_EQ(taps, 1);
+}
+
+TEST_F(GalleryControlsTest, AButtonMayBeDroppedByItsOwnAction) {
+    button->setAction([this] {
+        ++taps;
+        button->removeFromSuperview();
+        button = nullptr;
+    });
+    window->tap({150, 50});
+    EXPECT_EQ(taps, 1);
+    EXPECT_TRUE(content->subviews().empty());
+}
+
+TEST_F(GalleryControlsTest, ADragOnAButtonScrollsAndTapsNothing) {
+    window->drag({150, 90}, {150, 10});
+    // In steps of 4 points, the finger has left the slop of 8 behind with the third: from there the content follows.
+    EXPECT_EQ(scroll->offset(), 68);
+    EXPECT_EQ(taps, 0);
+    EXPECT_EQ(content->frame(), CGRectMake(0, -68, 300, 1000));
+}
+
+TEST_F(GalleryControlsTest, ScrollingEndsAtBothEnds) {
+    EXPECT_EQ(scroll->maxOffset(), 600);
+    window->drag({150, 390}, {150, -900});
+    EXPECT_EQ(scroll->offset(), 600);
+    window->drag({150, 10}, {150, 1400});
+    EXPECT_EQ(scroll->offset(), 0);
+}
+
+TEST_F(GalleryControlsTest, AfterASwiftStrokeItGlidesOnAndComesToRest) {
+    window->fling({150, 390}, {150, 330}, 4);
+    const CGFloat released = scroll->offset();
+    EXPECT_LT(released, 60);
+    const double seconds = window->runUntilStill();
+    EXPECT_GT(scroll->offset(), released + 100);
+    EXPECT_GT(seconds, 0.5);
+    // A finger stops it.
+    window->fling({150, 330}, {150, 390}, 4);
+    window->tick(0.05);
+    window->down({150, 300});
+    const CGFloat stopped = scroll->offset();
+    window->run(0.5);
+    EXPECT_EQ(scroll->offset(), stopped);
+}
+
+TEST_F(GalleryControlsTest, TheMouseWheelMovesARowANotchAndTheTrackpadPointByPoint) {
+    EXPECT_TRUE(window->scrollNotches({150, 200}, 2));
+    EXPECT_EQ(scroll->offset(), 96);
+    EXPECT_TRUE(window->scrollPoints({150, 200}, -40.5));
+    EXPECT_EQ(scroll->offset(), 55.5);
+    EXPECT_TRUE(window->scrollPoints({150, 200}, 5000));
+    EXPECT_EQ(scroll->offset(), 600);
+    scroll->setFrame(CGRectMake(0, 0, 300, 1000));
+    scroll->layoutIfNeeded();
+    EXPECT_EQ(scroll->offset(), 0);
+    EXPECT_FALSE(window->scrollNotches({150, 200}, 2)); // Nothing is hidden, so the event is someone else's.
+}
+
+TEST_F(GalleryControlsTest, SegmentsChooseOneAndTellOnlyOfAnother) {
+    const auto segments = GallerySegments::segmentsWithChoices({"a", "b", "c"}, 1);
+    segments->setFrame(CGRectMake(0, 200, 300, 40));
+    std::vector<std::size_t> told;
+    segments->setAction([&told](std::size_t choice) { told.push_back(choice); });
+    content->addSubview(segments);
+    window->tap({299, 220});
+    window->tap({200, 220}); // The third begins here.
+    window->tap({199, 220});
+    window->tap({0, 200});
+    EXPECT_EQ(told, (std::vector<std::size_t>{2, 1, 0}));
+    EXPECT_EQ(segments->chosen(), 0U);
+    segments->setChosen(3);
+    EXPECT_EQ(segments->chosen(), 0U);
+    segments->setChosen(2);
+    EXPECT_EQ(segments->chosen(), 2U);
+    EXPECT_EQ(told.size(), 3U);
+}
+
+class GalleryWheelAndScroll : public GalleryTest {};
+
+TEST_F(GalleryWheelAndScroll, WhatBeginsOnAWheelTurnsTheWheelAndBesideItThePage) {
+    show("Beats per minute", 320, 400);
+    const auto wheel = screen->page()->exhibit().wheel;
+    ASSERT_GT(screen->scroll()->maxOffset(), 200);
+    turn(0, 1);
+    const CGFloat before = screen->scroll()->offset();
+    window->scrollNotches(middleOf(wheel), 1);
+    settle();
+    EXPECT_EQ(screen->page()->log()->notices().size(), 2U);
+    EXPECT_EQ(screen->scroll()->offset(), before);
+    screen->scroll()->setOffset(0);
+    (*window)->layoutIfNeeded();
+    const CGPoint purpose = {160, 100};
+    window->drag(purpose, {160, 60});
+    EXPECT_GT(screen->scroll()->offset(), 20);
+    EXPECT_EQ(screen->page()->log()->notices().size(), 2U);
+}
+
+TEST(GalleryTextTest, WordsAreBrokenIntoLinesThatFit) {
+    const auto text = create<GalleryText>(CGRectZero);
+    text->setText("ten points for every letter");
+    // Each letter is 10 points wide and each line 20 high, with 2 between lines.
+    EXPECT_EQ(text->sizeThatFits({270, 0}), CGSizeMake(270, 22));
+    EXPECT_EQ(text->sizeThatFits({269, 0}), CGSizeMake(269, 44)); // "letter" has to go
+    EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 66)); // ten points, for every, letter
+    EXPECT_EQ(text->sizeThatFits({30, 0}), CGSizeMake(30, 110));  // one word a line, cut or not
+    text->setText("");
+    EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 0));
+}

@@ -1,0 +1,218 @@
+#include "GalleryScreen.h"
+
+#include "GXStyleSheet.h"
+#include "GalleryTest.h"
+
+using namespace gallery;
+using namespace gx;
+
+using GalleryScreenTest = GalleryTest;
+
+TEST_F(GalleryScreenTest, ItBeginsWithAllPickersAndListsAPageForEach) {
+    open(1200, 800);
+    EXPECT_EQ(screen->pageNames(), (std::vector<std::string>{"All pickers", "Distance", "Duration", "Pace", "Speed", "Heart rate",
+                                                             "Temperature", "Weight", "Height", "Calories", "Beats per minute"}));
+    EXPECT_EQ(screen->pageIndex(), 0U);
+    EXPECT_EQ(screen->overview()->count(), 10U);
+    EXPECT_FALSE(screen->page());
+}
+
+TEST_F(GalleryScreenTest, ATapInTheSidebarShowsThatPage) {
+    open(1200, 800);
+    tap(screen->sidebar()->rows()[3]);
+    EXPECT_EQ(screen->pageIndex(), 3U);
+    EXPECT_EQ(screen->page()->name(), "Pace");
+    EXPECT_TRUE(screen->sidebar()->rows()[3]->isChosen());
+    EXPECT_FALSE(screen->sidebar()->rows()[0]->isChosen());
+    EXPECT_EQ(screen->scroll()->content(), screen->page());
+}
+
+TEST_F(GalleryScreenTest, OnAPhoneTheMenuButtonShowsTheListInThePagesPlace) {
+    open(320, 568);
+    EXPECT_FALSE(screen->hasSidebar());
+    EXPECT_TRUE(screen->sidebar()->isHidden());
+    tap(screen->menuButton());
+    EXPECT_TRUE(screen->isMenuShown());
+    EXPECT_FALSE(screen->sidebar()->isHidden());
+    EXPECT_TRUE(screen->scroll()->isHidden());
+    EXPECT_EQ(screen->sidebar()->frame(), CGRectMake(0, 56, 320, 512));
+    tap(screen->sidebar()->rows()[1]);
+    EXPECT_FALSE(screen->isMenuShown());
+    EXPECT_TRUE(screen->sidebar()->isHidden());
+    EXPECT_EQ(screen->page()->name(), "Distance");
+}
+
+TEST_F(GalleryScreenTest, TheMenuButtonAlsoClosesTheList) {
+    open(320, 568);
+    tap(screen->menuButton());
+    tap(screen->menuButton());
+    EXPECT_FALSE(screen->isMenuShown());
+    EXPECT_FALSE(screen->scroll()->isHidden());
+}
+
+TEST_F(GalleryScreenTest, AHeadingOfTheOverviewLeadsToItsPage) {
+    open(1200, 800);
+    tap(screen->overview()->heading(4));
+    ASSERT_TRUE(screen->page());
+    EXPECT_EQ(screen->page()->name(), "Heart rate");
+}
+
+TEST_F(GalleryScreenTest, PagesAreFoundByNameInAnyCase) {
+    open(320, 568);
+    EXPECT_EQ(screen->indexOfPage("heart RATE"), 5U);
+    EXPECT_EQ(screen->indexOfPage("All pickers"), 0U);
+    EXPECT_FALSE(screen->indexOfPage("Heart"));
+    EXPECT_FALSE(screen->indexOfPage(""));
+    screen->showPage(11);
+    EXPECT_EQ(screen->pageIndex(), 0U);
+}
+
+TEST_F(GalleryScreenTest, APageThatIsLeftKeepsItsValueAndItsLog) {
+    show("Calories", 390, 844);
+    turn(0, 3);
+    const auto page = screen->page();
+    screen->showPage(1);
+    screen->showPage(9);
+    EXPECT_EQ(screen->page(), page);
+    EXPECT_EQ(page->log()->notices().size(), 1U);
+}
+
+// Looks
+
+TEST_F(GalleryScreenTest, TheSwitchInTheSidebarMakesTheWindowDarkAndLightAgain) {
+    open(1200, 800);
+    EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Light);
+    tapSegment(screen->sidebar()->styleControl(), 1);
+    EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Dark);
+    tapSegment(screen->sidebar()->styleControl(), 0);
+    EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Light);
+}
+
+TEST_F(GalleryScreenTest, TheButtonInTheBarDoesTheSameAndTheSwitchFollows) {
+    open(390, 844);
+    tap(screen->styleButton());
+    EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Dark);
+    EXPECT_EQ(screen->sidebar()->styleControl()->chosen(), 1U);
+    tap(screen->styleButton());
+    EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Light);
+    EXPECT_EQ(screen->sidebar()->styleControl()->chosen(), 0U);
+}
+
+TEST_F(GalleryScreenTest, UntilTheUserChoosesTheLookIsTheWindows) {
+    const auto dark = create<UIWindow>(CGRectMake(0, 0, 390, 844));
+    dark->setUserInterfaceStyle(UIUserInterfaceStyle::Dark);
+    screen = create<GalleryScreen>(CGRectMake(0, 0, 390, 844));
+    dark->addSubview(screen);
+    EXPECT_EQ(screen->style(), UIUserInterfaceStyle::Dark);
+    EXPECT_EQ(screen->sidebar()->styleControl()->chosen(), 1U);
+    // A choice goes along into another window.
+    screen->setStyle(UIUserInterfaceStyle::Light);
+    EXPECT_EQ(dark->userInterfaceStyle(), UIUserInterfaceStyle::Light);
+    const auto other = create<UIWindow>(CGRectMake(0, 0, 390, 844));
+    other->setUserInterfaceStyle(UIUserInterfaceStyle::Dark);
+    other->addSubview(screen);
+    EXPECT_EQ(other->userInterfaceStyle(), UIUserInterfaceStyle::Light);
+}
+
+TEST_F(GalleryScreenTest, LargeTextMakesAllPickersAnewWithTheirValuesAndOptions) {
+    show("Weight", 1200, 800);
+    tapSegment(screen->page()->optionControls()[0], 1);
+    turn(2, 1);
+    const Ref<UIView> before = screen->page()->exhibit().picker;
+    const double kilograms = screen->page()->exhibit().values()[0].doubleValue();
+    EXPECT_EQ(screen->page()->exhibit().wheel->rowSizeForComponent(0).height, 40);
+
+    tapSegment(screen->sidebar()->textControl(), 1);
+    (*window)->layoutIfNeeded();
+    const GalleryExhibit& renewed = screen->page()->exhibit();
+    EXPECT_NE(renewed.picker, before);
+    EXPECT_FALSE(before->superview());
+    EXPECT_NEAR(renewed.wheel->rowSizeForComponent(0).height, 52, 1e-5);
+    EXPECT_EQ(renewed.values()[0].doubleValue(), kilograms);
+    EXPECT_EQ(renewed.options[0].chosen, 1U);
+    EXPECT_EQ(unitBesideWheel(renewed.textPicker), "lb");
+    // And what the new picker tells its delegate is in the same list.
+    turn(2, 2);
+    EXPECT_EQ(screen->page()->log()->notices().size(), 2U);
+}
+
+// Layout
+
+TEST_F(GalleryScreenTest, TheSidebarAppearsAt720Points) {
+    open(719, 500);
+    EXPECT_FALSE(screen->hasSidebar());
+    EXPECT_EQ(screen->scroll()->frame(), CGRectMake(0, 56, 719, 444));
+    screen->setFrame(CGRectMake(0, 0, 720, 500));
+    (*window)->layoutIfNeeded();
+    EXPECT_TRUE(screen->hasSidebar());
+    EXPECT_FALSE(screen->sidebar()->isHidden());
+    EXPECT_EQ(screen->scroll()->frame(), CGRectMake(232, 0, 488, 500));
+}
+
+TEST_F(GalleryScreenTest, NothingLeavesItsParentOrCoversItsNeighbour) {
+    for (const CGSize size : {CGSizeMake(320, 568), CGSizeMake(430, 932), CGSizeMake(844, 390), CGSizeMake(1200, 800)}) {
+        open(size.width, size.height);
+        for (std::size_t i = 0; i < screen->pageNames().size(); ++i) {
+            SCOPED_TRACE(std::to_string(size.width) + " wide, page " + screen->pageNames()[i]);
+            screen->showPage(i);
+            (*window)->layoutIfNeeded();
+            expectInsideParents(screen);
+            if (const auto page = screen->page()) {
+                expectApart({page->pickerCard(), page->log(), page->optionsCard()});
+                expectApart({page->optionControls().begin(), page->optionControls().end()});
+                for (const auto& control : page->optionControls()) EXPECT_GE(control->frame().size.height, 40);
+            } else {
+                std::vector<Ref<UIView>> cards;
+                for (std::size_t card = 0; card < screen->overview()->count(); ++card) cards.push_back(screen->overview()->card(card));
+                expectApart(cards);
+            }
+        }
+        for (const auto& row : screen->sidebar()->rows()) EXPECT_GE(row->frame().size.height, 40);
+    }
+}
+
+TEST_F(GalleryScreenTest, TheSwitchesStandAtTheBottomOrBelowAListThatIsTooLong) {
+    open(1200, 800);
+    // 56 for the title; 11 rows of 40; 12 + 40 + 8 + 40 + 12 for the switches.
+    const auto& list = screen->sidebar()->rows()[0]->superview();
+    EXPECT_EQ(list->bounds().size.height, 744);
+    EXPECT_EQ(screen->sidebar()->styleControl()->frame(), CGRectMake(12, 644, 208, 40));
+    EXPECT_EQ(screen->sidebar()->textControl()->frame(), CGRectMake(12, 692, 208, 40));
+    open(844, 390);
+    EXPECT_EQ(screen->sidebar()->rows()[0]->superview()->bounds().size.height, 552);
+    EXPECT_EQ(screen->sidebar()->styleControl()->frame(), CGRectMake(12, 452, 208, 40));
+}
+
+TEST_F(GalleryScreenTest, TheChosenRowIsScrolledIntoSight) {
+    open(844, 390);
+    for (const std::size_t page : {10U, 0U, 7U}) {
+        screen->showPage(page);
+        (*window)->layoutIfNeeded();
+        const CGPoint row = middleOf(screen->sidebar()->rows()[page]);
+        EXPECT_GE(row.y, 56 + 20);
+        EXPECT_LE(row.y, 390 - 20);
+    }
+}
+
+TEST_F(GalleryScreenTest, WherePossibleTheLogStandsBesideTheWheel) {
+    show("Speed", 844, 390); // 612 - 2 * 32 = 548 are two columns of 266 with 16 between.
+    const auto page = screen->page();
+    EXPECT_EQ(page->pickerCard()->frame().size.width, 266);
+    EXPECT_EQ(page->log()->frame().origin, CGPointMake(32 + 266 + 16, CGRectGetMinY(page->pickerCard()->frame())));
+    EXPECT_EQ(CGRectGetMinY(page->optionsCard()->frame()), CGRectGetMaxY(page->pickerCard()->frame()) + 16);
+    show("Speed", 390, 844);
+    EXPECT_EQ(screen->page()->pickerCard()->frame().size.width, 358);
+    EXPECT_EQ(CGRectGetMinY(screen->page()->log()->frame()), CGRectGetMaxY(screen->page()->pickerCard()->frame()) + 16);
+    EXPECT_EQ(CGRectGetMinY(screen->page()->optionsCard()->frame()), CGRectGetMaxY(screen->page()->log()->frame()) + 16);
+}
+
+TEST_F(GalleryScreenTest, ItNeedsTheHeightOfItsPageAndItsBar) {
+    open(390, 300);
+    screen->showPage(1);
+    (*window)->layoutIfNeeded();
+    const CGFloat height = screen->sizeThatFits({390, 0}).height;
+    EXPECT_EQ(height, screen->page()->frame().size.height + 56);
+    screen->setFrame(CGRectMake(0, 0, 390, height));
+    screen->layoutIfNeeded();
+    EXPECT_EQ(screen->scroll()->maxOffset(), 0);
+}
