@@ -22,7 +22,6 @@ constexpr double eyeDistance = 3;
 bool UIPickerColumn::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     setUserInteractionEnabled(false); // The wheel takes the touches, to know which column a finger belongs to.
-    setClipsToBounds(true);
     return true;
 }
 
@@ -128,8 +127,12 @@ void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
     // In the column's coordinates the middle of the band lies here; offset 0 is the middle of the anchor row.
     const CGFloat middle = (offset_ + 0.5) * rowHeight_;
     const Ref<UIView> wheel = superview();
-    const CGFloat vanishing = wheel ? CGRectGetMidX(wheel->bounds()) - CGRectGetMinX(frame()) : CGRectGetMidX(bounds());
-    for (const Row& entry : shown_) {
+    const CGRect area = convertRect_fromView(wheel ? wheel->bounds() : CGRectZero, wheel);
+    const CGFloat vanishing = CGRectGetMidX(area);
+    // Rows end at the wheel's top and bottom. To the sides they may leave a narrow column, toward the middle.
+    context.clipToRect(area);
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
+        const Row entry = shown_[i];                         // Drawing may change the rows.
         if (entry.view->superview().get() != this) continue; // The delegate has put its view elsewhere.
         const double rows = static_cast<double>(entry.row - anchor_) - offset_;
         const double angle = rows * rowHeight_ / radius();

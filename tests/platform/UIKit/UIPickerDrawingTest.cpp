@@ -1,0 +1,136 @@
+// How a wheel's rows are drawn as a cylinder, and that a tap meets the row that is drawn under it.
+
+#include <algorithm>
+#include <map>
+
+#include "TestWindow.h"
+#include "WheelSource.h"
+
+using namespace gx;
+
+namespace {
+
+/// Notes where each text lands in the window, how it is squeezed and how faint it is.
+class PlacingCanvas : public UIGraphicsContext {
+public:
+    struct Text {
+        CGFloat middle = 0;
+        double scaleX = 1;
+        double scaleY = 1;
+        double alpha = 1;
+        CGRect clip;
+    };
+    std::map<std::string, Text> texts;
+    int bands = 0;
+
+    void saveState() override { saved_.push_back(state_); }
+    void restoreState() override {
+        state_ = saved_.back();
+        saved_.pop_back();
+    }
+    void translate(CGFloat x, CGFloat y) override {
+        state_.x += x * state_.scaleX;
+        state_.y += y * state_.scaleY;
+    }
+    void scale(CGFloat x, CGFloat y) override {
+        state_.scaleX *= x;
+        state_.scaleY *= y;
+    }
+    void clipToRect(CGRect rect) override {
+        const CGRect mapped = {{state_.x + rect.origin.x * state_.scaleX, state_.y + rect.origin.y * state_.scaleY}, rect.size};
+        state_.clip = CGRectIntersection(state_.clip, mapped);
+    }
+    void multiplyAlpha(double alpha) override { state_.alpha *= alpha; }
+
+protected:
+    void fillRectWithComponents(CGRect, const UIColorComponents&, CGFloat) override { ++bands; }
+    void drawTextWithComponents(std::string_view text, const UIFont&, const UIColorComponents&, CGPoint origin) override {
+        constexpr CGFloat halfLine = 10;
+        texts[std::string(text)] = {state_.y + (origin.y + halfLine) * state_.scaleY, state_.scaleX, state_.scaleY, state_.alpha,
+                                    state_.clip};
+    }
+    void drawImageInRect(const UIImage&, CGRect) override {}
+
+private:
+    struct State {
+        double x = 0;
+        double y = 0;
+        double scaleX = 1;
+        double scaleY = 1;
+        double alpha = 1;
+        CGRect clip = CGRectMake(-1e6, -1e6, 2e6, 2e6);
+    };
+    State state_;
+    std::vector<State> saved_;
+};
+
+struct Drawing : testing::Test {
+    Ref<WheelSource> source = create<WheelSource>();
+    Ref<UIPickerView> wheel = wheelWithSource(source);
+    TestWindow window{wheel};
+
+    std::map<std::string, PlacingCanvas::Text> drawn() {
+        PlacingCanvas canvas;
+        window->draw(canvas);
+        return canvas.texts;
+    }
+};
+
+} // namespace
+
+TEST_F(Drawing, TheRowInTheBandIsDrawnAsItIs) {
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    const PlacingCanvas::Text row = drawn().at("50");
+    EXPECT_DOUBLE_EQ(row.middle, 108);
+    EXPECT_DOUBLE_EQ(row.scaleX, 1);
+    EXPECT_DOUBLE_EQ(row.scaleY, 1);
+    EXPECT_DOUBLE_EQ(row.alpha, 1);
+}
+
+TEST_F(Drawing, RowsTurnAwayAndFadeAlikeAboveAndBelow) {
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    const auto rows = drawn();
+    for (int i = 1; i <= 3; ++i) {
+        const PlacingCanvas::Text below = rows.at(std::to_string(50 + i));
+        const PlacingCanvas::Text above = rows.at(std::to_string(50 - i));
+        const PlacingCanvas::Text before = rows.at(std::to_string(50 + i - 1));
+        EXPECT_NEAR(below.middle - 108, 108 - above.middle, 1e-9);
+        EXPECT_LT(below.middle - before.middle, 40);
+        EXPECT_GT(below.middle, before.middle);
+        EXPECT_LT(below.scaleY, before.scaleY);
+        EXPECT_LT(below.scaleX, before.scaleX);
+        EXPECT_GT(below.scaleX, below.scaleY) << "squeezed, and a little narrower for being further away";
+        EXPECT_LT(below.alpha, before.alpha);
+        EXPECT_DOUBLE_EQ(below.alpha, above.alpha);
+    }
+    // The radius is 108 / sin 65° = 119.164…; the next row is turned by 40 / 119.164 = 0.33567 and stands at 119.164 · sin 0.33567.
+    EXPECT_NEAR(rows.at("51").middle - 108, 39.2528, 1e-3);
+    EXPECT_EQ(rows.size(), 7U) << "the rows at the edge, at 65 degrees, are the last";
+}
+
+TEST_F(Drawing, NoRowIsDrawnBeyondTheWheel) {
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    for (const auto& [title, row] : drawn()) EXPECT_EQ(row.clip, CGRectMake(0, 0, 320, 216)) << title;
+}
+
+TEST_F(Drawing, ATapMeetsTheRowThatIsDrawnUnderIt) {
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    const auto rows = drawn();
+    for (const auto& [title, row] : rows) {
+        if (title == "50") continue;
+        wheel->selectRow_inComponent_animated(50, 0, false);
+        window.tap({160, row.middle});
+        window.runUntilStill();
+        EXPECT_EQ(std::to_string(source->notices.back().row), title);
+    }
+    EXPECT_EQ(source->notices.size(), rows.size() - 1);
+}
+
+TEST_F(Drawing, TheBandIsDrawnOnlyWhereItIsWanted) {
+    PlacingCanvas canvas;
+    window->draw(canvas);
+    EXPECT_EQ(canvas.bands, 1);
+    wheel->setShowsSelectionIndicator(false);
+    window->draw(canvas);
+    EXPECT_EQ(canvas.bands, 1);
+}
