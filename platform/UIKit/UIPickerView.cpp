@@ -3,44 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "NSArithmetic.h"
 #include "UIGraphicsContext.h"
-#include "UIHost.h"
 #include "UILabel.h"
-#include "UIPickerColumn.h"
+#include "UIPickerViewComponent.h"
+#include "UIWindow.h"
 
 namespace gx {
-
-CGFloat UIPickerViewDelegate::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger) { return UIPickerView::automaticDimension; }
-CGFloat UIPickerViewDelegate::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) {
-    return UIPickerView::automaticDimension;
-}
-std::optional<std::string> UIPickerViewDelegate::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {
-    return std::nullopt;
-}
-Ref<NSAttributedString> UIPickerViewDelegate::pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger,
-                                                                                            NSInteger) {
-    return nullptr;
-}
-Ref<UIView> UIPickerViewDelegate::pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>&, NSInteger, NSInteger,
-                                                                                 const Ref<UIView>&) {
-    return nullptr;
-}
-void UIPickerViewDelegate::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {}
-
-/// What the wheel knows of one column. Held by pointer, so that it stays in place when a callback brings more columns.
-struct UIPickerView::Component {
-    NSInteger requested = 0;
-    NSInteger rows = 0;
-    CGFloat width = automaticDimension; // As the delegate gave it.
-    CGFloat rowHeight = defaultRowHeight;
-    bool areRowsKnown = false;
-    bool areRowsAsked = false;
-    bool areSizesKnown = false;
-    bool areSizesAsked = false;
-    UIPickerTurn turn;
-    Ref<UIPickerColumn> column; // Only while it is on the screen.
-};
 
 namespace {
 
@@ -201,14 +169,6 @@ NSInteger UIPickerView::rowInBandOfComponent(NSInteger component) {
     return turn.isTurning() ? heldRow(component, turn.rowInBand()) : selectedRowInComponent(component);
 }
 
-bool UIPickerView::isTurning() const {
-    return std::any_of(components_.begin(), components_.end(), [](const auto& component) { return component->turn.isTurning(); });
-}
-
-bool UIPickerView::isMoving() const {
-    return std::any_of(components_.begin(), components_.end(), [](const auto& component) { return component->turn.isMoving(); });
-}
-
 // Orders
 
 void UIPickerView::reloadAllComponents() { noteStale(); }
@@ -251,23 +211,6 @@ void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
     noteStale();
     if (const Ref<UIPickerViewDelegate> delegate = delegate_.lock()) {
         delegate->pickerView_didSelectRow_inComponent(keep, held, component);
-    }
-}
-
-void UIPickerView::settle() {
-    const Ref<UIPickerView> keep = self();
-    for (NSInteger i = 0; i < count_; ++i) {
-        at(i).turn.settle();
-        scrollColumn(i);
-    }
-    reportLandings();
-}
-
-void UIPickerView::reportLandings() {
-    // Ascending, also when a report changes the columns or what they do; a request for another row has ended a turn
-    // before its report.
-    for (NSInteger i = 0; i < count_; ++i) {
-        if (const std::optional<NSInteger> row = at(i).turn.takeLanding()) turnToRow_inComponent(*row, i);
     }
 }
 
@@ -372,12 +315,6 @@ void UIPickerView::showRow(NSInteger component, NSInteger row) {
     column->showRow({row, std::move(label), false});
 }
 
-void UIPickerView::didMoveToWindow() {
-    UIView::didMoveToWindow();
-    // Without a window no time passes: what moves arrives.
-    if (isTurning() && !window()) settle();
-}
-
 void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
     UIView::drawRect(context, rect);
     if (!showsBand_ || count_ == 0) return;
@@ -385,130 +322,6 @@ void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
     for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
     const CGRect band = CGRectMake(rect.origin.x + bandInset, CGRectGetMidY(rect) - 0.5 * height, rect.size.width - 2 * bandInset, height);
     context.fillRect(band, UIColor::tertiarySystemFillColor(), bandCornerRadius);
-}
-
-// Turning
-
-NSInteger UIPickerView::componentAt(CGPoint point) const {
-    for (NSInteger i = 0; i < count_; ++i) {
-        const Component& entry = *components_[static_cast<std::size_t>(i)];
-        if (entry.column && CGRectContainsPoint(entry.column->frame(), point)) return i;
-    }
-    return -1;
-}
-
-NSInteger UIPickerView::componentOfTouch(std::int64_t identifier) const {
-    for (NSInteger i = 0; i < count_; ++i) {
-        if (components_[static_cast<std::size_t>(i)]->turn.hasFinger(identifier)) return i;
-    }
-    return -1;
-}
-
-bool UIPickerView::canTurn(NSInteger component) {
-    return component >= 0 && component < count_ && at(component).rows > 0 && at(component).column && at(component).column->showsSomething();
-}
-
-void UIPickerView::startMoving() {
-    if (const Ref<UIWindow> window = this->window()) {
-        window->animateView(refTo<UIView>(this));
-    } else if (isMoving()) {
-        settle();
-    }
-}
-
-void UIPickerView::tellTicks(NSInteger rows) {
-    // Faster than a hundred rows a frame nobody can tell ticks apart.
-    constexpr NSInteger highest = 100;
-    for (NSInteger i = 0; i < std::min(rows, highest); ++i) {
-        const Ref<UIWindow> window = this->window();
-        if (!window || !window->host()) return;
-        window->host()->wheelDidTick();
-    }
-}
-
-void UIPickerView::touchBegan(const UITouch& touch) {
-    const Ref<UIPickerView> keep = self();
-    layoutIfNeeded();
-    const CGPoint point = convertPointFromWindow(touch.locationInWindow);
-    const NSInteger component = componentAt(point);
-    if (!canTurn(component)) {
-        UIView::touchBegan(touch);
-        return;
-    }
-    at(component).turn.touchBegan(touch.identifier, point.y, touch.timestamp);
-}
-
-void UIPickerView::touchMoved(const UITouch& touch) {
-    const NSInteger component = componentOfTouch(touch.identifier);
-    if (component < 0) {
-        UIView::touchMoved(touch);
-        return;
-    }
-    at(component).turn.touchMoved(convertPointFromWindow(touch.locationInWindow).y, touch.timestamp);
-    startMoving();
-}
-
-void UIPickerView::touchEnded(const UITouch& touch) {
-    const NSInteger component = componentOfTouch(touch.identifier);
-    if (component < 0) {
-        UIView::touchEnded(touch);
-        return;
-    }
-    Component& entry = at(component);
-    const CGPoint point = convertPointFromWindow(touch.locationInWindow);
-    std::optional<NSInteger> tappedRow;
-    if (entry.column) {
-        if (const auto offset = entry.column->offsetDrawnAt(point.y - CGRectGetMinY(entry.column->frame()))) {
-            const NSInteger row = wrappingAdd(entry.turn.anchorRow(), truncateTo<NSInteger>(std::round(*offset)));
-            if (row >= 0 && row < entry.rows) tappedRow = row;
-        }
-    }
-    entry.turn.touchEnded(point.y, touch.timestamp, tappedRow);
-    letGo(entry);
-}
-
-void UIPickerView::touchCancelled(const UITouch& touch) {
-    const NSInteger component = componentOfTouch(touch.identifier);
-    if (component < 0) {
-        UIView::touchCancelled(touch);
-        return;
-    }
-    at(component).turn.touchCancelled(touch.timestamp);
-    letGo(at(component));
-}
-
-void UIPickerView::letGo(Component& component) {
-    // Under a finger that turned nothing a column stays where it is, whatever is reloaded; now it may have to follow.
-    if (!component.turn.isTurning()) setNeedsLayout();
-    startMoving();
-}
-
-bool UIPickerView::scrolled(const UIScroll& scroll) {
-    const Ref<UIPickerView> keep = self();
-    layoutIfNeeded();
-    const NSInteger component = componentAt(convertPointFromWindow(scroll.locationInWindow));
-    if (!canTurn(component)) return UIView::scrolled(scroll);
-    UIPickerTurn& turn = at(component).turn;
-    const bool isTaken = scroll.unit == UIScroll::Unit::Notches ? turn.scrollNotches(scroll.deltaY)
-                                                                : turn.scrollPoints(scroll.deltaY, scroll.timestamp, scroll.isFinished);
-    startMoving();
-    return isTaken;
-}
-
-bool UIPickerView::advanceToTime(NSTimeInterval time) {
-    const Ref<UIPickerView> keep = self();
-    NSInteger passed = 0;
-    for (NSInteger i = 0; i < count_; ++i) {
-        Component& entry = at(i);
-        entry.turn.advanceToTime(time);
-        passed = wrappingAdd(passed, entry.turn.takePassedRows());
-        if (isLayoutDue()) continue; // The layout that follows shows the rows anyway.
-        scrollColumn(i);
-        showRows(i, false);
-    }
-    tellTicks(passed);
-    reportLandings();
-    return isMoving();
 }
 
 } // namespace gx
