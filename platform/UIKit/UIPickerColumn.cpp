@@ -42,7 +42,10 @@ void UIPickerColumn::scrollToAnchor_offset(NSInteger anchor, double offset) {
     offset_ = offset;
     setBounds({{0, (offset + 0.5) * rowHeight_ - 0.5 * size.height}, size});
     if (!isMoved) return;
-    for (const Row& entry : shown_) entry.view->setFrame(frameOfRow(entry.row));
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
+        const Row entry = shown_[i]; // A delegate's view may do anything when it is moved.
+        entry.view->setFrame(frameOfRow(entry.row));
+    }
 }
 
 UIPickerColumn::Range UIPickerColumn::rowsInSight(NSInteger count) const {
@@ -114,7 +117,9 @@ void UIPickerColumn::trimPool(std::size_t size) {
     while (pool_.size() > size) {
         const Ref<UIView> view = std::move(pool_.back().view);
         pool_.pop_back();
-        if (view->superview().get() == this) view->removeFromSuperview();
+        // A delegate may show one view in several rows.
+        const bool isShown = std::any_of(shown_.begin(), shown_.end(), [&view](const Row& entry) { return entry.view == view; });
+        if (!isShown && view->superview().get() == this) view->removeFromSuperview();
     }
 }
 

@@ -46,8 +46,9 @@ void UIPickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataSource) {
 void UIPickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
     delegate_ = std::move(delegate);
     // Views that one delegate has made mean nothing to another.
-    for (const auto& component : components_) {
-        if (component->column) component->column->removeAllRows();
+    for (std::size_t i = 0; i < components_.size(); ++i) {
+        const Ref<UIPickerColumn> column = components_[i]->column; // The views that go may call back.
+        if (column) column->removeAllRows();
     }
     noteStale();
 }
@@ -65,9 +66,9 @@ void UIPickerView::setFrame(CGRect frame) {
 }
 
 void UIPickerView::setBounds(CGRect newBounds) {
-    const CGSize before = bounds().size;
+    const CGRect before = bounds();
     UIView::setBounds(newBounds);
-    if (bounds().size != before) noteStale();
+    if (bounds() != before) noteStale(); // Columns are placed by the origin, too.
 }
 
 // Answers
@@ -202,7 +203,6 @@ void UIPickerView::selectRow_inComponent_animated(NSInteger row, NSInteger compo
 
 void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (refreshedRows(component) == 0) return;
     const NSInteger held = heldRow(component, row);
     if (!exists(component)) return;
     Component& entry = at(component);
@@ -290,6 +290,11 @@ void UIPickerView::showRow(NSInteger component, NSInteger row) {
     const Ref<UIPickerView> keep = self();
     UIPickerColumn::Row offered = column->takeRow(row, true);
     Ref<UIView> view = delegate ? delegate->pickerView_viewForRow_forComponent_reusingView(keep, row, component, offered.view) : nullptr;
+    // A delegate that was replaced while it was asked has made its views for nobody; the layout that is due asks the new one.
+    if (delegate_.lock() != delegate) {
+        if (offered.view) offered.view->removeFromSuperview();
+        return;
+    }
     // A view above the column cannot show a row of it.
     if (view && column->isDescendantOfView(view)) view = nullptr;
     if (view) {

@@ -75,8 +75,8 @@ public:
     /// movement alone, any other one ends it. Without a window, animation has no clock and the row is shown at once. The delegate is not
     /// told. Ignored for a component that does not exist.
     virtual void selectRow_inComponent_animated(NSInteger row, NSInteger component, bool animated);
-    /// What every turn by the user ends in: stands on the row, requests it and tells the delegate. The row is held to the
-    /// rows there are; ignored for a component without rows.
+    /// What every turn by the user ends in: stands on the row, requests it and tells the delegate. The row is held to the rows there are,
+    /// and is 0 without any (where no user can turn, but a program may say so). Ignored for a component that does not exist.
     virtual void turnToRow_inComponent(NSInteger row, NSInteger component);
     /// Ends every movement at once, the user's turns on the rows they were heading for, and reports those.
     void settle();

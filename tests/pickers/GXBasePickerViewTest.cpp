@@ -329,6 +329,27 @@ TEST_F(BasePicker, AFingerTurnsTheWheelAndTheDelegateIsToldOnce) {
     EXPECT_EQ(picker->currentValue().integerValue(), 3);
 }
 
+TEST_F(BasePicker, ATurnAsksAndMeasuresNoMoreThanItsLayoutNeeds) {
+    struct Engine : UIFixedWidthTextEngine {
+        int asked = 0;
+        CGSize sizeOfText_font(std::string_view text, const UIFont& font) override {
+            ++asked;
+            return UIFixedWidthTextEngine::sizeOfText_font(text, font);
+        }
+    };
+    wheel().setRightLabelText("bpm");
+    picker->layoutIfNeeded();
+    const auto engine = create<Engine>();
+    UITextEngine::setShared(engine);
+    wheel().turnToRow_inComponent(5, 0);
+    EXPECT_EQ(engine->asked, 0) << "the turn itself places nothing";
+    wheel().layoutIfNeeded();
+    UITextEngine::setShared(nullptr);
+    // The column's width; for the right label the widest title, the column's width once more, and its own text; for the empty left label
+    // the widest title.
+    EXPECT_EQ(engine->asked, 5);
+}
+
 // Delegates
 
 TEST_F(BasePicker, ADelegateThatDiedIsSkipped) {
@@ -399,8 +420,13 @@ TEST_F(BasePicker, AMinimumAboveTheMaximumGivesNoRows) {
     picker->setMinValue(boxed(200));
     EXPECT_EQ(rows(), 0);
     picker->layoutIfNeeded();
-    turn(0);
+    TestWindow window(picker);
+    window.drag({160, 108}, {160, 20});
+    EXPECT_FALSE(window.scrollNotches({160, 108}, 1));
     EXPECT_TRUE(notices->list.empty()) << "there is no row to turn to";
+    turn(0);
+    EXPECT_EQ(notices->list.size(), 1U) << "a program that says so all the same is taken at its word";
+    EXPECT_EQ(notices->list[0].value.integerValue(), 200);
 }
 
 TEST_F(BasePicker, EmptyAndNaNNumbersReadAs0) {

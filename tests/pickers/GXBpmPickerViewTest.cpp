@@ -46,3 +46,13 @@ TEST_F(BpmPicker, TheOtherInitialisersSetItUpAlike) {
     EXPECT_EQ(coded->currentValue().intValue(), 160);
     EXPECT_EQ(coded->pickerView()->rightLabelText(), "bpm");
 }
+
+TEST(BpmPickerSubclass, WithoutAWheelItIsSetUpAllTheSame) {
+    struct WithoutWheel : GXBpmPickerView {
+        void initGXBasePickerView() override {}
+    };
+    const auto bare = create<WithoutWheel>(CGRectMake(0, 0, 320, 216));
+    ASSERT_TRUE(bare);
+    EXPECT_FALSE(bare->pickerView());
+    EXPECT_EQ(bare->stepSize().intValue(), 10);
+}

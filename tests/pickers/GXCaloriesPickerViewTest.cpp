@@ -55,3 +55,13 @@ TEST_F(CaloriesPicker, TheOtherInitialisersSetItUpAlike) {
     EXPECT_EQ(coded->maxValue().intValue(), 100000);
     EXPECT_EQ(coded->pickerView()->rightLabelText(), "kcal");
 }
+
+TEST(CaloriesPickerSubclass, WithoutAWheelItIsSetUpAllTheSame) {
+    struct WithoutWheel : GXCaloriesPickerView {
+        void initGXBasePickerView() override {}
+    };
+    const auto bare = create<WithoutWheel>(CGRectMake(0, 0, 320, 216));
+    ASSERT_TRUE(bare);
+    EXPECT_FALSE(bare->pickerView());
+    EXPECT_EQ(bare->stepSize().intValue(), 10);
+}

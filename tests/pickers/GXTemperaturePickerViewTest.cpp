@@ -276,8 +276,8 @@ TEST_F(TemperaturePicker, CrossedBoundsGiveNoRows) {
     EXPECT_EQ(rows(), 0);
     picker->setIsMetric(true);
     EXPECT_EQ(rows(), 0);
-    picker->layoutIfNeeded();
-    turn(0);
+    TestWindow window(picker);
+    window.drag({160, 108}, {160, 20});
     EXPECT_TRUE(notices->list.empty());
 }
 

@@ -50,6 +50,12 @@ public:
     /// Nothing if none was set.
     Ref<UILabel> separatorAfterComponent(NSUInteger component) const;
 
+    /// Place both labels and all separators, or one of them. Nothing happens without a data source and a delegate.
+    virtual void reloadLabelFrames();
+    virtual void setupLeftLabelFrame();
+    virtual void setupRightLabelFrame();
+    virtual void updateSeparatorFrames();
+
     void setDelegate(WeakRef<UIPickerViewDelegate> delegate) override;
     void setDataSource(WeakRef<UIPickerViewDataSource> dataSource) override;
     void reloadAllComponents() override;
@@ -68,10 +74,6 @@ private:
     };
     Sources sources() const;
     bool areLabelsPlacedByLayout();
-    void reloadLabelFrames();
-    void setupLeftLabelFrame();
-    void setupRightLabelFrame();
-    void updateSeparatorFrames();
     CGRect rowRectOfComponent(NSInteger component);
     CGFloat widestTitleWidth(const Sources& sources, NSInteger component);
 

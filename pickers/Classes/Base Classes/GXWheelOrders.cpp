@@ -5,6 +5,9 @@
 
 namespace gx {
 
+// The wheel is held by value for the time of the order, in which a callback may take it away from its picker.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+
 void reloadAllComponents(Ref<GXMultiValuePickerView> wheel) {
     if (wheel) wheel->reloadAllComponents();
 }
@@ -28,6 +31,8 @@ void setRightLabelText(Ref<GXMultiValuePickerView> wheel, std::optional<std::str
 void setSeparatorText_afterComponent(Ref<GXMultiValuePickerView> wheel, std::optional<std::string> text, NSUInteger component) {
     if (wheel) wheel->setSeparatorText_afterComponent(std::move(text), component);
 }
+
+// NOLINTEND(performance-unnecessary-value-param)
 
 CGFloat widthWithinAThirdOfWheel(CGFloat width, const Ref<UIPickerView>& wheel) {
     const CGFloat wheelWidth = wheel ? wheel->bounds().size.width : 0;

@@ -64,7 +64,7 @@ private:
     std::vector<State> saved_;
 };
 
-struct Drawing : testing::Test {
+struct WheelDrawing : testing::Test {
     Ref<WheelSource> source = create<WheelSource>();
     Ref<UIPickerView> wheel = wheelWithSource(source);
     TestWindow window{wheel};
@@ -78,7 +78,7 @@ struct Drawing : testing::Test {
 
 } // namespace
 
-TEST_F(Drawing, TheRowInTheBandIsDrawnAsItIs) {
+TEST_F(WheelDrawing, TheRowInTheBandIsDrawnAsItIs) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     const PlacingCanvas::Text row = drawn().at("50");
     EXPECT_DOUBLE_EQ(row.middle, 108);
@@ -87,7 +87,7 @@ TEST_F(Drawing, TheRowInTheBandIsDrawnAsItIs) {
     EXPECT_DOUBLE_EQ(row.alpha, 1);
 }
 
-TEST_F(Drawing, RowsTurnAwayAndFadeAlikeAboveAndBelow) {
+TEST_F(WheelDrawing, RowsTurnAwayAndFadeAlikeAboveAndBelow) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     const auto rows = drawn();
     for (int i = 1; i <= 3; ++i) {
@@ -108,12 +108,12 @@ TEST_F(Drawing, RowsTurnAwayAndFadeAlikeAboveAndBelow) {
     EXPECT_EQ(rows.size(), 7U) << "the rows at the edge, at 65 degrees, are the last";
 }
 
-TEST_F(Drawing, NoRowIsDrawnBeyondTheWheel) {
+TEST_F(WheelDrawing, NoRowIsDrawnBeyondTheWheel) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     for (const auto& [title, row] : drawn()) EXPECT_EQ(row.clip, CGRectMake(0, 0, 320, 216)) << title;
 }
 
-TEST_F(Drawing, ATapMeetsTheRowThatIsDrawnUnderIt) {
+TEST_F(WheelDrawing, ATapMeetsTheRowThatIsDrawnUnderIt) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     const auto rows = drawn();
     for (const auto& [title, row] : rows) {
@@ -126,7 +126,7 @@ TEST_F(Drawing, ATapMeetsTheRowThatIsDrawnUnderIt) {
     EXPECT_EQ(source->notices.size(), rows.size() - 1);
 }
 
-TEST_F(Drawing, TheBandIsDrawnOnlyWhereItIsWanted) {
+TEST_F(WheelDrawing, TheBandIsDrawnOnlyWhereItIsWanted) {
     PlacingCanvas canvas;
     window->draw(canvas);
     EXPECT_EQ(canvas.bands, 1);

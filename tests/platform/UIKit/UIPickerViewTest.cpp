@@ -1,7 +1,9 @@
 // What the wheel answers, what it asks and when, and where it puts its rows; no turning.
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "TestWindow.h"
 #include "UILabel.h"
@@ -120,6 +122,7 @@ TEST_F(Wheel, WhateverMakesTheAnswersStaleMakesItAskAgain) {
     EXPECT_TRUE(asksAgainAfter([&] { wheel->setBounds(CGRectMake(0, 0, 322, 216)); }));
     EXPECT_TRUE(asksAgainAfter([&] { wheel->selectRow_inComponent_animated(3, 0, false); }));
     EXPECT_TRUE(asksAgainAfter([&] { wheel->turnToRow_inComponent(4, 0); }));
+    EXPECT_TRUE(asksAgainAfter([&] { wheel->setBounds(CGRectMake(0, 50, 322, 216)); }));
     EXPECT_FALSE(asksAgainAfter([&] { wheel->setFrame(CGRectMake(50, 0, 322, 216)); })) << "moved, not resized";
     EXPECT_FALSE(asksAgainAfter([&] { wheel->reloadComponent(1); })) << "there is none";
 }
@@ -283,6 +286,84 @@ TEST_F(RichWheel, OneViewForAllRowsAndTheWheelItselfAreSurvived) {
     wheel->layoutIfNeeded();
     EXPECT_EQ(wheel->frame(), CGRectMake(0, 0, 320, 216));
     source->fixedView = nullptr;
+}
+
+TEST_F(RichWheel, AViewSharedByRowsStaysWhenOneOfThemLeavesSight) {
+    source->fixedView = create<UIView>(CGRectZero);
+    wheel->reloadAllComponents();
+    for (const NSInteger row : {50, 10}) {
+        wheel->selectRow_inComponent_animated(row, 0, false);
+        wheel->layoutIfNeeded();
+        EXPECT_EQ(wheel->viewForRow_forComponent(row, 0)->superview()->superview(), wheel);
+    }
+    source->fixedView = nullptr;
+}
+
+TEST_F(RichWheel, ADelegateReplacedWhileItMakesAViewHasMadeItForNobody) {
+    struct Leaver : RichSource {
+        Ref<RichSource> successor;
+        std::vector<Ref<UIView>> made;
+        Ref<UIView> pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>& asking, NSInteger row, NSInteger component,
+                                                                   const Ref<UIView>& view) override {
+            if (successor) asking->setDelegate(std::exchange(successor, nullptr));
+            made.push_back(RichSource::pickerView_viewForRow_forComponent_reusingView(asking, row, component, view));
+            return made.back();
+        }
+    };
+    const auto leaver = create<Leaver>();
+    leaver->givesViews = true;
+    wheel->setDelegate(leaver);
+    wheel->layoutIfNeeded();
+    source->givesViews = true;
+    leaver->successor = source;
+    wheel->reloadAllComponents();
+    for (int i = 0; i < 3; ++i) wheel->layoutIfNeeded();
+    EXPECT_FALSE(leaver->made.empty());
+    for (const Ref<UIView>& view : leaver->made) {
+        EXPECT_EQ(std::count(source->offered.begin(), source->offered.end(), view), 0);
+        EXPECT_FALSE(view->superview());
+    }
+    EXPECT_EQ(wheel->viewForRow_forComponent(1, 0)->tag(), 1);
+}
+
+TEST_F(RichWheel, ViewsThatCallBackWhenTheyAreMovedOrLeaveAreSurvived) {
+    struct Meddling : UIView {
+        Ref<WheelSource> source;
+        WeakRef<UIPickerView> wheel;
+        void meddle() {
+            const Ref<UIPickerView> turned = wheel.lock();
+            if (!turned) return;
+            source->rows.push_back(10);
+            turned->reloadAllComponents();
+            turned->numberOfComponents();
+            turned->setDelegate(WeakRef<UIPickerViewDelegate>());
+        }
+        void setFrame(CGRect frame) override {
+            const bool isMoved = frame != this->frame();
+            UIView::setFrame(frame);
+            if (isMoved && tag() > 0) meddle();
+        }
+        void didMoveToWindow() override { meddle(); }
+    };
+    TestWindow window(wheel);
+    for (int round = 0; round < 3; ++round) {
+        const auto view = create<Meddling>(CGRectZero);
+        view->source = source;
+        view->wheel = wheel;
+        source->fixedView = view;
+        wheel->setDelegate(source);
+        window.tick(TestWindow::frame);
+        view->setTag(1);
+        wheel->setDelegate(source);
+        window.tick(TestWindow::frame);
+        wheel->selectRow_inComponent_animated(30 + round, 0, false);
+        window.tick(TestWindow::frame);
+    }
+    source->fixedView = nullptr;
+    wheel->setDelegate(source);
+    window.tick(TestWindow::frame);
+    EXPECT_TRUE(wheel->viewForRow_forComponent(32, 0));
+    EXPECT_GT(wheel->numberOfComponents(), 1) << "the views did meddle";
 }
 
 // Cost

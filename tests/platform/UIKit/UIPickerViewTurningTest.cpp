@@ -442,7 +442,11 @@ TEST_F(Turning, ATurnByCodeIsHeldToTheRowsThereAre) {
     wheel->turnToRow_inComponent(100, 0);
     wheel->turnToRow_inComponent(-1, 0);
     wheel->turnToRow_inComponent(5, 1);
-    EXPECT_EQ(source->notices, (Notices{{99, 0}, {0, 0}}));
+    EXPECT_EQ(source->notices, (Notices{{99, 0}, {0, 0}})) << "and ignored for a component that does not exist";
+    source->rows = {0};
+    wheel->reloadAllComponents();
+    wheel->turnToRow_inComponent(5, 0);
+    EXPECT_EQ(source->notices.back(), (WheelSource::Notice{0, 0}));
 }
 
 TEST_F(Turning, TheDelegateMayDropTheWheelWhileItIsTold) {

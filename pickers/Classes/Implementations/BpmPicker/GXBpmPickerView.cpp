@@ -1,6 +1,7 @@
 #include "GXBpmPickerView.h"
 
 #include "GXLocalization.h"
+#include "GXWheelOrders.h"
 
 namespace gx {
 
@@ -27,9 +28,9 @@ void GXBpmPickerView::initGXBpmPickerView() {
     setMaxValue(NSNumber::numberWithInt(240));
     setStepSize(NSNumber::numberWithInt(10));
     setCurrentValue(NSNumber::numberWithInt(160));
-    pickerView()->setRightLabelText(
-        GXLocalization::sharedLocalization()->localizedStringWithKey_comment("bpm", "unit bpm (beats per minute)"));
-    pickerView()->reloadAllComponents();
+    const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
+    setRightLabelText(pickerView(), localization->localizedStringWithKey_comment("bpm", "unit bpm (beats per minute)"));
+    reloadAllComponents(pickerView());
 }
 
 } // namespace gx

@@ -1,5 +1,7 @@
 #include "GXCaloriesPickerView.h"
 
+#include "GXWheelOrders.h"
+
 namespace gx {
 
 bool GXCaloriesPickerView::initWithFrame(CGRect frame) {
@@ -30,8 +32,8 @@ void GXCaloriesPickerView::initGXCaloriesPickerView() {
     setMaxValue(NSNumber::numberWithInt(100000));
     setStepSize(NSNumber::numberWithInt(10));
     setCurrentValue(NSNumber::numberWithInt(0));
-    pickerView()->setRightLabelText(caloriesFormatter()->unit(NSNumber::numberWithInt(100)));
-    pickerView()->setDataSource(self());
+    setRightLabelText(pickerView(), caloriesFormatter()->unit(NSNumber::numberWithInt(100)));
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView()) wheel->setDataSource(self());
 }
 
 } // namespace gx

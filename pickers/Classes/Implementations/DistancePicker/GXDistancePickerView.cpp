@@ -115,7 +115,7 @@ std::int32_t GXDistancePickerView::firstDigitOffered(NSInteger component) const 
     if (!isOnMinimumsWholeUnit()) return 0;
     const bool isTenths = component == tenthsComponent;
     if (isMetric()) {
-        const NSInteger units = quotient<NSInteger>(minValue().integerValue(), isTenths ? 100 : 10);
+        const auto units = quotient<NSInteger>(minValue().integerValue(), isTenths ? 100 : 10);
         return static_cast<std::int32_t>(remainder<NSInteger>(units, 10));
     }
     // The first digit that is not below the minimum; multiplied and rounded up as floats.
@@ -166,7 +166,8 @@ CGFloat GXDistancePickerView::pickerView_widthForComponent(const Ref<UIPickerVie
     case wholeComponent:
     case tenthsComponent:
     case hundredthsComponent:
-        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, component), pickerView);
+        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, component),
+                                        pickerView ? pickerView : this->pickerView());
     case separatorComponent:
         return separatorWidth;
     default:
@@ -181,19 +182,19 @@ NSInteger GXDistancePickerView::numberSelectedInComponent(const Ref<UIPickerView
     return integerValueOfTitle(pickerView_titleForRow_forComponent(pickerView, row, component));
 }
 
-void GXDistancePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& wheel, NSInteger, NSInteger component) {
+void GXDistancePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger, NSInteger component) {
     const Ref<GXBasePickerView> keep = self();
     // The digits are read from the titles, since near the minimum row 0 is not the digit 0.
-    const NSInteger whole = numberSelectedInComponent(wheel, wholeComponent);
-    const NSInteger components = pickerView() ? pickerView()->numberOfComponents() : 0;
-    const double tenths = components >= 3 ? static_cast<double>(numberSelectedInComponent(wheel, tenthsComponent)) * 100.0 : 0;
-    const double hundredths = components > 3 ? static_cast<double>(numberSelectedInComponent(wheel, hundredthsComponent)) * 10.0 : 0;
+    const NSInteger whole = numberSelectedInComponent(pickerView, wholeComponent);
+    const NSInteger components = this->pickerView() ? this->pickerView()->numberOfComponents() : 0;
+    const double tenths = components >= 3 ? static_cast<double>(numberSelectedInComponent(pickerView, tenthsComponent)) * 100.0 : 0;
+    const double hundredths = components > 3 ? static_cast<double>(numberSelectedInComponent(pickerView, hundredthsComponent)) * 10.0 : 0;
     checkMetricAndInformDelegate(static_cast<double>(whole) * 1000.0 + tenths + hundredths);
     if (component == tenthsComponent) {
-        for (NSInteger i = 2; i <= NSInteger{numberOfFractionUnits_} + 1; ++i) reloadComponent(pickerView(), i);
+        for (NSInteger i = 2; i <= NSInteger{numberOfFractionUnits_} + 1; ++i) reloadComponent(this->pickerView(), i);
     } else if (component == wholeComponent) {
         // One short of the last column, which the new value has reloaded already with all others.
-        for (NSInteger i = 1; i <= numberOfFractionUnits_; ++i) reloadComponent(pickerView(), i);
+        for (NSInteger i = 1; i <= numberOfFractionUnits_; ++i) reloadComponent(this->pickerView(), i);
     }
     selectCurrentValue();
 }
@@ -223,7 +224,7 @@ void GXDistancePickerView::selectCurrentValue() {
 void GXDistancePickerView::selectCurrentKilometers() {
     const double meters = currentValue().doubleValue();
     const NSInteger minimum = minValue().integerValue();
-    const NSInteger steps = quotient<NSInteger>(truncateTo<std::int32_t>(meters / 1000.0), stepSize().integerValue());
+    const auto steps = quotient<NSInteger>(truncateTo<std::int32_t>(meters / 1000.0), stepSize().integerValue());
     const NSInteger row = wrappingSubtract(steps, quotient<NSInteger>(minimum, 1000));
     selectRow_inComponent(pickerView(), row, wholeComponent);
 
@@ -243,7 +244,7 @@ void GXDistancePickerView::selectCurrentKilometers() {
 void GXDistancePickerView::selectCurrentMiles() {
     const float miles = meterToMiles(currentValue().doubleValue());
     const float minimum = meterToMiles(minValue().doubleValue());
-    const NSInteger steps = quotient<NSInteger>(truncateTo<std::int32_t>(miles), stepSize().integerValue());
+    const auto steps = quotient<NSInteger>(truncateTo<std::int32_t>(miles), stepSize().integerValue());
     selectRow_inComponent(pickerView(), wrappingSubtract<NSInteger>(steps, truncateTo<std::int32_t>(minimum)), wholeComponent);
 
     const auto rowOfDigit = [&](double scale, bool isAtMinimum) {

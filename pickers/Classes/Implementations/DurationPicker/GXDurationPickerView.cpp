@@ -1,6 +1,7 @@
 #include "GXDurationPickerView.h"
 
 #include <algorithm>
+#include <array>
 
 #include "GXLocalization.h"
 #include "GXWheelOrders.h"
@@ -72,9 +73,9 @@ void GXDurationPickerView::setType(NSInteger type) {
 }
 
 void GXDurationPickerView::showLayout() {
-    static constexpr const char* names[] = {"hh:mm", "hh:mm:ss", "mm:ss"};
+    static constexpr std::array names = {"hh:mm", "hh:mm:ss", "mm:ss"};
     if (type_ < GXDurationTypeHoursMinutes || type_ > GXDurationTypeMinutesSeconds) return;
-    const std::string name = names[type_];
+    const std::string name = names[static_cast<std::size_t>(type_)];
     const bool hasThree = type_ == GXDurationTypeHoursMinutesSeconds;
     const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
     setRightLabelText(pickerView(), localization->localizedStringWithKey_comment(name, name));
@@ -238,9 +239,9 @@ CGFloat GXDurationPickerView::pickerView_widthForComponent(const Ref<UIPickerVie
 // From the wheel to the value
 
 /// The number that a column stands on. In single precision, as all sums that follow: each operation rounds.
-float GXDurationPickerView::valueTurnedTo(NSInteger component, float first) {
+float GXDurationPickerView::valueTurnedTo(NSInteger component, float minimum) {
     const auto row = static_cast<float>(selectedRowInComponent(pickerView(), component));
-    return row * static_cast<float>(stepSizeForComponent(component)) + first;
+    return row * static_cast<float>(stepSizeForComponent(component)) + minimum;
 }
 
 float GXDurationPickerView::secondsTurnedTo() {
@@ -266,13 +267,13 @@ float GXDurationPickerView::secondsTurnedTo() {
     return isMiddleTheMinimums ? total + seconds : total;
 }
 
-void GXDurationPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& wheel, NSInteger, NSInteger component) {
+void GXDurationPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger, NSInteger component) {
     const Ref<GXBasePickerView> keep = self();
     setCurrentValue(NSNumber::numberWithFloat(secondsTurnedTo() * 1000.0F));
     informDelegateOfValueChange();
     const bool hasThree = type_ == GXDurationTypeHoursMinutesSeconds;
-    if (component == firstComponent) reloadComponent(wheel, secondComponent);
-    if ((component == firstComponent || component == secondComponent) && hasThree) reloadComponent(wheel, thirdComponent);
+    if (component == firstComponent) reloadComponent(pickerView, secondComponent);
+    if ((component == firstComponent || component == secondComponent) && hasThree) reloadComponent(pickerView, thirdComponent);
     selectCurrentValue();
 }
 

@@ -94,7 +94,7 @@ private:
     NSInteger rowsOfMiddleUnit() const;
     NSInteger rowsOfLowestUnit() const;
     float secondsTurnedTo();
-    float valueTurnedTo(NSInteger component, float first);
+    float valueTurnedTo(NSInteger component, float minimum);
 
     void clampCurrentValue();
     void setCurrentValueToBound(NSInteger bound, Clamping clamping);

@@ -161,7 +161,8 @@ CGFloat GXSpeedPickerView::pickerView_widthForComponent(const Ref<UIPickerView>&
     switch (component) {
     case wholeComponent:
     case tenthsComponent:
-        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, component), pickerView);
+        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, component),
+                                        pickerView ? pickerView : this->pickerView());
     case separatorComponent:
         return separatorWidth;
     default:
@@ -176,13 +177,13 @@ double GXSpeedPickerView::numberSelectedInComponent(const Ref<UIPickerView>& pic
     return doubleValueOfTitle(pickerView_titleForRow_forComponent(pickerView, row, component));
 }
 
-void GXSpeedPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& wheel, NSInteger, NSInteger) {
+void GXSpeedPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger, NSInteger) {
     const Ref<GXBasePickerView> keep = self();
     // The tenths are titled for the value before the turn, as the user saw them.
-    const double whole = numberSelectedInComponent(wheel, wholeComponent);
-    const double tenths = numberSelectedInComponent(wheel, tenthsComponent);
+    const double whole = numberSelectedInComponent(pickerView, wholeComponent);
+    const double tenths = numberSelectedInComponent(pickerView, tenthsComponent);
     checkMetricAndInformDelegate(whole + tenths / 10.0);
-    reloadComponent(pickerView(), tenthsComponent);
+    reloadComponent(this->pickerView(), tenthsComponent);
     selectCurrentValue();
 }
 

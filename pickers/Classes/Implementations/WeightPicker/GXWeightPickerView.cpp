@@ -113,8 +113,8 @@ void GXWeightPickerView::initGXWeightPickerView() {
 
 // The unit
 
-void GXWeightPickerView::setWeightUnit(GXWeightUnit unit) {
-    weightUnit_ = unit;
+void GXWeightPickerView::setWeightUnit(NSUInteger unit) {
+    weightUnit_ = static_cast<GXWeightUnit>(unit);
     updateCurrentRightLabel();
     reloadAllComponents(pickerView());
 }

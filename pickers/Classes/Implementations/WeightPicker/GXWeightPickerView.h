@@ -24,9 +24,10 @@ public:
     bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
 
     /// Default kilograms. The setter gives the wheel the unit's rows and label; it neither selects the current value, which the next
-    /// `setCurrentValue` does, nor sets the unit's bounds, which `updateMinMaxWeight` does.
+    /// `setCurrentValue` does, nor sets the unit's bounds, which `updateMinMaxWeight` does. A unit that is none of the three is shown and
+    /// turned like stones.
     GXWeightUnit weightUnit() const { return weightUnit_; }
-    virtual void setWeightUnit(GXWeightUnit unit);
+    virtual void setWeightUnit(NSUInteger unit);
     /// Whether the user can choose the unit on a column of its own, instead of reading it beside the wheel. Default false. The column
     /// stands on the unit from the next `setCurrentValue` on.
     bool weightUnitSelectable() const { return weightUnitSelectable_; }
