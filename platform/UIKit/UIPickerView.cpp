@@ -245,7 +245,7 @@ void UIPickerView::layoutSubviews() {
 }
 
 void UIPickerView::placeColumns() {
-    for (std::size_t i = static_cast<std::size_t>(count_); i < components_.size(); ++i) {
+    for (auto i = static_cast<std::size_t>(count_); i < components_.size(); ++i) {
         Component& gone = *components_[i];
         gone.turn.standOnRow(0);
         if (const Ref<UIPickerColumn> column = std::move(gone.column)) column->removeFromSuperview();
