@@ -40,11 +40,14 @@ public:
     bool showsSomething() const override { return text_ && !text_->empty(); }
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
 
+protected:
+    /// Called after text or font have changed, and with them the size that fits.
+    virtual void textDidChange();
+
 private:
     bool initLabel();
     const UIFont& drawnFont() const;
     const UIColor& drawnColor() const;
-    void textDidChange();
     void fitText(CGFloat width) const;
 
     std::optional<std::string> text_;

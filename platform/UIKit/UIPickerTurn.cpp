@@ -7,29 +7,6 @@
 
 namespace gx {
 
-void UIVelocityTracker::reset() { count_ = next_ = 0; }
-
-void UIVelocityTracker::add(NSTimeInterval time, CGFloat place) {
-    samples_[next_] = {time, place};
-    next_ = (next_ + 1) % samples_.size();
-    count_ = std::min(count_ + 1, samples_.size());
-}
-
-double UIVelocityTracker::velocityAt(NSTimeInterval time) const {
-    if (count_ < 2) return 0;
-    const std::size_t size = samples_.size();
-    const Sample& latest = samples_[(next_ + size - 1) % size];
-    if (!(time - latest.time <= stillness)) return 0;
-    Sample earliest = latest;
-    for (std::size_t back = 2; back <= count_; ++back) {
-        const Sample& sample = samples_[(next_ + size - back) % size];
-        if (!(latest.time - sample.time <= memory)) break;
-        earliest = sample;
-    }
-    const double velocity = (latest.place - earliest.place) / (latest.time - earliest.time);
-    return std::isfinite(velocity) ? std::clamp(velocity, -highest, highest) : 0;
-}
-
 // Position
 
 bool UIPickerTurn::isMoving() const {
@@ -97,7 +74,7 @@ void UIPickerTurn::standOnRow(NSInteger row) {
 }
 
 void UIPickerTurn::goToRow(NSInteger row) {
-    glideToRow(row, UIPickerMotion::requestDuration, std::nullopt);
+    glideToRow(row, UIScrollMotion::requestDuration, std::nullopt);
     finger_.reset();
     state_ = State::Requested;
 }
@@ -105,27 +82,27 @@ void UIPickerTurn::goToRow(NSInteger row) {
 void UIPickerTurn::glideToRow(NSInteger row, NSTimeInterval duration, std::optional<NSTimeInterval> start) {
     // Counted from the row that it lands on, the movement ends on exactly that row however far it comes from.
     anchorAt(std::clamp<NSInteger>(row, 0, std::max<NSInteger>(count_ - 1, 0)));
-    motion_ = UIPickerMotion::ease(offset_, 0, duration, start);
+    motion_ = UIScrollMotion::ease(offset_, 0, duration, start);
     state_ = State::Gliding;
 }
 
-void UIPickerTurn::snap(std::optional<NSTimeInterval> start) { glideToRow(rowInBand(), UIPickerMotion::snapDuration, start); }
+void UIPickerTurn::snap(std::optional<NSTimeInterval> start) { glideToRow(rowInBand(), UIScrollMotion::snapDuration, start); }
 
 // The finger
 
 double UIPickerTurn::bandedOffset(double raw) const {
     const double extent = extent_ / rowHeight_;
-    if (raw < firstOffset()) return firstOffset() - UIPickerMotion::rubberBand(firstOffset() - raw, extent);
-    if (raw > lastOffset()) return lastOffset() + UIPickerMotion::rubberBand(raw - lastOffset(), extent);
+    if (raw < firstOffset()) return firstOffset() - UIScrollMotion::rubberBand(firstOffset() - raw, extent);
+    if (raw > lastOffset()) return lastOffset() + UIScrollMotion::rubberBand(raw - lastOffset(), extent);
     return raw;
 }
 
 double UIPickerTurn::rawOffset(double displayed) const {
     const double extent = extent_ / rowHeight_;
     if (displayed < firstOffset()) {
-        return firstOffset() - UIPickerMotion::rubberBandInverse(firstOffset() - displayed, extent);
+        return firstOffset() - UIScrollMotion::rubberBandInverse(firstOffset() - displayed, extent);
     }
-    if (displayed > lastOffset()) return lastOffset() + UIPickerMotion::rubberBandInverse(displayed - lastOffset(), extent);
+    if (displayed > lastOffset()) return lastOffset() + UIScrollMotion::rubberBandInverse(displayed - lastOffset(), extent);
     return displayed;
 }
 
@@ -173,7 +150,7 @@ void UIPickerTurn::touchEnded(CGFloat y, NSTimeInterval time, std::optional<NSIn
     // 2. A tap. On the centre row, and beside the rows, it turns nothing.
     if (state_ == State::Touched) {
         state_ = State::AtRest;
-        if (tappedRow && *tappedRow != rowInBand()) glideToRow(*tappedRow, UIPickerMotion::requestDuration, time);
+        if (tappedRow && *tappedRow != rowInBand()) glideToRow(*tappedRow, UIScrollMotion::requestDuration, time);
         return;
     }
     // 3. Let go beyond an end: back to the end, whatever the speed.
@@ -183,8 +160,8 @@ void UIPickerTurn::touchEnded(CGFloat y, NSTimeInterval time, std::optional<NSIn
     }
     // 4. A fling: first the row, then the curve that ends on it. Without speed this is the nearest row.
     const double velocity = -velocity_.velocityAt(time) / rowHeight_;
-    anchorAt(rowAtOffset(offset_ + UIPickerMotion::travelOfVelocity(velocity)));
-    motion_ = UIPickerMotion::fling(offset_, velocity, 0, velocity < 0 ? firstOffset() : lastOffset(), time);
+    anchorAt(rowAtOffset(offset_ + UIScrollMotion::travelOfVelocity(velocity)));
+    motion_ = UIScrollMotion::fling(offset_, velocity, 0, velocity < 0 ? firstOffset() : lastOffset(), time);
     state_ = State::Gliding;
 }
 
@@ -211,7 +188,7 @@ bool UIPickerTurn::scrollNotches(double notches) {
     const NSInteger row = from + std::clamp<NSInteger>(truncateTo<NSInteger>(whole), -from, count_ - 1 - from);
     if (row == from && !isTurning()) return true; // At the end there is nothing to turn.
     if (!isUsersTurn()) passed_ = from;
-    glideToRow(row, UIPickerMotion::notchDuration, std::nullopt);
+    glideToRow(row, UIScrollMotion::notchDuration, std::nullopt);
     return true;
 }
 

@@ -6,9 +6,9 @@
 
 namespace gx {
 
-/// Where a wheel's column is as a function of time alone: the same curve at any frame rate, ending exactly on
-/// its landing row. Positions are in rows, speeds in rows per second, times in seconds.
-class UIPickerMotion {
+/// Where something that scrolls by itself is, as a function of time alone: the same curve at any frame rate, ending exactly on
+/// its landing. Positions are in rows, of a wheel or of a list, speeds in rows per second, times in seconds.
+class UIScrollMotion {
 public:
     /// What is left of a fling's speed after each millisecond. Prescribed: it is the pace at which everything that
     /// scrolls on the phone comes to rest.
@@ -28,10 +28,10 @@ public:
     static double rubberBandInverse(double displayed, double extent);
 
     /// Slows down evenly from `from` to `to`. Without a start it begins at the first time it is asked about.
-    static UIPickerMotion ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start);
+    static UIScrollMotion ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start);
     /// Begins with `velocity`, as far as the rounding to a row allows, and comes to rest on `to`. `end` is the
     /// last row that way: a fling that would run beyond it bounces there.
-    static UIPickerMotion fling(double from, double velocity, double to, double end, NSTimeInterval start);
+    static UIScrollMotion fling(double from, double velocity, double to, double end, NSTimeInterval start);
 
     /// Fixes the start, if that is still open.
     void beginAt(NSTimeInterval time);

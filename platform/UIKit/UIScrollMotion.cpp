@@ -1,4 +1,4 @@
-#include "UIPickerMotion.h"
+#include "UIScrollMotion.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,7 +8,7 @@ namespace gx {
 namespace {
 
 // The rate as a drag: a free fling follows v(t) = v0·e^(−drag·t), and so runs v0 / drag.
-const double drag = -1000.0 * std::log(UIPickerMotion::decelerationRate);
+const double drag = -1000.0 * std::log(UIScrollMotion::decelerationRate);
 
 // A fling that has come down to this speed is over; in rows per second. Chosen by eye: what is slower looks like standing.
 constexpr double restSpeed = 0.25;
@@ -48,22 +48,22 @@ NSTimeInterval flingDuration(double distance, double velocity) {
 
 } // namespace
 
-double UIPickerMotion::travelOfVelocity(double velocity) { return velocity / drag; }
+double UIScrollMotion::travelOfVelocity(double velocity) { return velocity / drag; }
 
-double UIPickerMotion::rubberBand(double distance, double extent) {
+double UIScrollMotion::rubberBand(double distance, double extent) {
     if (!(extent > 0) || !(distance > 0)) return 0;
     return (1 - 1 / (0.55 * distance / extent + 1)) * extent;
 }
 
-double UIPickerMotion::rubberBandInverse(double displayed, double extent) {
+double UIScrollMotion::rubberBandInverse(double displayed, double extent) {
     if (!(extent > 0) || !(displayed > 0)) return 0;
     // The band never shows more than `extent`; just below it the way would be endless.
     const double share = std::min(displayed / extent, 0.99);
     return (1 / (1 - share) - 1) * extent / 0.55;
 }
 
-UIPickerMotion UIPickerMotion::ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start) {
-    UIPickerMotion motion;
+UIScrollMotion UIScrollMotion::ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start) {
+    UIScrollMotion motion;
     motion.from_ = from;
     motion.to_ = to;
     motion.duration_ = duration;
@@ -71,13 +71,13 @@ UIPickerMotion UIPickerMotion::ease(double from, double to, NSTimeInterval durat
     return motion;
 }
 
-UIPickerMotion UIPickerMotion::fling(double from, double velocity, double to, double end, NSTimeInterval start) {
+UIScrollMotion UIScrollMotion::fling(double from, double velocity, double to, double end, NSTimeInterval start) {
     const double distance = to - from;
     const bool isOnward = distance * velocity > 0;
     // Rounding to a row may send a slow fling back, or nowhere: then there is no speed to keep.
     if (!isOnward) return ease(from, to, snapDuration, start);
 
-    UIPickerMotion motion = ease(from, to, 0, start);
+    UIScrollMotion motion = ease(from, to, 0, start);
     motion.velocity_ = velocity;
     const double travel = travelOfVelocity(velocity);
     if (std::fabs(travel) > std::fabs(end - from) && to == end) {
@@ -92,11 +92,11 @@ UIPickerMotion UIPickerMotion::fling(double from, double velocity, double to, do
     return motion;
 }
 
-void UIPickerMotion::beginAt(NSTimeInterval time) {
+void UIScrollMotion::beginAt(NSTimeInterval time) {
     if (!start_) start_ = time;
 }
 
-double UIPickerMotion::flownAt(NSTimeInterval elapsed) const {
+double UIScrollMotion::flownAt(NSTimeInterval elapsed) const {
     const double distance = to_ - from_;
     switch (curve_) {
     case Curve::Ease: {
@@ -113,16 +113,16 @@ double UIPickerMotion::flownAt(NSTimeInterval elapsed) const {
     return distance;
 }
 
-double UIPickerMotion::positionAt(NSTimeInterval time) const {
+double UIScrollMotion::positionAt(NSTimeInterval time) const {
     if (isOverAt(time)) return to_;
     const NSTimeInterval elapsed = start_ ? time - *start_ : 0;
     // Time that runs backward, or is no number, stands still.
     return elapsed > 0 ? from_ + flownAt(elapsed) : from_;
 }
 
-bool UIPickerMotion::isOverAt(NSTimeInterval time) const { return start_ && time - *start_ >= duration_; }
+bool UIScrollMotion::isOverAt(NSTimeInterval time) const { return start_ && time - *start_ >= duration_; }
 
-void UIPickerMotion::shiftOrigin(double rows) {
+void UIScrollMotion::shiftOrigin(double rows) {
     from_ -= rows;
     to_ -= rows;
 }

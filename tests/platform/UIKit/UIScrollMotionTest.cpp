@@ -1,34 +1,34 @@
-#include "UIPickerMotion.h"
+#include "UIScrollMotion.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-using gx::UIPickerMotion;
+using gx::UIScrollMotion;
 
-TEST(UIPickerMotion, AFlingTravelsItsSpeedOverTheDragOfItsDeceleration) {
+TEST(UIScrollMotion, AFlingTravelsItsSpeedOverTheDragOfItsDeceleration) {
     // 1000 · ln(1/0.998) = 2.0020026706729688
-    EXPECT_NEAR(UIPickerMotion::travelOfVelocity(2.0020026706729688), 1, 1e-12);
-    EXPECT_NEAR(UIPickerMotion::travelOfVelocity(-20.020026706729688), -10, 1e-12);
+    EXPECT_NEAR(UIScrollMotion::travelOfVelocity(2.0020026706729688), 1, 1e-12);
+    EXPECT_NEAR(UIScrollMotion::travelOfVelocity(-20.020026706729688), -10, 1e-12);
 }
 
-TEST(UIPickerMotion, TheRubberBandFollowsLessAndLessAndNeverFurtherThanItsExtent) {
+TEST(UIScrollMotion, TheRubberBandFollowsLessAndLessAndNeverFurtherThanItsExtent) {
     // (1 − 1 / (0.55 · 100 / 200 + 1)) · 200 = 43.13725490196079
-    EXPECT_NEAR(UIPickerMotion::rubberBand(100, 200), 43.13725490196079, 1e-12);
-    EXPECT_LT(UIPickerMotion::rubberBand(1e12, 200), 200);
-    EXPECT_EQ(UIPickerMotion::rubberBand(0, 200), 0);
-    EXPECT_EQ(UIPickerMotion::rubberBand(100, 0), 0);
+    EXPECT_NEAR(UIScrollMotion::rubberBand(100, 200), 43.13725490196079, 1e-12);
+    EXPECT_LT(UIScrollMotion::rubberBand(1e12, 200), 200);
+    EXPECT_EQ(UIScrollMotion::rubberBand(0, 200), 0);
+    EXPECT_EQ(UIScrollMotion::rubberBand(100, 0), 0);
 }
 
-TEST(UIPickerMotion, TheRubberBandCanBeTakenUpWhereItStands) {
+TEST(UIScrollMotion, TheRubberBandCanBeTakenUpWhereItStands) {
     for (const double way : {0.1, 10.0, 100.0, 1000.0}) {
-        EXPECT_NEAR(UIPickerMotion::rubberBandInverse(UIPickerMotion::rubberBand(way, 216), 216), way, way * 1e-12);
+        EXPECT_NEAR(UIScrollMotion::rubberBandInverse(UIScrollMotion::rubberBand(way, 216), 216), way, way * 1e-12);
     }
-    EXPECT_TRUE(std::isfinite(UIPickerMotion::rubberBandInverse(500, 216)));
+    EXPECT_TRUE(std::isfinite(UIScrollMotion::rubberBandInverse(500, 216)));
 }
 
-TEST(UIPickerMotion, AnEaseRunsFromItsStartToItsEndInItsTime) {
-    const UIPickerMotion motion = UIPickerMotion::ease(2, 10, 0.3, 100.0);
+TEST(UIScrollMotion, AnEaseRunsFromItsStartToItsEndInItsTime) {
+    const UIScrollMotion motion = UIScrollMotion::ease(2, 10, 0.3, 100.0);
     EXPECT_EQ(motion.positionAt(99), 2);
     EXPECT_EQ(motion.positionAt(100), 2);
     EXPECT_NEAR(motion.positionAt(100.15), 9, 1e-9); // 2 + 8 · (1 − 0.5³)
@@ -38,8 +38,8 @@ TEST(UIPickerMotion, AnEaseRunsFromItsStartToItsEndInItsTime) {
     EXPECT_EQ(motion.positionAt(1e9), 10);
 }
 
-TEST(UIPickerMotion, WithoutAStartItBeginsWhenItIsFirstAskedAbout) {
-    UIPickerMotion motion = UIPickerMotion::ease(0, 1, 0.3, std::nullopt);
+TEST(UIScrollMotion, WithoutAStartItBeginsWhenItIsFirstAskedAbout) {
+    UIScrollMotion motion = UIScrollMotion::ease(0, 1, 0.3, std::nullopt);
     EXPECT_FALSE(motion.isOverAt(1e9));
     motion.beginAt(50);
     motion.beginAt(60);
@@ -49,7 +49,7 @@ TEST(UIPickerMotion, WithoutAStartItBeginsWhenItIsFirstAskedAbout) {
 namespace {
 
 /// Follows a motion at 1000 frames a second and answers its longest time; checks that it never moves faster than `fastest`.
-double follow(const UIPickerMotion& motion, double fastest) {
+double follow(const UIScrollMotion& motion, double fastest) {
     double before = motion.positionAt(0);
     for (int i = 1; i < 20000; ++i) {
         const double time = i / 1000.0;
@@ -64,10 +64,10 @@ double follow(const UIPickerMotion& motion, double fastest) {
 
 } // namespace
 
-TEST(UIPickerMotion, AFlingBeginsWithTheFingersSpeedAndEndsOnItsRowWithoutAJump) {
+TEST(UIScrollMotion, AFlingBeginsWithTheFingersSpeedAndEndsOnItsRowWithoutAJump) {
     for (const double velocity : {3.0, 10.0, 30.0, 100.0, -30.0}) {
-        const double to = std::round(UIPickerMotion::travelOfVelocity(velocity));
-        const UIPickerMotion motion = UIPickerMotion::fling(0, velocity, to, std::copysign(1e6, velocity), 0);
+        const double to = std::round(UIScrollMotion::travelOfVelocity(velocity));
+        const UIScrollMotion motion = UIScrollMotion::fling(0, velocity, to, std::copysign(1e6, velocity), 0);
         const double startSpeed = (motion.positionAt(1e-4) - motion.positionAt(0)) / 1e-4;
         // A row more than the travel makes it start a little faster, at most as much faster as the way is longer.
         EXPECT_NEAR(startSpeed / velocity, 1, 0.35) << velocity;
@@ -78,13 +78,13 @@ TEST(UIPickerMotion, AFlingBeginsWithTheFingersSpeedAndEndsOnItsRowWithoutAJump)
     }
 }
 
-TEST(UIPickerMotion, AFlingThatRoundsBackToItsOwnRowEasesThere) {
-    const UIPickerMotion motion = UIPickerMotion::fling(0.2, 0.4, 0, 10, 0);
-    EXPECT_NEAR(follow(motion, 5), UIPickerMotion::snapDuration, 0.0011);
+TEST(UIScrollMotion, AFlingThatRoundsBackToItsOwnRowEasesThere) {
+    const UIScrollMotion motion = UIScrollMotion::fling(0.2, 0.4, 0, 10, 0);
+    EXPECT_NEAR(follow(motion, 5), UIScrollMotion::snapDuration, 0.0011);
 }
 
-TEST(UIPickerMotion, AFlingAgainstAnEndSwingsOverItOnceAndComesBack) {
-    const UIPickerMotion motion = UIPickerMotion::fling(0, 50, 5, 5, 0);
+TEST(UIScrollMotion, AFlingAgainstAnEndSwingsOverItOnceAndComesBack) {
+    const UIScrollMotion motion = UIScrollMotion::fling(0, 50, 5, 5, 0);
     double highest = 0;
     bool isBack = false;
     for (int i = 0; i < 2000; ++i) {
@@ -99,8 +99,8 @@ TEST(UIPickerMotion, AFlingAgainstAnEndSwingsOverItOnceAndComesBack) {
     follow(motion, 50);
 }
 
-TEST(UIPickerMotion, TheCurveIsTheSameAtAnyFrameRate) {
-    const UIPickerMotion motion = UIPickerMotion::fling(0, 40, 20, 1e6, 0);
+TEST(UIScrollMotion, TheCurveIsTheSameAtAnyFrameRate) {
+    const UIScrollMotion motion = UIScrollMotion::fling(0, 40, 20, 1e6, 0);
     // Asked at any moment, before or after any other, the answer is one.
     const double late = motion.positionAt(1.5);
     const double early = motion.positionAt(0.5);
@@ -108,8 +108,8 @@ TEST(UIPickerMotion, TheCurveIsTheSameAtAnyFrameRate) {
     EXPECT_EQ(motion.positionAt(1.5), late);
 }
 
-TEST(UIPickerMotion, TimeThatIsNoNumberOrRunsBackwardStandsStill) {
-    const UIPickerMotion motion = UIPickerMotion::fling(0, 40, 20, 1e6, 10);
+TEST(UIScrollMotion, TimeThatIsNoNumberOrRunsBackwardStandsStill) {
+    const UIScrollMotion motion = UIScrollMotion::fling(0, 40, 20, 1e6, 10);
     EXPECT_EQ(motion.positionAt(9), 0);
     EXPECT_EQ(motion.positionAt(std::nan("")), 0);
     EXPECT_FALSE(motion.isOverAt(std::nan("")));

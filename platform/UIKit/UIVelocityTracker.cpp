@@ -1,0 +1,31 @@
+#include "UIVelocityTracker.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace gx {
+
+void UIVelocityTracker::reset() { count_ = next_ = 0; }
+
+void UIVelocityTracker::add(NSTimeInterval time, CGFloat place) {
+    samples_[next_] = {time, place};
+    next_ = (next_ + 1) % samples_.size();
+    count_ = std::min(count_ + 1, samples_.size());
+}
+
+double UIVelocityTracker::velocityAt(NSTimeInterval time) const {
+    if (count_ < 2) return 0;
+    const std::size_t size = samples_.size();
+    const Sample& latest = samples_[(next_ + size - 1) % size];
+    if (!(time - latest.time <= stillness)) return 0;
+    Sample earliest = latest;
+    for (std::size_t back = 2; back <= count_; ++back) {
+        const Sample& sample = samples_[(next_ + size - back) % size];
+        if (!(latest.time - sample.time <= memory)) break;
+        earliest = sample;
+    }
+    const double velocity = (latest.place - earliest.place) / (latest.time - earliest.time);
+    return std::isfinite(velocity) ? std::clamp(velocity, -highest, highest) : 0;
+}
+
+} // namespace gx
