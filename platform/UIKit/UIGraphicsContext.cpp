@@ -13,7 +13,7 @@ void UIGraphicsContext::drawText(std::string_view text, const UIFont& font, cons
 }
 
 void UIGraphicsContext::drawImage(const UIImage& image, CGRect rect) {
-    if (!CGRectIsEmpty(rect)) drawImageInRect(image, rect);
+    if (!CGRectIsEmpty(rect)) drawImageInRect(image.resolved(style_), rect);
 }
 
 } // namespace gx

@@ -12,13 +12,13 @@ namespace gx {
 /// The canvas that a host gives to a window for one frame. It starts with the origin at the window's top left,
 /// y growing downward, one unit a point.
 ///
-/// Views draw with the operations here; a host implements the protected ones. Colours arrive there resolved
-/// for the look of the frame.
+/// Views draw with the operations here; a host implements the protected ones. Colours and images
+/// arrive there resolved for the look of the frame.
 class UIGraphicsContext {
 public:
     virtual ~UIGraphicsContext() = default;
 
-    /// The look that colours are resolved for; the window sets it before it draws.
+    /// The look that colours and images are resolved for; the window sets it before it draws.
     UIUserInterfaceStyle userInterfaceStyle() const { return style_; }
     void setUserInterfaceStyle(UIUserInterfaceStyle style) { style_ = style; }
 

@@ -29,6 +29,23 @@ Ref<UIImage> UIImage::imageWithContentsOfFile(const std::string& path) {
     return loader ? loader->imageWithContentsOfFile(path) : nullptr;
 }
 
+Ref<UIImage> UIImage::imageWithLight_dark(Ref<UIImage> light, Ref<UIImage> dark) {
+    if (!light || !dark || light->size() != dark->size()) return nullptr;
+    auto image = create<UIImage>();
+    image->width_ = light->width_;
+    image->height_ = light->height_;
+    image->scale_ = light->scale_;
+    image->accessibilityLabel_ = light->accessibilityLabel_;
+    image->light_ = light->light_ ? light->light_ : std::move(light);
+    image->dark_ = dark->dark_ ? dark->dark_ : std::move(dark);
+    return image;
+}
+
+const UIImage& UIImage::resolved(UIUserInterfaceStyle style) const {
+    const Ref<const UIImage>& picture = style == UIUserInterfaceStyle::Dark ? dark_ : light_;
+    return picture ? *picture : *this;
+}
+
 Ref<UIImageLoader> UIImageLoader::shared() { return sharedLoader(); }
 void UIImageLoader::setShared(Ref<UIImageLoader> loader) { sharedLoader() = std::move(loader); }
 

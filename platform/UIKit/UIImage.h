@@ -7,10 +7,12 @@
 
 #include "CGGeometry.h"
 #include "NSObject.h"
+#include "UIColor.h"
 
 namespace gx {
 
-/// A picture as pixels. Immutable, so hosts may keep what they make of it for as long as it lives.
+/// A picture as pixels, or as a pair of pictures, one for each look. Immutable, so hosts may keep what they make of it for as long as it
+/// lives.
 class UIImage : public NSObject {
 public:
     /// `pixels` are rows from the top, four bytes a pixel: red, green, blue and alpha, not premultiplied.
@@ -19,12 +21,22 @@ public:
     /// Reads a picture with the host's loader; nothing without a host, or if it cannot be read.
     static Ref<UIImage> imageWithContentsOfFile(const std::string& path);
 
+    /// Drawn as the light picture of `light` in the light look, as the dark picture of `dark` in the dark one, so a window that changes
+    /// from light to dark only has to draw again. Holds both; they may be of different scales. It begins with the label of `light`.
+    /// Answers nothing if either is absent or if their sizes in points differ.
+    static Ref<UIImage> imageWithLight_dark(Ref<UIImage> light, Ref<UIImage> dark);
+
+    /// The picture to draw in the look: one of the pair, else this image itself. Lives as long as this image.
+    const UIImage& resolved(UIUserInterfaceStyle style) const;
+
+    // Of the two pictures of a pair, what follows tells the light one's.
+
     /// In points.
     CGSize size() const { return {width_ / scale_, height_ / scale_}; }
     int pixelWidth() const { return width_; }
     int pixelHeight() const { return height_; }
     double scale() const { return scale_; }
-    const std::vector<std::uint8_t>& pixels() const { return pixels_; }
+    const std::vector<std::uint8_t>& pixels() const { return light_ ? light_->pixels_ : pixels_; }
 
     /// What the picture shows, as a screen reader says it.
     const std::optional<std::string>& accessibilityLabel() const { return accessibilityLabel_; }
@@ -35,6 +47,9 @@ private:
     int width_ = 0;
     int height_ = 0;
     double scale_ = 1;
+    // A pair has both and no pixels of its own; neither of them is a pair.
+    Ref<const UIImage> light_;
+    Ref<const UIImage> dark_;
     std::optional<std::string> accessibilityLabel_;
 };
 

@@ -56,3 +56,14 @@ TEST(UIGraphicsContext, AnImageIsDrawnIntoItsRectangle) {
     canvas.drawImage(*twoByOne(), CGRectMake(1, 2, 30, 40));
     EXPECT_EQ(canvas.calls, Calls{"image 2 by 1 in 1 2 30 40"});
 }
+
+TEST(UIGraphicsContext, APairOfImagesArrivesResolvedForTheLook) {
+    RecordingCanvas canvas;
+    const Ref<UIImage> larger = UIImage::imageWithPixels_width_height_scale(std::vector<std::uint8_t>(32, 0), 4, 2, 2);
+    const Ref<UIImage> pair = UIImage::imageWithLight_dark(twoByOne(), larger);
+    ASSERT_TRUE(pair);
+    canvas.drawImage(*pair, CGRectMake(1, 2, 30, 40));
+    canvas.setUserInterfaceStyle(UIUserInterfaceStyle::Dark);
+    canvas.drawImage(*pair, CGRectMake(1, 2, 30, 40));
+    EXPECT_EQ(canvas.calls, (Calls{"image 2 by 1 in 1 2 30 40", "image 4 by 2 in 1 2 30 40"}));
+}

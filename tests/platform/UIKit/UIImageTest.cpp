@@ -10,6 +10,12 @@ namespace {
 
 std::vector<std::uint8_t> bytes(std::size_t count) { return std::vector<std::uint8_t>(count, 7); }
 
+/// A square with a byte value to tell it by.
+Ref<UIImage> square(int pixels, double scale, std::uint8_t value) {
+    const auto count = static_cast<std::size_t>(pixels * pixels * 4);
+    return UIImage::imageWithPixels_width_height_scale(std::vector<std::uint8_t>(count, value), pixels, pixels, scale);
+}
+
 struct Loader : UIImageLoader {
     std::string asked;
     Ref<UIImage> imageWithContentsOfFile(const std::string& path) override {
@@ -63,6 +69,80 @@ TEST_F(Image, AScreenReaderSaysItsLabel) {
     EXPECT_EQ(image->accessibilityLabel(), std::nullopt);
     image->setAccessibilityLabel("Sunny");
     EXPECT_EQ(image->accessibilityLabel(), "Sunny");
+}
+
+TEST_F(Image, APairIsTheOneOrTheOtherByTheLook) {
+    const Ref<UIImage> light = square(2, 1, 9);
+    const Ref<UIImage> dark = square(2, 1, 1);
+    const Ref<UIImage> pair = UIImage::imageWithLight_dark(light, dark);
+    ASSERT_TRUE(pair);
+    EXPECT_EQ(&pair->resolved(UIUserInterfaceStyle::Light), light.get());
+    EXPECT_EQ(&pair->resolved(UIUserInterfaceStyle::Dark), dark.get());
+}
+
+TEST_F(Image, AnImageOfOneLookIsItselfInBoth) {
+    const Ref<UIImage> image = square(2, 1, 9);
+    EXPECT_EQ(&image->resolved(UIUserInterfaceStyle::Light), image.get());
+    EXPECT_EQ(&image->resolved(UIUserInterfaceStyle::Dark), image.get());
+}
+
+TEST_F(Image, APairTellsItsLightPicturesSizeAndPixels) {
+    const Ref<UIImage> pair = UIImage::imageWithLight_dark(square(6, 3, 9), square(4, 2, 1));
+    ASSERT_TRUE(pair) << "both are 2 by 2 points";
+    EXPECT_EQ(pair->size(), CGSizeMake(2, 2));
+    EXPECT_EQ(pair->scale(), 3);
+    EXPECT_EQ(pair->pixelWidth(), 6);
+    EXPECT_EQ(pair->pixelHeight(), 6);
+    EXPECT_EQ(pair->pixels(), std::vector<std::uint8_t>(144, 9));
+    EXPECT_EQ(pair->resolved(UIUserInterfaceStyle::Dark).pixels(), std::vector<std::uint8_t>(64, 1));
+}
+
+TEST_F(Image, APairNeedsBothInOneSize) {
+    EXPECT_FALSE(UIImage::imageWithLight_dark(nullptr, nullptr));
+    EXPECT_FALSE(UIImage::imageWithLight_dark(square(2, 1, 9), nullptr));
+    EXPECT_FALSE(UIImage::imageWithLight_dark(nullptr, square(2, 1, 1)));
+    EXPECT_FALSE(UIImage::imageWithLight_dark(square(2, 1, 9), square(3, 1, 1)));
+    EXPECT_FALSE(UIImage::imageWithLight_dark(square(2, 1, 9), square(2, 2, 1))) << "half as large in points";
+    EXPECT_TRUE(UIImage::imageWithLight_dark(square(2, 1, 9), square(2, 1, 9)));
+    const Ref<UIImage> tall = UIImage::imageWithPixels_width_height_scale(bytes(8), 1, 2, 1);
+    const Ref<UIImage> wide = UIImage::imageWithPixels_width_height_scale(bytes(8), 2, 1, 1);
+    EXPECT_FALSE(UIImage::imageWithLight_dark(tall, wide));
+}
+
+TEST_F(Image, APairOfPairsTakesTheOuterPictures) {
+    const Ref<UIImage> day = square(2, 1, 9);
+    const Ref<UIImage> night = square(2, 1, 1);
+    const Ref<UIImage> pair = UIImage::imageWithLight_dark(UIImage::imageWithLight_dark(day, square(2, 1, 5)),
+                                                           UIImage::imageWithLight_dark(square(2, 1, 4), night));
+    ASSERT_TRUE(pair);
+    EXPECT_EQ(&pair->resolved(UIUserInterfaceStyle::Light), day.get());
+    EXPECT_EQ(&pair->resolved(UIUserInterfaceStyle::Dark), night.get());
+    EXPECT_EQ(pair->pixels(), day->pixels());
+}
+
+TEST_F(Image, APairHoldsItsPictures) {
+    Ref<UIImage> light = square(2, 1, 9);
+    Ref<UIImage> dark = square(2, 1, 1);
+    const WeakRef<UIImage> weakLight = light;
+    const WeakRef<UIImage> weakDark = dark;
+    Ref<UIImage> pair = UIImage::imageWithLight_dark(std::move(light), std::move(dark));
+    EXPECT_FALSE(weakLight.expired());
+    EXPECT_FALSE(weakDark.expired());
+    pair = nullptr;
+    EXPECT_TRUE(weakLight.expired());
+    EXPECT_TRUE(weakDark.expired());
+}
+
+TEST_F(Image, APairBeginsWithTheLabelOfItsLightPictureAndThenHasItsOwn) {
+    const Ref<UIImage> light = square(2, 1, 9);
+    const Ref<UIImage> dark = square(2, 1, 1);
+    light->setAccessibilityLabel("Sunny");
+    dark->setAccessibilityLabel("Starry");
+    const Ref<UIImage> pair = UIImage::imageWithLight_dark(light, dark);
+    EXPECT_EQ(pair->accessibilityLabel(), "Sunny");
+    pair->setAccessibilityLabel("Clear");
+    EXPECT_EQ(pair->accessibilityLabel(), "Clear");
+    EXPECT_EQ(light->accessibilityLabel(), "Sunny");
 }
 
 TEST_F(Image, WithoutAHostNoFileIsRead) {
