@@ -1,0 +1,48 @@
+#pragma once
+
+#include "GXBasePickerView.h"
+#include "UITableViewCell.h"
+
+namespace gx {
+
+/// A table cell that shows a picker over its whole area. This one has no picker; each kind of picker has a cell of its own.
+///
+/// An application registers a cell under its `cellIdentifier` and talks to the cell's `pickerView` as to a picker that stands free. A cell
+/// that is used again keeps its picker, and the picker its values, fonts and delegate: set all that differs from row to row.
+///
+/// The picker is made once, with the cell's bounds: at construction in code, in `awakeFromNib` for a cell from an interface.
+///
+/// A cell of another picker overrides `makePicker`, and has a `cellIdentifier` of its own.
+class GXBasePickerCell : public UITableViewCell {
+public:
+    /// What an application registers the class under.
+    static std::string cellIdentifier();
+
+    bool initWithStyle_reuseIdentifier(UITableViewCellStyle style, const std::optional<std::string>& reuseIdentifier) override;
+    bool initWithFrame(CGRect frame) override;
+    void awakeFromNib() override;
+
+    /// Held strongly. The setter stores only; the cell shows what is in its content view.
+    const Ref<GXBasePickerView>& pickerView() const { return pickerView_; }
+    void setPickerView(Ref<GXBasePickerView> pickerView) { pickerView_ = std::move(pickerView); }
+
+    /// The picker takes the new bounds, be it inside the cell or not.
+    void setFrame(CGRect frame) override;
+
+protected:
+    /// Styles the cell.
+    virtual void initGXBasePickerCell();
+    /// The content view becomes clear and the cell takes the style sheet's background for tables.
+    virtual void styleGXBasePickerCell();
+    /// Called once the cell is styled, unless it has a picker already: makes the picker and shows it. Here there is none.
+    virtual void makePicker();
+    /// Takes a picker and puts it into the content view.
+    void showPicker(const Ref<GXBasePickerView>& picker);
+
+private:
+    void setUp();
+
+    Ref<GXBasePickerView> pickerView_;
+};
+
+} // namespace gx

@@ -1,0 +1,11 @@
+#include "GXCaloriesPickerCell.h"
+
+#include "GXCaloriesPickerView.h"
+
+namespace gx {
+
+std::string GXCaloriesPickerCell::cellIdentifier() { return "GXCaloriesPickerCellIdentifier"; }
+
+void GXCaloriesPickerCell::initGXCaloriesPickerCell() { showPicker(create<GXCaloriesPickerView>(bounds())); }
+
+} // namespace gx

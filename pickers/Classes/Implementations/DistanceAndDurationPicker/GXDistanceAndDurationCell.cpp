@@ -1,0 +1,11 @@
+#include "GXDistanceAndDurationCell.h"
+
+#include "GXDistanceAndDurationPicker.h"
+
+namespace gx {
+
+std::string GXDistanceAndDurationCell::cellIdentifier() { return "GXDistanceAndDurationCellIdentifier"; }
+
+void GXDistanceAndDurationCell::initGXDistanceAndDurationCell() { showPicker(create<GXDistanceAndDurationPicker>(bounds())); }
+
+} // namespace gx

@@ -1,0 +1,11 @@
+#include "GXHeartRatePickerCell.h"
+
+#include "GXHeartRatePickerView.h"
+
+namespace gx {
+
+std::string GXHeartRatePickerCell::cellIdentifier() { return "GXHeartRatePickerCellIdentifier"; }
+
+void GXHeartRatePickerCell::initGXHeartRatePickerCell() { showPicker(create<GXHeartRatePickerView>(bounds())); }
+
+} // namespace gx

@@ -1,0 +1,65 @@
+#include "GXIconPickerView.h"
+
+#include "GXWheelOrders.h"
+#include "NSArithmetic.h"
+#include "UIImageView.h"
+
+namespace gx {
+
+bool GXIconPickerView::initWithFrame(CGRect frame) {
+    if (!GXBasePickerView::initWithFrame(frame)) return false;
+    initGXIconPickerView();
+    return true;
+}
+
+bool GXIconPickerView::initWithCoder(const Ref<NSCoder>& coder) {
+    if (!GXBasePickerView::initWithCoder(coder)) return false;
+    initGXIconPickerView();
+    return true;
+}
+
+void GXIconPickerView::initGXIconPickerView() { setIconImages(std::make_shared<const Images>()); }
+
+void GXIconPickerView::setIconImages(Ref<const Images> images) {
+    if (images == iconImages_) return;
+    iconImages_ = std::move(images);
+    reloadAllComponents(pickerView());
+}
+
+NSInteger GXIconPickerView::imageCount() const { return iconImages_ ? static_cast<NSInteger>(iconImages_->size()) : 0; }
+
+Ref<UIImage> GXIconPickerView::imageOfRow(NSInteger row) const {
+    const NSInteger index = wrappingAdd(minValue().integerValue(), row);
+    if (index < 0 || index >= imageCount()) return nullptr;
+    return (*iconImages_)[static_cast<std::size_t>(index)];
+}
+
+// Answers to the wheel
+
+NSInteger GXIconPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }
+
+NSInteger GXIconPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) {
+    return wrappingSubtract(imageCount(), minValue().integerValue());
+}
+
+std::optional<std::string> GXIconPickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {
+    return std::nullopt;
+}
+
+CGFloat GXIconPickerView::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger) {
+    return pickerView() ? pickerView()->bounds().size.width : 0;
+}
+
+Ref<UIView> GXIconPickerView::pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>&, NSInteger row, NSInteger,
+                                                                             const Ref<UIView>& view) {
+    Ref<UIImageView> imageView = std::dynamic_pointer_cast<UIImageView>(view);
+    if (!imageView) {
+        const Ref<GXMultiValuePickerView> wheel = pickerView();
+        imageView = create<UIImageView>(CGRect{{0, 0}, wheel ? wheel->rowSizeForComponent(0) : CGSize{}});
+        imageView->setContentMode(UIViewContentModeScaleAspectFit);
+    }
+    imageView->setImage(imageOfRow(row));
+    return imageView;
+}
+
+} // namespace gx

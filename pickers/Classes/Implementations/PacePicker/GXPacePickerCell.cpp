@@ -1,0 +1,11 @@
+#include "GXPacePickerCell.h"
+
+#include "GXPacePickerView.h"
+
+namespace gx {
+
+std::string GXPacePickerCell::cellIdentifier() { return "GXPacePickerCellIdentifier"; }
+
+void GXPacePickerCell::initGXPacePickerCell() { showPicker(create<GXPacePickerView>(bounds())); }
+
+} // namespace gx

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "GXBasePickerCell.h"
+
+namespace gx {
+
+/// A table cell with a `GXTemperaturePickerView`, its rows as high as the style sheet says when the cell is made.
+class GXTemperaturePickerCell : public GXBasePickerCell {
+public:
+    static std::string cellIdentifier();
+
+protected:
+    void makePicker() override { initGXTemperaturePickerCell(); }
+    void initGXTemperaturePickerCell();
+};
+
+} // namespace gx

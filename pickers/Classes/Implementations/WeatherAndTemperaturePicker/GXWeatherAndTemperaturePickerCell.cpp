@@ -1,0 +1,13 @@
+#include "GXWeatherAndTemperaturePickerCell.h"
+
+#include "GXWeatherAndTemperaturePickerView.h"
+
+namespace gx {
+
+std::string GXWeatherAndTemperaturePickerCell::cellIdentifier() { return "GXWeatherAndTemperaturePickerCellIdentifier"; }
+
+void GXWeatherAndTemperaturePickerCell::initGXWeatherAndTemperatureCell() {
+    showPicker(create<GXWeatherAndTemperaturePickerView>(bounds()));
+}
+
+} // namespace gx

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "GXIconPickerView.h"
+#include "GXTemperaturePickerView.h"
+
+namespace gx {
+
+/// Picks a workout's weather: an icon and a temperature, on two pickers side by side with rows of the same height.
+///
+/// It has no wheel and no numbers of its own: the images, the chosen index and the temperature belong to the inner pickers and are set
+/// there. Its own setters of numbers and fonts only store, and show nothing.
+///
+/// It tells nobody anything, but hands its delegate to the inner pickers. They report to it straight, each as the sender and for component
+/// 0, so compare the sender with `weatherPicker` and `temperaturePicker`. Before `setDelegate`, nothing is reported.
+///
+/// The two meet 30 points left of the middle. In less than 60 points there is no room for the icons: the weather picker's frame then has a
+/// negative width.
+class GXWeatherAndTemperaturePickerView : public GXBasePickerView {
+public:
+    /// Rows are as high as the style sheet says of images at this moment.
+    bool initWithFrame(CGRect frame) override;
+    bool initWithCoder(const Ref<NSCoder>& coder) override;
+    /// The rows of both inner pickers are `rowHeight` points high.
+    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
+
+    /// Held strongly. It has no rows until it is given its images. The setters of both pickers store only: neither subviews nor frames,
+    /// delegate or unit system follow. Without one, what concerns it does nothing.
+    const Ref<GXIconPickerView>& weatherPicker() const { return weatherPicker_; }
+    void setWeatherPicker(Ref<GXIconPickerView> picker) { weatherPicker_ = std::move(picker); }
+    const Ref<GXTemperaturePickerView>& temperaturePicker() const { return temperaturePicker_; }
+    void setTemperaturePicker(Ref<GXTemperaturePickerView> picker) { temperaturePicker_ = std::move(picker); }
+
+    /// Places the inner pickers by the new bounds.
+    void setFrame(CGRect frame) override;
+    /// Also hands the delegate, or nothing, to the inner pickers.
+    void setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) override;
+    /// Also sets the flag of the inner pickers; the weather picker only stores it.
+    void setIsMetric(bool isMetric) override;
+
+protected:
+    /// Does nothing, so that there is neither a wheel nor a range.
+    void initGXBasePickerView() override;
+
+private:
+    void initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight);
+    CGRect weatherFrame() const;
+    CGRect temperatureFrame() const;
+
+    Ref<GXIconPickerView> weatherPicker_;
+    Ref<GXTemperaturePickerView> temperaturePicker_;
+};
+
+} // namespace gx

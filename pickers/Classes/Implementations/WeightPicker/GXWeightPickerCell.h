@@ -1,0 +1,17 @@
+#pragma once
+
+#include "GXBasePickerCell.h"
+
+namespace gx {
+
+/// A table cell with a `GXWeightPickerView`, pinned to the content view: whatever moves it, the next layout makes it fill that again.
+class GXWeightPickerCell : public GXBasePickerCell {
+public:
+    static std::string cellIdentifier();
+
+protected:
+    void makePicker() override { initGXWeightPickerCell(); }
+    void initGXWeightPickerCell();
+};
+
+} // namespace gx
