@@ -3,10 +3,13 @@
 #include <algorithm>
 
 #include <QEventPoint>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QTouchEvent>
 #include <QWheelEvent>
+
+#include "UIKey.h"
 
 namespace gx::qt {
 
@@ -28,6 +31,57 @@ bool isOfMouse(const QMouseEvent& event) {
     const QInputDevice::DeviceType type = typeOf(event);
     const bool isOfTrackpadTouch = type == QInputDevice::DeviceType::TouchPad && event.source() == Qt::MouseEventSynthesizedByQt;
     return type != QInputDevice::DeviceType::TouchScreen && !isOfTrackpadTouch;
+}
+
+UIKey::Code codeOf(int key) {
+    switch (key) {
+    case Qt::Key_Left:
+        return UIKey::Code::Left;
+    case Qt::Key_Right:
+        return UIKey::Code::Right;
+    case Qt::Key_Up:
+        return UIKey::Code::Up;
+    case Qt::Key_Down:
+        return UIKey::Code::Down;
+    case Qt::Key_PageUp:
+        return UIKey::Code::PageUp;
+    case Qt::Key_PageDown:
+        return UIKey::Code::PageDown;
+    case Qt::Key_Home:
+        return UIKey::Code::Home;
+    case Qt::Key_End:
+        return UIKey::Code::End;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return UIKey::Code::Return;
+    case Qt::Key_Escape:
+        return UIKey::Code::Escape;
+    case Qt::Key_Space:
+        return UIKey::Code::Space;
+    default:
+        return UIKey::Code::None;
+    }
+}
+
+UIKey keyOf(const QKeyEvent& event, NSTimeInterval time) {
+    UIKey key;
+    key.code = codeOf(event.key());
+    key.isRepeat = event.isAutoRepeat();
+    key.timestamp = time;
+    const QString text = event.text();
+    const bool isTyped = key.code == UIKey::Code::None && !text.isEmpty() && text.front().isPrint();
+    if (isTyped) {
+        key.code = UIKey::Code::Character;
+        key.characters = text.toStdString();
+    }
+    const Qt::KeyboardModifiers held = event.modifiers();
+    if (held.testFlag(Qt::ShiftModifier)) key.modifiers |= UIKey::Shift;
+    // AltGr, where the system has it as both keys at once, types.
+    if (isTyped && held.testFlag(Qt::ControlModifier) && held.testFlag(Qt::AltModifier)) return key;
+    if (held.testFlag(Qt::ControlModifier)) key.modifiers |= UIKey::Control;
+    if (held.testFlag(Qt::AltModifier)) key.modifiers |= UIKey::Alternate;
+    if (held.testFlag(Qt::MetaModifier)) key.modifiers |= UIKey::Command;
+    return key;
 }
 
 } // namespace
@@ -121,6 +175,19 @@ bool QtInput::wheel(const QWheelEvent& event, NSTimeInterval time) {
         return false;
     }
     return window_->scroll(scroll);
+}
+
+bool QtInput::keyPress(const QKeyEvent& event, NSTimeInterval time) {
+    // Qt asks what Tab does before it sends the key, and sends it all the same if nothing does.
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
+    return window_->keyDown(keyOf(event, time));
+}
+
+bool QtInput::moveFocus(bool isForward, NSTimeInterval time) {
+    UIKey key;
+    key.code = isForward ? UIKey::Code::Tab : UIKey::Code::BackTab;
+    key.timestamp = time;
+    return window_->keyDown(key);
 }
 
 void QtInput::cancelAll(NSTimeInterval time) {

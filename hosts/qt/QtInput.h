@@ -6,6 +6,7 @@
 
 #include "UIWindow.h"
 
+class QKeyEvent;
 class QMouseEvent;
 class QTouchEvent;
 class QWheelEvent;
@@ -15,7 +16,8 @@ namespace gx::qt {
 /// Turns Qt's input events into what a window takes.
 ///
 /// Supports: any number of fingers; the mouse with its left button as one more; mouse wheels, also in fractions of a notch and
-/// sideways; trackpads with strokes and glides. Does not support: pens as such (Qt makes mouse events of them), gestures, hovering.
+/// sideways; trackpads with strokes and glides; keys, also held ones, and the text that they type. Does not support: pens as such (Qt makes
+/// mouse events of them), gestures, hovering, input methods that compose a text before it is typed.
 ///
 /// Times are in seconds on the clock of the window's ticks. Each operation answers whether the event was of use; those
 /// that were not are for whoever lies around the view. What views do meanwhile may drop everything but this object,
@@ -29,6 +31,10 @@ public:
     bool mouseMove(const QMouseEvent& event, NSTimeInterval time);
     bool mouseRelease(const QMouseEvent& event, NSTimeInterval time);
     bool wheel(const QWheelEvent& event, NSTimeInterval time);
+    /// A key goes down or repeats. Tab is left to `moveFocus`.
+    bool keyPress(const QKeyEvent& event, NSTimeInterval time);
+    /// Tab, or Shift and Tab.
+    bool moveFocus(bool isForward, NSTimeInterval time);
     /// Takes away all fingers, and the mouse.
     void cancelAll(NSTimeInterval time);
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QFocusEvent>
 #include <QInputEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -41,8 +43,8 @@ UIViewWidget::UIViewWidget(QWidget* parent)
     frameTimer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&frameTimer_, &QTimer::timeout, this, [this] { stepFrame(); });
     setAttribute(Qt::WA_AcceptTouchEvents);
-    setMouseTracking(true);         // A move without a button tells that a release went elsewhere.
-    setFocusPolicy(Qt::ClickFocus); // A press takes the focus away from where the user was typing.
+    setMouseTracking(true);          // A move without a button tells that a release went elsewhere.
+    setFocusPolicy(Qt::StrongFocus); // A press takes the focus away from where the user was typing.
     followPalette();
     window_->setHost(this); // A new window asks for its first frame.
 }
@@ -170,8 +172,46 @@ bool UIViewWidget::event(QEvent* event) {
 
 void UIViewWidget::hideEvent(QHideEvent* event) {
     const std::shared_ptr<QtInput> input = input_;
+    const Ref<UIWindow> window = window_;
     QWidget::hideEvent(event);
     input->cancelAll(now());
+    window->settle();
+}
+
+// The keyboard
+
+bool UIViewWidget::focusNextPrevChild(bool next) {
+    const std::shared_ptr<QtInput> input = input_;
+    const QPointer<QWidget> self(this);
+    if (input->moveFocus(next, now()) || !self) return true;
+    // Where there is no other widget to go to, the next view after the last one is the first.
+    return QWidget::focusNextPrevChild(next) || (!self.isNull() && input->moveFocus(next, now()));
+}
+
+void UIViewWidget::focusInEvent(QFocusEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    const Ref<UIWindow> window = window_;
+    const double time = now();
+    const Qt::FocusReason reason = event->reason();
+    QWidget::focusInEvent(event);
+    window->setReceivesKeys(true);
+    if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
+    window->setFirstResponder(nullptr);
+    input->moveFocus(reason == Qt::TabFocusReason, time);
+}
+
+void UIViewWidget::focusOutEvent(QFocusEvent* event) {
+    const Ref<UIWindow> window = window_;
+    QWidget::focusOutEvent(event);
+    window->setReceivesKeys(false);
+}
+
+void UIViewWidget::keyPressEvent(QKeyEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    const QPointer<QWidget> self(this);
+    const bool isUsed = input->keyPress(*event, timeOf(*event));
+    event->setAccepted(isUsed);
+    if (!isUsed && self) QWidget::keyPressEvent(event); // Escape closes a popup.
 }
 
 void UIViewWidget::mousePressEvent(QMouseEvent* event) {

@@ -20,13 +20,16 @@ class QtInput;
 
 /// Shows any view in a Qt application. Call `installQtHost` once before the first view is made.
 ///
-/// Supports: one root view that fills the widget; fingers, mouse, mouse wheel and trackpad (see `QtInput`); any ratio of device
+/// Supports: one root view that fills the widget; fingers, mouse, mouse wheel, trackpad and keyboard (see `QtInput`); any ratio of device
 /// pixels to points, also one that changes between screens; a light and a dark look, by default the palette's. Events that no view made use
-/// of are ignored, so that a QScrollArea around the widget scrolls. Does not support: keyboard, accessibility bridge.
+/// of are ignored, so that a QScrollArea around the widget scrolls and shortcuts work. Does not support: accessibility bridge.
+///
+/// Focus. Tab goes through the views that take the focus, and from the last one on to the widget that follows; who comes by Tab begins at
+/// the first view, who comes by Shift and Tab at the last. A widget that is hidden, as when its window closes, settles its wheels: their
+/// delegates hear of the rows that they were turned to.
 ///
 /// Frames. Nothing runs while nothing changes. A change starts ticks at the screen's refresh rate; each tick moves the views
-/// and has the widget painted, until one finds nothing to draw. Ticks do not depend on the widget being visible: a wheel that turns while
-/// its window is closed comes to rest, and its delegate hears of it.
+/// and has the widget painted, until one finds nothing to draw. Ticks do not depend on the widget being visible.
 ///
 /// Time. Frames are on a steady clock that starts with the widget. Input events are brought onto it by their own times
 /// (`QtEventClock`). With a clock of one's own (`setClock`) events happen at the time that it tells on their delivery.
@@ -68,6 +71,10 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -10,15 +10,20 @@
 /// and to each window that it shows:
 /// - its size (`setFrame`), and itself with `setHost`;
 /// - fingers, the mouse with its button held, and scrolling (`touchBegan_at_time` … `scroll`);
+/// - keys (`keyDown`), each with what it types, and held ones again and again; Tab too, which goes on to what lies around the window where
+///   the answer is false; and whether the keys come to this window at all (`setReceivesKeys`);
+/// - that the window closes or is hidden, with `settle`, so that no turn is lost;
 /// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when tick says so.
 ///
-/// The library asks of a host, through the window: frames and ticks (`UIWindowHost`). All of it happens on
+/// The library asks of a host, through the window: frames and, unless the window's `setTicksEnabled` turns them off, ticks
+/// (`UIWindowHost`). Touches, scrolling and keys that no view made use of are the host's own, as their answers tell. All of it happens on
 /// one thread. Nothing else is needed: without a host everything works headless.
 
 #include "NSLocale.h"
 #include "NSRunLoop.h"
 #include "UIGraphicsContext.h"
 #include "UIImage.h"
+#include "UIKey.h"
 #include "UITextEngine.h"
 #include "UIWindow.h"
 

@@ -61,6 +61,11 @@ UIPickerColumn::Range UIPickerColumn::rowsInSight(NSInteger count) const {
     return {firstRow, std::max(firstRow, lastRow)};
 }
 
+NSInteger UIPickerColumn::rowsWhollyInSight() const {
+    const auto toEitherSide = truncateTo<NSInteger>(reach() - 0.5);
+    return 2 * std::max<NSInteger>(toEitherSide, 0) + 1;
+}
+
 std::optional<double> UIPickerColumn::offsetDrawnAt(CGFloat y) const {
     const double sine = (y - 0.5 * bounds().size.height) / radius();
     if (!(std::fabs(sine) < 1)) return std::nullopt;

@@ -36,6 +36,8 @@ public:
         NSInteger last = 0;
     };
     Range rowsInSight(NSInteger count) const;
+    /// How many rows show all of themselves while one stands in the band; at least 1.
+    NSInteger rowsWhollyInSight() const;
     /// Where on the wheel the row lies that is drawn at `y` of the column's frame, in rows from the anchor;
     /// nothing beside the cylinder.
     std::optional<double> offsetDrawnAt(CGFloat y) const;

@@ -175,7 +175,17 @@ void UIPickerTurn::touchCancelled(NSTimeInterval time) {
     }
 }
 
-// The mouse wheel and the trackpad
+// The mouse wheel, the trackpad and the keys
+
+NSInteger UIPickerTurn::stepStart() const {
+    // Each notch and key counts from the row that the last one is still on its way to, so none is lost.
+    return state_ == State::Gliding ? landingRow() : rowInBand();
+}
+
+NSInteger UIPickerTurn::rowAfter(NSInteger rows) const {
+    const NSInteger from = stepStart();
+    return from + std::clamp<NSInteger>(rows, -from, count_ - 1 - from);
+}
 
 bool UIPickerTurn::scrollNotches(double notches) {
     if (finger_ || count_ == 0 || !std::isfinite(notches)) return false;
@@ -183,12 +193,25 @@ bool UIPickerTurn::scrollNotches(double notches) {
     const double whole = std::trunc(notches_);
     if (whole == 0) return true;
     notches_ -= whole;
-    // Each notch counts from the row that the last one is still on its way to, so none is lost.
-    const NSInteger from = state_ == State::Gliding ? landingRow() : rowInBand();
-    const NSInteger row = from + std::clamp<NSInteger>(truncateTo<NSInteger>(whole), -from, count_ - 1 - from);
-    if (row == from && !isTurning()) return true; // At the end there is nothing to turn.
-    if (!isUsersTurn()) passed_ = from;
+    const NSInteger row = rowAfter(truncateTo<NSInteger>(whole));
+    if (row == stepStart() && !isTurning()) return true; // At the end there is nothing to turn.
+    if (!isUsersTurn()) passed_ = rowInBand();
     glideToRow(row, UIScrollMotion::notchDuration, std::nullopt);
+    return true;
+}
+
+bool UIPickerTurn::stepByRows(NSInteger rows) { return !finger_ && count_ > 0 && turnToRow(rowAfter(rows)); }
+
+bool UIPickerTurn::turnToRow(NSInteger row) {
+    if (finger_ || count_ == 0) return false;
+    const NSInteger held = std::clamp<NSInteger>(row, 0, count_ - 1);
+    const NSInteger from = stepStart();
+    // A key that is held at the end does not slow down the way there.
+    const bool isOnItsWay = state_ == State::AtRest || state_ == State::Gliding || state_ == State::Landed;
+    if (held == from && isOnItsWay) return true;
+    if (!isUsersTurn()) passed_ = rowInBand();
+    const bool isStep = held - from >= -1 && held - from <= 1;
+    glideToRow(held, isStep ? UIScrollMotion::notchDuration : UIScrollMotion::requestDuration, std::nullopt);
     return true;
 }
 

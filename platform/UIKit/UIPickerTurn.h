@@ -56,6 +56,8 @@ public:
     void goToRow(NSInteger row);
 
     bool hasFinger(std::int64_t identifier) const { return finger_ == identifier; }
+    /// Whether any finger lies on it.
+    bool isHeld() const { return finger_.has_value(); }
     /// A moving column stops under the finger. Ignored while another finger holds it, and without rows.
     void touchBegan(std::int64_t identifier, CGFloat y, NSTimeInterval time);
     void touchMoved(CGFloat y, NSTimeInterval time);
@@ -64,6 +66,12 @@ public:
     void touchCancelled(NSTimeInterval time);
     /// One notch is one row. Answers whether it turns anything; a finger on the column goes before.
     bool scrollNotches(double notches);
+    /// A user's turn by so many rows, counted from the row that the column is already on its way to: so keys in quick succession add up.
+    /// Held to the rows there are; where that leaves nothing to turn, nothing changes. Answers false only while a finger holds
+    /// the column, and without rows.
+    bool stepByRows(NSInteger rows);
+    /// The same, to a row.
+    bool turnToRow(NSInteger row);
     /// Follows a trackpad by points.
     bool scrollPoints(CGFloat points, NSTimeInterval time, bool isFinished);
 
@@ -86,6 +94,8 @@ private:
     double rawOffset(double displayed) const;
     void glideToRow(NSInteger row, NSTimeInterval duration, std::optional<NSTimeInterval> start);
     void snap(std::optional<NSTimeInterval> start);
+    NSInteger stepStart() const;
+    NSInteger rowAfter(NSInteger rows) const;
 
     NSInteger count_ = 0;
     CGFloat rowHeight_ = 32;

@@ -322,11 +322,12 @@ void UIPickerView::showRow(NSInteger component, NSInteger row) {
 
 void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
     UIView::drawRect(context, rect);
-    if (!showsBand_ || count_ == 0) return;
+    if (count_ == 0) return;
     CGFloat height = 0;
     for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
     const CGRect band = CGRectMake(rect.origin.x + bandInset, CGRectGetMidY(rect) - 0.5 * height, rect.size.width - 2 * bandInset, height);
-    context.fillRect(band, UIColor::tertiarySystemFillColor(), bandCornerRadius);
+    if (showsBand_) context.fillRect(band, UIColor::tertiarySystemFillColor(), bandCornerRadius);
+    drawFocus(context, band);
 }
 
 } // namespace gx

@@ -2,7 +2,10 @@
 
 #include <vector>
 
+#include "UIKey.h"
+#include "UIPickerTitleSearch.h"
 #include "UIPickerTurn.h"
+#include "UIPickerTyping.h"
 #include "UIPickerViewProtocols.h"
 #include "UIView.h"
 
@@ -10,7 +13,7 @@ namespace gx {
 
 class UIPickerColumn;
 
-/// A wheel: columns of rows that the user turns with finger, mouse or trackpad.
+/// A wheel: columns of rows that the user turns with finger, mouse, trackpad or keyboard.
 ///
 /// What is shown. Columns stand side by side, 5 points apart, together centred in the bounds. Rows are
 /// virtual: only views of rows in sight exist, so neither a reload nor a frame costs more with more rows.
@@ -22,6 +25,16 @@ class UIPickerColumn;
 /// Selection. For each component the wheel remembers the row last requested, exactly as given, and answers it
 /// held to the rows there are at that moment. A moving column reports the row it last stood on or was last
 /// asked for, until it has come to rest. The delegate is told of turns by the user alone.
+///
+/// Keys. A wheel with a column that can be turned takes the focus; so does one that is touched. Left and right choose the column, which the
+/// band marks; columns of one row, and those that show nothing, are passed over. Up and down turn by a row, page keys by the rows in sight
+/// less one, home and end to the first and the last row. Keys count from the row that the column is on its way to, so none is lost.
+/// Characters turn to the row whose title they spell, in any script's digits and whatever the case of letters (`UIPickerTyping`,
+/// `UIPickerTitleSearch`); a decimal separator, or a colon, goes on to the next column. The column turns while the user types, but tells of
+/// it once, when the text is complete: when no title goes on, a second has passed, or another key, a touch or another column
+/// comes. A character that spells nothing leaves the wheel where it is.
+///
+/// No turn is lost: a wheel that leaves its window, is hidden, or whose window settles, arrives at once and reports.
 ///
 /// The wheel owns neither its data source nor its delegate. Both may do anything while they are asked.
 class UIPickerView : public UIView {
@@ -65,6 +78,8 @@ public:
     NSInteger rowInBandOfComponent(NSInteger component);
     /// Whether any column is turning, by the user or by an animated request.
     bool isTurning() const;
+    /// The column that keys turn: the one chosen last, by a key or a touch, or the first that can be turned; −1 if there is none.
+    NSInteger componentOfKeys();
 
     // Orders
 
@@ -87,12 +102,16 @@ public:
     void setBounds(CGRect bounds) override;
     void layoutSubviews() override;
     void didMoveToWindow() override;
+    void didDisappear() override;
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
     void touchBegan(const UITouch& touch) override;
     void touchMoved(const UITouch& touch) override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
     bool scrolled(const UIScroll& scroll) override;
+    bool canBecomeFirstResponder() override;
+    bool keyPressed(const UIKey& key) override;
+    void focusDidChange() override;
     bool advanceToTime(NSTimeInterval time) override;
 
 private:
@@ -117,6 +136,16 @@ private:
     NSInteger componentAt(CGPoint point) const;
     NSInteger componentOfTouch(std::int64_t identifier) const;
     bool canTurn(NSInteger component);
+    bool canBeChosen(NSInteger component);
+    NSInteger componentBeside(NSInteger component, NSInteger direction);
+    NSInteger componentThatShowsAfter(NSInteger component);
+    void choose(NSInteger component);
+    void turnByKey(UIKey::Code code, NSInteger component);
+    void typeCharacter(char32_t character, NSTimeInterval time);
+    UIPickerTitleSearch::Result rowsSpelled(const std::u32string& text, NSInteger component);
+    void completeTyping();
+    void arriveExcept(NSInteger component);
+    void drawFocus(UIGraphicsContext& context, CGRect band);
     bool isMoving() const;
     void letGo(Component& component);
     void startMoving();
@@ -132,6 +161,8 @@ private:
     bool isCountAsked_ = false;
     bool areRowsDue_ = true;
     bool showsBand_ = true;
+    UIPickerTyping typing_;
+    NSInteger chosen_ = -1; // The column that keys turn, as far as it can be turned; −1 for the first.
 };
 
 } // namespace gx

@@ -49,7 +49,7 @@ void UIPickerView::tellTicks(NSInteger rows) {
     constexpr NSInteger highest = 100;
     for (NSInteger i = 0; i < std::min(rows, highest); ++i) {
         const Ref<UIWindow> window = this->window();
-        if (!window || !window->host()) return;
+        if (!window || !window->host() || !window->areTicksEnabled()) return;
         window->host()->wheelDidTick();
     }
 }
@@ -63,7 +63,11 @@ void UIPickerView::touchBegan(const UITouch& touch) {
         UIView::touchBegan(touch);
         return;
     }
+    // What was typed is complete; its report waits for the finger, which may turn on.
+    typing_.clear();
     at(component).turn.touchBegan(touch.identifier, point.y, touch.timestamp);
+    if (canBeChosen(component)) choose(component);
+    becomeFirstResponder();
 }
 
 void UIPickerView::touchMoved(const UITouch& touch) {
@@ -115,7 +119,11 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
     const Ref<UIPickerView> keep = self();
     layoutIfNeeded();
     const NSInteger component = componentAt(convertPointFromWindow(scroll.locationInWindow));
-    if (!canTurn(component)) return UIView::scrolled(scroll);
+    // What goes sideways, and what could turn nothing, may scroll something around the wheel. A column at its end keeps the wheel's
+    // notches, so that nothing else moves below the pointer then.
+    const bool isSideways = std::fabs(scroll.deltaX) > std::fabs(scroll.deltaY);
+    if (isSideways || !canBeChosen(component)) return UIView::scrolled(scroll);
+    typing_.clear();
     UIPickerTurn& turn = at(component).turn;
     const bool isTaken = scroll.unit == UIScroll::Unit::Notches ? turn.scrollNotches(scroll.deltaY)
                                                                 : turn.scrollPoints(scroll.deltaY, scroll.timestamp, scroll.isFinished);
@@ -125,6 +133,7 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
 
 bool UIPickerView::advanceToTime(NSTimeInterval time) {
     const Ref<UIPickerView> keep = self();
+    if (typing_.isOverAt(time)) typing_.clear();
     NSInteger passed = 0;
     for (NSInteger i = 0; i < count_; ++i) {
         Component& entry = at(i);
@@ -141,6 +150,7 @@ bool UIPickerView::advanceToTime(NSTimeInterval time) {
 
 void UIPickerView::settle() {
     const Ref<UIPickerView> keep = self();
+    typing_.clear();
     for (NSInteger i = 0; i < count_; ++i) {
         at(i).turn.settle();
         scrollColumn(i);
@@ -152,6 +162,7 @@ void UIPickerView::reportLandings() {
     // Ascending, also when a report changes the columns or what they do; a request for another row has ended a turn
     // before its report.
     for (NSInteger i = 0; i < count_; ++i) {
+        if (typing_.component() == i) continue; // The rest of the text may turn it on.
         if (const std::optional<NSInteger> row = at(i).turn.takeLanding()) turnToRow_inComponent(*row, i);
     }
 }
@@ -160,6 +171,11 @@ void UIPickerView::didMoveToWindow() {
     UIView::didMoveToWindow();
     // Without a window no time passes: what moves arrives.
     if (isTurning() && !window()) settle();
+}
+
+void UIPickerView::didDisappear() {
+    UIView::didDisappear();
+    if (isTurning()) settle();
 }
 
 } // namespace gx

@@ -101,13 +101,17 @@ void UIView::removeFromSuperview() {
         std::find_if(above.subviews_.begin(), above.subviews_.end(), [this](const Ref<UIView>& view) { return view.get() == this; });
     const Ref<UIView> keep = *entry;
     const UIColor tintBefore = tintColor();
-    const UIWindow* windowBefore = root()->asWindow();
+    UIWindow* const windowBefore = root()->asWindow();
     above.setNeedsDisplay();
     above.subviews_.erase(entry);
     above.constraints_.erase(std::remove_if(above.constraints_.begin(), above.constraints_.end(),
                                             [&keep](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == keep; }),
                              above.constraints_.end());
     superview_ = nullptr;
+    // Held while views hear of the lost focus; a window that is being torn down is kept by nobody, and outlasts this.
+    const Ref<UIWindow> keepWindow = refTo(windowBefore);
+    if (windowBefore) windowBefore->resignFirstResponderWithin(keep);
+    if (superview_) return; // Who was told has put the view elsewhere, and with that told of it.
     noteTreeChange(tintBefore, windowBefore);
 }
 
@@ -151,12 +155,16 @@ void UIView::layoutIfNeeded() {
     }
     if (!isLayoutDueBelow_) return;
     isLayoutDueBelow_ = false;
-    const std::vector<Ref<UIView>> below = subviews_;
-    for (const Ref<UIView>& view : below) {
-        if (view->superview_ == this) view->layoutIfNeeded();
-        // A view that asks again, or is in the middle of its own layout, waits for the next pass.
-        if (view->superview_ == this && (view->needsLayout_ || view->isLayoutDueBelow_)) isLayoutDueBelow_ = true;
+    // Without a copy of the list, since rows that scroll are laid out in every frame. Whom a change of the list hides from this walk, as
+    // a view that asks again, or is in the middle of its own layout, waits for the next pass.
+    std::size_t i = 0;
+    for (std::size_t steps = subviews_.size(); steps > 0 && i < subviews_.size(); --steps) {
+        const Ref<UIView> view = subviews_[i];
+        view->layoutIfNeeded();
+        if (i < subviews_.size() && subviews_[i] == view) ++i;
     }
+    isLayoutDueBelow_ = std::any_of(subviews_.begin(), subviews_.end(),
+                                    [](const Ref<UIView>& view) { return view->needsLayout_ || view->isLayoutDueBelow_; });
 }
 
 void UIView::layoutSubviews() {
@@ -203,12 +211,6 @@ void UIView::setAlpha(double alpha) {
     const double held = std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0);
     if (held == alpha_) return;
     alpha_ = held;
-    setNeedsDisplay();
-}
-
-void UIView::setHidden(bool hidden) {
-    if (hidden == isHidden_) return;
-    isHidden_ = hidden;
     setNeedsDisplay();
 }
 

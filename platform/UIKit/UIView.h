@@ -14,6 +14,7 @@ namespace gx {
 class NSLayoutConstraint;
 class UIGraphicsContext;
 class UIWindow;
+struct UIKey;
 
 /// A rectangle in a tree of views: it has a place in its superview, draws itself, lays out its subviews and
 /// receives touches. The base of everything on the screen.
@@ -102,6 +103,7 @@ public:
     double alpha() const { return alpha_; }
     void setAlpha(double alpha);
     bool isHidden() const { return isHidden_; }
+    /// Hiding takes away the focus of the view and of those below, and tells all of them (`didDisappear`).
     virtual void setHidden(bool hidden);
     bool clipsToBounds() const { return clipsToBounds_; }
     void setClipsToBounds(bool clips);
@@ -132,6 +134,8 @@ public:
 
     bool isUserInteractionEnabled() const { return isInteractive_; }
     void setUserInteractionEnabled(bool enabled) { isInteractive_ = enabled; }
+    /// Whether neither this view nor one above it is hidden, clear or disabled.
+    bool takesInput() const;
     /// The topmost view that takes touches at a point of this view's coordinates; nothing outside the bounds.
     Ref<UIView> hitTest(CGPoint point);
 
@@ -143,6 +147,30 @@ public:
     /// Here it is handed to the superview. Answers whether someone made use of it.
     virtual bool scrolled(const UIScroll& scroll);
 
+    // Keys
+
+    /// A key goes to the view that has the focus; here it is handed to the superview. Answers whether someone made use of it.
+    virtual bool keyPressed(const UIKey& key);
+    /// Whether the view takes the focus when Tab comes to it. Here false.
+    virtual bool canBecomeFirstResponder();
+    /// Takes the focus: the keys go here until another view takes it. Answers false, and changes nothing, for a view that is in no window,
+    /// is out of sight or takes no input (also by a view above), or cannot become first responder.
+    bool becomeFirstResponder();
+    /// Gives the focus up, to nobody. Answers false for a view that has not got it.
+    bool resignFirstResponder();
+    bool isFirstResponder() const;
+    /// Called after the view got the focus or lost it, and when the mark of its focus appears or goes (`UIWindow::showsFocus`). Here the
+    /// view is drawn again.
+    virtual void focusDidChange();
+    /// Asks for a rectangle of this view's coordinates to come into sight, as for the view that Tab goes to. Here it is handed to the
+    /// superview; a view that scrolls brings it into its own bounds first.
+    virtual void revealDescendant(CGRect rect);
+
+    // Time
+
+    /// Called when nobody sees the view any more, though it stays where it is: it, or a view above it, was hidden, or its window settles.
+    /// What is on its way arrives.
+    virtual void didDisappear();
     /// Called by the window before each frame, for views that asked with `UIWindow::animateView`. Answers
     /// whether the view goes on moving.
     virtual bool advanceToTime(NSTimeInterval time);
@@ -157,8 +185,15 @@ protected:
     static void drawView(UIView& view, UIGraphicsContext& context);
     /// A window answers itself.
     virtual UIWindow* asWindow() { return nullptr; }
+    /// Tells this view and those below that they have disappeared.
+    void notifyDisappearance();
+    /// The views from here down that take the focus, in the order of the tree.
+    void collectFocusable(std::vector<Ref<UIView>>& found);
 
 private:
+    /// What is fainter is as good as hidden: no input meets it.
+    static constexpr double lowestTouchableAlpha = 0.01;
+
     UIView* root() const;
     CGPoint originIn(const UIView* above) const;
     CGPoint originSeenFrom(const UIView& view) const;

@@ -80,7 +80,7 @@ CGPoint UIView::convertPointFromWindow(CGPoint point) const {
 }
 
 Ref<UIView> UIView::hitTest(CGPoint point) {
-    if (isHidden_ || !isInteractive_ || alpha_ < 0.01 || !CGRectContainsPoint(bounds(), point)) return nullptr;
+    if (isHidden_ || !isInteractive_ || alpha_ < lowestTouchableAlpha || !CGRectContainsPoint(bounds(), point)) return nullptr;
     for (auto entry = subviews_.rbegin(); entry != subviews_.rend(); ++entry) {
         UIView& view = **entry;
         const CGPoint inside = {point.x - CGRectGetMinX(view.frame_) + view.boundsOrigin_.x,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "UIHost.h"
+#include "UIKey.h"
 
 namespace gx {
 
@@ -33,6 +34,7 @@ std::vector<UIWindow::Touch>::iterator UIWindow::findTouch(std::int64_t identifi
 void UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
     touchCancelled_at_time(identifier, time);
+    showFocus(false);
     layoutIfNeeded(); // The finger aims at what the next frame would show.
     const UITouch touch = {identifier, time, location};
     const Ref<UIView> view = hitTest(location);
@@ -75,6 +77,69 @@ bool UIWindow::scroll(const UIScroll& scroll) {
     const Ref<UIView> view = hitTest(scroll.locationInWindow);
     return view && view->scrolled(scroll);
 }
+
+// Keys
+
+bool UIWindow::keyDown(const UIKey& key) {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    layoutIfNeeded(); // Which views take keys may depend on what they show.
+    if (const Ref<UIView> first = firstResponder(); first && !first->takesInput()) setFirstResponder(nullptr);
+    const Ref<UIView> first = firstResponder();
+    const bool isTab = key.code == UIKey::Code::Tab || key.code == UIKey::Code::BackTab;
+    bool isUsed = first && first->keyPressed(key);
+    if (!isUsed && isTab && !key.isCommand()) isUsed = moveFocus(key.code == UIKey::Code::BackTab);
+    if (isUsed) showFocus(true);
+    return isUsed;
+}
+
+bool UIWindow::moveFocus(bool isBackward) {
+    std::vector<Ref<UIView>> views;
+    collectFocusable(views);
+    if (isBackward) std::reverse(views.begin(), views.end());
+    const auto present = std::find(views.begin(), views.end(), firstResponder());
+    for (auto next = present == views.end() ? views.begin() : present + 1; next != views.end(); ++next) {
+        if (!(*next)->becomeFirstResponder()) continue;
+        (*next)->revealDescendant((*next)->bounds());
+        return true;
+    }
+    setFirstResponder(nullptr);
+    return false;
+}
+
+void UIWindow::setFirstResponder(const Ref<UIView>& view) {
+    const Ref<UIView> before = firstResponder();
+    if (view == before) return;
+    const Ref<UIView> keep = refTo<UIView>(this);
+    const Ref<UIView> after = view; // The argument may be this window's own entry. NOLINT(performance-unnecessary-copy-initialization)
+    firstResponder_ = after;
+    if (before) before->focusDidChange();
+    if (after && firstResponder() == after) after->focusDidChange();
+}
+
+void UIWindow::resignFirstResponderWithin(const Ref<UIView>& view) {
+    const Ref<UIView> first = firstResponder();
+    if (first && first->isDescendantOfView(view)) setFirstResponder(nullptr);
+}
+
+void UIWindow::tellOfFocus() const {
+    if (const Ref<UIView> first = firstResponder()) first->focusDidChange();
+}
+
+void UIWindow::showFocus(bool shows) {
+    if (shows == isFocusShown_) return;
+    isFocusShown_ = shows;
+    tellOfFocus();
+}
+
+void UIWindow::setReceivesKeys(bool receives) {
+    if (receives == receivesKeys_) return;
+    receivesKeys_ = receives;
+    tellOfFocus();
+}
+
+// Time
+
+void UIWindow::settle() { notifyDisappearance(); }
 
 bool UIWindow::tick(NSTimeInterval time) {
     if (isTicking_) return true; // A callback may not turn time within a turn.

@@ -8,8 +8,8 @@ namespace gx {
 
 class UIWindowHost;
 
-/// The root of the views that one host shows: it takes size, touches and scrolling from the host, hands
-/// them to views, runs what moves and draws a frame. `UIHost.h` tells the whole protocol.
+/// The root of the views that one host shows: it takes size, touches, scrolling and keys from the host,
+/// hands them to views, runs what moves and draws a frame. `UIHost.h` tells the whole protocol.
 class UIWindow : public UIView {
 public:
     ~UIWindow() override;
@@ -35,14 +35,42 @@ public:
     /// Goes to the view below the location. Answers whether someone made use of it.
     bool scroll(const UIScroll& scroll);
 
+    /// A key goes down, or repeats. It goes to the view with the focus and from there up, to nobody if none has it. Tab, if none of them
+    /// used it, moves the focus to the next view that takes it, in the order of the tree, and Shift and Tab to the one before; that view
+    /// comes into sight. Beyond the last one the focus is given up and the answer is false, so that the host may go on to what lies
+    /// around the window; the next Tab begins at the first again. Answers whether someone made use of the key.
+    bool keyDown(const UIKey& key);
+    /// Whether keys come to this window at present. Default true. While they do not, no focus is shown, but it is kept.
+    bool receivesKeys() const { return receivesKeys_; }
+    void setReceivesKeys(bool receives);
+
+    /// Ends every movement in the window at once: wheels report the rows that they were turned to. For a window that closes or is hidden,
+    /// so that no turn is lost.
+    void settle();
+
     /// Moves everything to `time`, lays out, and answers whether to draw (again). While something moves, the
     /// answer is true at every call; otherwise once after each change.
     bool tick(NSTimeInterval time);
     /// Draws the frame. The canvas is the host's.
     void draw(UIGraphicsContext& context);
 
+    /// Whether wheels tell the host of each row that passes. Default true.
+    bool areTicksEnabled() const { return areTicksEnabled_; }
+    void setTicksEnabled(bool enabled) { areTicksEnabled_ = enabled; }
+
+    // The focus
+
+    /// The view that has it, or nothing. Held weakly; a view that leaves the window or is hidden loses it.
+    Ref<UIView> firstResponder() const { return firstResponder_.lock(); }
+    /// Whether the view with the focus marks it: once a key was of use, until the next touch. A finger knows where it is and needs no mark.
+    bool showsFocus() const { return isFocusShown_ && receivesKeys_; }
+
     // From views
 
+    /// What `becomeFirstResponder` and `resignFirstResponder` end in.
+    void setFirstResponder(const Ref<UIView>& view);
+    /// Takes the focus from the view and from those below it.
+    void resignFirstResponderWithin(const Ref<UIView>& view);
     /// Calls the view's `advanceToTime` before each frame, until that answers false.
     void animateView(const Ref<UIView>& view);
     /// Something has changed on screen: the host is asked for a frame, once until the next tick.
@@ -57,11 +85,18 @@ private:
         WeakRef<UIView> view;
     };
     std::vector<Touch>::iterator findTouch(std::int64_t identifier);
+    bool moveFocus(bool isBackward);
+    void showFocus(bool shows);
+    void tellOfFocus() const;
 
     UIWindowHost* host_ = nullptr;
     UIUserInterfaceStyle style_ = UIUserInterfaceStyle::Light;
     std::vector<Touch> touches_;
     std::vector<WeakRef<UIView>> moving_;
+    WeakRef<UIView> firstResponder_;
+    bool isFocusShown_ = false;
+    bool receivesKeys_ = true;
+    bool areTicksEnabled_ = true;
     bool needsFrame_ = true;
     bool isTicking_ = false;
 };

@@ -1,37 +1,16 @@
 // What a wheel takes from the heap, counted: the same for a hundred rows and for a billion, and nothing in steady motion.
 
-#include <cstdlib>
-#include <new>
-
+#include "AllocationCount.h"
 #include "GXCaloriesPickerView.h"
 #include "NullCanvas.h"
 #include "TestWindow.h"
 #include "WheelSource.h"
-
-namespace {
-std::size_t allocations = 0;
-}
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size)) return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 using namespace gx;
 
 namespace {
 
 constexpr NSInteger billion = 1'000'000'000;
-
-template <class Act>
-std::size_t allocationsOf(Act act) {
-    const std::size_t before = allocations;
-    act();
-    return allocations - before;
-}
 
 /// Allocations of a reload, a jump to the middle, and sixty frames of a fling, once all buffers have grown.
 struct Costs {
@@ -94,5 +73,35 @@ TEST(WheelAllocations, APickersSteadyFrameTakesNothing) {
         }
         EXPECT_TRUE(picker->pickerView()->isTurning()) << "the frames counted were frames of a turn";
         window.runUntilStill();
+    }
+}
+
+TEST(WheelAllocations, a_steady_frame_of_a_turn_by_keys_takes_nothing) {
+    const auto source = create<WheelSource>();
+    const auto wheel = wheelWithSource(source);
+    source->rows = {billion};
+    wheel->reloadAllComponents();
+    TestWindow window(wheel);
+    NullCanvas canvas;
+    wheel->becomeFirstResponder();
+    window.press(UIKey::Code::Down);
+    window.type("4");
+    for (const bool isWarm : {false, true}) {
+        wheel->selectRow_inComponent_animated(0, 0, false);
+        window.tick(0);
+        window.press(UIKey::Code::PageDown);
+        window.press(UIKey::Code::PageDown);
+        window.tick(TestWindow::frame);
+        const std::size_t count = allocationsOf([&] {
+            for (int i = 0; i < 10; ++i) {
+                window.tick(TestWindow::frame);
+                window->draw(canvas);
+            }
+        });
+        if (isWarm) {
+            EXPECT_EQ(count, 0U);
+        }
+        EXPECT_TRUE(wheel->isTurning()) << "the frames counted were frames of a turn";
+        EXPECT_TRUE(window->showsFocus());
     }
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "UIHost.h"
 #include "UIWindow.h"
 
@@ -77,6 +79,19 @@ public:
     bool scrollPoints(gx::CGPoint point, double points, bool isFinished = false) {
         return window_->scroll({gx::UIScroll::Unit::Points, 0, points, now, point, isFinished});
     }
+    bool press(gx::UIKey::Code code, unsigned modifiers = 0, bool isRepeat = false) {
+        return window_->keyDown({code, {}, modifiers, isRepeat, now});
+    }
+    /// One key for each character of an ASCII text, a frame apart. Answers whether all were of use.
+    bool type(const std::string& text) {
+        bool areUsed = true;
+        for (const char character : text) {
+            areUsed &= typeCharacter(std::string(1, character));
+            tick(frame);
+        }
+        return areUsed;
+    }
+    bool typeCharacter(const std::string& character) { return window_->keyDown({gx::UIKey::Code::Character, character, 0, false, now}); }
 
 private:
     gx::Ref<gx::UIWindow> window_;

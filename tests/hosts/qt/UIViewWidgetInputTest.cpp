@@ -258,7 +258,7 @@ TEST_F(UIViewWidgetInput, PressesWithoutAViewAreIgnored) {
 }
 
 TEST_F(UIViewWidgetInput, APressTakesTheFocus) {
-    EXPECT_EQ(widget.focusPolicy(), Qt::ClickFocus);
+    EXPECT_EQ(widget.focusPolicy(), Qt::StrongFocus);
     widget.clearFocus();
     QTest::mouseClick(&widget, Qt::LeftButton, {}, beside);
     EXPECT_EQ(widget.window()->focusWidget(), &widget);

@@ -342,6 +342,32 @@ TEST_F(Turning, ANotchBeyondTheEndTurnsNothing) {
     EXPECT_EQ(source->notices, Notices{});
 }
 
+TEST_F(Turning, AColumnAtItsEndKeepsTheNotchFromWhatLiesAround) {
+    EXPECT_TRUE(window.scrollNotches(centre, -1));
+    source->rows = {2};
+    wheel->reloadAllComponents();
+    EXPECT_TRUE(window.scrollNotches(centre, -1));
+    source->rows = {1};
+    wheel->reloadAllComponents();
+    EXPECT_FALSE(window.scrollNotches(centre, -1)) << "one row is nothing to turn";
+    EXPECT_FALSE(window.scrollPoints(centre, 10));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(Turning, WhatGoesSidewaysIsLeftToOthers) {
+    const auto scrollBy = [this](CGFloat x, CGFloat y) {
+        return window->scroll({UIScroll::Unit::Notches, x, y, window.now, centre, false});
+    };
+    EXPECT_FALSE(scrollBy(1, 0));
+    EXPECT_FALSE(scrollBy(-2, 1));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_TRUE(scrollBy(1, 1));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}
+
 TEST_F(Turning, ATrackpadsPointsAddUpAndSnapWhenItFallsSilent) {
     for (int i = 0; i < 30; ++i) {
         window.scrollPoints(centre, 3);
@@ -432,6 +458,79 @@ TEST_F(Turning, AWheelThatLeavesItsWindowSettles) {
     EXPECT_EQ(source->notices, (Notices{{10, 0}}));
 }
 
+TEST_F(Turning, AHiddenWheelSettles) {
+    window.fling(centre, {160, 8}, 10);
+    window.run(0.1);
+    wheel->setHidden(true);
+    EXPECT_EQ(source->notices, (Notices{{10, 0}}));
+    EXPECT_FALSE(wheel->isTurning());
+    wheel->setHidden(true);
+    wheel->setHidden(false);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices.size(), 1U);
+}
+
+TEST(TurningInside, AWheelSettlesWhenAViewAboveItIsHidden) {
+    const auto source = create<WheelSource>();
+    const auto wheel = wheelWithSource(source);
+    const auto card = create<UIView>(CGRectMake(0, 0, 320, 216));
+    const auto page = create<UIView>(CGRectMake(0, 0, 320, 216));
+    card->addSubview(wheel);
+    page->addSubview(card);
+    TestWindow window(page);
+    window.fling(centre, {160, 8}, 10);
+    window.run(0.1);
+    page->setHidden(true);
+    EXPECT_EQ(source->notices, (Notices{{10, 0}}));
+}
+
+TEST_F(Turning, AWheelHiddenUnderAFingerReportsWhereItStands) {
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    window.down(centre);
+    window.glide(centre, {160, 108 - 66}, 10);
+    wheel->setHidden(true);
+    EXPECT_EQ(source->notices, (Notices{{52, 0}})); // 60 points are one row and a half.
+    wheel->setHidden(false);
+    window.move({160, 0});
+    window.up({160, 0});
+    window.runUntilStill();
+    EXPECT_EQ(source->notices.size(), 1U) << "the finger turns nothing more";
+}
+
+TEST_F(Turning, AWindowThatSettlesSettlesItsWheels) {
+    window.fling(centre, {160, 8}, 10);
+    window.run(0.1);
+    window->settle();
+    EXPECT_EQ(source->notices, (Notices{{10, 0}}));
+    window->settle();
+    EXPECT_EQ(source->notices.size(), 1U);
+}
+
+TEST_F(TurningTwo, ATypedNumberIsNotLostWhenTheWheelGoes) {
+    wheel->becomeFirstResponder();
+    window.type("4");
+    window->settle();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+    window.type("5");
+    window.run(0.5);
+    wheel->setHidden(true);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}}));
+    wheel->setHidden(false);
+    wheel->becomeFirstResponder();
+    window.type("6");
+    window.run(0.5);
+    wheel->removeFromSuperview();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}, {6, 0}}));
+}
+
+TEST_F(Turning, TheReportOfAHiddenWheelMayTakeItsWindowAway) {
+    source->whenTold = [&](NSInteger, NSInteger) { wheel->removeFromSuperview(); };
+    window.fling(centre, {160, 8}, 10);
+    window.run(0.1);
+    wheel->setHidden(true);
+    EXPECT_EQ(source->notices, (Notices{{10, 0}}));
+}
+
 TEST_F(Turning, ATurnByCodeStandsOnTheRowAndReportsIt) {
     wheel->turnToRow_inComponent(33, 0);
     EXPECT_EQ(source->notices, (Notices{{33, 0}}));
@@ -481,6 +580,14 @@ TEST_F(Turning, TheHostHearsOneTickForEachRowThatPassesInATurnByTheUser) {
     wheel->selectRow_inComponent_animated(50, 0, true);
     window.runUntilStill();
     EXPECT_EQ(host.ticks, 10) << "none for a request";
+    window->setTicksEnabled(false);
+    window.scrollNotches(centre, 1);
+    window.runUntilStill();
+    EXPECT_EQ(host.ticks, 10) << "none for who wants none";
+    window->setTicksEnabled(true);
+    window.scrollNotches(centre, 1);
+    window.runUntilStill();
+    EXPECT_EQ(host.ticks, 11);
     window->setHost(nullptr);
 }
 

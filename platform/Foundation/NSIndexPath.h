@@ -1,0 +1,21 @@
+#pragma once
+
+#include "NSObject.h"
+
+namespace gx {
+
+/// The place of a row in a table: a section, and a row in it. Both count from 0.
+struct NSIndexPath {
+    NSInteger section = 0;
+    NSInteger row = 0;
+
+    static constexpr NSIndexPath indexPathForRow_inSection(NSInteger row, NSInteger section) { return {section, row}; }
+
+    friend constexpr bool operator==(const NSIndexPath&, const NSIndexPath&) = default;
+    /// From top to bottom.
+    friend constexpr bool operator<(const NSIndexPath& first, const NSIndexPath& second) {
+        return first.section < second.section || (first.section == second.section && first.row < second.row);
+    }
+};
+
+} // namespace gx

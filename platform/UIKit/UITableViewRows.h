@@ -1,0 +1,84 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "CGGeometry.h"
+#include "NSIndexPath.h"
+
+namespace gx {
+
+/// Where the sections and rows of a table lie. It knows numbers but no views, and asks nobody anything.
+///
+/// Sections lie below each other, each with its header, if it has one, above its rows. Rows of one height cost nothing, however many;
+/// others a number each. Finding a row takes no longer in a long section than in a short one, or logarithmically so.
+class UITableViewRows {
+public:
+    /// The bounds keep a wrong answer from filling the memory, and places exact.
+    static constexpr NSInteger highestSectionCount = 10'000;
+    static constexpr NSInteger highestRowCount = 1'000'000'000'000;
+    /// Nobody gives more rows heights of their own; asking for them would make the user wait.
+    static constexpr NSInteger highestHeightCount = 100'000;
+
+    /// From the top of the content, in points.
+    struct Span {
+        CGFloat top = 0;
+        CGFloat height = 0;
+        CGFloat bottom() const { return top + height; }
+        CGFloat middle() const { return top + 0.5 * height; }
+    };
+
+    /// A height as it is taken: 0 if it is negative or no number, else 1 to 1 million points.
+    static CGFloat heldHeight(CGFloat height);
+    /// How many there are if somebody answers this.
+    static NSInteger heldSectionCount(NSInteger count);
+    static NSInteger heldRowCount(NSInteger count);
+
+    // Heights here are held already.
+
+    void addSection(std::optional<std::string> title, CGFloat headerHeight, NSInteger count, CGFloat rowHeight);
+    /// A height for each row.
+    void addSection(std::optional<std::string> title, CGFloat headerHeight, const std::vector<CGFloat>& heights);
+    /// Ignored for a row that does not exist.
+    void setHeight(NSIndexPath path, CGFloat height);
+
+    NSInteger sectionCount() const { return static_cast<NSInteger>(sections_.size()); }
+    /// 0 for a section that does not exist.
+    NSInteger rowCount(NSInteger section) const;
+    bool exists(NSIndexPath path) const;
+    const std::optional<std::string>& title(NSInteger section) const { return at(section).title; }
+    CGFloat height() const { return sections_.empty() ? 0 : sections_.back().span.bottom(); }
+
+    /// Of a row that exists.
+    Span spanOfRow(NSIndexPath path) const;
+    /// Of a section that exists.
+    Span spanOfHeader(NSInteger section) const { return {at(section).span.top, at(section).headerHeight}; }
+    /// The row that covers a place; nothing on headers and beside the rows.
+    std::optional<NSIndexPath> rowAt(CGFloat y) const;
+    /// The first row that has a part below a place. Rows without height are left out here and in the next.
+    std::optional<NSIndexPath> firstRowBelow(CGFloat y) const;
+    std::optional<NSIndexPath> nextRow(NSIndexPath path) const;
+    /// The first section that has a part below a place; the number of sections if there is none.
+    NSInteger firstSectionBelow(CGFloat y) const;
+
+private:
+    struct Section {
+        std::optional<std::string> title;
+        CGFloat headerHeight = 0;
+        NSInteger count = 0;
+        CGFloat rowHeight = 0;
+        std::vector<CGFloat> ends; // Below the header; empty where all rows are of `rowHeight`.
+        Span span;
+    };
+    const Section& at(NSInteger section) const { return sections_[static_cast<std::size_t>(section)]; }
+    static CGFloat endOfRow(const Section& section, NSInteger row);
+    static std::optional<NSInteger> firstRowEndingAfter(const Section& section, CGFloat y);
+    std::optional<NSIndexPath> firstRowFromSection(NSInteger section) const;
+    void add(Section section);
+    static void fit(Section& section, CGFloat top);
+
+    std::vector<Section> sections_;
+};
+
+} // namespace gx

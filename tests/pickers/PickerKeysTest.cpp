@@ -1,0 +1,143 @@
+// Pickers by the keyboard: what is typed becomes their value.
+
+#include "GXDistancePickerView.h"
+#include "GXDurationPickerView.h"
+#include "GXHeartRatePickerView.h"
+#include "GXHeightPickerView.h"
+#include "GXTemperaturePickerView.h"
+#include "GXWeightPickerView.h"
+#include "NSLocale.h"
+#include "PickerNotices.h"
+#include "TestWindow.h"
+
+using namespace gx;
+using Code = UIKey::Code;
+
+namespace {
+
+/// A picker in a window, with the focus, and what its delegate is told.
+template <class Picker>
+struct Typed {
+    Ref<Picker> picker;
+    Ref<PickerNotices> notices = create<PickerNotices>();
+    TestWindow window;
+
+    explicit Typed(const Ref<Picker>& shown) : picker(shown), window(shown) {
+        picker->setDelegate(notices);
+        window.tick(0);
+        EXPECT_TRUE(window.press(Code::Tab));
+    }
+    std::vector<double> told() {
+        window.run(2);
+        std::vector<double> values;
+        for (const PickerNotices::Notice& notice : notices->list) values.push_back(notice.value.doubleValue());
+        notices->list.clear();
+        return values;
+    }
+};
+
+template <class Picker>
+Ref<Picker> make() {
+    return create<Picker>(CGRectMake(0, 0, 320, 216));
+}
+
+using Values = std::vector<double>;
+
+} // namespace
+
+TEST(PickerKeys, a_decimal_separator_goes_on_to_the_tenths) {
+    const auto picker = make<GXDistancePickerView>();
+    picker->setIsMetric(true);
+    Typed typed(picker);
+    typed.window.type("7.5"); // from 5000 m
+    EXPECT_EQ(typed.told(), (Values{7000, 7500}));
+    typed.window.press(Code::Left);
+    typed.window.type("42,7");
+    EXPECT_EQ(typed.told(), (Values{42500, 42700}));
+}
+
+TEST(PickerKeys, tenths_below_the_minimum_are_there_once_the_whole_unit_has_left_it) {
+    const auto picker = make<GXDistancePickerView>();
+    picker->setIsMetric(true);
+    picker->setMinValue(NSNumber::numberWithInt(700));
+    picker->setCurrentValue(NSNumber::numberWithInt(700));
+    Typed typed(picker);
+    typed.window.typeCharacter("5");
+    typed.window.typeCharacter(".");
+    typed.window.typeCharacter("2");
+    typed.window.run(2);
+    EXPECT_EQ(picker->currentValue().doubleValue(), 5200);
+}
+
+TEST(PickerKeys, a_colon_goes_from_hours_to_minutes) {
+    const auto picker = make<GXDurationPickerView>();
+    Typed typed(picker);
+    const NSInteger components = picker->pickerView()->numberOfComponents();
+    ASSERT_GE(components, 2);
+    typed.window.type("1:30");
+    typed.window.run(2);
+    const auto titleIn = [&](NSInteger component) {
+        return picker->pickerView_titleForRow_forComponent(picker->pickerView(), picker->pickerView()->selectedRowInComponent(component),
+                                                           component);
+    };
+    EXPECT_EQ(titleIn(0), "01");
+    EXPECT_EQ(titleIn(2), "30");
+}
+
+TEST(PickerKeys, temperatures_below_zero_begin_with_a_minus) {
+    const auto picker = make<GXTemperaturePickerView>();
+    picker->setIsMetric(true);
+    picker->setMinValue(NSNumber::numberWithInt(-20));
+    picker->setMaxValue(NSNumber::numberWithInt(45));
+    picker->setStepSize(NSNumber::numberWithInt(1));
+    Typed typed(picker);
+    typed.window.type("-4");
+    EXPECT_EQ(typed.told(), (Values{-4}));
+    typed.window.type("36");
+    EXPECT_EQ(typed.told(), (Values{36}));
+}
+
+TEST(PickerKeys, steps_are_typed_and_what_lies_between_them_is_not_there) {
+    const auto picker = make<GXTemperaturePickerView>(); // -20 to 55 degrees in steps of 5
+    picker->setIsMetric(true);
+    Typed typed(picker);
+    typed.window.type("-15");
+    EXPECT_EQ(typed.told(), (Values{-15}));
+    typed.window.type("36");
+    EXPECT_EQ(typed.told(), (Values{}));
+}
+
+TEST(PickerKeys, a_heart_rate_of_three_digits_is_typed) {
+    const auto picker = make<GXHeartRatePickerView>();
+    Typed typed(picker);
+    ASSERT_NE(picker->currentAvgHeartRate().integerValue(), 143);
+    typed.window.type("143");
+    typed.window.run(2);
+    EXPECT_EQ(picker->currentAvgHeartRate().integerValue(), 143);
+}
+
+TEST(PickerKeys, the_unit_of_a_weight_is_chosen_by_its_letters) {
+    const auto picker = make<GXWeightPickerView>();
+    Typed typed(picker);
+    const auto& wheel = picker->pickerView();
+    const NSInteger unit = wheel->numberOfComponents() - 1;
+    for (NSInteger i = 0; i < unit; ++i) typed.window.press(Code::Right);
+    ASSERT_EQ(wheel->componentOfKeys(), unit);
+    for (NSInteger row = 0; row < wheel->numberOfRowsInComponent(unit); ++row) {
+        const std::string title = picker->pickerView_titleForRow_forComponent(wheel, row, unit).value_or("");
+        typed.window.type(title.substr(title.find_first_not_of(' ')));
+        typed.window.run(2);
+        EXPECT_EQ(wheel->selectedRowInComponent(unit), row) << title;
+    }
+}
+
+TEST(PickerKeys, a_height_of_centimetres_is_typed_though_it_titles_its_rows_in_colours) {
+    const auto picker = make<GXHeightPickerView>();
+    picker->setIsMetric(true);
+    picker->setHeightInCm(180);
+    TestWindow window(picker);
+    window.press(Code::Tab);
+    window.type("165");
+    window.run(2);
+    EXPECT_EQ(picker->heightInCm(), 165);
+}

@@ -1,0 +1,152 @@
+#include <limits>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "UIPickerTitleSearch.h"
+
+using namespace gx;
+
+namespace {
+
+using Result = UIPickerTitleSearch::Result;
+
+/// Titles from a list or by a rule, counting how many are asked for.
+struct Search {
+    NSInteger count = 0;
+    std::function<std::optional<std::string>(NSInteger)> title;
+    int questions = 0;
+
+    Search(NSInteger rows, std::function<std::optional<std::string>(NSInteger)> rule) : count(rows), title(std::move(rule)) {}
+    explicit Search(std::vector<std::string> titles)
+        : count(static_cast<NSInteger>(titles.size())),
+          title([titles](NSInteger row) { return titles.at(static_cast<std::size_t>(row)); }) {}
+
+    Result operator()(const std::u32string& text) {
+        return UIPickerTitleSearch::resultOfText_amongRows(text, count, [this](NSInteger row) {
+            ++questions;
+            return title(row);
+        });
+    }
+};
+
+std::string twoDigits(NSInteger number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+} // namespace
+
+TEST(UIPickerTitleSearch, a_number_is_found_by_its_value) {
+    Search search(100, [](NSInteger row) { return std::to_string(row); });
+    EXPECT_EQ(search(U"42"), (Result{42, false}));
+    EXPECT_EQ(search(U"4"), (Result{4, true})) << "40 to 49 go on";
+    EXPECT_EQ(search(U"0"), (Result{0, false})) << "no title begins with 0 and goes on";
+    EXPECT_EQ(search(U"100"), (Result{}));
+    EXPECT_EQ(search(U"007"), (Result{7, false}));
+}
+
+TEST(UIPickerTitleSearch, padded_titles_are_found_with_and_without_their_zeros) {
+    Search search(60, twoDigits);
+    EXPECT_EQ(search(U"05"), (Result{5, false}));
+    EXPECT_EQ(search(U"5"), (Result{5, true})) << "50 to 59 go on";
+    EXPECT_EQ(search(U"6"), (Result{6, false})) << "60 is one too many";
+    EXPECT_EQ(search(U"0"), (Result{0, true})) << "01 goes on";
+    EXPECT_EQ(search(U"00"), (Result{0, false}));
+    EXPECT_EQ(search(U"60"), (Result{}));
+}
+
+TEST(UIPickerTitleSearch, the_beginning_of_a_number_is_no_row_yet) {
+    Search search(211, [](NSInteger row) { return std::to_string(row + 30); });
+    EXPECT_EQ(search(U"1"), (Result{std::nullopt, true}));
+    EXPECT_EQ(search(U"12"), (Result{std::nullopt, true}));
+    EXPECT_EQ(search(U"120"), (Result{90, false}));
+    EXPECT_EQ(search(U"24"), (Result{std::nullopt, true})) << "240 is the last row";
+    EXPECT_EQ(search(U"25"), (Result{}));
+    EXPECT_EQ(search(U"241"), (Result{}));
+}
+
+TEST(UIPickerTitleSearch, steps_are_taken_into_account) {
+    Search search(21, [](NSInteger row) { return std::to_string(50 * row); }); // 0 to 1000
+    EXPECT_EQ(search(U"150"), (Result{3, false}));
+    EXPECT_EQ(search(U"15"), (Result{std::nullopt, true}));
+    EXPECT_EQ(search(U"16"), (Result{}));
+    EXPECT_EQ(search(U"100"), (Result{2, true})) << "1000 goes on";
+}
+
+TEST(UIPickerTitleSearch, numbers_may_run_downward) {
+    Search search(31, [](NSInteger row) { return std::to_string(20 - row); }); // 20 to -10
+    EXPECT_EQ(search(U"20"), (Result{0, false}));
+    EXPECT_EQ(search(U"-4"), (Result{24, false}));
+    EXPECT_EQ(search(U"-1"), (Result{21, true})) << "-10 goes on";
+    EXPECT_EQ(search(U"-"), (Result{std::nullopt, true}));
+    EXPECT_EQ(search(U"-11"), (Result{}));
+}
+
+TEST(UIPickerTitleSearch, negative_titles_may_have_any_minus) {
+    Search search(21, [](NSInteger row) { return row < 10 ? "\u2212" + std::to_string(10 - row) : std::to_string(row - 10); });
+    EXPECT_EQ(search(U"-4"), (Result{6, false}));
+    EXPECT_EQ(search(U"4"), (Result{14, false}));
+    EXPECT_EQ(search(U"-"), (Result{std::nullopt, true}));
+}
+
+TEST(UIPickerTitleSearch, a_dash_for_no_value_may_come_first) {
+    Search search(201, [](NSInteger row) { return row == 0 ? "-" : std::to_string(29 + row); }); // "-", 30 to 229
+    EXPECT_EQ(search(U"-"), (Result{0, false}));
+    EXPECT_EQ(search(U"30"), (Result{1, false}));
+    EXPECT_EQ(search(U"229"), (Result{200, false}));
+}
+
+TEST(UIPickerTitleSearch, tenths_may_be_titled_with_their_separator) {
+    Search search({",0", ",1", ",2", ",3", ",4", ",5", ",6", ",7", ",8", ",9"});
+    EXPECT_EQ(search(U"5"), (Result{5, false}));
+    EXPECT_EQ(search(U".5"), (Result{5, false}));
+}
+
+TEST(UIPickerTitleSearch, a_billion_rows_take_a_few_dozen_questions) {
+    Search search(1'000'000'000, [](NSInteger row) { return std::to_string(row); });
+    EXPECT_EQ(search(U"123456789"), (Result{123456789, false}));
+    // 30 halvings and both ends, and one question more for the row itself.
+    EXPECT_LE(search.questions, 40);
+    search.questions = 0;
+    EXPECT_EQ(search(U"1"), (Result{1, true}));
+    EXPECT_LE(search.questions, 80);
+}
+
+TEST(UIPickerTitleSearch, the_last_of_all_rows_there_can_be_is_found) {
+    constexpr NSInteger largest = std::numeric_limits<NSInteger>::max();
+    // Titles of 18 digits: each stands for ten rows.
+    Search search(largest, [](NSInteger row) { return std::to_string(row / 10); });
+    EXPECT_EQ(search(U"922337203685477580").row, largest - 7);
+}
+
+TEST(UIPickerTitleSearch, words_are_found_by_their_beginning) {
+    Search search({"  kg", "  lb", "  lbs", "  st"});
+    EXPECT_EQ(search(U"k"), (Result{0, true}));
+    EXPECT_EQ(search(U"kg"), (Result{0, false}));
+    EXPECT_EQ(search(U"l"), (Result{1, true}));
+    EXPECT_EQ(search(U"lb"), (Result{1, true}));
+    EXPECT_EQ(search(U"lbs"), (Result{2, false}));
+    EXPECT_EQ(search(U"x"), (Result{}));
+}
+
+TEST(UIPickerTitleSearch, the_row_that_is_spelled_exactly_goes_before_one_that_is_equal) {
+    Search search({"a", "05", "b", "5"});
+    EXPECT_EQ(search(U"5").row, 3);
+    EXPECT_EQ(search(U"05").row, 1);
+}
+
+TEST(UIPickerTitleSearch, numbers_in_no_order_are_looked_for_in_the_first_rows) {
+    constexpr NSInteger longest = UIPickerTitleSearch::longestWalk;
+    Search search(longest + 1, [](NSInteger row) { return row == 500 ? "none" : std::to_string((row * 7919) % 100003); });
+    // 7919 · 999 = 7 911 081 = 79 · 100 003 + 10 844, and row 1000 is beyond the walk: 10 844 + 7919 = 18 763.
+    EXPECT_EQ(search(U"10844").row, longest - 1);
+    EXPECT_EQ(search(U"18763").row, std::nullopt);
+}
+
+TEST(UIPickerTitleSearch, nothing_is_found_without_a_text_titles_or_rows) {
+    Search search(3, [](NSInteger) { return std::nullopt; });
+    EXPECT_EQ(search(U"1"), (Result{}));
+    EXPECT_EQ(search(U"-"), (Result{}));
+    EXPECT_EQ(search(U""), (Result{}));
+    Search empty(std::vector<std::string>{});
+    EXPECT_EQ(empty(U"1"), (Result{}));
+    EXPECT_EQ(empty.questions, 0);
+}

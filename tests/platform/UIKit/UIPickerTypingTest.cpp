@@ -1,0 +1,73 @@
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "NSLocale.h"
+#include "UIPickerTyping.h"
+
+using namespace gx;
+
+TEST(UIPickerTyping, digits_of_every_script_are_read_as_their_numbers) {
+    EXPECT_EQ(UIPickerTyping::readableForm("0189"), U"0189");
+    EXPECT_EQ(UIPickerTyping::readableForm("٠١٨٩"), U"0189") << "Arabic-Indic";
+    EXPECT_EQ(UIPickerTyping::readableForm("۰۱۸۹"), U"0189") << "extended Arabic-Indic";
+    EXPECT_EQ(UIPickerTyping::readableForm("०१८९"), U"0189") << "Devanagari";
+    EXPECT_EQ(UIPickerTyping::readableForm("๐๑๘๙"), U"0189") << "Thai";
+    EXPECT_EQ(UIPickerTyping::readableForm("０１８９"), U"0189") << "of full width";
+}
+
+TEST(UIPickerTyping, every_minus_is_one) {
+    EXPECT_EQ(UIPickerTyping::readableForm("-4"), U"-4");
+    EXPECT_EQ(UIPickerTyping::readableForm("\u22124"), U"-4");
+    EXPECT_EQ(UIPickerTyping::readableForm("\u20134"), U"-4");
+}
+
+TEST(UIPickerTyping, every_separator_is_a_dot) { EXPECT_EQ(UIPickerTyping::readableForm("5,5.5٫5"), U"5.5.5.5"); }
+
+TEST(UIPickerTyping, letters_are_small) { EXPECT_EQ(UIPickerTyping::readableForm("KmÀÖßΣЯЁ"), U"kmàößσяё"); }
+
+TEST(UIPickerTyping, blanks_around_a_text_and_marks_of_direction_are_left_out) {
+    EXPECT_EQ(UIPickerTyping::readableForm("  fl oz\u00A0"), U"fl oz");
+    EXPECT_EQ(UIPickerTyping::readableForm("\u200E\u06614\u061C"), U"14");
+    EXPECT_EQ(UIPickerTyping::readableForm("   "), U"");
+}
+
+TEST(UIPickerTyping, bytes_that_are_no_text_are_left_out) {
+    EXPECT_EQ(UIPickerTyping::readableForm("1\xFF"
+                                           "2\x80"
+                                           "3"),
+              U"123");
+    EXPECT_EQ(UIPickerTyping::readableForm("1\xE2\x88"), U"1") << "cut off in the middle of a character";
+    EXPECT_EQ(UIPickerTyping::readableForm("\xC3"
+                                           "1"),
+              U"1");
+}
+
+TEST(UIPickerTyping, separators_and_colons_end_a_column) {
+    EXPECT_TRUE(UIPickerTyping::endsColumn(U'.'));
+    EXPECT_TRUE(UIPickerTyping::endsColumn(U':'));
+    EXPECT_FALSE(UIPickerTyping::endsColumn(U'5'));
+    EXPECT_FALSE(UIPickerTyping::endsColumn(U'\''));
+}
+
+TEST(UIPickerTyping, so_does_the_separator_of_the_current_locale) {
+    const auto locale = NSLocale::localeWithIdentifier("en");
+    locale->setDecimalSeparator("'");
+    NSLocale::setCurrentLocale(locale);
+    EXPECT_TRUE(UIPickerTyping::endsColumn(U'\''));
+    NSLocale::setCurrentLocale(nullptr);
+}
+
+TEST(UIPickerTyping, a_text_is_complete_a_second_after_its_last_character) {
+    UIPickerTyping typing;
+    typing.setText_inComponent_atTime(U"4", 1, 10);
+    EXPECT_EQ(typing.component(), 1);
+    EXPECT_FALSE(typing.isOverAt(10.999));
+    EXPECT_TRUE(typing.isOverAt(11));
+    typing.setText_inComponent_atTime(U"42", 1, 10.5);
+    EXPECT_FALSE(typing.isOverAt(11));
+    EXPECT_TRUE(typing.isOverAt(std::numeric_limits<double>::quiet_NaN()));
+    typing.clear();
+    EXPECT_EQ(typing.text(), U"");
+    EXPECT_FALSE(typing.component());
+}

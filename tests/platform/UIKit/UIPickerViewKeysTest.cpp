@@ -1,0 +1,489 @@
+// Wheels turned by the keyboard, through the window, and what the delegate hears of it.
+
+#include "RecordingCanvas.h"
+#include "TestWindow.h"
+#include "WheelSource.h"
+
+using namespace gx;
+using Notices = std::vector<WheelSource::Notice>;
+using Code = UIKey::Code;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+/// A wheel of 320 by 216 points with columns of 80 by 40, 5 apart, which has the focus.
+struct Keys : testing::Test {
+    explicit Keys(std::vector<NSInteger> rows = {100, 100}) {
+        source->rows = std::move(rows);
+        wheel->reloadAllComponents();
+        window.tick(0);
+        wheel->becomeFirstResponder();
+    }
+    void stand(NSInteger row, NSInteger component = 0) {
+        wheel->selectRow_inComponent_animated(row, component, false);
+        window.tick(0);
+    }
+
+    Ref<WheelSource> source = create<WheelSource>();
+    Ref<UIPickerView> wheel = wheelWithSource(source);
+    TestWindow window{wheel};
+};
+
+struct ThreeColumns : Keys {
+    ThreeColumns() : Keys({100, 1, 10}) {}
+};
+
+/// Minutes and seconds, titled 00 to 59.
+struct Times : Keys {
+    Times() : Keys({60, 60}) {
+        source->title = [](NSInteger row, NSInteger) { return (row < 10 ? "0" : "") + std::to_string(row); };
+        wheel->reloadAllComponents();
+        window.tick(0);
+    }
+};
+
+} // namespace
+
+// Arrows, pages and ends
+
+TEST_F(Keys, an_arrow_turns_by_one_row_and_reports_once_at_rest) {
+    stand(50);
+    EXPECT_TRUE(window.press(Code::Down));
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 50);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{51, 0}}));
+    EXPECT_TRUE(window.press(Code::Up));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{51, 0}, {50, 0}}));
+}
+
+TEST_F(Keys, quick_presses_add_up_and_report_once) {
+    for (int i = 0; i < 7; ++i) {
+        window.press(Code::Down);
+        window.tick(0.02);
+    }
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{7, 0}}));
+}
+
+TEST_F(Keys, a_held_key_turns_on_and_reports_when_it_is_let_go) {
+    window.press(Code::Down);
+    for (int i = 0; i < 60; ++i) {
+        window.tick(1.0 / 30);
+        window.press(Code::Down, 0, true);
+    }
+    EXPECT_EQ(source->notices, Notices{});
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{61, 0}}));
+}
+
+TEST_F(Keys, pages_are_the_rows_in_sight_less_one) {
+    stand(50);
+    // Of rows of 40, five show all of themselves on a wheel of 216.
+    EXPECT_TRUE(window.press(Code::PageDown));
+    window.runUntilStill();
+    EXPECT_TRUE(window.press(Code::PageUp));
+    EXPECT_TRUE(window.press(Code::PageUp));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{54, 0}, {46, 0}}));
+}
+
+TEST_F(Keys, a_page_is_at_least_one_row) {
+    source->height = 150;
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.press(Code::PageDown);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}
+
+TEST_F(Keys, home_and_end_go_to_the_ends) {
+    stand(50);
+    EXPECT_TRUE(window.press(Code::End));
+    window.runUntilStill();
+    EXPECT_TRUE(window.press(Code::Home));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{99, 0}, {0, 0}}));
+}
+
+TEST_F(Keys, at_an_end_keys_are_of_use_but_turn_nothing) {
+    for (const Code code : {Code::Up, Code::PageUp, Code::Home}) EXPECT_TRUE(window.press(code));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_FALSE(wheel->isTurning());
+}
+
+TEST_F(Keys, without_a_window_a_key_turns_at_once) {
+    wheel->removeFromSuperview();
+    UIKey key;
+    key.code = Code::Down;
+    EXPECT_TRUE(wheel->keyPressed(key));
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+    key.code = Code::Character;
+    key.characters = "4";
+    EXPECT_TRUE(wheel->keyPressed(key));
+    EXPECT_EQ(source->notices, (Notices{{1, 0}, {4, 0}})) << "there is no clock that could complete it";
+    EXPECT_FALSE(wheel->isTurning());
+}
+
+TEST_F(Keys, keys_for_a_column_that_a_finger_holds_are_ignored) {
+    stand(50);
+    window.down({117, 108});
+    for (const Code code : {Code::Down, Code::PageDown, Code::End}) EXPECT_TRUE(window.press(code));
+    EXPECT_TRUE(window.type("7"));
+    window.up({117, 108});
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 50);
+}
+
+TEST_F(Keys, keys_of_commands_and_unknown_keys_are_left_to_others) {
+    for (const unsigned held : {UIKey::Control, UIKey::Alternate, UIKey::Command}) {
+        EXPECT_FALSE(window.press(Code::Down, held));
+        EXPECT_FALSE(window->keyDown({Code::Character, "4", held, false, window.now}));
+    }
+    for (const Code code : {Code::Space, Code::Return, Code::Escape, Code::None}) EXPECT_FALSE(window.press(code));
+    EXPECT_TRUE(window.press(Code::Down, UIKey::Shift));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}
+
+TEST_F(Keys, keys_tick_for_each_row) {
+    struct Host : UIWindowHost {
+        void windowNeedsFrame() override {}
+        void wheelDidTick() override { ++ticks; }
+        int ticks = 0;
+    } host;
+    window->setHost(&host);
+    window.press(Code::Down);
+    window.runUntilStill();
+    EXPECT_EQ(host.ticks, 1);
+    window.type("42");
+    window.runUntilStill();
+    EXPECT_EQ(host.ticks, 1 + 41) << "1 to 4 and on to 42, each row on the way once";
+    window->setHost(nullptr);
+}
+
+// Columns
+
+TEST_F(Keys, left_and_right_choose_the_column) {
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
+    EXPECT_TRUE(window.press(Code::Right));
+    EXPECT_EQ(wheel->componentOfKeys(), 1);
+    EXPECT_TRUE(window.press(Code::Right)) << "of use also beyond the last one";
+    EXPECT_EQ(wheel->componentOfKeys(), 1);
+    window.press(Code::Down);
+    EXPECT_TRUE(window.press(Code::Left));
+    EXPECT_TRUE(window.press(Code::Left));
+    window.press(Code::Down);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}, {1, 1}}));
+}
+
+TEST_F(ThreeColumns, columns_of_one_row_are_passed_over) {
+    window.press(Code::Right);
+    EXPECT_EQ(wheel->componentOfKeys(), 2);
+    window.press(Code::Left);
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
+}
+
+TEST_F(ThreeColumns, so_are_columns_that_show_nothing) {
+    source->rows = {100, 100, 10};
+    source->title = [](NSInteger row, NSInteger component) { return component == 1 ? std::nullopt : std::optional(std::to_string(row)); };
+    wheel->reloadAllComponents();
+    window.press(Code::Right);
+    EXPECT_EQ(wheel->componentOfKeys(), 2);
+}
+
+TEST_F(Keys, a_touch_chooses_its_column) {
+    window.tap({202, 108});
+    EXPECT_EQ(wheel->componentOfKeys(), 1);
+    window.press(Code::Down);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{1, 1}}));
+}
+
+TEST_F(Keys, a_column_that_is_gone_gives_way_to_the_first) {
+    window.press(Code::Right);
+    source->rows = {100};
+    wheel->reloadAllComponents();
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
+    source->rows = {1};
+    wheel->reloadAllComponents();
+    EXPECT_EQ(wheel->componentOfKeys(), -1);
+    EXPECT_FALSE(window.press(Code::Down));
+}
+
+// The focus
+
+TEST_F(Keys, a_wheel_that_nobody_can_turn_takes_no_focus) {
+    wheel->resignFirstResponder();
+    source->rows = {1, 1};
+    wheel->reloadAllComponents();
+    EXPECT_FALSE(wheel->becomeFirstResponder());
+    source->rows = {1, 2};
+    wheel->reloadAllComponents();
+    EXPECT_TRUE(wheel->becomeFirstResponder());
+    EXPECT_EQ(wheel->componentOfKeys(), 1);
+}
+
+TEST_F(Keys, a_touch_gives_the_focus_without_its_mark) {
+    wheel->resignFirstResponder();
+    window.tap({117, 108});
+    EXPECT_TRUE(wheel->isFirstResponder());
+    EXPECT_FALSE(window->showsFocus());
+    window.press(Code::Down);
+    EXPECT_TRUE(window->showsFocus());
+    window.tap({117, 108});
+    EXPECT_FALSE(window->showsFocus());
+}
+
+TEST_F(Keys, the_chosen_column_is_marked_within_the_band_once_a_key_is_used) {
+    wheel->setTintColor(UIColor::colorWithHex(0xFF0000));
+    const auto marks = [this] {
+        RecordingCanvas canvas;
+        window->draw(canvas);
+        std::vector<std::string> found;
+        for (const std::string& call : canvas.painted()) {
+            if (call.find("with 1 0 0") != std::string::npos) found.push_back(call);
+        }
+        return found;
+    };
+    EXPECT_EQ(marks(), Calls{});
+    window.press(Code::Right);
+    // The second column lies from 162.5 to 242.5, the band from 88 to 128.
+    EXPECT_EQ(marks(), (Calls{"fill 162.5 88 80 40 with 1 0 0 0.14 rounded 8", "fill 170.5 88 64 2 with 1 0 0 1 rounded 1",
+                              "fill 170.5 126 64 2 with 1 0 0 1 rounded 1"}));
+    window->setReceivesKeys(false);
+    EXPECT_EQ(marks(), Calls{});
+}
+
+// Typed characters
+
+TEST_F(Keys, a_typed_number_is_turned_to_at_once_and_reported_when_it_is_complete) {
+    window.type("4");
+    EXPECT_TRUE(wheel->isTurning());
+    window.run(0.9);
+    EXPECT_EQ(wheel->rowInBandOfComponent(0), 4);
+    EXPECT_EQ(source->notices, Notices{}) << "more digits may come";
+    window.type("2");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{42, 0}}));
+}
+
+TEST_F(Keys, a_second_without_another_character_completes_a_number) {
+    window.type("4"); // and a frame
+    window.run(0.98);
+    EXPECT_EQ(source->notices, Notices{});
+    window.run(0.01);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+    window.type("2");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {2, 0}})) << "another number";
+}
+
+TEST_F(Keys, a_number_that_no_title_goes_on_is_complete_at_once) {
+    window.type("99");
+    const double time = window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{99, 0}}));
+    EXPECT_LT(time, 0.4);
+    EXPECT_FALSE(wheel->isTurning());
+}
+
+TEST_F(Keys, a_number_that_is_shown_already_is_no_turn) {
+    stand(42);
+    window.type("7");
+    window.type("7");
+    window.runUntilStill();
+    source->notices.clear();
+    window.type("77");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{77, 0}})) << "by way of row 7";
+    window.press(Code::Home);
+    window.runUntilStill();
+    source->notices.clear();
+    window.type("0");
+    window.run(2);
+    EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(Keys, another_key_completes_a_number) {
+    for (const Code code : {Code::Return, Code::Escape, Code::Right, Code::Tab}) {
+        source->notices.clear();
+        stand(0);
+        wheel->becomeFirstResponder();
+        window.press(Code::Left);
+        window.type("4");
+        window.run(0.5);
+        EXPECT_EQ(source->notices, Notices{});
+        window.press(code);
+        EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+        window.run(1.5);
+        EXPECT_EQ(source->notices.size(), 1U);
+    }
+}
+
+TEST_F(Keys, a_step_after_a_number_starts_from_it) {
+    window.type("4");
+    window.press(Code::Down); // still on the way
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{5, 0}}));
+}
+
+TEST_F(Keys, a_touch_completes_a_number) {
+    window.type("4");
+    window.run(0.5);
+    window.tap({202, 108}); // the other column
+    window.tick(TestWindow::frame);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+}
+
+TEST_F(Keys, losing_the_focus_completes_a_number) {
+    window.type("4");
+    window.run(0.5);
+    wheel->resignFirstResponder();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+}
+
+TEST_F(Keys, a_request_for_another_row_takes_a_typed_number_back) {
+    window.type("4");
+    window.run(0.5);
+    wheel->selectRow_inComponent_animated(30, 0, false);
+    window.run(2);
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 30);
+}
+
+TEST_F(Keys, a_character_that_spells_nothing_leaves_the_wheel) {
+    stand(50);
+    EXPECT_TRUE(window.type("x"));
+    window.run(2);
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(wheel->rowInBandOfComponent(0), 50);
+}
+
+TEST_F(Keys, a_character_that_does_not_go_on_begins_anew) {
+    window.type("4x2");
+    window.run(2);
+    EXPECT_EQ(source->notices, (Notices{{2, 0}}));
+}
+
+TEST_F(Keys, several_characters_may_come_with_one_key) {
+    EXPECT_TRUE(window.typeCharacter("42"));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{42, 0}}));
+}
+
+TEST_F(Keys, digits_of_any_script_are_read) {
+    window.typeCharacter("٤");
+    window.typeCharacter("٢");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{42, 0}}));
+}
+
+TEST_F(Times, padded_titles_are_found_with_and_without_their_zero) {
+    window.type("05");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{5, 0}}));
+    window.press(Code::Right);
+    window.type("7");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{5, 0}, {7, 1}}));
+}
+
+TEST_F(Times, a_colon_goes_on_to_the_next_column) {
+    EXPECT_TRUE(window.type("4:30"));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {30, 1}}));
+}
+
+TEST_F(ThreeColumns, a_decimal_separator_goes_on_to_the_next_column_that_shows_something) {
+    source->title = [](NSInteger row, NSInteger component) -> std::optional<std::string> {
+        if (component == 1) return std::nullopt;
+        return (component == 2 ? "," : "") + std::to_string(row);
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    for (const char* text : {"5,7", "6.8"}) {
+        window.press(Code::Left);
+        EXPECT_TRUE(window.type(text));
+        window.runUntilStill();
+    }
+    EXPECT_EQ(source->notices, (Notices{{5, 0}, {7, 2}, {6, 0}, {8, 2}}));
+}
+
+TEST_F(ThreeColumns, a_column_arrives_before_the_next_one_is_asked_for_its_titles) {
+    // On row 0 of the first column, the last one has but the digits from 7 on.
+    source->rows = {100, 1, 3};
+    source->title = [this](NSInteger row, NSInteger component) -> std::optional<std::string> {
+        if (component == 1) return std::nullopt;
+        const bool isShort = component == 2 && source->rows[2] == 3;
+        return std::to_string(isShort ? row + 7 : row);
+    };
+    source->whenTold = [this](NSInteger row, NSInteger component) {
+        if (component != 0) return;
+        source->rows[2] = row == 0 ? 3 : 10;
+        wheel->reloadAllComponents();
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.typeCharacter("5");
+    window.typeCharacter(".");
+    window.typeCharacter("2");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{5, 0}, {2, 2}}));
+}
+
+TEST_F(Keys, negative_numbers_are_typed_with_any_minus) {
+    source->title = [](NSInteger row, NSInteger) { return std::to_string(row - 20); };
+    wheel->reloadAllComponents();
+    stand(50);
+    for (const char* minus : {"-", "\u2212"}) {
+        EXPECT_TRUE(window.typeCharacter(minus));
+        EXPECT_TRUE(window.typeCharacter("4"));
+        window.run(2);
+    }
+    EXPECT_EQ(source->notices, (Notices{{16, 0}})) << "the second time it stands there already";
+}
+
+TEST_F(Keys, letters_find_the_title_that_begins_with_them) {
+    source->rows = {3};
+    source->title = [](NSInteger row, NSInteger) { return row == 0 ? "kg" : row == 1 ? "lb" : "st"; };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.type("S");
+    window.run(2);
+    window.type("lB");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{2, 0}, {1, 0}}));
+}
+
+TEST_F(Keys, the_delegate_may_change_everything_while_its_titles_are_read) {
+    bool isAsked = false;
+    source->title = [&](NSInteger row, NSInteger) {
+        if (isAsked && source->rows.size() == 2) {
+            source->rows = {};
+            wheel->reloadAllComponents();
+            EXPECT_EQ(wheel->numberOfComponents(), 0);
+        }
+        return std::to_string(row);
+    };
+    isAsked = true;
+    EXPECT_TRUE(window.typeCharacter("4"));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(Keys, the_delegate_may_drop_the_wheel_while_it_hears_of_a_number) {
+    const WeakRef<UIPickerView> weak = wheel;
+    source->whenTold = [&](NSInteger, NSInteger) {
+        wheel->removeFromSuperview();
+        wheel = nullptr;
+    };
+    window.type("4");
+    window.run(0.5);
+    EXPECT_FALSE(window.press(Code::Escape));
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+    EXPECT_TRUE(weak.expired());
+}

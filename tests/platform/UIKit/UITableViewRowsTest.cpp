@@ -1,0 +1,108 @@
+#include "UITableViewRows.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace gx;
+
+namespace {
+
+using Path = std::optional<NSIndexPath>;
+
+/// A header of 20 and three rows of 40; a section without anything; rows of 10, 0, 30, 0 without a header.
+UITableViewRows mixedRows() {
+    UITableViewRows rows;
+    rows.addSection("first", 20, 3, 40);
+    rows.addSection(std::nullopt, 0, 0, 40);
+    rows.addSection(std::nullopt, 0, {10, 0, 30, 0});
+    return rows;
+}
+
+} // namespace
+
+TEST(NSIndexPath, is_ordered_from_top_to_bottom) {
+    constexpr NSIndexPath path = NSIndexPath::indexPathForRow_inSection(5, 2);
+    EXPECT_EQ(path, (NSIndexPath{2, 5}));
+    EXPECT_LT((NSIndexPath{1, 9}), path);
+    EXPECT_LT((NSIndexPath{2, 4}), path);
+    EXPECT_FALSE(path < path);
+    EXPECT_FALSE((NSIndexPath{3, 0}) < path);
+}
+
+TEST(UITableViewRows, lie_below_each_other) {
+    const UITableViewRows rows = mixedRows();
+    EXPECT_EQ(rows.height(), 180);
+    EXPECT_EQ(rows.spanOfHeader(0).bottom(), 20);
+    EXPECT_EQ(rows.spanOfRow({0, 2}).top, 100);
+    EXPECT_EQ(rows.spanOfRow({0, 2}).height, 40);
+    EXPECT_EQ(rows.spanOfRow({2, 0}).top, 140);
+    EXPECT_EQ(rows.spanOfRow({2, 1}).height, 0);
+    EXPECT_EQ(rows.spanOfRow({2, 2}).top, 150);
+    EXPECT_EQ(rows.spanOfRow({2, 2}).bottom(), 180);
+    EXPECT_TRUE(rows.exists({2, 3}));
+    EXPECT_FALSE(rows.exists({2, 4}));
+    EXPECT_FALSE(rows.exists({1, 0}));
+    EXPECT_FALSE(rows.exists({0, -1}));
+    EXPECT_FALSE(rows.exists({-1, 0}));
+    EXPECT_EQ(rows.rowCount(3), 0);
+}
+
+TEST(UITableViewRows, are_found_by_their_places) {
+    const UITableViewRows rows = mixedRows();
+    EXPECT_EQ(rows.rowAt(-0.5), std::nullopt);
+    EXPECT_EQ(rows.rowAt(19.9), std::nullopt) << "a header";
+    EXPECT_EQ(rows.rowAt(20), Path({0, 0}));
+    EXPECT_EQ(rows.rowAt(59.9), Path({0, 0}));
+    EXPECT_EQ(rows.rowAt(60), Path({0, 1}));
+    EXPECT_EQ(rows.rowAt(139.9), Path({0, 2}));
+    EXPECT_EQ(rows.rowAt(140), Path({2, 0}));
+    EXPECT_EQ(rows.rowAt(150), Path({2, 2})) << "a row without height covers nothing";
+    EXPECT_EQ(rows.rowAt(179.9), Path({2, 2}));
+    EXPECT_EQ(rows.rowAt(180), std::nullopt);
+    EXPECT_EQ(rows.rowAt(std::numeric_limits<double>::quiet_NaN()), std::nullopt);
+    EXPECT_EQ(rows.firstRowBelow(-100), Path({0, 0}));
+    EXPECT_EQ(rows.firstRowBelow(0), Path({0, 0}));
+    EXPECT_EQ(rows.firstSectionBelow(139.9), 0);
+    EXPECT_EQ(rows.firstSectionBelow(140), 2);
+    EXPECT_EQ(rows.firstSectionBelow(180), 3);
+}
+
+TEST(UITableViewRows, follow_each_other_but_for_those_without_height) {
+    const UITableViewRows rows = mixedRows();
+    EXPECT_EQ(rows.nextRow({0, 0}), Path({0, 1}));
+    EXPECT_EQ(rows.nextRow({0, 2}), Path({2, 0}));
+    EXPECT_EQ(rows.nextRow({2, 0}), Path({2, 2}));
+    EXPECT_EQ(rows.nextRow({2, 2}), std::nullopt);
+}
+
+TEST(UITableViewRows, of_an_odd_height_are_each_followed_by_the_next) {
+    UITableViewRows rows;
+    rows.addSection("header", 28.3, 1'000'000, 44.1);
+    for (NSInteger row = 0; row < 999'999; row += 997) {
+        EXPECT_EQ(rows.nextRow({0, row}), Path({0, row + 1}));
+        EXPECT_EQ(rows.rowAt(rows.spanOfRow({0, row}).middle()), Path({0, row}));
+    }
+}
+
+TEST(UITableViewRows, one_row_may_take_another_height) {
+    UITableViewRows rows = mixedRows();
+    rows.setHeight({0, 1}, 50);
+    EXPECT_EQ(rows.spanOfRow({0, 0}).height, 40);
+    EXPECT_EQ(rows.spanOfRow({0, 1}).height, 50);
+    EXPECT_EQ(rows.spanOfRow({0, 2}).top, 110);
+    EXPECT_EQ(rows.spanOfRow({2, 0}).top, 150);
+    EXPECT_EQ(rows.height(), 190);
+    rows.setHeight({9, 0}, 50);
+    EXPECT_EQ(rows.height(), 190);
+}
+
+TEST(UITableViewRows, take_odd_answers_for_nearby_ones) {
+    EXPECT_EQ(UITableViewRows::heldHeight(-1), 0);
+    EXPECT_EQ(UITableViewRows::heldHeight(std::numeric_limits<double>::quiet_NaN()), 0);
+    EXPECT_EQ(UITableViewRows::heldHeight(0.001), 1);
+    EXPECT_EQ(UITableViewRows::heldHeight(std::numeric_limits<double>::infinity()), 1e6);
+    EXPECT_EQ(UITableViewRows::heldRowCount(-1), 0);
+    EXPECT_EQ(UITableViewRows::heldRowCount(std::numeric_limits<NSInteger>::max()), 1'000'000'000'000);
+    EXPECT_EQ(UITableViewRows::heldSectionCount(10'001), 10'000);
+}

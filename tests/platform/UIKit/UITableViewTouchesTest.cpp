@@ -1,0 +1,256 @@
+// What fingers and mice do to a table, and to a wheel in one of its rows.
+
+#include "TableSource.h"
+#include "TestWindow.h"
+#include "WheelSource.h"
+
+using namespace gx;
+using Paths = std::vector<NSIndexPath>;
+
+namespace {
+
+/// Notes taps; row 3 cannot be tapped.
+class TapListener : public NSObject, public UITableViewDelegate {
+public:
+    Paths taps;
+    std::function<void()> whenTapped;
+    bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override { return path.row != 3; }
+    void tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override {
+        taps.push_back(path);
+        if (whenTapped) whenTapped();
+    }
+};
+
+struct TableTouches : testing::Test {
+    Ref<TableSource> source = create<TableSource>();
+    Ref<TapListener> listener = create<TapListener>();
+    Ref<UITableView> table = tableWithSource(source);
+    TestWindow window{table};
+    static constexpr CGPoint rowTwo = {160, 110}; // 88 to 132
+
+    TableTouches() {
+        table->setDelegate(listener);
+        window.tick(0);
+    }
+    bool isLit(NSInteger row) { return table->cellForRowAtIndexPath({0, row})->isHighlighted(); }
+    CGFloat offset() const { return table->contentOffset().y; }
+};
+
+/// Row 1, from 44 to 260, holds a wheel with one column from x = 120 to 200.
+struct TableWithWheel : TableTouches {
+    Ref<WheelSource> wheelSource = create<WheelSource>();
+    Ref<UIPickerView> wheel = wheelWithSource(wheelSource);
+    static constexpr CGPoint onWheel = {160, 152};
+    static constexpr CGPoint besideWheel = {20, 152};
+
+    TableWithWheel() {
+        wheelSource->rows = {10};
+        source->cell = [this](const Ref<UITableView>& view, NSIndexPath path) {
+            if (path.row != 1) return TableSource::usualCell(view, path);
+            auto cell = create<UITableViewCell>(UITableViewCellStyleDefault, std::string("wheel"));
+            cell->contentView()->addSubview(wheel);
+            return cell;
+        };
+        table->setRowHeight(216);
+        wheel->setFrame(CGRectMake(0, 0, 320, 216));
+        table->scrollToRowAtIndexPath_animated({0, 1}, false);
+        window.tick(0);
+        table->setContentOffset({0, 172}); // Row 1 begins at y = 44 of the screen.
+        window.tick(0);
+    }
+};
+
+} // namespace
+
+TEST_F(TableTouches, a_tap_is_told_once) {
+    window.tap(rowTwo);
+    EXPECT_EQ(listener->taps, Paths({{0, 2}}));
+    EXPECT_TRUE(isLit(2)) << "for a moment, to show that it was felt";
+    window.run(0.099);
+    EXPECT_TRUE(isLit(2));
+    window.run(0.002);
+    EXPECT_FALSE(isLit(2));
+    window.runUntilStill();
+    EXPECT_EQ(listener->taps.size(), 1U);
+}
+
+TEST_F(TableTouches, a_row_lights_up_under_a_finger_that_rests) {
+    window.down(rowTwo);
+    window.run(0.079);
+    EXPECT_FALSE(isLit(2));
+    window.run(0.002);
+    EXPECT_TRUE(isLit(2));
+    EXPECT_FALSE(isLit(1));
+    window.move({160, 118});
+    EXPECT_TRUE(isLit(2));
+    window.move({160, 119});
+    EXPECT_FALSE(isLit(2));
+    window.up({160, 119});
+    EXPECT_TRUE(listener->taps.empty());
+}
+
+TEST_F(TableTouches, a_finger_that_scrolls_lights_and_taps_nothing) {
+    window.down(rowTwo);
+    for (int i = 1; i <= 8; ++i) {
+        window.tick(TestWindow::frame);
+        window.move({160, 110 - 10.0 * i});
+        EXPECT_FALSE(isLit(2));
+    }
+    window.run(0.2);
+    window.up({160, 30});
+    EXPECT_EQ(offset(), 70);
+    EXPECT_TRUE(listener->taps.empty());
+}
+
+TEST_F(TableTouches, a_cancelled_finger_taps_nothing) {
+    window.down(rowTwo);
+    window.run(0.1);
+    (*window).touchCancelled_at_time(1, window.now);
+    EXPECT_FALSE(isLit(2));
+    EXPECT_TRUE(listener->taps.empty());
+}
+
+TEST_F(TableTouches, a_finger_that_stops_the_rows_taps_nothing) {
+    window.fling({160, 300}, {160, 200}, 5);
+    window.run(0.1);
+    window.tap(rowTwo);
+    window.runUntilStill();
+    EXPECT_TRUE(listener->taps.empty());
+    window.tap(rowTwo);
+    EXPECT_EQ(listener->taps.size(), 1U) << "once they stand, a tap is one";
+}
+
+TEST_F(TableTouches, a_row_that_may_not_light_up_cannot_be_tapped) {
+    window.down({160, 140}); // row 3
+    window.run(0.2);
+    EXPECT_FALSE(isLit(3));
+    window.up({160, 140});
+    EXPECT_TRUE(listener->taps.empty());
+}
+
+TEST_F(TableTouches, beside_the_rows_there_is_nothing_to_tap) {
+    source->rows = {2};
+    table->reloadData();
+    window.tick(0);
+    window.tap({160, 88});
+    EXPECT_TRUE(listener->taps.empty());
+    window.tap({160, 87});
+    EXPECT_EQ(listener->taps, Paths({{0, 1}}));
+}
+
+TEST_F(TableTouches, a_reload_under_a_finger_takes_its_tap) {
+    window.down(rowTwo);
+    window.run(0.1);
+    table->reloadData();
+    window.tick(0);
+    window.up(rowTwo);
+    EXPECT_TRUE(listener->taps.empty());
+    EXPECT_FALSE(isLit(2));
+}
+
+TEST_F(TableTouches, rows_that_come_above_a_finger_leave_it_its_row) {
+    window.down(rowTwo);
+    source->rows = {101};
+    table->insertRowsAtIndexPaths_animated({{0, 0}}, false);
+    window.up(rowTwo);
+    EXPECT_EQ(listener->taps, Paths({{0, 3}}));
+    window.down(rowTwo);
+    source->rows = {100};
+    table->deleteRowsAtIndexPaths_animated({{0, 2}}, false);
+    window.up(rowTwo);
+    EXPECT_EQ(listener->taps.size(), 1U) << "its row is gone";
+}
+
+TEST_F(TableTouches, a_tap_may_reload_or_drop_the_table) {
+    listener->whenTapped = [this] {
+        source->rows = {1};
+        table->reloadData();
+        table->layoutIfNeeded();
+    };
+    window.tap(rowTwo);
+    window.runUntilStill();
+    EXPECT_EQ(table->indexPathsForVisibleRows().size(), 1U);
+    const WeakRef<UITableView> weak = table;
+    listener->whenTapped = [this] {
+        table->removeFromSuperview();
+        table = nullptr;
+    };
+    window.tap({160, 20});
+    EXPECT_TRUE(weak.expired());
+    EXPECT_EQ(listener->taps.size(), 2U);
+}
+
+TEST_F(TableTouches, a_finger_on_a_cell_that_is_not_reused_is_followed_to_its_end) {
+    source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
+    table->reloadData();
+    window.tick(0);
+    const WeakRef<UIView> touched = table->cellForRowAtIndexPath({0, 2});
+    window.drag({160, 110}, {160, -90}, 40);
+    EXPECT_EQ(offset(), 190); // Five points a step: the second is the first beyond the slop.
+    EXPECT_FALSE(table->isDragging());
+    window.tick(0);
+    EXPECT_TRUE(touched.expired());
+}
+
+TEST_F(TableWithWheel, a_finger_on_the_wheel_never_scrolls_the_table) {
+    window.down(onWheel);
+    window.glide(onWheel, {160, -900}, 30); // far beyond the wheel, its end, and the window
+    EXPECT_EQ(offset(), 172);
+    EXPECT_FALSE(table->isDragging());
+    window.glide({160, -900}, {300, 900}, 30);
+    window.run(0.2);
+    window.up({300, 900});
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 172);
+    EXPECT_EQ(wheelSource->notices.size(), 1U);
+    EXPECT_TRUE(listener->taps.empty());
+}
+
+TEST_F(TableWithWheel, a_finger_beside_the_columns_scrolls_and_taps_the_table) {
+    window.tap(besideWheel);
+    EXPECT_EQ(listener->taps, Paths({{0, 1}}));
+    window.drag(besideWheel, {20, 52}, 10);
+    EXPECT_EQ(offset(), 172 + 90);
+    EXPECT_TRUE(wheelSource->notices.empty());
+}
+
+TEST_F(TableWithWheel, a_mouse_wheel_on_the_wheel_never_scrolls_the_table_not_even_at_its_ends) {
+    for (int i = 0; i < 12; ++i) {
+        EXPECT_TRUE(window.scrollNotches(onWheel, 1));
+        window.runUntilStill();
+    }
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 9);
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_TRUE(window.scrollPoints(onWheel, 30));
+        window.tick(TestWindow::frame);
+    }
+    window.runUntilStill();
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 9);
+    for (int i = 0; i < 12; ++i) EXPECT_TRUE(window.scrollNotches(onWheel, -1));
+    EXPECT_TRUE(window.scrollNotches(onWheel, -1));
+    EXPECT_EQ(offset(), 172);
+    EXPECT_TRUE(window.scrollNotches(besideWheel, 1));
+    EXPECT_EQ(offset(), 172 + 48);
+}
+
+TEST_F(TableWithWheel, a_wheel_goes_on_spinning_while_rows_come_and_go) {
+    wheelSource->rows = {1000};
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.fling(onWheel, {160, 92}, 4);
+    ASSERT_TRUE(wheel->isTurning());
+    const auto cell = table->cellForRowAtIndexPath({0, 1});
+    const std::size_t asked = source->asked.size();
+    source->rows = {101};
+    table->insertRowsAtIndexPaths_animated({{0, 2}}, true);
+    window.run(0.1);
+    source->rows = {100};
+    table->deleteRowsAtIndexPaths_animated({{0, 0}}, true);
+    window.run(0.1);
+    EXPECT_TRUE(wheel->isTurning());
+    EXPECT_EQ(table->cellForRowAtIndexPath({0, 0}), cell);
+    for (std::size_t i = asked; i < source->asked.size(); ++i) EXPECT_NE(source->asked[i], (NSIndexPath{0, 1}));
+    window.runUntilStill();
+    EXPECT_EQ(wheelSource->notices.size(), 1U);
+    EXPECT_GT(wheelSource->notices[0].row, 5);
+}

@@ -1,0 +1,218 @@
+// Which view has the focus, where keys go, and how Tab moves it.
+
+#include "TestWindow.h"
+
+using namespace gx;
+using Code = UIKey::Code;
+
+namespace {
+
+/// Notes the keys and changes of focus that reach it, and what is to come into sight.
+struct Field : UIView {
+    bool isWilling = true;
+    bool usesKeys = true;
+    std::string log;
+    CGRect revealed = CGRectNull;
+    std::function<void()> whenFocusChanges;
+
+    bool canBecomeFirstResponder() override { return isWilling; }
+    bool keyPressed(const UIKey& key) override {
+        log += key.code == Code::Character ? key.characters : "key";
+        log += ' ';
+        return usesKeys && key.code != Code::Tab && key.code != Code::BackTab ? true : UIView::keyPressed(key);
+    }
+    void focusDidChange() override {
+        UIView::focusDidChange();
+        log += isFirstResponder() ? "gained " : "lost ";
+        if (whenFocusChanges) whenFocusChanges();
+    }
+    void revealDescendant(CGRect rect) override {
+        revealed = rect;
+        UIView::revealDescendant(rect);
+    }
+};
+
+struct Focus : testing::Test {
+    Ref<UIView> root = create<UIView>(CGRectMake(0, 0, 100, 100));
+    TestWindow window{root};
+
+    Ref<Field> fieldIn(const Ref<UIView>& above, CGRect frame = CGRectMake(0, 0, 10, 10)) {
+        auto field = create<Field>(frame);
+        field->isWilling = true;
+        above->addSubview(field);
+        return field;
+    }
+    Ref<Field> a = fieldIn(root);
+    Ref<Field> b = fieldIn(root);
+    Ref<Field> c = fieldIn(root);
+};
+
+} // namespace
+
+TEST_F(Focus, keys_without_a_focus_go_to_nobody) {
+    EXPECT_FALSE(window.press(Code::Down));
+    EXPECT_FALSE(window.typeCharacter("4"));
+    EXPECT_EQ(a->log, "");
+}
+
+TEST_F(Focus, keys_go_to_the_focus_and_up) {
+    const auto inner = fieldIn(b);
+    EXPECT_TRUE(inner->becomeFirstResponder());
+    EXPECT_TRUE(window.typeCharacter("x"));
+    EXPECT_EQ(inner->log, "gained x gained ") << "and the mark appears";
+    EXPECT_EQ(b->log, "");
+    inner->usesKeys = false;
+    EXPECT_TRUE(window.typeCharacter("y"));
+    EXPECT_EQ(b->log, "y ");
+    b->usesKeys = false;
+    EXPECT_FALSE(window.typeCharacter("z"));
+}
+
+TEST_F(Focus, one_view_at_a_time_has_it) {
+    EXPECT_TRUE(a->becomeFirstResponder());
+    EXPECT_TRUE(b->becomeFirstResponder());
+    EXPECT_FALSE(a->isFirstResponder());
+    EXPECT_TRUE(b->isFirstResponder());
+    EXPECT_EQ(a->log, "gained lost ");
+    EXPECT_FALSE(a->resignFirstResponder());
+    EXPECT_TRUE(b->resignFirstResponder());
+    EXPECT_EQ(window->firstResponder(), nullptr);
+    EXPECT_EQ(b->log, "gained lost ");
+}
+
+TEST_F(Focus, only_a_willing_view_in_sight_in_a_window_takes_it) {
+    const auto alone = create<Field>(CGRectMake(0, 0, 10, 10));
+    EXPECT_FALSE(alone->becomeFirstResponder());
+    a->isWilling = false;
+    EXPECT_FALSE(a->becomeFirstResponder());
+    b->setHidden(true);
+    EXPECT_FALSE(b->becomeFirstResponder());
+    c->setAlpha(0);
+    EXPECT_FALSE(c->becomeFirstResponder());
+    c->setAlpha(1);
+    root->setUserInteractionEnabled(false);
+    EXPECT_FALSE(c->becomeFirstResponder());
+    root->setUserInteractionEnabled(true);
+    EXPECT_TRUE(c->becomeFirstResponder());
+    EXPECT_FALSE(create<UIView>()->becomeFirstResponder());
+}
+
+TEST_F(Focus, tab_goes_through_the_views_in_the_order_of_the_tree) {
+    const auto inner = fieldIn(a);
+    std::vector<Ref<UIView>> visited;
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(window.press(Code::Tab));
+        visited.push_back(window->firstResponder());
+    }
+    EXPECT_EQ(visited, (std::vector<Ref<UIView>>{a, inner, b, c}));
+    EXPECT_FALSE(window.press(Code::Tab)) << "the host may go on";
+    EXPECT_EQ(window->firstResponder(), nullptr);
+    EXPECT_TRUE(window.press(Code::Tab));
+    EXPECT_TRUE(a->isFirstResponder()) << "and round";
+}
+
+TEST_F(Focus, shift_and_tab_go_back) {
+    EXPECT_TRUE(window.press(Code::BackTab, UIKey::Shift));
+    EXPECT_TRUE(c->isFirstResponder());
+    EXPECT_TRUE(window.press(Code::BackTab, UIKey::Shift));
+    EXPECT_TRUE(b->isFirstResponder());
+    EXPECT_TRUE(window.press(Code::BackTab, UIKey::Shift));
+    EXPECT_FALSE(window.press(Code::BackTab, UIKey::Shift));
+    EXPECT_EQ(window->firstResponder(), nullptr);
+}
+
+TEST_F(Focus, tab_with_control_is_not_for_the_focus) {
+    EXPECT_FALSE(window.press(Code::Tab, UIKey::Control));
+    EXPECT_EQ(window->firstResponder(), nullptr);
+}
+
+TEST_F(Focus, tab_passes_over_what_takes_no_input) {
+    a->setHidden(true);
+    b->setAlpha(0);
+    fieldIn(b);
+    EXPECT_TRUE(window.press(Code::Tab));
+    EXPECT_TRUE(c->isFirstResponder());
+}
+
+TEST_F(Focus, the_view_that_tab_goes_to_comes_into_sight) {
+    const auto inner = fieldIn(c, CGRectMake(3, 4, 20, 10));
+    c->setFrame(CGRectMake(10, 20, 30, 30));
+    c->setBounds(CGRectMake(0, 1, 30, 30));
+    inner->becomeFirstResponder();
+    EXPECT_TRUE(CGRectIsNull(c->revealed)) << "but not the one that a finger or the program chose";
+    inner->resignFirstResponder();
+    window.press(Code::BackTab, UIKey::Shift);
+    EXPECT_EQ(inner->revealed, CGRectMake(0, 0, 20, 10));
+    EXPECT_EQ(c->revealed, CGRectMake(3, 4, 20, 10)) << "in its own coordinates";
+}
+
+TEST_F(Focus, a_view_that_is_hidden_or_leaves_loses_it) {
+    const auto inner = fieldIn(b);
+    inner->becomeFirstResponder();
+    b->setHidden(true);
+    EXPECT_EQ(window->firstResponder(), nullptr);
+    EXPECT_EQ(inner->log, "gained lost ");
+    b->setHidden(false);
+    inner->becomeFirstResponder();
+    b->removeFromSuperview();
+    EXPECT_EQ(window->firstResponder(), nullptr);
+    EXPECT_EQ(inner->log, "gained lost gained lost ");
+    a->becomeFirstResponder();
+    b->setHidden(true);
+    EXPECT_TRUE(a->isFirstResponder()) << "others keep it";
+}
+
+TEST_F(Focus, a_disabled_or_clear_view_loses_it_with_the_next_key) {
+    a->becomeFirstResponder();
+    a->setUserInteractionEnabled(false);
+    EXPECT_FALSE(window.press(Code::Down));
+    EXPECT_EQ(window->firstResponder(), nullptr);
+}
+
+TEST_F(Focus, a_view_that_dies_has_it_no_more) {
+    a->becomeFirstResponder();
+    const WeakRef<Field> weak = a;
+    a->removeFromSuperview();
+    a = nullptr;
+    EXPECT_TRUE(weak.expired());
+    EXPECT_EQ(window->firstResponder(), nullptr);
+}
+
+TEST_F(Focus, the_mark_shows_from_a_key_to_a_touch_and_while_keys_come) {
+    a->becomeFirstResponder();
+    EXPECT_FALSE(window->showsFocus());
+    window.press(Code::Down);
+    EXPECT_TRUE(window->showsFocus());
+    window->setReceivesKeys(false);
+    EXPECT_FALSE(window->showsFocus());
+    EXPECT_TRUE(a->isFirstResponder());
+    window->setReceivesKeys(true);
+    EXPECT_TRUE(window->showsFocus());
+    window.down({50, 50});
+    EXPECT_FALSE(window->showsFocus());
+}
+
+TEST_F(Focus, a_key_that_is_of_no_use_shows_no_mark) {
+    a->usesKeys = false;
+    a->becomeFirstResponder();
+    EXPECT_FALSE(window.press(Code::Down));
+    EXPECT_FALSE(window->showsFocus());
+}
+
+TEST_F(Focus, who_hears_of_it_may_pass_it_on) {
+    b->whenFocusChanges = [this] { c->becomeFirstResponder(); };
+    a->becomeFirstResponder();
+    EXPECT_FALSE(b->becomeFirstResponder()) << "it has gone on";
+    EXPECT_TRUE(c->isFirstResponder());
+}
+
+TEST_F(Focus, who_hears_of_its_loss_may_come_back_elsewhere) {
+    const auto other = create<UIView>(CGRectMake(0, 0, 10, 10));
+    a->whenFocusChanges = [&] {
+        if (!a->superview()) other->addSubview(a);
+    };
+    a->becomeFirstResponder();
+    a->removeFromSuperview();
+    EXPECT_EQ(a->superview(), other);
+    EXPECT_FALSE(a->window());
+}
