@@ -1,5 +1,7 @@
 #include "GalleryExhibit.h"
 
+#include <algorithm>
+
 #include "GXStyleSheet.h"
 #include "GalleryDelegate.h"
 #include "GalleryNumbers.h"
@@ -27,20 +29,30 @@ Ref<GXStyleSheetFont> resized(const Ref<GXStyleSheetFont>& font, CGFloat size) {
     return GXStyleSheetFont::fontWithFamily_size_weight_color(font->familyName(), size, font->weight(), font->color());
 }
 
+void addTextPickers(const Ref<GXBasePickerView>& picker, std::vector<Ref<GXBasePickerView>>& found) {
+    if (!picker || CGRectIsEmpty(picker->bounds())) return;
+    if (picker->pickerView()) return found.push_back(picker);
+    for (const Ref<UIView>& inner : picker->subviews()) addTextPickers(std::dynamic_pointer_cast<GXBasePickerView>(inner), found);
+}
+
 } // namespace
 
-void fitFonts(const GalleryExhibit& exhibit) {
-    const auto& picker = exhibit.textPicker;
-    if (!picker || CGRectIsEmpty(picker->bounds())) return;
+void fitFonts(const Ref<GXBasePickerView>& picker) {
+    std::vector<Ref<GXBasePickerView>> pickers;
+    addTextPickers(picker, pickers);
     constexpr int smallest = 13;
     const auto values = GXStyleSheet::globalStyleSheet()->pickerValueFont();
     const auto labels = GXStyleSheet::globalStyleSheet()->pickerLabelFont();
-    // Nothing stands for the style sheet's.
-    picker->setCustomValueFont(nullptr);
-    picker->setCustomLabelFont(nullptr);
-    for (int size = static_cast<int>(values->pointSize()); size >= smallest && !fitsIntoBand(picker); --size) {
-        picker->setCustomValueFont(resized(values, size));
-        picker->setCustomLabelFont(resized(labels, size));
+    const auto setFonts = [&pickers](const Ref<GXStyleSheetFont>& valueFont, const Ref<GXStyleSheetFont>& labelFont) {
+        for (const Ref<GXBasePickerView>& each : pickers) {
+            each->setCustomValueFont(valueFont);
+            each->setCustomLabelFont(labelFont);
+        }
+    };
+    setFonts(nullptr, nullptr); // Nothing stands for the style sheet's.
+    for (int size = static_cast<int>(values->pointSize()); size >= smallest; --size) {
+        if (std::all_of(pickers.begin(), pickers.end(), fitsIntoBand)) return;
+        setFonts(resized(values, size), resized(labels, size));
     }
 }
 

@@ -45,9 +45,9 @@ struct GalleryExhibit {
 GalleryExhibit exhibitOf(const gx::Ref<gx::GXBasePickerView>& picker, const GalleryReport& report, const std::string& unit,
                          std::function<std::string(const gx::NSNumber& value, gx::NSInteger component)> inWords);
 
-/// Gives the picker of an exhibit that has its frame the largest fonts, up to the style sheet's, with which the labels stand within
-/// the wheel's band. Values and labels keep one size, and so one baseline.
-void fitFonts(const GalleryExhibit& exhibit);
+/// Gives a picker that has its frame the largest fonts, up to the style sheet's, with which the labels stand within the wheel's band.
+/// Values and labels keep one size, and so one baseline. Within a composite all pickers get the same. Absent ones are fine.
+void fitFonts(const gx::Ref<gx::GXBasePickerView>& picker);
 
 /// The text beside the wheel, which is the name of the unit that it shows.
 std::string unitBesideWheel(const gx::Ref<gx::GXBasePickerView>& picker);

@@ -88,7 +88,7 @@ void GalleryOverview::layoutSubviews() {
         const CGFloat padding = GalleryTheme::cardPadding;
         card.heading->setFrame(CGRectMake(padding, 4, std::max(0.0, grid.cardWidth - 2 * padding), GalleryTheme::controlHeight));
         card.exhibit.picker->setFrame(CGRectMake(0, headingHeight, grid.cardWidth, wheelHeight));
-        fitFonts(card.exhibit);
+        fitFonts(card.exhibit.textPicker);
     }
 }
 

@@ -173,7 +173,7 @@ void GalleryPage::layoutSubviews() {
     log_->setFrame(frames.log);
     optionsCard_->setFrame(frames.options);
     exhibit_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, wheelHeight));
-    fitFonts(exhibit_);
+    fitFonts(exhibit_.textPicker);
 
     const CGFloat padding = GalleryTheme::cardPadding;
     const CGFloat width = std::max(0.0, frames.options.size.width - 2 * padding);

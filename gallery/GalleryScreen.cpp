@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GXStyleSheet.h"
 #include "GalleryPages.h"
+#include "GalleryTexts.h"
 #include "GalleryTheme.h"
 #include "UIWindow.h"
 
@@ -17,21 +17,17 @@ bool GalleryScreen::initWithFrame(CGRect frame) {
     setBackgroundColor(GalleryTheme::background());
     const WeakRef<GalleryScreen> weak = refTo(this);
 
+    settings_ = GallerySettings::current();
     descriptions_ = galleryPages();
-    names_.emplace_back("All pickers");
+    names_ = {"Add workout", "Settings", "All pickers"};
     for (const GalleryPageDescription& description : descriptions_) names_.push_back(description.name);
     pages_.resize(descriptions_.size());
 
+    entry_ = create<GalleryEntry>(CGRectZero);
     scroll_ = create<GalleryScroll>(CGRectZero);
-    sidebar_ = GallerySidebar::sidebarWithPages_actions(names_, {[weak](std::size_t page) {
-                                                                     if (const auto screen = weak.lock()) screen->showPage(page);
-                                                                 },
-                                                                 [weak](UIUserInterfaceStyle style) {
-                                                                     if (const auto screen = weak.lock()) screen->setStyle(style);
-                                                                 },
-                                                                 [weak](double scale) {
-                                                                     if (const auto screen = weak.lock()) screen->setTextScale(scale);
-                                                                 }});
+    sidebar_ = GallerySidebar::sidebarWithPages_show(names_, [weak](std::size_t page) {
+        if (const auto screen = weak.lock()) screen->showPage(page);
+    });
     bar_ = create<UIView>(CGRectZero);
     bar_->setBackgroundColor(GalleryTheme::sidebar());
     barTitle_ = create<UILabel>(CGRectZero);
@@ -45,11 +41,13 @@ bool GalleryScreen::initWithFrame(CGRect frame) {
     styleButton_->setAction([weak] {
         const auto screen = weak.lock();
         if (!screen) return;
-        screen->setStyle(screen->style() == UIUserInterfaceStyle::Light ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light);
+        GallerySettings changed = screen->settings();
+        changed.style = screen->style() == UIUserInterfaceStyle::Light ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
+        screen->setSettings(changed);
     });
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{barTitle_, menuButton_, styleButton_}) bar_->addSubview(view);
-    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{scroll_, sidebar_, bar_}) addSubview(view);
-    showPage(0);
+    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{entry_, scroll_, sidebar_, bar_}) addSubview(view);
+    showPage(entryPage);
     return true;
 }
 
@@ -57,24 +55,38 @@ bool GalleryScreen::initWithFrame(CGRect frame) {
 
 void GalleryScreen::showPage(std::size_t index) {
     if (index >= names_.size()) return;
-    const bool isShown = index == index_ && scroll_->content();
     index_ = index;
     isMenuShown_ = false;
     sidebar_->setChosenPage(index);
-    if (!isShown && index == 0) {
-        if (!overview_) {
-            overview_ =
-                GalleryOverview::overviewOfPages_open(descriptions_, [weak = WeakRef<GalleryScreen>(refTo(this))](std::size_t page) {
-                    if (const auto screen = weak.lock()) screen->showPage(page + 1);
-                });
-        }
-        scroll_->setContent(overview_);
-    } else if (!isShown) {
-        if (!pages_[index - 1]) pages_[index - 1] = GalleryPage::pageWithDescription(descriptions_[index - 1]);
-        scroll_->setContent(pages_[index - 1]);
+    if (index != entryPage) {
+        const Ref<UIView> content = contentOfPage(index);
+        if (content != scroll_->content()) scroll_->setContent(content);
     }
     showTitles();
     setNeedsLayout();
+}
+
+Ref<UIView> GalleryScreen::contentOfPage(std::size_t index) {
+    const WeakRef<GalleryScreen> weak = refTo(this);
+    if (index == settingsPage) {
+        if (!settingsPage_) {
+            settingsPage_ = GallerySettingsPage::pageWithSettings_changed(settings_, [weak](const GallerySettings& settings) {
+                if (const auto screen = weak.lock()) screen->setSettings(settings);
+            });
+        }
+        return settingsPage_;
+    }
+    if (index == overviewPage) {
+        if (!overview_) {
+            overview_ = GalleryOverview::overviewOfPages_open(descriptions_, [weak](std::size_t page) {
+                if (const auto screen = weak.lock()) screen->showPage(firstPickerPage + page);
+            });
+        }
+        return overview_;
+    }
+    Ref<GalleryPage>& page = pages_[index - firstPickerPage];
+    if (!page) page = GalleryPage::pageWithDescription(descriptions_[index - firstPickerPage]);
+    return page;
 }
 
 std::optional<std::size_t> GalleryScreen::indexOfPage(const std::string& name) const {
@@ -88,43 +100,54 @@ std::optional<std::size_t> GalleryScreen::indexOfPage(const std::string& name) c
     return static_cast<std::size_t>(found - names_.begin());
 }
 
-Ref<GalleryPage> GalleryScreen::page() const { return index_ == 0 ? nullptr : pages_[index_ - 1]; }
+Ref<GalleryPage> GalleryScreen::page() const { return index_ < firstPickerPage ? nullptr : pages_[index_ - firstPickerPage]; }
 
 void GalleryScreen::showTitles() {
-    barTitle_->setText(isMenuShown_ ? "GXUIPickers" : names_[index_]);
+    barTitle_->setText(isMenuShown_ ? "GXUIPickers" : GalleryTexts::text(names_[index_]));
     sidebar_->setShowsTitle(hasSidebar());
+    entry_->setShowsTitle(hasSidebar());
+    if (settingsPage_) settingsPage_->setShowsTitle(hasSidebar());
     if (const Ref<GalleryPage> shown = page()) shown->setShowsTitle(hasSidebar());
 }
 
-// Looks
+// Settings
 
-void GalleryScreen::setStyle(UIUserInterfaceStyle style) {
-    style_ = style;
-    isStyleChosen_ = true;
-    sidebar_->setStyle(style);
-    if (const Ref<UIWindow> shownIn = window()) shownIn->setUserInterfaceStyle(style);
-    if (styleAction_) styleAction_(style);
+void GalleryScreen::setSettings(const GallerySettings& settings) {
+    if (settings == settings_) return;
+    const Ref<GalleryScreen> keep = refTo(this);
+    const GallerySettings before = settings_;
+    settings_ = settings;
+    // A wheel that still spins lands first, and in the old units.
+    entry_->settleWheels();
+    settings.apply();
+    entry_->setSettings(settings);
+    if (settingsPage_) settingsPage_->setSettings(settings);
+    if (settings.style != before.style) showStyle();
+    if (settings.textScale != before.textScale || settings.language != before.language ||
+        settings.decimalSeparator != before.decimalSeparator) {
+        for (const Ref<GalleryPage>& page : pages_) {
+            if (page) page->renewPicker();
+        }
+        if (overview_) overview_->renewPickers();
+    }
+    sidebar_->showNames();
+    showTitles();
+    setNeedsLayout();
+}
+
+UIUserInterfaceStyle GalleryScreen::style() const {
+    const Ref<UIWindow> shownIn = window();
+    return settings_.style.value_or(shownIn ? shownIn->userInterfaceStyle() : UIUserInterfaceStyle::Light);
+}
+
+void GalleryScreen::showStyle() {
+    if (const Ref<UIWindow> shownIn = window(); shownIn && settings_.style) shownIn->setUserInterfaceStyle(*settings_.style);
+    if (styleAction_) styleAction_(settings_.style);
 }
 
 void GalleryScreen::didMoveToWindow() {
     UIView::didMoveToWindow();
-    const Ref<UIWindow> shownIn = window();
-    if (!shownIn) return;
-    // Until the user has chosen, the look is the one that the system gave to the window.
-    if (isStyleChosen_) {
-        shownIn->setUserInterfaceStyle(style_);
-    } else {
-        style_ = shownIn->userInterfaceStyle();
-        sidebar_->setStyle(style_);
-    }
-}
-
-void GalleryScreen::setTextScale(double scale) {
-    GXStyleSheet::globalStyleSheet()->setTextScale(scale);
-    for (const Ref<GalleryPage>& page : pages_) {
-        if (page) page->renewPicker();
-    }
-    if (overview_) overview_->renewPickers();
+    if (window()) showStyle();
 }
 
 // Layout
@@ -139,6 +162,7 @@ void GalleryScreen::setMenuShown(bool shown) {
 CGSize GalleryScreen::sizeThatFits(CGSize available) const {
     const bool isWide = available.width >= GalleryTheme::sidebarBreakpoint;
     const CGFloat width = isWide ? available.width - GalleryTheme::sidebarWidth : available.width;
+    if (index_ == entryPage) return available;
     const CGFloat height = std::ceil(scroll_->content()->sizeThatFits({width, 0}).height);
     return {available.width, isWide ? height : height + GalleryTheme::barHeight};
 }
@@ -154,7 +178,9 @@ void GalleryScreen::layoutSubviews() {
 
     showTitles();
     scroll_->setFrame(body);
-    scroll_->setHidden(isMenu);
+    scroll_->setHidden(isMenu || index_ == entryPage);
+    entry_->setFrame(body);
+    entry_->setHidden(isMenu || index_ != entryPage);
     sidebar_->setHidden(!isWide && !isMenu);
     sidebar_->setFrame(isWide ? CGRectMake(0, 0, x, size.height) : body);
 

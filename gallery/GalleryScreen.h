@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "GalleryEntry.h"
 #include "GalleryOverview.h"
 #include "GalleryPage.h"
 #include "GalleryScroll.h"
+#include "GallerySettingsPage.h"
 #include "GallerySidebar.h"
 
 namespace gallery {
@@ -15,12 +17,18 @@ namespace gallery {
 /// The whole window of the gallery. Where it is wide enough, the list of pages stands beside the page; else a bar above the page tells its
 /// name and has a button that shows the list in the page's place.
 ///
-/// Page 0 is the overview; the others are those of `galleryPages()`, in order. Each is made when it is first shown and keeps its state.
+/// The first pages are the application: "Add workout" and "Settings". Then come the overview of all pickers, and those of `galleryPages()`,
+/// in order. Each is made when it is first shown and keeps its state.
 class GalleryScreen : public gx::UIView {
 public:
+    static constexpr std::size_t entryPage = 0;
+    static constexpr std::size_t settingsPage = 1;
+    static constexpr std::size_t overviewPage = 2;
+    static constexpr std::size_t firstPickerPage = 3;
+
     bool initWithFrame(gx::CGRect frame) override;
 
-    /// The names of all pages.
+    /// The English names of all pages.
     const std::vector<std::string>& pageNames() const { return names_; }
     std::size_t pageIndex() const { return index_; }
     /// Ignored for a page that does not exist. Closes the list if that stands in the page's place.
@@ -31,13 +39,16 @@ public:
     gx::Ref<GalleryPage> page() const;
     const gx::Ref<GalleryOverview>& overview() const { return overview_; }
 
-    gx::UIUserInterfaceStyle style() const { return style_; }
-    /// Changes the look of the window, also of one that the screen comes into later.
-    void setStyle(gx::UIUserInterfaceStyle style);
-    /// Called after each `setStyle`, for a host that keeps the look of its window itself.
-    void setStyleAction(std::function<void(gx::UIUserInterfaceStyle style)> action) { styleAction_ = std::move(action); }
-    /// Of all pickers. Since a picker reads its row height when it is made, all are made anew.
-    void setTextScale(double scale);
+    const gx::Ref<GalleryEntry>& entry() const { return entry_; }
+    const gx::Ref<GallerySettingsPage>& settingsControls() const { return settingsPage_; }
+
+    const GallerySettings& settings() const { return settings_; }
+    /// Applies them at once, to all that is open: what a picker fixes when it is made is renewed by making it again, with its value.
+    void setSettings(const GallerySettings& settings);
+    /// The look in force, which is the system's until the user has chosen.
+    gx::UIUserInterfaceStyle style() const;
+    /// Called after each change of the look, for a host that keeps the look of its window itself; nothing for the system's.
+    void setStyleAction(std::function<void(std::optional<gx::UIUserInterfaceStyle> style)> action) { styleAction_ = std::move(action); }
 
     bool hasSidebar() const;
     bool isMenuShown() const { return isMenuShown_; }
@@ -53,17 +64,20 @@ public:
     void didMoveToWindow() override;
 
 private:
+    gx::Ref<gx::UIView> contentOfPage(std::size_t index);
     void showTitles();
+    void showStyle();
 
     std::vector<GalleryPageDescription> descriptions_;
     std::vector<std::string> names_;
     std::size_t index_ = 0;
     std::vector<gx::Ref<GalleryPage>> pages_; // Empty where a page was not shown yet.
+    gx::Ref<GalleryEntry> entry_;
+    gx::Ref<GallerySettingsPage> settingsPage_;
     gx::Ref<GalleryOverview> overview_;
     bool isMenuShown_ = false;
-    gx::UIUserInterfaceStyle style_ = gx::UIUserInterfaceStyle::Light;
-    bool isStyleChosen_ = false;
-    std::function<void(gx::UIUserInterfaceStyle)> styleAction_;
+    GallerySettings settings_;
+    std::function<void(std::optional<gx::UIUserInterfaceStyle>)> styleAction_;
 
     gx::Ref<GalleryScroll> scroll_;
     gx::Ref<GallerySidebar> sidebar_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "GalleryTexts.h"
 #include "GalleryTheme.h"
 #include "UIGraphicsContext.h"
 
@@ -12,64 +13,38 @@ namespace gallery {
 namespace {
 
 constexpr CGFloat inset = 12;
-constexpr CGFloat controlGap = 8;
-constexpr double largeText = 1.3;
 
-/// Rows from the top and controls from the bottom up, or below the rows where there is no room for both.
+/// Rows one below the other.
 class SidebarList : public UIView {
 public:
-    void addRow(const Ref<UIView>& row) { add(rows_, row); }
-    void addControl(const Ref<UIView>& control) { add(controls_, control); }
-
-    CGSize sizeThatFits(CGSize available) const override { return {available.width, rowsHeight() + controlsHeight()}; }
+    CGSize sizeThatFits(CGSize available) const override {
+        return {available.width, static_cast<CGFloat>(subviews().size()) * GalleryTheme::controlHeight + inset};
+    }
     void layoutSubviews() override {
         UIView::layoutSubviews();
         const CGFloat width = std::max(0.0, bounds().size.width - 2 * inset);
         CGFloat y = 0;
-        for (const Ref<UIView>& row : rows_) {
+        for (const Ref<UIView>& row : subviews()) {
             row->setFrame(CGRectMake(inset, y, width, GalleryTheme::controlHeight));
             y += GalleryTheme::controlHeight;
         }
-        y = std::max(y, bounds().size.height - controlsHeight()) + inset;
-        for (const Ref<UIView>& control : controls_) {
-            control->setFrame(CGRectMake(inset, y, width, GalleryTheme::controlHeight));
-            y += GalleryTheme::controlHeight + controlGap;
-        }
     }
-
-private:
-    void add(std::vector<Ref<UIView>>& list, const Ref<UIView>& view) {
-        list.push_back(view);
-        addSubview(view);
-    }
-    CGFloat rowsHeight() const { return static_cast<CGFloat>(rows_.size()) * GalleryTheme::controlHeight; }
-    CGFloat controlsHeight() const {
-        return 2 * inset + static_cast<CGFloat>(controls_.size()) * (GalleryTheme::controlHeight + controlGap) - controlGap;
-    }
-
-    std::vector<Ref<UIView>> rows_;
-    std::vector<Ref<UIView>> controls_;
 };
 
 } // namespace
 
-Ref<GallerySidebar> GallerySidebar::sidebarWithPages_actions(const std::vector<std::string>& names, const Actions& actions) {
+Ref<GallerySidebar> GallerySidebar::sidebarWithPages_show(const std::vector<std::string>& names,
+                                                          const std::function<void(std::size_t page)>& show) {
     auto sidebar = create<GallerySidebar>(CGRectZero);
+    sidebar->names_ = names;
     const auto list = create<SidebarList>(CGRectZero);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const auto row = GalleryButton::buttonWithTitle_style(names[i], GalleryButton::Style::Row);
-        row->setAction([showPage = actions.showPage, i] { showPage(i); });
+        const auto row = GalleryButton::buttonWithTitle_style(GalleryTexts::text(names[i]), GalleryButton::Style::Row);
+        row->setAction([show, i] { show(i); });
         sidebar->rows_.push_back(row);
-        list->addRow(row);
+        list->addSubview(row);
     }
-    list->addControl(sidebar->styleControl_);
-    list->addControl(sidebar->textControl_);
     sidebar->list_->setContent(list);
-    sidebar->styleControl_->setAction([setStyle = actions.setStyle](std::size_t choice) {
-        setStyle(choice == 0 ? UIUserInterfaceStyle::Light : UIUserInterfaceStyle::Dark);
-    });
-    sidebar->textControl_->setAction(
-        [setTextScale = actions.setTextScale](std::size_t choice) { setTextScale(choice == 0 ? 1 : largeText); });
     return sidebar;
 }
 
@@ -80,8 +55,6 @@ bool GallerySidebar::initWithFrame(CGRect frame) {
     title_->setText("GXUIPickers");
     title_->setFont(GalleryTheme::headingFont());
     list_ = create<GalleryScroll>(CGRectZero);
-    styleControl_ = GallerySegments::segmentsWithChoices({"Light", "Dark"}, 0);
-    textControl_ = GallerySegments::segmentsWithChoices({"Normal text", "Large text"}, 0);
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, list_}) addSubview(view);
     return true;
 }
@@ -98,7 +71,9 @@ void GallerySidebar::setChosenPage(std::size_t page) {
     setNeedsLayout();
 }
 
-void GallerySidebar::setStyle(UIUserInterfaceStyle style) { styleControl_->setChosen(style == UIUserInterfaceStyle::Dark ? 1 : 0); }
+void GallerySidebar::showNames() {
+    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(GalleryTexts::text(names_[i]));
+}
 
 void GallerySidebar::layoutSubviews() {
     UIView::layoutSubviews();

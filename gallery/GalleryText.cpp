@@ -18,11 +18,18 @@ constexpr CGFloat leading = 2;
 bool GalleryText::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     setUserInteractionEnabled(false);
+    color_ = GalleryTheme::secondaryText();
     return true;
 }
 
 void GalleryText::setText(std::string text) {
     text_ = std::move(text);
+    setNeedsDisplay();
+}
+
+void GalleryText::setColor(const UIColor& color) {
+    if (color == color_) return;
+    color_ = color;
     setNeedsDisplay();
 }
 
@@ -54,7 +61,7 @@ CGSize GalleryText::sizeThatFits(CGSize available) const {
 void GalleryText::drawRect(UIGraphicsContext& context, CGRect rect) {
     CGPoint origin = rect.origin;
     for (const std::string& line : linesForWidth(rect.size.width)) {
-        context.drawText(line, *GalleryTheme::bodyFont(), GalleryTheme::secondaryText(), origin);
+        context.drawText(line, *GalleryTheme::bodyFont(), color_, origin);
         origin.y += lineHeight();
     }
 }

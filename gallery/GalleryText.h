@@ -18,6 +18,8 @@ public:
 
     const std::string& text() const { return text_; }
     void setText(std::string text);
+    /// By default that of quieter texts.
+    void setColor(const gx::UIColor& color);
 
     /// As wide as offered, and as high as all lines.
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
@@ -28,6 +30,7 @@ private:
     gx::CGFloat lineHeight() const;
 
     std::string text_;
+    gx::UIColor color_;
 };
 
 } // namespace gallery

@@ -22,6 +22,7 @@ UIColor GalleryTheme::hairline() { return lightDark(0xE6E8EC, 0x2A2E35); }
 UIColor GalleryTheme::text() { return UIColor::labelColor(); }
 UIColor GalleryTheme::secondaryText() { return UIColor::secondaryLabelColor(); }
 UIColor GalleryTheme::accent() { return lightDark(0x0B7269, 0x56CDBF); }
+UIColor GalleryTheme::warning() { return lightDark(0xB3261E, 0xFF8A80); }
 UIColor GalleryTheme::accentFill() {
     return UIColor::colorWithLight_dark(UIColor::colorWithHex(0x0B7269, 0.10), UIColor::colorWithHex(0x56CDBF, 0.15));
 }

@@ -21,6 +21,8 @@ public:
     static gx::UIColor text();
     static gx::UIColor secondaryText();
     static gx::UIColor accent();
+    /// What went wrong.
+    static gx::UIColor warning();
     /// Behind the chosen row of a list.
     static gx::UIColor accentFill();
     /// Behind a row of segments.

@@ -8,6 +8,7 @@
 #include "GXLocalization.h"
 #include "GalleryArguments.h"
 #include "GalleryScreen.h"
+#include "QtFiles.h"
 #include "QtHost.h"
 #include "QtPictures.h"
 #include "UIViewWidget.h"
@@ -58,10 +59,12 @@ int showWindow(const Ref<GalleryScreen>& screen, const GalleryArguments& argumen
     widget.setMinimumSize(320, 320);
     widget.resize(static_cast<int>(size.width), static_cast<int>(size.height));
     widget.setRootView(screen);
-    screen->setStyleAction([&widget](UIUserInterfaceStyle style) { widget.setUserInterfaceStyle(style); });
+    screen->setStyleAction([&widget](std::optional<UIUserInterfaceStyle> style) { widget.setUserInterfaceStyle(style); });
+    screen->entry()->setFiles(std::make_shared<QtFiles>(&widget));
     widget.show();
     const int result = QApplication::exec();
     screen->setStyleAction(nullptr);
+    screen->entry()->setFiles(nullptr);
     return result;
 }
 

@@ -8,21 +8,28 @@ using namespace gx;
 
 using GalleryScreenTest = GalleryTest;
 
-TEST_F(GalleryScreenTest, ItBeginsWithAllPickersAndListsAPageForEach) {
+TEST_F(GalleryScreenTest, ItBeginsWithTheEntryOfAWorkoutAndListsAPageForEachPicker) {
     open(1200, 800);
-    EXPECT_EQ(screen->pageNames(), (std::vector<std::string>{"All pickers", "Distance", "Duration", "Pace", "Speed", "Heart rate",
-                                                             "Temperature", "Weight", "Height", "Calories", "Beats per minute"}));
-    EXPECT_EQ(screen->pageIndex(), 0U);
+    EXPECT_EQ(screen->pageNames(),
+              (std::vector<std::string>{"Add workout", "Settings", "All pickers", "Distance", "Duration", "Pace", "Speed", "Heart rate",
+                                        "Temperature", "Weight", "Height", "Calories", "Beats per minute"}));
+    EXPECT_EQ(screen->pageIndex(), GalleryScreen::entryPage);
+    EXPECT_FALSE(screen->entry()->isHidden());
+    EXPECT_TRUE(screen->scroll()->isHidden());
+    EXPECT_FALSE(screen->page());
+    tap(screen->sidebar()->rows()[GalleryScreen::overviewPage]);
+    EXPECT_TRUE(screen->entry()->isHidden());
+    EXPECT_FALSE(screen->scroll()->isHidden());
     EXPECT_EQ(screen->overview()->count(), 10U);
     EXPECT_FALSE(screen->page());
 }
 
 TEST_F(GalleryScreenTest, ATapInTheSidebarShowsThatPage) {
     open(1200, 800);
-    tap(screen->sidebar()->rows()[3]);
-    EXPECT_EQ(screen->pageIndex(), 3U);
+    tap(screen->sidebar()->rows()[5]);
+    EXPECT_EQ(screen->pageIndex(), 5U);
     EXPECT_EQ(screen->page()->name(), "Pace");
-    EXPECT_TRUE(screen->sidebar()->rows()[3]->isChosen());
+    EXPECT_TRUE(screen->sidebar()->rows()[5]->isChosen());
     EXPECT_FALSE(screen->sidebar()->rows()[0]->isChosen());
     EXPECT_EQ(screen->scroll()->content(), screen->page());
 }
@@ -34,9 +41,9 @@ TEST_F(GalleryScreenTest, OnAPhoneTheMenuButtonShowsTheListInThePagesPlace) {
     tap(screen->menuButton());
     EXPECT_TRUE(screen->isMenuShown());
     EXPECT_FALSE(screen->sidebar()->isHidden());
-    EXPECT_TRUE(screen->scroll()->isHidden());
+    EXPECT_TRUE(screen->entry()->isHidden());
     EXPECT_EQ(screen->sidebar()->frame(), CGRectMake(0, 56, 320, 512));
-    tap(screen->sidebar()->rows()[1]);
+    tap(screen->sidebar()->rows()[3]);
     EXPECT_FALSE(screen->isMenuShown());
     EXPECT_TRUE(screen->sidebar()->isHidden());
     EXPECT_EQ(screen->page()->name(), "Distance");
@@ -47,11 +54,11 @@ TEST_F(GalleryScreenTest, TheMenuButtonAlsoClosesTheList) {
     tap(screen->menuButton());
     tap(screen->menuButton());
     EXPECT_FALSE(screen->isMenuShown());
-    EXPECT_FALSE(screen->scroll()->isHidden());
+    EXPECT_FALSE(screen->entry()->isHidden());
 }
 
 TEST_F(GalleryScreenTest, AHeadingOfTheOverviewLeadsToItsPage) {
-    open(1200, 800);
+    show("All pickers", 1200, 800);
     tap(screen->overview()->heading(4));
     ASSERT_TRUE(screen->page());
     EXPECT_EQ(screen->page()->name(), "Heart rate");
@@ -59,11 +66,11 @@ TEST_F(GalleryScreenTest, AHeadingOfTheOverviewLeadsToItsPage) {
 
 TEST_F(GalleryScreenTest, PagesAreFoundByNameInAnyCase) {
     open(320, 568);
-    EXPECT_EQ(screen->indexOfPage("heart RATE"), 5U);
-    EXPECT_EQ(screen->indexOfPage("All pickers"), 0U);
+    EXPECT_EQ(screen->indexOfPage("heart RATE"), 7U);
+    EXPECT_EQ(screen->indexOfPage("All pickers"), 2U);
     EXPECT_FALSE(screen->indexOfPage("Heart"));
     EXPECT_FALSE(screen->indexOfPage(""));
-    screen->showPage(11);
+    screen->showPage(13);
     EXPECT_EQ(screen->pageIndex(), 0U);
 }
 
@@ -71,31 +78,31 @@ TEST_F(GalleryScreenTest, APageThatIsLeftKeepsItsValueAndItsLog) {
     show("Calories", 390, 844);
     turn(0, 3);
     const auto page = screen->page();
-    screen->showPage(1);
-    screen->showPage(9);
+    screen->showPage(3);
+    screen->showPage(11);
     EXPECT_EQ(screen->page(), page);
     EXPECT_EQ(page->log()->notices().size(), 1U);
 }
 
 // Looks
 
-TEST_F(GalleryScreenTest, TheSwitchInTheSidebarMakesTheWindowDarkAndLightAgain) {
-    open(1200, 800);
+TEST_F(GalleryScreenTest, TheLookInTheSettingsMakesTheWindowDarkAndLightAgain) {
+    show("Settings", 1200, 800);
     EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Light);
-    tapSegment(screen->sidebar()->styleControl(), 1);
+    tapSegment(screen->settingsControls()->control("Look"), 2);
     EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Dark);
-    tapSegment(screen->sidebar()->styleControl(), 0);
+    tapSegment(screen->settingsControls()->control("Look"), 1);
     EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Light);
 }
 
-TEST_F(GalleryScreenTest, TheButtonInTheBarDoesTheSameAndTheSwitchFollows) {
-    open(390, 844);
+TEST_F(GalleryScreenTest, TheButtonInTheBarDoesTheSameAndTheSettingsFollow) {
+    show("Settings");
     tap(screen->styleButton());
     EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Dark);
-    EXPECT_EQ(screen->sidebar()->styleControl()->chosen(), 1U);
+    EXPECT_EQ(screen->settingsControls()->control("Look")->chosen(), 2U);
     tap(screen->styleButton());
     EXPECT_EQ((*window)->userInterfaceStyle(), UIUserInterfaceStyle::Light);
-    EXPECT_EQ(screen->sidebar()->styleControl()->chosen(), 0U);
+    EXPECT_EQ(screen->settingsControls()->control("Look")->chosen(), 1U);
 }
 
 TEST_F(GalleryScreenTest, UntilTheUserChoosesTheLookIsTheWindows) {
@@ -104,14 +111,26 @@ TEST_F(GalleryScreenTest, UntilTheUserChoosesTheLookIsTheWindows) {
     screen = create<GalleryScreen>(CGRectMake(0, 0, 390, 844));
     dark->addSubview(screen);
     EXPECT_EQ(screen->style(), UIUserInterfaceStyle::Dark);
-    EXPECT_EQ(screen->sidebar()->styleControl()->chosen(), 1U);
+    EXPECT_EQ(screen->settings().style, std::nullopt);
     // A choice goes along into another window.
-    screen->setStyle(UIUserInterfaceStyle::Light);
+    GallerySettings settings = screen->settings();
+    settings.style = UIUserInterfaceStyle::Light;
+    screen->setSettings(settings);
     EXPECT_EQ(dark->userInterfaceStyle(), UIUserInterfaceStyle::Light);
     const auto other = create<UIWindow>(CGRectMake(0, 0, 390, 844));
     other->setUserInterfaceStyle(UIUserInterfaceStyle::Dark);
     other->addSubview(screen);
     EXPECT_EQ(other->userInterfaceStyle(), UIUserInterfaceStyle::Light);
+}
+
+TEST_F(GalleryScreenTest, TheHostHearsOfEachChoiceOfALook) {
+    show("Settings");
+    std::vector<std::optional<UIUserInterfaceStyle>> told;
+    screen->setStyleAction([&told](std::optional<UIUserInterfaceStyle> style) { told.push_back(style); });
+    tapSegment(screen->settingsControls()->control("Look"), 2);
+    tapSegment(screen->settingsControls()->control("Look"), 2);
+    tapSegment(screen->settingsControls()->control("Look"), 0);
+    EXPECT_EQ(told, (std::vector<std::optional<UIUserInterfaceStyle>>{UIUserInterfaceStyle::Dark, std::nullopt}));
 }
 
 TEST_F(GalleryScreenTest, LargeTextMakesAllPickersAnewWithTheirValuesAndOptions) {
@@ -121,9 +140,13 @@ TEST_F(GalleryScreenTest, LargeTextMakesAllPickersAnewWithTheirValuesAndOptions)
     const Ref<UIView> before = screen->page()->exhibit().picker;
     const double kilograms = screen->page()->exhibit().values()[0].doubleValue();
     EXPECT_EQ(screen->page()->exhibit().wheel->rowSizeForComponent(0).height, 40);
+    const std::size_t page = screen->pageIndex();
 
-    tapSegment(screen->sidebar()->textControl(), 1);
-    (*window)->layoutIfNeeded();
+    screen->showPage(GalleryScreen::settingsPage);
+    settle();
+    tapSegment(screen->settingsControls()->control("Text size"), 2);
+    screen->showPage(page);
+    settle();
     const GalleryExhibit& renewed = screen->page()->exhibit();
     EXPECT_NE(renewed.picker, before);
     EXPECT_FALSE(before->superview());
@@ -136,17 +159,33 @@ TEST_F(GalleryScreenTest, LargeTextMakesAllPickersAnewWithTheirValuesAndOptions)
     EXPECT_EQ(screen->page()->log()->notices().size(), 2U);
 }
 
+TEST_F(GalleryScreenTest, AnotherLanguageIsSpokenAtOnceByTheSettingsTheListAndThePickers) {
+    show("Settings", 390, 844);
+    bringIntoSight(screen->settingsControls()->languageButton("de"));
+    tap(screen->settingsControls()->languageButton("de"));
+    EXPECT_EQ(screen->settings().language, "de");
+    EXPECT_EQ(GXLocalization::sharedLocalization()->language(), "de");
+    EXPECT_EQ(NSLocale::currentLocale()->objectForKey(NSLocaleDecimalSeparator), ",");
+    EXPECT_TRUE(screen->settingsControls()->languageButton("de")->isChosen());
+    EXPECT_FALSE(screen->settingsControls()->languageButton("en")->isChosen());
+    EXPECT_EQ(screen->sidebar()->rows()[GalleryScreen::settingsPage]->title(), "Einstellungen");
+    EXPECT_EQ(screen->entry()->measurement(0)->valueInWords(), "5,3 km, 0:27 h");
+    // The separator of one's own goes before the language's.
+    tapSegment(screen->settingsControls()->control("Decimal separator"), 1);
+    EXPECT_EQ(screen->entry()->measurement(0)->valueInWords(), "5.3 km, 0:27 h");
+}
+
 // Layout
 
 TEST_F(GalleryScreenTest, TheSidebarAppearsAt720Points) {
     open(719, 500);
     EXPECT_FALSE(screen->hasSidebar());
-    EXPECT_EQ(screen->scroll()->frame(), CGRectMake(0, 56, 719, 444));
+    EXPECT_EQ(screen->entry()->frame(), CGRectMake(0, 56, 719, 444));
     screen->setFrame(CGRectMake(0, 0, 720, 500));
     (*window)->layoutIfNeeded();
     EXPECT_TRUE(screen->hasSidebar());
     EXPECT_FALSE(screen->sidebar()->isHidden());
-    EXPECT_EQ(screen->scroll()->frame(), CGRectMake(232, 0, 488, 500));
+    EXPECT_EQ(screen->entry()->frame(), CGRectMake(232, 0, 488, 500));
 }
 
 TEST_F(GalleryScreenTest, NothingLeavesItsParentOrCoversItsNeighbour) {
@@ -161,7 +200,7 @@ TEST_F(GalleryScreenTest, NothingLeavesItsParentOrCoversItsNeighbour) {
                 expectApart({page->pickerCard(), page->log(), page->optionsCard()});
                 expectApart({page->optionControls().begin(), page->optionControls().end()});
                 for (const auto& control : page->optionControls()) EXPECT_GE(control->frame().size.height, 40);
-            } else {
+            } else if (i == GalleryScreen::overviewPage) {
                 std::vector<Ref<UIView>> cards;
                 for (std::size_t card = 0; card < screen->overview()->count(); ++card) cards.push_back(screen->overview()->card(card));
                 expectApart(cards);
@@ -171,21 +210,9 @@ TEST_F(GalleryScreenTest, NothingLeavesItsParentOrCoversItsNeighbour) {
     }
 }
 
-TEST_F(GalleryScreenTest, TheSwitchesStandAtTheBottomOrBelowAListThatIsTooLong) {
-    open(1200, 800);
-    // 56 for the title; 11 rows of 40; 12 + 40 + 8 + 40 + 12 for the switches.
-    const auto& list = screen->sidebar()->rows()[0]->superview();
-    EXPECT_EQ(list->bounds().size.height, 744);
-    EXPECT_EQ(screen->sidebar()->styleControl()->frame(), CGRectMake(12, 644, 208, 40));
-    EXPECT_EQ(screen->sidebar()->textControl()->frame(), CGRectMake(12, 692, 208, 40));
-    open(844, 390);
-    EXPECT_EQ(screen->sidebar()->rows()[0]->superview()->bounds().size.height, 552);
-    EXPECT_EQ(screen->sidebar()->styleControl()->frame(), CGRectMake(12, 452, 208, 40));
-}
-
 TEST_F(GalleryScreenTest, TheChosenRowIsScrolledIntoSight) {
     open(844, 390);
-    for (const std::size_t page : {10U, 0U, 7U}) {
+    for (const std::size_t page : {12U, 0U, 9U}) {
         screen->showPage(page);
         (*window)->layoutIfNeeded();
         const CGPoint row = middleOf(screen->sidebar()->rows()[page]);
@@ -208,7 +235,7 @@ TEST_F(GalleryScreenTest, WherePossibleTheLogStandsBesideTheWheel) {
 
 TEST_F(GalleryScreenTest, ItNeedsTheHeightOfItsPageAndItsBar) {
     open(390, 300);
-    screen->showPage(1);
+    screen->showPage(GalleryScreen::firstPickerPage);
     (*window)->layoutIfNeeded();
     const CGFloat height = screen->sizeThatFits({390, 0}).height;
     EXPECT_EQ(height, screen->page()->frame().size.height + 56);

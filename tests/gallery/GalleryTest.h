@@ -10,6 +10,7 @@
 #include "NSLocale.h"
 #include "NSRunLoop.h"
 #include "TestWindow.h"
+#include "UIScrollView.h"
 #include "UITextEngine.h"
 
 /// A gallery in a window, with fingers.
@@ -92,7 +93,7 @@ protected:
             if (below->isHidden()) continue;
             EXPECT_GE(CGRectGetMinX(below->frame()), 0);
             EXPECT_LE(CGRectGetMaxX(below->frame()), view->bounds().size.width);
-            if (!std::dynamic_pointer_cast<gallery::GalleryScroll>(view)) {
+            if (!std::dynamic_pointer_cast<gx::UIScrollView>(view)) {
                 EXPECT_GE(CGRectGetMinY(below->frame()), 0);
                 EXPECT_LE(CGRectGetMaxY(below->frame()), view->bounds().size.height);
             }

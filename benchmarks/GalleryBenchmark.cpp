@@ -1,0 +1,103 @@
+// The entry screen of the gallery: to open it, to open each of its pickers, and to scroll it. Beside the pickers alone, so that the ratio
+// says what table and cells cost on top.
+
+#include <benchmark/benchmark.h>
+
+#include "GXBpmPickerView.h"
+#include "GXCaloriesPickerView.h"
+#include "GXDistanceAndDurationPicker.h"
+#include "GXHeartRatePickerView.h"
+#include "GXHeightPickerView.h"
+#include "GXPacePickerView.h"
+#include "GXSpeedPickerView.h"
+#include "GXWeatherAndTemperaturePickerView.h"
+#include "GXWeightPickerView.h"
+#include "GalleryEntry.h"
+#include "NSRunLoop.h"
+#include "NullCanvas.h"
+#include "UIWindow.h"
+
+using namespace gx;
+using namespace gallery;
+
+namespace {
+
+const CGRect phone = CGRectMake(0, 0, 390, 844);
+
+/// An entry screen in a window, with time.
+struct Screen {
+    Screen() {
+        window->addSubview(entry);
+        window->tick(now);
+    }
+    void tick() {
+        window->tick(now += 1.0 / 60);
+        window->draw(canvas);
+    }
+
+    Ref<UIWindow> window = create<UIWindow>(phone);
+    Ref<GalleryEntry> entry = create<GalleryEntry>(phone);
+    NullCanvas canvas;
+    double now = 0;
+};
+
+void openTheScreen(benchmark::State& state) {
+    for (auto _ : state) {
+        Screen screen;
+        benchmark::DoNotOptimize(screen.entry);
+    }
+}
+BENCHMARK(openTheScreen)->Unit(benchmark::kMicrosecond);
+
+void openTheScreenAndEachPicker(benchmark::State& state) {
+    for (auto _ : state) {
+        Screen screen;
+        for (std::size_t i = 0; i < screen.entry->measurementCount(); ++i) screen.entry->openMeasurement_animated(i, false);
+        NSRunLoop::mainRunLoop()->runPass();
+    }
+}
+BENCHMARK(openTheScreenAndEachPicker)->Unit(benchmark::kMicrosecond);
+
+template <class Picker>
+void makeAndLayOut() {
+    const auto picker = create<Picker>(CGRectMake(0, 0, 390, 200));
+    picker->layoutIfNeeded();
+    benchmark::DoNotOptimize(picker);
+}
+
+void thePickersAlone(benchmark::State& state) {
+    for (auto _ : state) {
+        makeAndLayOut<GXDistanceAndDurationPicker>();
+        makeAndLayOut<GXSpeedPickerView>();
+        makeAndLayOut<GXCaloriesPickerView>();
+        makeAndLayOut<GXDistancePickerView>();
+        makeAndLayOut<GXDurationPickerView>();
+        makeAndLayOut<GXPacePickerView>();
+        makeAndLayOut<GXHeartRatePickerView>();
+        makeAndLayOut<GXBpmPickerView>();
+        makeAndLayOut<GXWeatherAndTemperaturePickerView>();
+        makeAndLayOut<GXTemperaturePickerView>();
+        makeAndLayOut<GXWeightPickerView>();
+        makeAndLayOut<GXHeightPickerView>();
+        NSRunLoop::mainRunLoop()->runPass();
+    }
+}
+BENCHMARK(thePickersAlone)->Unit(benchmark::kMicrosecond);
+
+/// Up and down with a picker open, half a row a frame.
+void aFrameOfScrolling(benchmark::State& state) {
+    Screen screen;
+    screen.entry->openMeasurement_animated(2, false);
+    const auto& table = screen.entry->table();
+    CGFloat step = 22;
+    for (auto _ : state) {
+        const CGFloat y = table->contentOffset().y;
+        if (y <= 0) step = 22;
+        if (y >= table->highestOffset()) step = -22;
+        screen.window->scroll({UIScroll::Unit::Points, 0, step, screen.now, {195, 200}, false});
+        screen.tick();
+    }
+}
+BENCHMARK(aFrameOfScrolling)->Unit(benchmark::kMicrosecond);
+
+} // namespace

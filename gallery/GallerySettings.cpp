@@ -1,0 +1,30 @@
+#include "GallerySettings.h"
+
+#include "GXLocalization.h"
+#include "GXStyleSheet.h"
+#include "NSLocale.h"
+
+using namespace gx;
+
+namespace gallery {
+
+void GallerySettings::apply() const {
+    GXStyleSheet::globalStyleSheet()->setTextScale(textScale);
+    GXLocalization::sharedLocalization()->setLanguage(language);
+    const auto locale = NSLocale::localeWithIdentifier(language);
+    if (decimalSeparator) locale->setDecimalSeparator(*decimalSeparator);
+    NSLocale::setCurrentLocale(locale);
+}
+
+GallerySettings GallerySettings::current() {
+    GallerySettings settings;
+    settings.textScale = GXStyleSheet::globalStyleSheet()->textScale();
+    settings.language = GXLocalization::sharedLocalization()->translationLanguage();
+    const auto locale = NSLocale::currentLocale();
+    const auto custom = NSLocale::localeWithIdentifier(settings.language)->objectForKey(NSLocaleDecimalSeparator);
+    const auto separator = locale->objectForKey(NSLocaleDecimalSeparator);
+    if (separator != custom) settings.decimalSeparator = separator;
+    return settings;
+}
+
+} // namespace gallery

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "GXWeightPickerView.h"
+#include "UIColor.h"
+
+namespace gallery {
+
+/// What the user has chosen for the whole application.
+struct GallerySettings {
+    bool isMetric = true;
+    gx::GXWeightUnit weightUnit = gx::GXWeightUnitKilogram;
+    /// Of all pickers and of the entry screen, within the style sheet's limits.
+    double textScale = 1;
+    /// Nothing follows the system.
+    std::optional<gx::UIUserInterfaceStyle> style;
+    /// Such as "de".
+    std::string language = "en";
+    /// Nothing for the language's own.
+    std::optional<std::string> decimalSeparator;
+    bool reducesMotion = false;
+
+    /// Hands text size, language and separator to the services that pickers ask. What is on the screen shows them once it is made anew.
+    void apply() const;
+    /// The settings that are in force where nobody has chosen any.
+    static GallerySettings current();
+
+    friend bool operator==(const GallerySettings&, const GallerySettings&) = default;
+};
+
+} // namespace gallery

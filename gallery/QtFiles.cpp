@@ -1,0 +1,59 @@
+#include "QtFiles.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "GalleryTexts.h"
+#include "GalleryWorkoutFile.h"
+
+namespace gallery {
+
+namespace {
+
+QString title(const char* english) { return QString::fromStdString(GalleryTexts::text(english)); }
+
+QString filter() { return title("Workouts") + QStringLiteral(" (*.json)"); }
+
+QtFiles::Dialogs systemDialogs() {
+    return {[](QWidget* parent, const QString& suggestedName) {
+                return QFileDialog::getSaveFileName(parent, title("Save"), suggestedName, filter());
+            },
+            [](QWidget* parent) { return QFileDialog::getOpenFileName(parent, title("Open"), QString(), filter()); }};
+}
+
+GalleryFiles::Outcome failure(const char* english, const QString& path, const QString& reason) {
+    const std::string sentence = GalleryTexts::text(english) + " " + reason.toStdString();
+    return {QFileInfo(path).fileName().toStdString(), "", sentence};
+}
+
+} // namespace
+
+QtFiles::QtFiles(QWidget* parent) : QtFiles(parent, systemDialogs()) {}
+
+QtFiles::QtFiles(QWidget* parent, Dialogs dialogs) : parent_(parent), dialogs_(std::move(dialogs)) {}
+
+void QtFiles::saveText_name(const std::string& text, const std::string& suggestedName, const Done& done) {
+    const QString path = dialogs_.pathToSave(parent_, QString::fromStdString(suggestedName));
+    if (path.isEmpty()) return;
+    // Written beside the file and put in its place only when it is whole.
+    QSaveFile file(path);
+    const QByteArray bytes = QByteArray::fromStdString(text);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (!isWritten) return done(failure("The file could not be written:", path, file.errorString()));
+    done({QFileInfo(path).fileName().toStdString(), "", ""});
+}
+
+void QtFiles::openText(const Done& done) {
+    const QString path = dialogs_.pathToOpen(parent_);
+    if (path.isEmpty()) return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return done(failure("The file could not be read:", path, file.errorString()));
+    // One byte more than a workout may have tells a file that is too long.
+    const QByteArray bytes = file.read(static_cast<qint64>(GalleryWorkoutFile::longest) + 1);
+    if (file.error() != QFileDevice::NoError) return done(failure("The file could not be read:", path, file.errorString()));
+    done({QFileInfo(path).fileName().toStdString(), bytes.toStdString(), ""});
+}
+
+} // namespace gallery

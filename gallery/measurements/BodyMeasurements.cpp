@@ -1,0 +1,92 @@
+#include "GXHeightPickerCell.h"
+#include "GXHeightPickerView.h"
+#include "GXStyleSheet.h"
+#include "GXWeightPickerCell.h"
+#include "GXWeightPickerView.h"
+#include "GalleryMeasurements.h"
+#include "GalleryWords.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+using Weight = GalleryPickerMeasurement<GXWeightPickerCell, GXWeightPickerView>;
+
+void configureWeight(GXWeightPickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
+    picker.setWeightUnit(settings.weightUnit);
+    picker.updateMinMaxWeight();
+    picker.setCurrentValue(NSNumber::numberWithDouble(workout.weight));
+}
+
+void takeWeight(GalleryWorkout& workout, const GXWeightPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
+    workout.weight = value.doubleValue();
+}
+
+std::string weightInWords(const Ref<GXWeightPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+
+/// The height picker is a wheel itself, with a delegate of its own kind, and so is its row. The user may also choose the unit on it.
+class HeightMeasurement : public GalleryMeasurement, public GXHeightPickerViewDelegate {
+public:
+    static Ref<GalleryMeasurement> measurement(std::string name, std::shared_ptr<GalleryWorkout> workout, GallerySettings settings) {
+        auto made = create<HeightMeasurement>();
+        made->isMetric_ = settings.isMetric;
+        made->setUp(std::move(name), std::move(workout), std::move(settings));
+        return made;
+    }
+
+    /// "176 cm", or "5' 9\"".
+    std::string valueInWords() override {
+        if (!reader_) reader_ = create<GXHeightPickerView>(CGRectZero);
+        configure(*reader_);
+        const auto title = [this](NSInteger component) {
+            const NSInteger row = reader_->selectedRowInComponent(component);
+            const auto shown = reader_->pickerView_attributedTitleForRow_forComponent(reader_, row, component);
+            return shown ? shown->string() : "";
+        };
+        return title(0) + " " + title(1);
+    }
+
+    void registerCellInTable(UITableView& table) const override {
+        table.registerClass_forCellReuseIdentifier<GXHeightPickerCell>(GXHeightPickerCell::cellIdentifier());
+    }
+    std::string cellIdentifier() const override { return GXHeightPickerCell::cellIdentifier(); }
+
+    void showInCell(const Ref<UITableViewCell>& cell) override {
+        const auto host = std::dynamic_pointer_cast<GXHeightPickerCell>(cell);
+        if (!host || !host->pickerView()) return;
+        // This cell alone has no background of its own.
+        host->setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor());
+        // Its rows are black until they are given another tint; the label colour shows in both looks.
+        host->pickerView()->setTintColor(UIColor::labelColor());
+        configure(*host->pickerView());
+        host->pickerView()->setHeightDelegate(refTo(this));
+    }
+
+    void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat height, bool metric) override {
+        const auto keep = refTo(this);
+        isMetric_ = metric;
+        workout().height = height;
+        noteChange();
+    }
+
+private:
+    void configure(GXHeightPickerView& picker) {
+        picker.setIsMetric(isMetric_);
+        picker.setHeightInCm(workout().height);
+    }
+
+    bool isMetric_ = true;
+    Ref<GXHeightPickerView> reader_;
+};
+
+} // namespace
+
+GalleryMeasurementGroup bodyMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
+    return {"Body",
+            {Weight::measurement("Weight", workout, settings, configureWeight, takeWeight, weightInWords),
+             HeightMeasurement::measurement("Height", workout, settings)}};
+}
+
+} // namespace gallery

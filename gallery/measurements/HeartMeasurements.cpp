@@ -1,0 +1,59 @@
+#include "GXBpmPickerCell.h"
+#include "GXBpmPickerView.h"
+#include "GXHeartRatePickerCell.h"
+#include "GXHeartRatePickerView.h"
+#include "GXLocalization.h"
+#include "GalleryMeasurements.h"
+#include "GalleryNumbers.h"
+#include "GalleryWords.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+using HeartRate = GalleryPickerMeasurement<GXHeartRatePickerCell, GXHeartRatePickerView>;
+using Pulse = GalleryPickerMeasurement<GXBpmPickerCell, GXBpmPickerView>;
+
+void configureRates(GXHeartRatePickerView& picker, const GalleryWorkout& workout, const GallerySettings&) {
+    picker.setCurrentAvgHeartRate(NSNumber::numberWithDouble(workout.averageHeartRate));
+    picker.setCurrentMaxHeartRate(NSNumber::numberWithDouble(workout.maximumHeartRate));
+}
+
+/// Each turn brings two notices, and both rates are in the picker at either.
+void takeRates(GalleryWorkout& workout, const GXHeartRatePickerView& picker, const Ref<GXBasePickerView>&, const NSNumber&) {
+    workout.averageHeartRate = picker.currentAvgHeartRate().doubleValue();
+    workout.maximumHeartRate = picker.currentMaxHeartRate().doubleValue();
+}
+
+/// "Ø 142, MAX 171".
+std::string ratesInWords(const Ref<GXHeartRatePickerView>& picker) {
+    const auto& wheel = picker->pickerView();
+    const auto words = [](const std::optional<std::string>& label, const NSNumber& rate) {
+        return label.value_or("") + " " + (rate.integerValue() == 0 ? "–" : GalleryNumbers::decimal(rate.doubleValue(), 0));
+    };
+    return words(wheel->leftLabelText(), picker->currentAvgHeartRate()) + ", " +
+           words(wheel->rightLabelText(), picker->currentMaxHeartRate());
+}
+
+void configurePulse(GXBpmPickerView& picker, const GalleryWorkout& workout, const GallerySettings&) {
+    if (picker.stepSize().integerValue() != 1) picker.setStepSize(NSNumber::numberWithInt(1));
+    picker.setCurrentValue(NSNumber::numberWithDouble(workout.restingPulse));
+}
+
+void takePulse(GalleryWorkout& workout, const GXBpmPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
+    workout.restingPulse = value.doubleValue();
+}
+
+std::string pulseInWords(const Ref<GXBpmPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+
+} // namespace
+
+GalleryMeasurementGroup heartMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
+    return {"Heart",
+            {HeartRate::measurement("Heart rate", workout, settings, configureRates, takeRates, ratesInWords),
+             Pulse::measurement("Resting pulse", workout, settings, configurePulse, takePulse, pulseInWords)}};
+}
+
+} // namespace gallery

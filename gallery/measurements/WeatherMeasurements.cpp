@@ -1,0 +1,62 @@
+#include "GXTemperaturePickerCell.h"
+#include "GXTemperaturePickerView.h"
+#include "GXWeatherAndTemperaturePickerCell.h"
+#include "GXWeatherAndTemperaturePickerView.h"
+#include "GalleryMeasurements.h"
+#include "GalleryTexts.h"
+#include "GalleryWeatherIcons.h"
+#include "GalleryWords.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+using Weather = GalleryPickerMeasurement<GXWeatherAndTemperaturePickerCell, GXWeatherAndTemperaturePickerView>;
+using Temperature = GalleryPickerMeasurement<GXTemperaturePickerCell, GXTemperaturePickerView>;
+
+void showTemperature(GXTemperaturePickerView& picker, double celsius) {
+    if (picker.stepSize().integerValue() != 1) picker.setStepSize(NSNumber::numberWithInt(1));
+    picker.setCurrentValue(NSNumber::numberWithDouble(celsius));
+}
+
+void configureWeather(GXWeatherAndTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
+    picker.setIsMetric(settings.isMetric);
+    picker.weatherPicker()->setIconImages(GalleryWeatherIcons::images());
+    picker.weatherPicker()->setCurrentValue(NSNumber::numberWithInteger(static_cast<NSInteger>(workout.weather)));
+    showTemperature(*picker.temperaturePicker(), workout.temperature);
+}
+
+/// The inner pickers report themselves: who has sent it tells what it is.
+void takeWeather(GalleryWorkout& workout, const GXWeatherAndTemperaturePickerView& picker, const Ref<GXBasePickerView>& sender,
+                 const NSNumber& value) {
+    if (sender == picker.weatherPicker()) workout.weather = static_cast<std::size_t>(value.integerValue());
+    if (sender == picker.temperaturePicker()) workout.temperature = value.doubleValue();
+}
+
+std::string weatherInWords(const Ref<GXWeatherAndTemperaturePickerView>& picker) {
+    const auto index = static_cast<std::size_t>(picker->weatherPicker()->currentValue().integerValue());
+    return GalleryTexts::text(GalleryWeatherIcons::name(index)) + ", " + GalleryWords::amountOnWheel(picker->temperaturePicker());
+}
+
+void configureWater(GXTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
+    picker.setIsMetric(settings.isMetric);
+    showTemperature(picker, workout.waterTemperature);
+}
+
+void takeWater(GalleryWorkout& workout, const GXTemperaturePickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
+    workout.waterTemperature = value.doubleValue();
+}
+
+std::string waterInWords(const Ref<GXTemperaturePickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+
+} // namespace
+
+GalleryMeasurementGroup weatherMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
+    return {"Conditions",
+            {Weather::measurement("Weather", workout, settings, configureWeather, takeWeather, weatherInWords),
+             Temperature::measurement("Water temperature", workout, settings, configureWater, takeWater, waterInWords)}};
+}
+
+} // namespace gallery

@@ -1,0 +1,67 @@
+#include "GXCaloriesPickerCell.h"
+#include "GXCaloriesPickerView.h"
+#include "GXDistanceAndDurationCell.h"
+#include "GXDistanceAndDurationPicker.h"
+#include "GXSpeedPickerCell.h"
+#include "GXSpeedPickerView.h"
+#include "GalleryMeasurements.h"
+#include "GalleryWords.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+using DistanceAndDuration = GalleryPickerMeasurement<GXDistanceAndDurationCell, GXDistanceAndDurationPicker>;
+using Speed = GalleryPickerMeasurement<GXSpeedPickerCell, GXSpeedPickerView>;
+using Calories = GalleryPickerMeasurement<GXCaloriesPickerCell, GXCaloriesPickerView>;
+
+void configureBoth(GXDistanceAndDurationPicker& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
+    picker.setIsMetric(settings.isMetric);
+    picker.distancePicker()->setCurrentValue(NSNumber::numberWithDouble(workout.distance));
+    picker.durationPicker()->setCurrentValue(NSNumber::numberWithDouble(workout.duration));
+}
+
+/// The inner pickers report themselves: who has sent it tells what it is.
+void takeEither(GalleryWorkout& workout, const GXDistanceAndDurationPicker& picker, const Ref<GXBasePickerView>& sender,
+                const NSNumber& value) {
+    if (sender == picker.distancePicker()) workout.distance = value.doubleValue();
+    if (sender == picker.durationPicker()) workout.duration = value.doubleValue();
+}
+
+std::string bothInWords(const Ref<GXDistanceAndDurationPicker>& picker) {
+    return GalleryWords::amountOnWheel(picker->distancePicker()) + ", " + GalleryWords::clockOnWheel(picker->durationPicker()) + " h";
+}
+
+void configureSpeed(GXSpeedPickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
+    picker.setIsMetric(settings.isMetric);
+    picker.setCurrentValue(NSNumber::numberWithDouble(workout.speed));
+}
+
+void takeSpeed(GalleryWorkout& workout, const GXSpeedPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
+    workout.speed = value.doubleValue();
+}
+
+std::string speedInWords(const Ref<GXSpeedPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+
+void configureCalories(GXCaloriesPickerView& picker, const GalleryWorkout& workout, const GallerySettings&) {
+    picker.setCurrentValue(NSNumber::numberWithDouble(workout.calories));
+}
+
+void takeCalories(GalleryWorkout& workout, const GXCaloriesPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
+    workout.calories = value.doubleValue();
+}
+
+std::string caloriesInWords(const Ref<GXCaloriesPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+
+} // namespace
+
+GalleryMeasurementGroup workoutMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
+    return {"Workout",
+            {DistanceAndDuration::measurement("Distance and time", workout, settings, configureBoth, takeEither, bothInWords),
+             Speed::measurement("Average speed", workout, settings, configureSpeed, takeSpeed, speedInWords),
+             Calories::measurement("Calories", workout, settings, configureCalories, takeCalories, caloriesInWords)}};
+}
+
+} // namespace gallery

@@ -1,0 +1,188 @@
+#include "GalleryTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "GXLocalization.h"
+#include "GalleryTextTable.h"
+
+using namespace gallery;
+using gx::GXLocalization;
+
+namespace {
+
+/// What stands on a button, of which three stand side by side on a narrow screen.
+constexpr std::array<std::string_view, 17> choices = {"Open",   "Save",   "Metric", "Imperial", "Kilograms",      "Pounds",
+                                                      "Stones", "System", "Light",  "Dark",     "Full",           "Reduced",
+                                                      "Normal", "High",   "On",     "Off",      "Automatic"};
+/// What stands before a value or above a group, or names a page.
+constexpr std::array<std::string_view, 32> names = {
+    "Add workout", "All pickers", "Workout",       "Workouts",          "Settings", "Units",         "Best interval", "Heart",
+    "Conditions",  "Body",        "Distance",      "Distance and time", "Duration", "Average speed", "Speed",         "Pace",
+    "Calories",    "Heart rate",  "Resting pulse", "Beats per minute",  "Weather",  "Temperature",   "Weight",        "Water temperature",
+    "Height",      "Text size",   "Look",          "Decimal separator", "Motion",   "Contrast",      "Wheel clicks",  "Language"};
+constexpr std::array<std::string_view, 12> weathers = {"clear", "partly cloudy", "cloudy",       "overcast", "fog",  "drizzle",
+                                                       "rain",  "showers",       "thunderstorm", "sleet",    "snow", "wind"};
+constexpr std::array<std::string_view, 11> messages = {"Opened:",
+                                                       "Saved:",
+                                                       "The file could not be read:",
+                                                       "The file could not be written:",
+                                                       "The file has no number for:",
+                                                       "A number in the file is out of range:",
+                                                       "The file names no weather that this application knows.",
+                                                       "This file is damaged, or no workout.",
+                                                       "This file is damaged.",
+                                                       "This file is no workout.",
+                                                       "This workout was saved by a newer version of this application."};
+
+/// Leaves English to the next test.
+class GalleryTextsTest : public testing::Test {
+protected:
+    void TearDown() override { GXLocalization::setSharedLocalization(nullptr); }
+
+    static std::string textIn(const std::string& language, std::string_view english) {
+        GXLocalization::sharedLocalization()->setLanguage(language);
+        return GalleryTexts::text(std::string(english));
+    }
+};
+
+/// Nothing if the bytes are no UTF-8.
+std::optional<std::vector<char32_t>> codePoints(std::string_view text) {
+    std::vector<char32_t> points;
+    for (std::size_t i = 0; i < text.size();) {
+        const auto first = static_cast<unsigned char>(text[i]);
+        const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : first < 0xF5 ? 4 : 0;
+        if (length == 0 || i + length > text.size()) return std::nullopt;
+        char32_t point = length == 1 ? first : first & (0x7FU >> length);
+        for (std::size_t j = 1; j < length; ++j) {
+            const auto next = static_cast<unsigned char>(text[i + j]);
+            if ((next & 0xC0U) != 0x80U) return std::nullopt;
+            point = point << 6U | (next & 0x3FU);
+        }
+        const bool isTooLong = (length == 3 && point < 0x800) || (length == 4 && point < 0x10000);
+        if (isTooLong || (point >= 0xD800 && point < 0xE000) || point > 0x10FFFF) return std::nullopt;
+        points.push_back(point);
+        i += length;
+    }
+    return points;
+}
+
+std::size_t length(std::string_view text) { return codePoints(text).value_or(std::vector<char32_t>()).size(); }
+
+bool isBlank(char32_t point) {
+    constexpr std::u32string_view blanks = U" \t\n\u00A0\u2002\u2003\u2009\u200B\u202F\u3000\uFEFF";
+    return blanks.find(point) != std::u32string_view::npos;
+}
+
+bool hasRow(std::string_view english) {
+    const auto rows = GalleryTextTable::rows();
+    return std::any_of(rows.begin(), rows.end(), [english](const GalleryTextTable::Row& row) { return row.english == english; });
+}
+
+} // namespace
+
+TEST_F(GalleryTextsTest, EnglishTextsAreThemselves) {
+    for (const auto& row : GalleryTextTable::rows()) {
+        EXPECT_EQ(GalleryTexts::text(std::string(row.english)), row.english);
+        EXPECT_EQ(textIn("en_GB", row.english), row.english);
+    }
+}
+
+TEST_F(GalleryTextsTest, SpeaksTheLanguagesOfThePickers) {
+    std::vector<std::string> languages = {"en"};
+    languages.insert(languages.end(), GalleryTextTable::languages.begin(), GalleryTextTable::languages.end());
+    EXPECT_EQ(languages, GXLocalization::availableLanguages());
+}
+
+TEST_F(GalleryTextsTest, HasEveryTextOfTheScreens) {
+    for (const auto english : choices) EXPECT_TRUE(hasRow(english)) << english;
+    for (const auto english : names) EXPECT_TRUE(hasRow(english)) << english;
+    for (const auto english : weathers) EXPECT_TRUE(hasRow(english)) << english;
+    for (const auto english : messages) EXPECT_TRUE(hasRow(english)) << english;
+}
+
+TEST_F(GalleryTextsTest, SpeaksAsItsReadersDo) {
+    EXPECT_EQ(textIn("de", "Save"), "Speichern");
+    EXPECT_EQ(textIn("de", "thunderstorm"), "Gewitter");
+    EXPECT_EQ(textIn("fr", "Height"), "Taille");
+    EXPECT_EQ(textIn("fr", "Opened:"), "Ouvert\u00A0:");
+    EXPECT_EQ(textIn("es", "Settings"), "Ajustes");
+    EXPECT_EQ(textIn("it", "Weight"), "Peso");
+    EXPECT_EQ(textIn("pt", "Save"), "Salvar");
+    EXPECT_EQ(textIn("nl", "Language"), "Taal");
+    EXPECT_EQ(textIn("pl", "Height"), "Wzrost");
+    EXPECT_EQ(textIn("ru", "Weather"), "Погода");
+    EXPECT_EQ(textIn("tr", "Open"), "Aç");
+    EXPECT_EQ(textIn("ja", "Heart rate"), "心拍数");
+    EXPECT_EQ(textIn("zh-Hans", "Dark"), "深色");
+    EXPECT_EQ(textIn("ko", "snow"), "눈");
+    EXPECT_EQ(textIn("ko", "This file is damaged."), "이 파일은 손상되었습니다.");
+}
+
+TEST_F(GalleryTextsTest, FollowsTheLanguageOfThePickers) {
+    EXPECT_EQ(textIn("zh_CN", "Light"), "浅色");
+    EXPECT_EQ(textIn("zh_TW", "Light"), "浅色");
+    EXPECT_EQ(textIn("pt_BR.UTF-8", "rain"), "chuva");
+    EXPECT_EQ(textIn("DE-at", "rain"), "Regen");
+    const auto own = gx::create<GXLocalization>();
+    own->setLanguage("fr");
+    GXLocalization::setSharedLocalization(own);
+    EXPECT_EQ(GalleryTexts::text("rain"), "pluie");
+    GXLocalization::setSharedLocalization(nullptr);
+    EXPECT_EQ(GalleryTexts::text("rain"), "rain");
+}
+
+TEST_F(GalleryTextsTest, AnUnknownLanguageSpeaksEnglish) {
+    for (const char* language : {"sv_SE", "xx", "", "C"}) EXPECT_EQ(textIn(language, "Save"), "Save") << language;
+    EXPECT_EQ(GalleryTextTable::textInLanguage("Save", "sv"), "Save");
+    EXPECT_EQ(GalleryTextTable::textInLanguage("Save", "de_DE"), "Save"); // Only the localiser takes identifiers to pieces.
+}
+
+TEST_F(GalleryTextsTest, ATextThatIsNotInTheTableIsItself) {
+    for (const auto language : GalleryTextTable::languages) {
+        EXPECT_EQ(textIn(std::string(language), "Furlongs"), "Furlongs");
+        EXPECT_EQ(textIn(std::string(language), "save"), "save");
+        EXPECT_EQ(textIn(std::string(language), "Save "), "Save ");
+        EXPECT_EQ(textIn(std::string(language), ""), "");
+    }
+}
+
+TEST_F(GalleryTextsTest, EveryTextIsWellFormed) {
+    for (const auto& row : GalleryTextTable::rows()) {
+        for (const auto text : row.texts) {
+            const auto points = codePoints(text);
+            ASSERT_TRUE(points) << row.english << ": " << text;
+            ASSERT_FALSE(points->empty()) << row.english;
+            EXPECT_FALSE(isBlank(points->front())) << row.english << ": " << text;
+            EXPECT_FALSE(isBlank(points->back())) << row.english << ": " << text;
+        }
+    }
+}
+
+TEST_F(GalleryTextsTest, EveryTextEndsAsItsEnglishOneDoes) {
+    const auto kindOfEnd = [](std::string_view text) {
+        const char32_t last = codePoints(text).value().back();
+        if (last == U':' || last == U'：') return ':';
+        // Polish and Russian shorten "on" and "off" with a point, which ends no sentence.
+        const bool isSentence = length(text) > 5 && (last == U'.' || last == U'。');
+        return isSentence ? '.' : ' ';
+    };
+    for (const auto& row : GalleryTextTable::rows()) {
+        for (const auto text : row.texts) EXPECT_EQ(kindOfEnd(text), kindOfEnd(row.english)) << row.english << ": " << text;
+    }
+}
+
+TEST_F(GalleryTextsTest, ButtonsAndNamesAreShort) {
+    for (const auto language : GalleryTextTable::languages) {
+        for (const auto english : choices) EXPECT_LE(length(GalleryTextTable::textInLanguage(english, language)), 15U) << english;
+        for (const auto english : names) EXPECT_LE(length(GalleryTextTable::textInLanguage(english, language)), 22U) << english;
+        for (const auto english : weathers) EXPECT_LE(length(GalleryTextTable::textInLanguage(english, language)), 22U) << english;
+    }
+}
