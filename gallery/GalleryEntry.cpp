@@ -98,6 +98,7 @@ void GalleryEntry::setSettings(const GallerySettings& settings) {
 void GalleryEntry::setWorkout(const GalleryWorkout& workout) {
     settleWheels();
     *workout_ = workout;
+    readyCell_.reset();
     for (std::size_t i = 0; i < measurementCount(); ++i) texts_[i].value = measurement(i)->valueInWords();
     table_->reloadData();
 }
@@ -197,9 +198,13 @@ Ref<UITableViewCell> GalleryEntry::tableView_cellForRowAtIndexPath(const Ref<UIT
     if (row.isPicker) {
         const auto cell = table->dequeueReusableCellWithIdentifier(shown->cellIdentifier());
         if (!cell) return nullptr;
-        // Which fonts fit depends on the room there is.
-        cell->setFrame(CGRectMake(0, 0, table->bounds().size.width, pickerHeight()));
+        const CGRect room = CGRectMake(0, 0, table->bounds().size.width, pickerHeight());
+        // One that only was out of sight comes back as it left. Otherwise, which fonts fit depends on the room there is.
+        const bool isReady = cell == readyCell_.lock() && cell->bounds() == room;
+        if (isReady) return cell;
+        cell->setFrame(room);
         shown->showInCell(cell);
+        readyCell_ = cell;
         return cell;
     }
     const auto cell = std::dynamic_pointer_cast<GalleryRowCell>(table->dequeueReusableCellWithIdentifier(shown->name()));

@@ -88,6 +88,7 @@ private:
     std::vector<GalleryMeasurementGroup> groups_;
     std::vector<Texts> texts_; // One for each measurement.
     std::optional<std::size_t> open_;
+    gx::WeakRef<gx::UITableViewCell> readyCell_; // Its picker shows the workout.
     std::shared_ptr<GalleryFiles> files_;
     bool showsTitle_ = true;
 

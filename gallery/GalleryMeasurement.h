@@ -26,13 +26,14 @@ public:
     virtual std::string valueInWords() = 0;
 
     virtual void registerCellInTable(gx::UITableView& table) const = 0;
-    virtual std::string cellIdentifier() const = 0;
+    const std::string& cellIdentifier() const { return cellIdentifier_; }
     /// Brings the cell's picker to the units of the settings and the value of the workout, and listens to it. Other cells are left alone.
     virtual void showInCell(const gx::Ref<gx::UITableViewCell>& cell) = 0;
 
 protected:
-    void setUp(std::string name, std::shared_ptr<GalleryWorkout> workout, GallerySettings settings) {
+    void setUp(std::string name, std::string cellIdentifier, std::shared_ptr<GalleryWorkout> workout, GallerySettings settings) {
         name_ = std::move(name);
+        cellIdentifier_ = std::move(cellIdentifier);
         workout_ = std::move(workout);
         settings_ = std::move(settings);
     }
@@ -45,6 +46,7 @@ protected:
 
 private:
     std::string name_;
+    std::string cellIdentifier_;
     std::shared_ptr<GalleryWorkout> workout_;
     GallerySettings settings_;
     std::function<void()> changed_;
@@ -64,7 +66,7 @@ public:
     static gx::Ref<GalleryMeasurement> measurement(std::string name, std::shared_ptr<GalleryWorkout> workout, GallerySettings settings,
                                                    Configure configure, Take take, Words words) {
         auto made = gx::create<GalleryPickerMeasurement>();
-        made->setUp(std::move(name), std::move(workout), std::move(settings));
+        made->setUp(std::move(name), Cell::cellIdentifier(), std::move(workout), std::move(settings));
         made->configure_ = configure;
         made->take_ = take;
         made->words_ = words;
@@ -78,10 +80,7 @@ public:
         return words_(reader_);
     }
 
-    void registerCellInTable(gx::UITableView& table) const override {
-        table.registerClass_forCellReuseIdentifier<Cell>(Cell::cellIdentifier());
-    }
-    std::string cellIdentifier() const override { return Cell::cellIdentifier(); }
+    void registerCellInTable(gx::UITableView& table) const override { table.registerClass_forCellReuseIdentifier<Cell>(cellIdentifier()); }
 
     void showInCell(const gx::Ref<gx::UITableViewCell>& cell) override {
         const auto host = std::dynamic_pointer_cast<gx::GXBasePickerCell>(cell);

@@ -32,7 +32,7 @@ public:
     static Ref<GalleryMeasurement> measurement(std::string name, std::shared_ptr<GalleryWorkout> workout, GallerySettings settings) {
         auto made = create<HeightMeasurement>();
         made->isMetric_ = settings.isMetric;
-        made->setUp(std::move(name), std::move(workout), std::move(settings));
+        made->setUp(std::move(name), GXHeightPickerCell::cellIdentifier(), std::move(workout), std::move(settings));
         return made;
     }
 
@@ -49,9 +49,8 @@ public:
     }
 
     void registerCellInTable(UITableView& table) const override {
-        table.registerClass_forCellReuseIdentifier<GXHeightPickerCell>(GXHeightPickerCell::cellIdentifier());
+        table.registerClass_forCellReuseIdentifier<GXHeightPickerCell>(cellIdentifier());
     }
-    std::string cellIdentifier() const override { return GXHeightPickerCell::cellIdentifier(); }
 
     void showInCell(const Ref<UITableViewCell>& cell) override {
         const auto host = std::dynamic_pointer_cast<GXHeightPickerCell>(cell);

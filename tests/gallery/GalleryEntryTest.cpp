@@ -2,9 +2,11 @@
 
 #include <cmath>
 
+#include "AllocationCount.h"
 #include "GalleryRowCell.h"
 #include "GalleryTest.h"
 #include "GalleryWorkoutFile.h"
+#include "NullCanvas.h"
 
 using namespace gallery;
 using namespace gx;
@@ -381,4 +383,26 @@ TEST_F(GalleryEntryTest, ARotationKeepsTheOpenPickerAndFillsTheRow) {
     const CGFloat width = table()->bounds().size.width;
     EXPECT_EQ(wheels()[0]->bounds().size.width, 0.5 * width - 30);
     EXPECT_EQ(wheels()[1]->bounds().size.width, 0.5 * width + 30);
+}
+
+TEST_F(GalleryEntryTest, ScrollingTakesNothingFromTheHeapOnceAllRowsWereSeen) {
+    openEntry(390, 400);
+    tapRow("Calories");
+    NullCanvas canvas;
+    const auto scroll = [&](double points) {
+        for (int i = 0; i < 60; ++i) {
+            window->scrollPoints({4, 380}, points); // Beside the columns of the open wheel.
+            window->tick(TestWindow::frame);
+            (*window)->draw(canvas);
+        }
+    };
+    const auto upAndDown = [&] {
+        table()->setContentOffset({0, 0});
+        scroll(17);
+        EXPECT_GT(table()->contentOffset().y, 400);
+        scroll(-17);
+        EXPECT_EQ(table()->contentOffset().y, 0);
+    };
+    upAndDown();
+    EXPECT_EQ(allocationsOf(upAndDown), 0U);
 }
