@@ -112,9 +112,22 @@ void UIPickerTurn::follow(double rows) {
     offset_ = bandedOffset(raw_);
 }
 
+double UIPickerTurn::releaseVelocityAt(NSTimeInterval time) const {
+    const double fingers = -velocity_.velocityAt(time) / rowHeight_;
+    // Only a finger that flings by itself, by a row at least, hastens a fling; one that guides the column does not.
+    const bool isFling = std::fabs(UIScrollMotion::travelOfVelocity(fingers)) >= 1;
+    const bool isInTime = time - touchTime_ <= flingSuccession;
+    if (!isFling || !isInTime || !(fingers * caughtVelocity_ > 0)) return fingers;
+    // A finger that is faster alone keeps its speed.
+    const double fastest = std::max(fastestSuccession, std::fabs(fingers));
+    return std::clamp(fingers + caughtVelocity_, -fastest, fastest);
+}
+
 void UIPickerTurn::touchBegan(std::int64_t identifier, CGFloat y, NSTimeInterval time) {
     if (finger_ || count_ == 0) return;
     stoppedMotion_ = isTurning();
+    caughtVelocity_ = state_ == State::Gliding ? motion_.flingVelocityAt(time) : 0;
+    touchTime_ = time;
     if (!isUsersTurn()) passed_ = rowInBand();
     finger_ = identifier;
     touchStart_ = lastTouch_ = y;
@@ -159,7 +172,7 @@ void UIPickerTurn::touchEnded(CGFloat y, NSTimeInterval time, std::optional<NSIn
         return;
     }
     // 4. A fling: first the row, then the curve that ends on it. Without speed this is the nearest row.
-    const double velocity = -velocity_.velocityAt(time) / rowHeight_;
+    const double velocity = releaseVelocityAt(time);
     anchorAt(rowAtOffset(offset_ + UIScrollMotion::travelOfVelocity(velocity)));
     motion_ = UIScrollMotion::fling(offset_, velocity, 0, velocity < 0 ? firstOffset() : lastOffset(), time);
     state_ = State::Gliding;

@@ -31,6 +31,11 @@ public:
     static constexpr CGFloat touchSlop = 6;
     /// A trackpad that was silent for so long has let go.
     static constexpr NSTimeInterval scrollIdle = 0.12;
+    /// A finger that catches a fling and lets go within this time, flinging on the same way, adds its speed to the fling's; later it
+    /// has stopped the column. Chosen to be longer than a swipe and shorter than a look at the row.
+    static constexpr NSTimeInterval flingSuccession = 0.25;
+    /// Up to where flings add up, in rows per second: such a fling runs 125 rows, and faster rows only flicker.
+    static constexpr double fastestSuccession = 250;
 
     State state() const { return state_; }
     /// Whether the position changes with time alone.
@@ -96,6 +101,7 @@ private:
     void snap(std::optional<NSTimeInterval> start);
     NSInteger stepStart() const;
     NSInteger rowAfter(NSInteger rows) const;
+    double releaseVelocityAt(NSTimeInterval time) const;
 
     NSInteger count_ = 0;
     CGFloat rowHeight_ = 32;
@@ -109,8 +115,10 @@ private:
     NSInteger passed_ = 0; // The row in the band when last asked which have passed.
 
     std::optional<std::int64_t> finger_;
-    bool stoppedMotion_ = false; // The finger came down on a moving column.
-    CGFloat touchStart_ = 0;     // Where it came down.
+    bool stoppedMotion_ = false;   // The finger came down on a moving column.
+    CGFloat touchStart_ = 0;       // Where it came down …
+    NSTimeInterval touchTime_ = 0; // … and when …
+    double caughtVelocity_ = 0;    // … and how fast the fling was that it caught, in rows per second.
     CGFloat lastTouch_ = 0;
     double raw_ = 0; // The offset that the finger asks for, ends or not.
     UIVelocityTracker velocity_;

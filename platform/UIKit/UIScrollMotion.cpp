@@ -18,6 +18,9 @@ constexpr NSTimeInterval shortestFling = 0.22;
 // strong fling (50 rows a second) shows about one empty row and is back within half a second.
 constexpr double endStiffness = 18;
 constexpr NSTimeInterval bounceDuration = 0.5;
+// No end is hit harder than this, in rows per second: it swings over by 100 / (18·e) = 2.04 rows, so that the last row
+// stays in sight.
+constexpr double hardestImpact = 100;
 
 /// The share of its way that a fling has run: drag and a constant friction that brings it to a stop at `duration`
 /// exactly, with no speed left. 0 at 0, 1 at `duration`.
@@ -83,7 +86,7 @@ UIScrollMotion UIScrollMotion::fling(double from, double velocity, double to, do
     if (std::fabs(travel) > std::fabs(end - from) && to == end) {
         motion.curve_ = Curve::Bounce;
         motion.impact_ = -std::log(1 - distance / travel) / drag;
-        motion.impactSpeed_ = velocity - drag * distance;
+        motion.impactSpeed_ = std::clamp(velocity - drag * distance, -hardestImpact, hardestImpact);
         motion.duration_ = motion.impact_ + bounceDuration;
     } else {
         motion.curve_ = Curve::Fling;
@@ -121,6 +124,23 @@ double UIScrollMotion::positionAt(NSTimeInterval time) const {
 }
 
 bool UIScrollMotion::isOverAt(NSTimeInterval time) const { return start_ && time - *start_ >= duration_; }
+
+double UIScrollMotion::flingVelocityAt(NSTimeInterval time) const {
+    const NSTimeInterval elapsed = start_ ? time - *start_ : 0;
+    if (!(elapsed >= 0) || isOverAt(time)) return 0;
+    switch (curve_) {
+    case Curve::Ease:
+        return 0;
+    case Curve::Fling: {
+        // The share's slope: at the start that of the start speed, at the end none.
+        const double left = std::exp(-drag * duration_);
+        return (to_ - from_) * flingStartSpeed(duration_) * (std::exp(-drag * elapsed) - left) / (1 - left);
+    }
+    case Curve::Bounce:
+        return elapsed < impact_ ? velocity_ * std::exp(-drag * elapsed) : 0;
+    }
+    return 0;
+}
 
 void UIScrollMotion::shiftOrigin(double rows) {
     from_ -= rows;

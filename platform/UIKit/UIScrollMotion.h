@@ -30,13 +30,15 @@ public:
     /// Slows down evenly from `from` to `to`. Without a start it begins at the first time it is asked about.
     static UIScrollMotion ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start);
     /// Begins with `velocity`, as far as the rounding to a row allows, and comes to rest on `to`. `end` is the
-    /// last row that way: a fling that would run beyond it bounces there.
+    /// last row that way: a fling that would run beyond it bounces there, over by little more than two rows however fast it is.
     static UIScrollMotion fling(double from, double velocity, double to, double end, NSTimeInterval start);
 
     /// Fixes the start, if that is still open.
     void beginAt(NSTimeInterval time);
     double positionAt(NSTimeInterval time) const;
     bool isOverAt(NSTimeInterval time) const;
+    /// How fast a fling still runs. 0 for an ease, for a fling that has met an end or is over, and before the start.
+    double flingVelocityAt(NSTimeInterval time) const;
     double landing() const { return to_; }
     /// Counts all positions from a row that lies `rows` further on.
     void shiftOrigin(double rows);

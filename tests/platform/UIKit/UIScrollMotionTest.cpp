@@ -114,3 +114,42 @@ TEST(UIScrollMotion, TimeThatIsNoNumberOrRunsBackwardStandsStill) {
     EXPECT_EQ(motion.positionAt(std::nan("")), 0);
     EXPECT_FALSE(motion.isOverAt(std::nan("")));
 }
+
+TEST(UIScrollMotion, TheSpeedOfAFlingIsTheSlopeOfItsCurve) {
+    const UIScrollMotion free = UIScrollMotion::fling(0, 40, 20, 1e6, 10);
+    const UIScrollMotion back = UIScrollMotion::fling(0, -50, -5, -5, 10); // meets the end after 0.11 s
+    for (const double time : {10.0, 10.01, 10.05, 10.1}) {
+        EXPECT_NEAR(free.flingVelocityAt(time), (free.positionAt(time + 1e-6) - free.positionAt(time)) / 1e-6, 1e-3) << time;
+        EXPECT_NEAR(back.flingVelocityAt(time), (back.positionAt(time + 1e-6) - back.positionAt(time)) / 1e-6, 1e-3) << time;
+    }
+    EXPECT_LT(back.flingVelocityAt(10.11), -39);
+    EXPECT_NEAR(free.flingVelocityAt(11.5), (free.positionAt(11.5 + 1e-6) - free.positionAt(11.5)) / 1e-6, 1e-3);
+}
+
+TEST(UIScrollMotion, WhatIsNoFlingHasNoSpeedToKeep) {
+    const UIScrollMotion fling = UIScrollMotion::fling(0, 40, 20, 1e6, 10);
+    EXPECT_EQ(fling.flingVelocityAt(9.99), 0) << "not begun";
+    EXPECT_EQ(fling.flingVelocityAt(20), 0) << "over";
+    EXPECT_EQ(fling.flingVelocityAt(std::nan("")), 0);
+    // 50 rows a second, 5 rows before the end: ln(1 / (1 − 5 · 2.0020 / 50)) / 2.0020 = 0.1116 s.
+    const UIScrollMotion bounce = UIScrollMotion::fling(0, 50, 5, 5, 10);
+    EXPECT_GT(bounce.flingVelocityAt(10.111), 0);
+    EXPECT_EQ(bounce.flingVelocityAt(10.112), 0) << "it has met the end";
+    EXPECT_EQ(UIScrollMotion::ease(0, 10, 0.3, 10.0).flingVelocityAt(10.1), 0);
+    EXPECT_EQ(UIScrollMotion::ease(0, 10, 0.3, std::nullopt).flingVelocityAt(10.1), 0);
+}
+
+TEST(UIScrollMotion, NoEndIsHitHarderThanWith100RowsASecond) {
+    // Over by 100 / (18 · e) = 2.0437 rows; 90 rows a second that are left at the end swing over by 1.8394.
+    const auto over = [](double velocity) {
+        const UIScrollMotion motion = UIScrollMotion::fling(0, velocity, 5, 5, 0);
+        double highest = 0;
+        for (int i = 0; i < 2000; ++i) highest = std::max(highest, motion.positionAt(i / 2000.0) - 5);
+        return highest;
+    };
+    const double lost = 5 * 2.0020026706729688;
+    EXPECT_NEAR(over(90 + lost), 1.8394, 1e-3);
+    EXPECT_NEAR(over(100 + lost), 2.0437, 1e-3);
+    EXPECT_NEAR(over(101 + lost), 2.0437, 1e-3);
+    EXPECT_NEAR(over(1e6), 2.0437, 1e-3);
+}
