@@ -160,19 +160,19 @@ void GalleryEntry::openMeasurement_animated(std::optional<std::size_t> measureme
     table_->scrollToRowAtIndexPath_animated(pathOfPicker(), animated);
 }
 
-void GalleryEntry::noteValue(std::size_t index) {
-    texts_[index].value = measurement(index)->valueInWords();
-    showRow(index);
+void GalleryEntry::noteValue(std::size_t measurement) {
+    texts_[measurement].value = this->measurement(measurement)->valueInWords();
+    showRow(measurement);
 }
 
-void GalleryEntry::showRow(std::size_t index) {
-    const auto cell = std::dynamic_pointer_cast<GalleryRowCell>(table_->cellForRowAtIndexPath(pathOfMeasurement(index)));
-    if (cell) fillRow(*cell, index);
+void GalleryEntry::showRow(std::size_t measurement) {
+    const auto cell = std::dynamic_pointer_cast<GalleryRowCell>(table_->cellForRowAtIndexPath(pathOfMeasurement(measurement)));
+    if (cell) fillRow(*cell, measurement);
 }
 
-void GalleryEntry::fillRow(GalleryRowCell& cell, std::size_t index) {
-    cell.setName_value(texts_[index].name, texts_[index].value);
-    cell.setOpen(open_ == index);
+void GalleryEntry::fillRow(GalleryRowCell& cell, std::size_t measurement) {
+    cell.setName_value(texts_[measurement].name, texts_[measurement].value);
+    cell.setOpen(open_ == measurement);
 }
 
 void GalleryEntry::settleWheels() {
@@ -196,7 +196,7 @@ Ref<UITableViewCell> GalleryEntry::tableView_cellForRowAtIndexPath(const Ref<UIT
     const Row row = rowAt(path);
     const Ref<GalleryMeasurement>& shown = measurement(row.measurement);
     if (row.isPicker) {
-        const auto cell = table->dequeueReusableCellWithIdentifier(shown->cellIdentifier());
+        auto cell = table->dequeueReusableCellWithIdentifier(shown->cellIdentifier());
         if (!cell) return nullptr;
         const CGRect room = CGRectMake(0, 0, table->bounds().size.width, pickerHeight());
         // One that only was out of sight comes back as it left. Otherwise, which fonts fit depends on the room there is.
@@ -207,7 +207,7 @@ Ref<UITableViewCell> GalleryEntry::tableView_cellForRowAtIndexPath(const Ref<UIT
         readyCell_ = cell;
         return cell;
     }
-    const auto cell = std::dynamic_pointer_cast<GalleryRowCell>(table->dequeueReusableCellWithIdentifier(shown->name()));
+    auto cell = std::dynamic_pointer_cast<GalleryRowCell>(table->dequeueReusableCellWithIdentifier(shown->name()));
     if (cell) fillRow(*cell, row.measurement);
     return cell;
 }

@@ -191,8 +191,8 @@ GallerySettingsPage::Frames GallerySettingsPage::framesForWidth(CGFloat width) c
     frames.languageTitle = CGRectMake(margin, y, content, GalleryTheme::controlHeight);
     y += GalleryTheme::controlHeight;
     const std::size_t columns = content >= twoColumns ? 2 : 1;
-    const auto rows = static_cast<CGFloat>((languages_.size() + columns - 1) / columns);
-    frames.languages = CGRectMake(margin, y, content, padding + rows * GalleryTheme::controlHeight);
+    const std::size_t rows = (languages_.size() + columns - 1) / columns;
+    frames.languages = CGRectMake(margin, y, content, padding + static_cast<CGFloat>(rows) * GalleryTheme::controlHeight);
     frames.height = CGRectGetMaxY(frames.languages) + margin;
     return frames;
 }
@@ -220,7 +220,8 @@ void GallerySettingsPage::layoutSubviews() {
     const CGFloat column = (frames.languages.size.width - 2 * inset) / static_cast<CGFloat>(columns);
     for (std::size_t i = 0; i < languages_.size(); ++i) {
         const CGFloat x = inset + static_cast<CGFloat>(i % columns) * column;
-        const CGFloat top = inset + static_cast<CGFloat>(i / columns) * GalleryTheme::controlHeight;
+        const std::size_t rowIndex = i / columns;
+        const CGFloat top = inset + static_cast<CGFloat>(rowIndex) * GalleryTheme::controlHeight;
         languages_[i].button->setFrame(CGRectMake(x, top, column, GalleryTheme::controlHeight));
     }
 }
