@@ -119,6 +119,7 @@ void GalleryButton::drawRect(UIGraphicsContext& context, CGRect rect) {
     const CGPoint middle = {CGRectGetMidX(rect), CGRectGetMidY(rect)};
     if (sign_ == Sign::Menu) drawMenuSign(context, middle);
     if (sign_ == Sign::Look) drawLookSign(context, middle, GalleryTheme::sidebar());
+    drawFocus(context, lit, radius);
 }
 
 void GalleryButton::tapped(CGPoint) {

@@ -2,6 +2,10 @@
 
 #include <cmath>
 
+#include "GalleryTheme.h"
+#include "UIKey.h"
+#include "UIWindow.h"
+
 using namespace gx;
 
 namespace gallery {
@@ -40,6 +44,21 @@ void GalleryControl::touchEnded(const UITouch& touch) {
 void GalleryControl::touchCancelled(const UITouch& touch) {
     if (finger_ == touch.identifier) setFinger(std::nullopt);
     UIView::touchCancelled(touch);
+}
+
+bool GalleryControl::keyPressed(const UIKey& key) {
+    const bool isTap = key.code == UIKey::Code::Return || key.code == UIKey::Code::Space;
+    if (!isTap || key.isCommand()) return UIView::keyPressed(key);
+    const Ref<UIView> keep = refTo<UIView>(this);
+    if (!key.isRepeat) tapped(pointOfKeys()); // A key that is held taps once.
+    return true;
+}
+
+CGPoint GalleryControl::pointOfKeys() const { return {CGRectGetMidX(bounds()), CGRectGetMidY(bounds())}; }
+
+void GalleryControl::drawFocus(UIGraphicsContext& context, CGRect rect, CGFloat cornerRadius) const {
+    const Ref<UIWindow> shownIn = window();
+    if (shownIn && shownIn->showsFocus() && isFirstResponder()) GalleryTheme::drawOutline(context, rect, cornerRadius);
 }
 
 } // namespace gallery

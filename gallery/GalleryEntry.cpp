@@ -8,6 +8,7 @@
 #include "GalleryTexts.h"
 #include "GalleryTheme.h"
 #include "GalleryWorkoutFile.h"
+#include "UIKey.h"
 #include "UIPickerView.h"
 
 using namespace gx;
@@ -229,6 +230,15 @@ void GalleryEntry::tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NS
     if (row.isPicker) return;
     const bool isOpen = open_ == row.measurement;
     openMeasurement_animated(isOpen ? std::nullopt : std::optional(row.measurement), true);
+}
+
+bool GalleryEntry::keyPressed(const UIKey& key) {
+    if (key.code != UIKey::Code::Escape || key.isCommand() || !open_) return UIView::keyPressed(key);
+    const Ref<UIView> keep = refTo<UIView>(this);
+    const std::size_t closed = *open_;
+    openMeasurement_animated(std::nullopt, true);
+    table_->scrollToRowAtIndexPath_animated(pathOfMeasurement(closed), true); // A picker may have filled the table.
+    return true;
 }
 
 // Files

@@ -56,6 +56,8 @@ public:
 
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
+    /// Escape closes the open picker.
+    bool keyPressed(const gx::UIKey& key) override;
 
     gx::NSInteger numberOfSectionsInTableView(const gx::Ref<gx::UITableView>& table) override;
     gx::NSInteger tableView_numberOfRowsInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;

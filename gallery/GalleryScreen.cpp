@@ -6,6 +6,7 @@
 #include "GalleryPages.h"
 #include "GalleryTexts.h"
 #include "GalleryTheme.h"
+#include "UIKey.h"
 #include "UIWindow.h"
 
 using namespace gx;
@@ -15,6 +16,7 @@ namespace gallery {
 bool GalleryScreen::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     setBackgroundColor(GalleryTheme::background());
+    setTintColor(GalleryTheme::accent()); // Of every mark of the focus.
     const WeakRef<GalleryScreen> weak = refTo(this);
 
     settings_ = GallerySettings::current();
@@ -46,7 +48,8 @@ bool GalleryScreen::initWithFrame(CGRect frame) {
         screen->setSettings(changed);
     });
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{barTitle_, menuButton_, styleButton_}) bar_->addSubview(view);
-    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{entry_, scroll_, sidebar_, bar_}) addSubview(view);
+    // In the order of Tab: the bar is above the page; what leads away from it comes after it.
+    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{bar_, entry_, scroll_, sidebar_}) addSubview(view);
     showPage(entryPage);
     return true;
 }
@@ -159,6 +162,18 @@ void GalleryScreen::setMenuShown(bool shown) {
     setNeedsLayout();
 }
 
+void GalleryScreen::takeFocusFromMenu() {
+    const Ref<UIWindow> shownIn = window();
+    const Ref<UIView> first = shownIn ? shownIn->firstResponder() : nullptr;
+    if (first && first->isDescendantOfView(sidebar_)) menuButton_->becomeFirstResponder();
+}
+
+bool GalleryScreen::keyPressed(const UIKey& key) {
+    if (key.code != UIKey::Code::Escape || key.isCommand() || hasSidebar() || !isMenuShown_) return UIView::keyPressed(key);
+    setMenuShown(false);
+    return true;
+}
+
 CGSize GalleryScreen::sizeThatFits(CGSize available) const {
     const bool isWide = available.width >= GalleryTheme::sidebarBreakpoint;
     const CGFloat width = isWide ? available.width - GalleryTheme::sidebarWidth : available.width;
@@ -181,10 +196,12 @@ void GalleryScreen::layoutSubviews() {
     scroll_->setHidden(isMenu || index_ == entryPage);
     entry_->setFrame(body);
     entry_->setHidden(isMenu || index_ != entryPage);
-    sidebar_->setHidden(!isWide && !isMenu);
+    bar_->setHidden(isWide);
+    const bool hidesSidebar = !isWide && !isMenu;
+    if (hidesSidebar) takeFocusFromMenu();
+    sidebar_->setHidden(hidesSidebar);
     sidebar_->setFrame(isWide ? CGRectMake(0, 0, x, size.height) : body);
 
-    bar_->setHidden(isWide);
     bar_->setFrame(CGRectMake(0, 0, size.width, GalleryTheme::barHeight));
     constexpr CGFloat inset = 8;
     const CGFloat side = GalleryTheme::controlHeight;

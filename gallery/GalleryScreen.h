@@ -62,10 +62,13 @@ public:
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
     void didMoveToWindow() override;
+    /// Escape closes the list where that stands in the page's place.
+    bool keyPressed(const gx::UIKey& key) override;
 
 private:
     gx::Ref<gx::UIView> contentOfPage(std::size_t index);
     void showTitles();
+    void takeFocusFromMenu();
     void showStyle();
 
     std::vector<GalleryPageDescription> descriptions_;

@@ -2,6 +2,7 @@
 
 #include "GalleryTheme.h"
 #include "UIGraphicsContext.h"
+#include "UIKey.h"
 
 using namespace gx;
 
@@ -64,10 +65,28 @@ void GallerySegments::drawRect(UIGraphicsContext& context, CGRect rect) {
     if (choices_.empty()) return;
     const CGFloat radius = trackRadius - thumbInset;
     context.fillRect(CGRectInset(frameOfSegment(chosen_), thumbInset, thumbInset), GalleryTheme::thumb(), radius);
-    if (!isHighlighted()) return;
-    const std::size_t held = segmentAt(highlightedPoint());
+    const std::size_t held = isHighlighted() ? segmentAt(highlightedPoint()) : choices_.size();
     if (held < choices_.size())
         context.fillRect(CGRectInset(frameOfSegment(held), thumbInset, thumbInset), GalleryTheme::pressed(), radius);
+    drawFocus(context, rect, trackRadius);
+}
+
+bool GallerySegments::keyPressed(const UIKey& key) {
+    const bool isBack = key.code == UIKey::Code::Left;
+    if ((!isBack && key.code != UIKey::Code::Right) || key.isCommand()) return GalleryControl::keyPressed(key);
+    const Ref<UIView> keep = refTo<UIView>(this);
+    const std::size_t beside = isBack ? chosen_ - 1 : chosen_ + 1; // Before the first one there is none, as beyond the last.
+    if (beside < choices_.size()) tapped(middleOfSegment(beside));
+    return true;
+}
+
+bool GallerySegments::canBecomeFirstResponder() { return !choices_.empty(); }
+
+CGPoint GallerySegments::pointOfKeys() const { return middleOfSegment(chosen_); }
+
+CGPoint GallerySegments::middleOfSegment(std::size_t index) const {
+    const CGRect segment = frameOfSegment(index);
+    return {CGRectGetMidX(segment), CGRectGetMidY(segment)};
 }
 
 void GallerySegments::tapped(CGPoint point) {

@@ -28,11 +28,16 @@ public:
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
     void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
+    /// Left and right choose the one beside, as a tap on it does.
+    bool keyPressed(const gx::UIKey& key) override;
+    bool canBecomeFirstResponder() override;
 
 protected:
     void tapped(gx::CGPoint point) override;
+    gx::CGPoint pointOfKeys() const override;
 
 private:
+    gx::CGPoint middleOfSegment(std::size_t index) const;
     void showChosen();
     std::size_t segmentAt(gx::CGPoint point) const;
 

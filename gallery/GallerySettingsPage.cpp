@@ -101,7 +101,11 @@ void GallerySettingsPage::change(const std::function<void(GallerySettings&)>& ta
     settings_ = changed;
     const auto tell = changed_;
     if (tell) tell(changed);
-    if (isOtherLanguage) makeControls(); // All names, by now in the new language.
+    if (!isOtherLanguage) return;
+    const Ref<GalleryButton> button = languageButton(changed.language);
+    const bool hadFocus = button && button->isFirstResponder();
+    makeControls(); // All names, by now in the new language.
+    if (hadFocus) languageButton(changed.language)->becomeFirstResponder();
 }
 
 void GallerySettingsPage::makeControls() {

@@ -5,6 +5,7 @@
 #include "GalleryTexts.h"
 #include "GalleryTheme.h"
 #include "UIGraphicsContext.h"
+#include "UIKey.h"
 
 using namespace gx;
 
@@ -28,6 +29,32 @@ public:
             row->setFrame(CGRectMake(inset, y, width, GalleryTheme::controlHeight));
             y += GalleryTheme::controlHeight;
         }
+    }
+    /// Up and down go from row to row, home and end to the first and the last.
+    bool keyPressed(const UIKey& key) override {
+        const auto focused =
+            std::find_if(subviews().begin(), subviews().end(), [](const Ref<UIView>& row) { return row->isFirstResponder(); });
+        if (focused == subviews().end() || key.isCommand()) return UIView::keyPressed(key);
+        Ref<UIView> next = *focused;
+        switch (key.code) {
+        case UIKey::Code::Up:
+            if (focused != subviews().begin()) next = *(focused - 1);
+            break;
+        case UIKey::Code::Down:
+            if (focused + 1 != subviews().end()) next = *(focused + 1);
+            break;
+        case UIKey::Code::Home:
+            next = subviews().front();
+            break;
+        case UIKey::Code::End:
+            next = subviews().back();
+            break;
+        default:
+            return UIView::keyPressed(key);
+        }
+        next->becomeFirstResponder();
+        next->revealDescendant(next->bounds());
+        return true;
     }
 };
 

@@ -1,5 +1,10 @@
 #include "GalleryTheme.h"
 
+#include <algorithm>
+#include <cmath>
+
+#include "UIGraphicsContext.h"
+
 using namespace gx;
 
 namespace gallery {
@@ -55,6 +60,33 @@ const Ref<UIFont>& GalleryTheme::captionFont() {
 const Ref<UIFont>& GalleryTheme::strongCaptionFont() {
     static const Ref<UIFont> shared = font(13, UIFontWeight::Semibold);
     return shared;
+}
+
+void GalleryTheme::drawOutline(UIGraphicsContext& context, CGRect rect, CGFloat cornerRadius) {
+    constexpr CGFloat width = 2;
+    constexpr double rightAngle = 1.5707963267948966;
+    // What lies within stays as it is: straight lines, and around each corner a row of dots close enough to look like one.
+    const CGFloat radius = std::clamp(cornerRadius, width, 0.5 * std::min(rect.size.width, rect.size.height));
+    const CGFloat right = CGRectGetMaxX(rect);
+    const CGFloat bottom = CGRectGetMaxY(rect);
+    for (const CGFloat y : {rect.origin.y, bottom - width}) {
+        context.fillRect(CGRectMake(rect.origin.x + radius, y, rect.size.width - 2 * radius, width), accent());
+    }
+    for (const CGFloat x : {rect.origin.x, right - width}) {
+        context.fillRect(CGRectMake(x, rect.origin.y + radius, width, rect.size.height - 2 * radius), accent());
+    }
+    constexpr int dots = 24;
+    const CGFloat reach = radius - 0.5 * width;
+    for (int i = 0; i <= dots; ++i) {
+        const double angle = i * rightAngle / dots;
+        const CGFloat dx = radius - reach * std::cos(angle) - 0.5 * width;
+        const CGFloat dy = radius - reach * std::sin(angle) - 0.5 * width;
+        for (const CGFloat x : {rect.origin.x + dx, right - dx - width}) {
+            for (const CGFloat y : {rect.origin.y + dy, bottom - dy - width}) {
+                context.fillRect(CGRectMake(x, y, width, width), accent(), 0.5 * width);
+            }
+        }
+    }
 }
 
 Ref<UIView> GalleryTheme::makeCard() {

@@ -55,6 +55,8 @@ public:
     /// From the edges of a page of this width to its cards.
     static constexpr gx::CGFloat marginForWidth(gx::CGFloat width) { return width < 480 ? 16 : 32; }
 
+    /// The outline of a rounded rectangle in the accent colour, strong enough to be found at a glance. It lies within.
+    static void drawOutline(gx::UIGraphicsContext& context, gx::CGRect rect, gx::CGFloat cornerRadius);
     /// A rounded surface to put things on.
     static gx::Ref<gx::UIView> makeCard();
 };

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "UIGraphicsContext.h"
+#include "UIKey.h"
 #include "UIWindow.h"
 
 namespace gx {
@@ -32,6 +33,9 @@ bool UIScrollView::initWithCoder(const Ref<NSCoder>& coder) {
 // Where the content stands
 
 CGFloat UIScrollView::highestOffset() const { return std::max(0.0, contentSize_.height - bounds().size.height); }
+
+/// Where it is heading for, or else where it is.
+CGFloat UIScrollView::offsetAtRest() const { return UIScrollView::isMoving() ? target_ : offset(); }
 
 CGFloat UIScrollView::held(CGFloat offset) const { return std::clamp(offset, 0.0, highestOffset()); }
 
@@ -93,8 +97,8 @@ void UIScrollView::scrollRectToVisible_animated(CGRect rect, bool animated) {
     const CGFloat top = CGRectGetMinY(rect);
     const CGFloat lowest = CGRectGetMaxY(rect) - bounds().size.height;
     if (!std::isfinite(top) || !std::isfinite(lowest)) return;
-    const CGFloat target = std::min(std::max(offset(), lowest), top);
-    if (target != offset()) setContentOffset_animated({0, target}, animated);
+    const CGFloat target = std::min(std::max(offsetAtRest(), lowest), top);
+    if (target != offsetAtRest()) setContentOffset_animated({0, target}, animated);
 }
 
 void UIScrollView::setFrame(CGRect frame) {
@@ -234,6 +238,38 @@ bool UIScrollView::scrolled(const UIScroll& scroll) {
     if (finger_ || !std::isfinite(points) || points == 0) return true; // The finger goes before.
     state_ = State::AtRest;
     moveTo(held(offset() + points));
+    return true;
+}
+
+// Keys
+
+bool UIScrollView::keyPressed(const UIKey& key) {
+    if (highestOffset() <= 0 || key.isCommand()) return UIView::keyPressed(key);
+    const CGFloat page = std::max(pointsPerNotch, bounds().size.height - pointsPerNotch);
+    CGFloat target = offsetAtRest();
+    switch (key.code) {
+    case UIKey::Code::Up:
+        target -= pointsPerNotch;
+        break;
+    case UIKey::Code::Down:
+        target += pointsPerNotch;
+        break;
+    case UIKey::Code::PageUp:
+        target -= page;
+        break;
+    case UIKey::Code::PageDown:
+        target += page;
+        break;
+    case UIKey::Code::Home:
+        target = 0;
+        break;
+    case UIKey::Code::End:
+        target = highestOffset();
+        break;
+    default:
+        return UIView::keyPressed(key);
+    }
+    if (!finger_) setContentOffset_animated({0, target}, true);
     return true;
 }
 

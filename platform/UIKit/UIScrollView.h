@@ -36,7 +36,8 @@ public:
     /// Goes to an offset, held to what there is; its x counts for nothing. Ends what else moves the content; a finger that lies there
     /// scrolls no more. Without a window, animation has no clock and the content arrives at once.
     void setContentOffset_animated(CGPoint offset, bool animated);
-    /// Scrolls just as far as shows the whole rectangle, or its top if it is higher than this view.
+    /// Scrolls just as far as shows the whole rectangle, or its top if it is higher than this view. Content on its way to where that is
+    /// in sight goes on.
     void scrollRectToVisible_animated(CGRect rect, bool animated);
     /// The offset that shows the content's end; 0 if all of it fits.
     CGFloat highestOffset() const;
@@ -55,6 +56,9 @@ public:
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
     bool scrolled(const UIScroll& scroll) override;
+    /// The keys that no view below has used: up and down scroll by a notch, page keys by the height of this view but for a notch, home and
+    /// end all the way. A finger that lies here goes before. Where all is in sight they are handed up.
+    bool keyPressed(const UIKey& key) override;
     /// Scrolls there, animated, and hands it up.
     void revealDescendant(CGRect rect) override;
     bool advanceToTime(NSTimeInterval time) override;
@@ -93,6 +97,7 @@ private:
     };
 
     CGFloat offset() const { return bounds().origin.y; }
+    CGFloat offsetAtRest() const;
     CGFloat held(CGFloat offset) const;
     CGFloat bandedOffset(CGFloat raw) const;
     CGFloat rawOffset(CGFloat displayed) const;

@@ -86,6 +86,7 @@ void UITableView::refreshRows() {
     isBusy_ = true;
     isStale_ = false;
     rows_ = askRows();
+    if (focused_) focused_ = rows_.heldRow(*focused_);
     // Every row is shown anew. Who is told that a cell has gone may reload again: that is the next refresh.
     change_.reset();
     std::vector<Row> gone = std::move(removed_);
@@ -153,6 +154,12 @@ std::vector<NSIndexPath> UITableView::indexPathsForVisibleRows() {
         if (CGRectIntersectsRect(rectOf(rows_.spanOfRow(row.path)), bounds())) paths.push_back(row.path);
     }
     return paths;
+}
+
+std::optional<NSIndexPath> UITableView::indexPathForFocusedRow() {
+    const Ref<UITableView> keep = self();
+    refreshRows();
+    return focused_;
 }
 
 void UITableView::scrollToRowAtIndexPath_animated(NSIndexPath path, bool animated) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "UIKey.h"
 #include "UIScrollView.h"
 #include "UITableViewCell.h"
 #include "UITableViewCells.h"
@@ -27,6 +28,11 @@ class UILabel;
 /// Fingers. A row lights up under a finger that rests on it for `highlightDelay`, so that a stroke does not flash; a tap lights it up
 /// for `tapDuration` and is told to the delegate. A finger that scrolls, or has stopped moving rows, taps nothing. Nothing stays chosen.
 ///
+/// Keys. The table takes the focus if there is a row that can be tapped, and one such row is then the focused one. Up and down go on to
+/// the row beside it, page keys by what is in sight, home and end all the way, passing over rows that cannot be tapped; Return and Space
+/// tap it. It comes into sight, and is marked while the window shows the focus. A tap by a finger focuses its row too. Tab goes on to what
+/// takes the focus inside the rows in sight, whose keys are their own; when such a row leaves, the table has the focus again.
+///
 /// The table owns neither its data source nor its delegate. Both may do anything while they are asked.
 class UITableView : public UIScrollView {
 public:
@@ -40,6 +46,8 @@ public:
     static constexpr NSTimeInterval tapDuration = 0.1;
     /// More rows than any screen shows; the bound keeps a huge frame from filling the memory.
     static constexpr NSInteger highestVisibleCount = 1000;
+    /// So many rows in a row that cannot be tapped are passed over by a key; beyond them the focus stays where it is.
+    static constexpr int highestPassedCount = 100;
 
     WeakRef<UITableViewDataSource> dataSource() const { return dataSource_; }
     void setDataSource(WeakRef<UITableViewDataSource> dataSource);
@@ -83,6 +91,9 @@ public:
     /// Nothing for a cell that shows no row.
     std::optional<NSIndexPath> indexPathForCell(const Ref<UITableViewCell>& cell);
     std::vector<NSIndexPath> indexPathsForVisibleRows();
+    /// The row that keys are meant for; nothing before the table has had the focus. It follows insertions and removals; where it goes
+    /// itself, the row that takes its place follows it. A reload holds it to the rows there are.
+    std::optional<NSIndexPath> indexPathForFocusedRow();
 
     // Orders
 
@@ -103,6 +114,11 @@ public:
     void didMoveToWindow() override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
+    bool keyPressed(const UIKey& key) override;
+    bool canBecomeFirstResponder() override;
+    void focusDidChange() override;
+    /// Where Tab has come to the table itself, it is the focused row that comes into sight.
+    void revealDescendant(CGRect rect) override;
     bool advanceToTime(NSTimeInterval time) override;
 
 protected:
@@ -154,8 +170,19 @@ private:
     void drawSeparators(UIGraphicsContext& context) const;
     // Fingers: UITableViewTouches.cpp.
     void forgetPress();
+    void tapRow(NSIndexPath path, NSTimeInterval time);
     void light(NSIndexPath path);
     void darken();
+    // Keys: UITableViewKeys.cpp.
+    bool canBeTapped(NSIndexPath path);
+    std::optional<NSIndexPath> tappableRow(std::optional<NSIndexPath> path, bool isDownward);
+    std::optional<NSIndexPath> rowOfKeys();
+    std::optional<NSIndexPath> rowForKey(UIKey::Code code, NSIndexPath present);
+    std::optional<NSIndexPath> rowAPageFrom(NSIndexPath present, bool isDownward) const;
+    void focusRow(NSIndexPath path);
+    void takeFocusFrom(const Ref<UITableViewCell>& cell);
+    CGRect rectToReveal(NSIndexPath path) const;
+    void drawFocus(UIGraphicsContext& context);
 
     WeakRef<UITableViewDataSource> dataSource_;
     WeakRef<UITableViewDelegate> delegate_;
@@ -180,6 +207,7 @@ private:
     std::optional<NSTimeInterval> lightsAt_;
     std::optional<NSTimeInterval> darkensAt_;
     Ref<UITableViewCell> lit_;
+    std::optional<NSIndexPath> focused_;
 };
 
 } // namespace gx

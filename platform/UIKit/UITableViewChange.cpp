@@ -38,12 +38,16 @@ std::vector<UITableViewChange::Step>::const_iterator UITableViewChange::firstSte
 }
 
 std::optional<NSIndexPath> UITableViewChange::pathAfter(NSIndexPath before) const {
-    auto step = firstStepFrom({before.section, 0});
     if (kind_ == Kind::Removal) {
         const auto own = firstStepFrom(before);
         if (own != steps_.end() && own->path == before) return std::nullopt;
-        return NSIndexPath{before.section, before.row - (own - step)};
     }
+    return placeAfter(before);
+}
+
+NSIndexPath UITableViewChange::placeAfter(NSIndexPath before) const {
+    auto step = firstStepFrom({before.section, 0});
+    if (kind_ == Kind::Removal) return {before.section, before.row - (firstStepFrom(before) - step)};
     NSIndexPath path = before;
     for (; step != steps_.end() && step->path.section == path.section && step->path.row <= path.row; ++step) ++path.row;
     return path;

@@ -23,6 +23,9 @@ public:
     /// What a row from before is now; nothing for one that is gone.
     std::optional<NSIndexPath> pathAfter(NSIndexPath before) const;
 
+    /// As `pathAfter`; for a row that is gone, where the row is that has taken its place, or would be if it was the last.
+    NSIndexPath placeAfter(NSIndexPath before) const;
+
     // The way. It begins with everything where it was.
 
     /// By how much the content was moved with the change, since its end has come nearer.

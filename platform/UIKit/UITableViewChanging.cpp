@@ -68,6 +68,7 @@ void UITableView::change(UITableViewChange::Kind kind, std::vector<NSIndexPath> 
     }
     if (pressed_) pressed_ = change->pathAfter(*pressed_);
     if (!pressed_) lightsAt_.reset();
+    if (focused_) focused_ = rows_.heldRow(change->placeAfter(*focused_));
     const CGFloat offsetBefore = contentOffset().y;
     fitContent();
     change->setOffsetChange(contentOffset().y - offsetBefore);
@@ -75,7 +76,10 @@ void UITableView::change(UITableViewChange::Kind kind, std::vector<NSIndexPath> 
     change_ = std::move(change);
     for (std::size_t i = 0; i < removed_.size(); ++i) {
         // It is drawn, but no finger finds it.
-        if (const Ref<UITableViewCell> cell = removed_[i].cell) cell->setHidden(true);
+        const Ref<UITableViewCell> cell = removed_[i].cell;
+        if (!cell) continue;
+        takeFocusFrom(cell);
+        cell->setHidden(true);
     }
     for (std::size_t i = 0; i < shown_.size(); ++i) {
         if (const Ref<UITableViewCell> cell = shown_[i].cell) placeCell(cell, shown_[i].path);
@@ -147,6 +151,7 @@ void UITableView::drawScrolledViews(UIGraphicsContext& context) {
         UIScrollView::drawScrolledViews(context);
     }
     if (separatorColor_) drawSeparators(context);
+    drawFocus(context);
 }
 
 void UITableView::drawSeparators(UIGraphicsContext& context) const {

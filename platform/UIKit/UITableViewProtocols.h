@@ -38,9 +38,9 @@ public:
     /// number means 0. Asked once for each row and reload, insertion or removal, but not in sections of more than
     /// `UITableViewRows::highestHeightCount` rows.
     virtual CGFloat tableView_heightForRowAtIndexPath(const Ref<UITableView>& tableView, NSIndexPath indexPath);
-    /// Whether a row can be tapped; asked when a finger comes down on it. Default: true.
+    /// Whether a row can be tapped; asked when a finger comes down on it, and when a key comes to it. Default: true.
     virtual bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>& tableView, NSIndexPath indexPath);
-    /// Called once for each tap on a row. Default: nothing.
+    /// Called once for each tap on a row, by a finger or a key. Default: nothing.
     virtual void tableView_didSelectRowAtIndexPath(const Ref<UITableView>& tableView, NSIndexPath indexPath);
     /// Called after a cell has left the screen, with the path that its row had then. Default: nothing.
     virtual void tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>& tableView, const Ref<UITableViewCell>& cell,

@@ -115,6 +115,32 @@ std::optional<NSIndexPath> UITableViewRows::nextRow(NSIndexPath path) const {
     return firstRowFromSection(path.section + 1);
 }
 
+std::optional<NSInteger> UITableViewRows::lastRowAmong(const Section& section, NSInteger count) {
+    const CGFloat end = endOfRow(section, count - 1);
+    if (!(end > 0)) return std::nullopt;
+    if (section.ends.empty()) return count - 1;
+    return std::lower_bound(section.ends.begin(), section.ends.end(), end) - section.ends.begin();
+}
+
+std::optional<NSIndexPath> UITableViewRows::lastRowUpToSection(NSInteger section) const {
+    for (NSInteger i = section; i >= 0; --i) {
+        if (const auto row = lastRowAmong(at(i), at(i).count)) return NSIndexPath{i, *row};
+    }
+    return std::nullopt;
+}
+
+std::optional<NSIndexPath> UITableViewRows::previousRow(NSIndexPath path) const {
+    if (const auto row = lastRowAmong(at(path.section), path.row)) return NSIndexPath{path.section, *row};
+    return lastRowUpToSection(path.section - 1);
+}
+
+std::optional<NSIndexPath> UITableViewRows::heldRow(NSIndexPath path) const {
+    if (exists(path)) return path;
+    const NSInteger section = std::clamp<NSInteger>(path.section, -1, sectionCount() - 1);
+    const auto above = lastRowUpToSection(section);
+    return above ? above : firstRow();
+}
+
 std::optional<NSIndexPath> UITableViewRows::rowAt(CGFloat y) const {
     const auto row = firstRowBelow(y);
     if (!row || !(spanOfRow(*row).top <= y)) return std::nullopt;

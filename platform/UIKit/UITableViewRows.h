@@ -59,6 +59,13 @@ public:
     /// The first row that has a part below a place. Rows without height are left out here and in the next.
     std::optional<NSIndexPath> firstRowBelow(CGFloat y) const;
     std::optional<NSIndexPath> nextRow(NSIndexPath path) const;
+    // These leave out rows without height too.
+    std::optional<NSIndexPath> previousRow(NSIndexPath path) const;
+    std::optional<NSIndexPath> firstRow() const { return firstRowFromSection(0); }
+    std::optional<NSIndexPath> lastRow() const { return lastRowUpToSection(sectionCount() - 1); }
+    /// The row that is found where this one may have been: it itself if it exists, else the last one above it, or else the first of all.
+    /// Nothing if there are no rows.
+    std::optional<NSIndexPath> heldRow(NSIndexPath path) const;
     /// The first section that has a part below a place; the number of sections if there is none.
     NSInteger firstSectionBelow(CGFloat y) const;
 
@@ -74,7 +81,9 @@ private:
     const Section& at(NSInteger section) const { return sections_[static_cast<std::size_t>(section)]; }
     static CGFloat endOfRow(const Section& section, NSInteger row);
     static std::optional<NSInteger> firstRowEndingAfter(const Section& section, CGFloat y);
+    static std::optional<NSInteger> lastRowAmong(const Section& section, NSInteger count);
     std::optional<NSIndexPath> firstRowFromSection(NSInteger section) const;
+    std::optional<NSIndexPath> lastRowUpToSection(NSInteger section) const;
     void add(Section section);
     static void fit(Section& section, CGFloat top);
 

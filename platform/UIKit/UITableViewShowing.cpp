@@ -58,6 +58,7 @@ UITableView::Row UITableView::takeRow(std::size_t index) {
 void UITableView::retire(const Row& row) {
     if (!row.cell) return;
     if (lit_ == row.cell) darken();
+    takeFocusFrom(row.cell);
     // Hidden, it keeps its place among the subviews: coming and going costs nothing, and a finger on it stays with it.
     row.cell->setHidden(true);
     if (!cells_.put(row.cell)) leaving_.push_back(row.cell);

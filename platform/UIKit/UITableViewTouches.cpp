@@ -33,15 +33,17 @@ void UITableView::pressBegan(CGPoint point, NSTimeInterval time) {
     if (!path) return;
     pressed_ = path;
     lightsAt_ = time + highlightDelay;
-    bool isTappable = true;
-    if (const auto delegate = delegate_.lock()) isTappable = delegate->tableView_shouldHighlightRowAtIndexPath(self(), *path);
-    if (!isTappable) forgetPress();
+    if (!canBeTapped(*path)) forgetPress();
     if (lightsAt_) startMoving();
 }
 
 void UITableView::pressEnded(bool isTap, NSTimeInterval time) {
     const Ref<UITableView> keep = self();
     UIScrollView::pressEnded(isTap, time);
+    if (isTap && pressed_) {
+        focused_ = pressed_;
+        becomeFirstResponder(); // Whoever loses it may change the rows.
+    }
     const std::optional<NSIndexPath> path = pressed_;
     if (!isTap || !path) {
         forgetPress();
@@ -49,12 +51,16 @@ void UITableView::pressEnded(bool isTap, NSTimeInterval time) {
     }
     pressed_.reset();
     lightsAt_.reset();
+    tapRow(*path, time);
+}
+
+void UITableView::tapRow(NSIndexPath path, NSTimeInterval time) {
     if (window()) {
-        light(*path);
+        light(path);
         darkensAt_ = time + tapDuration;
         startMoving();
     }
-    if (const auto delegate = delegate_.lock()) delegate->tableView_didSelectRowAtIndexPath(self(), *path);
+    if (const auto delegate = delegate_.lock()) delegate->tableView_didSelectRowAtIndexPath(self(), path);
 }
 
 void UITableView::touchEnded(const UITouch& touch) {

@@ -1,4 +1,5 @@
 #include "GalleryTest.h"
+#include "NullCanvas.h"
 
 using namespace gallery;
 using namespace gx;
@@ -168,4 +169,90 @@ TEST(GalleryTextTest, WordsAreBrokenIntoLinesThatFit) {
     EXPECT_EQ(text->sizeThatFits({30, 0}), CGSizeMake(30, 110));  // one word a line, cut or not
     text->setText("");
     EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 0));
+}
+
+// Keys
+
+TEST_F(GalleryControlsTest, ReturnAndSpaceTapTheButtonWithTheFocus) {
+    EXPECT_FALSE(window->press(UIKey::Code::Return));
+    EXPECT_TRUE(window->press(UIKey::Code::Tab));
+    EXPECT_TRUE(button->isFirstResponder());
+    EXPECT_TRUE(window->press(UIKey::Code::Return));
+    EXPECT_TRUE(window->press(UIKey::Code::Space));
+    EXPECT_EQ(taps, 2);
+    EXPECT_TRUE(window->press(UIKey::Code::Return, 0, true));
+    EXPECT_EQ(taps, 2) << "a key that is held taps once";
+    EXPECT_FALSE(window->press(UIKey::Code::Return, UIKey::Control));
+    EXPECT_FALSE(window->press(UIKey::Code::Left));
+    EXPECT_EQ(taps, 2);
+}
+
+TEST_F(GalleryControlsTest, TheFocusIsOutlinedWhileKeysAreUsed) {
+    const auto fills = [this] {
+        NullCanvas canvas;
+        (*window)->draw(canvas);
+        return canvas.fills;
+    };
+    const int plain = fills();
+    button->becomeFirstResponder();
+    EXPECT_EQ(fills(), plain);
+    window->press(UIKey::Code::Space);
+    EXPECT_GT(fills(), plain + 4) << "four sides and their corners";
+    window->tap({150, 300}); // beside it
+    EXPECT_EQ(fills(), plain);
+}
+
+TEST_F(GalleryControlsTest, AButtonMayBeDroppedByAKey) {
+    button->setAction([this] {
+        ++taps;
+        button->removeFromSuperview();
+        button = nullptr;
+    });
+    window->press(UIKey::Code::Tab);
+    EXPECT_TRUE(window->press(UIKey::Code::Return));
+    EXPECT_EQ(taps, 1);
+    EXPECT_EQ((*window)->firstResponder(), nullptr);
+}
+
+TEST_F(GalleryControlsTest, KeysThatAButtonHasNoUseForScroll) {
+    window->press(UIKey::Code::Tab);
+    EXPECT_TRUE(window->press(UIKey::Code::PageDown)); // 400 points but for a notch of 48
+    window->runUntilStill();
+    EXPECT_EQ(scroll->offset(), 352);
+    window->press(UIKey::Code::Up);
+    window->press(UIKey::Code::Up); // counted from where the first one goes
+    window->runUntilStill();
+    EXPECT_EQ(scroll->offset(), 256);
+    window->press(UIKey::Code::End);
+    window->runUntilStill();
+    EXPECT_EQ(scroll->offset(), 600);
+    window->press(UIKey::Code::PageUp);
+    window->runUntilStill();
+    EXPECT_EQ(scroll->offset(), 248);
+    window->press(UIKey::Code::Home);
+    window->runUntilStill();
+    EXPECT_EQ(scroll->offset(), 0);
+    EXPECT_FALSE(window->press(UIKey::Code::Down, UIKey::Control));
+    scroll->setFrame(CGRectMake(0, 0, 300, 1000));
+    scroll->layoutIfNeeded();
+    EXPECT_FALSE(window->press(UIKey::Code::Down)) << "all is in sight";
+}
+
+TEST_F(GalleryControlsTest, LeftAndRightChooseAmongSegmentsAndTell) {
+    const auto segments = GallerySegments::segmentsWithChoices({"a", "b", "c"}, 1);
+    std::vector<std::size_t> told;
+    segments->setAction([&told](std::size_t chosen) { told.push_back(chosen); });
+    segments->setFrame(CGRectMake(0, 200, 300, 40));
+    content->addSubview(segments);
+    segments->becomeFirstResponder();
+    EXPECT_TRUE(window->press(UIKey::Code::Right));
+    EXPECT_TRUE(window->press(UIKey::Code::Right)) << "at the end it stays";
+    EXPECT_TRUE(window->press(UIKey::Code::Left));
+    EXPECT_TRUE(window->press(UIKey::Code::Left));
+    EXPECT_TRUE(window->press(UIKey::Code::Left));
+    EXPECT_EQ(told, (std::vector<std::size_t>{2, 1, 0}));
+    EXPECT_TRUE(window->press(UIKey::Code::Return)) << "it is chosen already";
+    EXPECT_EQ(segments->chosen(), 0U);
+    EXPECT_EQ(told.size(), 3U);
+    EXPECT_FALSE(window->press(UIKey::Code::Right, UIKey::Alternate));
 }

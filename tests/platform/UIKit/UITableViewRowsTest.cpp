@@ -106,3 +106,27 @@ TEST(UITableViewRows, take_odd_answers_for_nearby_ones) {
     EXPECT_EQ(UITableViewRows::heldRowCount(std::numeric_limits<NSInteger>::max()), 1'000'000'000'000);
     EXPECT_EQ(UITableViewRows::heldSectionCount(10'001), 10'000);
 }
+
+TEST(UITableViewRows, go_upwards_over_sections_and_rows_without_height) {
+    const UITableViewRows rows = mixedRows();
+    EXPECT_EQ(rows.firstRow(), Path({0, 0}));
+    EXPECT_EQ(rows.lastRow(), Path({2, 2}));
+    EXPECT_EQ(rows.previousRow({2, 3}), Path({2, 2}));
+    EXPECT_EQ(rows.previousRow({2, 2}), Path({2, 0}));
+    EXPECT_EQ(rows.previousRow({2, 0}), Path({0, 2}));
+    EXPECT_EQ(rows.previousRow({0, 1}), Path({0, 0}));
+    EXPECT_EQ(rows.previousRow({0, 0}), std::nullopt);
+    EXPECT_EQ(UITableViewRows().firstRow(), std::nullopt);
+    EXPECT_EQ(UITableViewRows().lastRow(), std::nullopt);
+}
+
+TEST(UITableViewRows, a_place_is_held_to_the_rows_there_are) {
+    const UITableViewRows rows = mixedRows();
+    EXPECT_EQ(rows.heldRow({0, 2}), Path({0, 2}));
+    EXPECT_EQ(rows.heldRow({0, 3}), Path({0, 2}));
+    EXPECT_EQ(rows.heldRow({1, 0}), Path({0, 2}));
+    EXPECT_EQ(rows.heldRow({2, 4}), Path({2, 2})) << "the last one with a height";
+    EXPECT_EQ(rows.heldRow({9, 0}), Path({2, 2}));
+    EXPECT_EQ(rows.heldRow({-1, 0}), Path({0, 0}));
+    EXPECT_EQ(UITableViewRows().heldRow({0, 0}), std::nullopt);
+}
