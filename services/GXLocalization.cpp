@@ -13,7 +13,9 @@ Ref<GXLocalization>& theLocalization() {
 }
 } // namespace
 
-GXLocalization::GXLocalization() : translations_(&GXTranslations::translationsForLanguage(language_)) {}
+GXLocalization::GXLocalization()
+    : translations_(&GXTranslations::translationsForLanguage(language_)),
+      spokenTexts_(&GXSpokenTexts::textsForLanguage(translations_->language())) {}
 
 const Ref<GXLocalization>& GXLocalization::sharedLocalization() { return theLocalization(); }
 
@@ -26,8 +28,17 @@ std::optional<std::string> GXLocalization::localizedStringWithKey_comment(const 
     return text ? std::string(*text) : key;
 }
 
+std::optional<std::string> GXLocalization::spokenTextForName(GXSpokenName name) const {
+    return std::string(spokenTexts_->textForName(name));
+}
+
+std::optional<std::string> GXLocalization::spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const {
+    return spokenTexts_->quantity(number, unit);
+}
+
 void GXLocalization::setLanguage(std::string language) {
     translations_ = &GXTranslations::translationsForLanguage(language);
+    spokenTexts_ = &GXSpokenTexts::textsForLanguage(translations_->language());
     language_ = std::move(language);
 }
 

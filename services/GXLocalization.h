@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "GXSpokenTexts.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -28,6 +29,12 @@ public:
     /// answer nothing: then nothing is shown.
     virtual std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const;
 
+    /// What screen readers speak: a name, or one of the patterns that `GXSpokenName` lists. An application that says it otherwise, or in
+    /// another language, overrides both; pickers ask anew each time that something is spoken. Nothing leaves out what would be said.
+    virtual std::optional<std::string> spokenTextForName(GXSpokenName name) const;
+    /// A number with its unit, such as "5.3 kilometres", "1 kilometre", "minus 4 degrees Celsius".
+    virtual std::optional<std::string> spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const;
+
     /// As last given.
     const std::string& language() const { return language_; }
     /// Takes identifiers such as "de", "de_DE", "zh-Hans-CN", "pt_BR.UTF-8", in any case. The texts are those of the known language that
@@ -43,6 +50,7 @@ private:
     std::string language_ = "en";
     // Points into constant data, never null.
     const GXTranslations* translations_;
+    const GXSpokenTexts* spokenTexts_;
 };
 
 } // namespace gx

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include "QtAccessibility.h"
 #include "QtImageLoader.h"
 #include "QtTextEngine.h"
 #include "UIHost.h"
@@ -16,6 +17,7 @@ namespace {
 /// The application's fonts and timers are about to go.
 void uninstall() {
     NSRunLoop::mainRunLoop()->setWakeHandler(nullptr);
+    QAccessible::removeFactory(accessibleInterfaceFor);
     if (std::dynamic_pointer_cast<QtImageLoader>(UIImageLoader::shared())) UIImageLoader::setShared(nullptr);
     if (UITextEngine::shared() == QtTextEngine::shared()) UITextEngine::setShared(nullptr);
 }
@@ -39,6 +41,7 @@ void installQtHost(QGuiApplication& application, const QtHostOptions& options) {
     UIImageLoader::setShared(std::make_shared<QtImageLoader>());
     NSLocale::setCurrentLocale(localeFromQLocale(options.locale.value_or(QLocale::system())));
     pumpRunLoop(application);
+    QAccessible::installFactory(accessibleInterfaceFor); // Installed again, it is still there but once.
     qAddPostRoutine(uninstall);
 }
 

@@ -14,9 +14,9 @@ namespace gx::qt {
 
 /// Makes a Qt application the library's host: call once, after the application object was made and before the first view.
 ///
-/// Supports: text (`QtTextEngine`), pictures (`QtImageLoader`), the user's language, decimal separator and writing direction, and
-/// passes of the run loop, one in each turn of Qt's event loop. When the application object goes, the library is without
-/// a host again. Does not support: a language that changes while the application runs.
+/// Supports: text (`QtTextEngine`), pictures (`QtImageLoader`), the user's language, decimal separator and writing direction,
+/// passes of the run loop, one in each turn of Qt's event loop, and screen readers (`QtAccessibleView`). When the application object goes,
+/// the library is without a host again. Does not support: a language that changes while the application runs.
 struct QtHostOptions {
     /// Nothing for the user's own, as the system tells it.
     std::optional<QLocale> locale;

@@ -13,6 +13,7 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
+#include "QtAccessibility.h"
 #include "QtInput.h"
 
 namespace gx::qt {
@@ -135,6 +136,7 @@ bool UIViewWidget::stepFrame() {
     if (draws) {
         update();
         scheduleTick();
+        announceAccessibilityChanges(*this); // Who is asked meanwhile may drop the widget.
     } else {
         frameTimer_.stop();
     }

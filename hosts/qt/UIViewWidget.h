@@ -22,7 +22,8 @@ class QtInput;
 ///
 /// Supports: one root view that fills the widget; fingers, mouse, mouse wheel, trackpad and keyboard (see `QtInput`); any ratio of device
 /// pixels to points, also one that changes between screens; a light and a dark look, by default the palette's. Events that no view made use
-/// of are ignored, so that a QScrollArea around the widget scrolls and shortcuts work. Does not support: accessibility bridge.
+/// of are ignored, so that a QScrollArea around the widget scrolls and shortcuts work; screen readers
+/// (see `QtAccessibleView`).
 ///
 /// Focus. Tab goes through the views that take the focus, and from the last one on to the widget that follows; who comes by Tab begins at
 /// the first view, who comes by Shift and Tab at the last. A widget that is hidden, as when its window closes, settles its wheels: their
@@ -64,6 +65,8 @@ public:
     void setClock(std::function<double()> clock, FrameDriver driver = FrameDriver::Hand);
     /// One tick, now. Answers whether something was to be drawn.
     bool stepFrame();
+    /// The time of what happens now, in seconds on the clock of the frames.
+    double now() const;
     /// Whether a tick is due, by timer or by hand.
     bool isFrameDue() const { return isFrameDue_; }
 
@@ -88,7 +91,6 @@ private:
     void windowNeedsFrame() override;
     void wheelDidTick() override;
 
-    double now() const;
     double timeOf(const QInputEvent& event);
     void scheduleTick();
     void followPalette();

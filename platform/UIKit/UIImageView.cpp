@@ -58,4 +58,15 @@ void UIImageView::drawRect(UIGraphicsContext& context, CGRect rect) {
     context.drawImage(*image_, {origin, size});
 }
 
+// Accessibility
+
+std::optional<std::string> UIImageView::accessibilityLabel() const {
+    std::optional<std::string> label = UIView::accessibilityLabel();
+    return label || !image_ ? label : image_->accessibilityLabel();
+}
+
+UIAccessibilityElements UIImageView::accessibilityElements() {
+    return accessibilityElementAndSubviews(refTo<UIView>(this), UIAccessibilityRole::Image);
+}
+
 } // namespace gx

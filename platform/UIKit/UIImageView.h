@@ -29,6 +29,11 @@ public:
     bool showsSomething() const override { return image_ != nullptr; }
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
 
+    /// The image's, unless a label was set.
+    std::optional<std::string> accessibilityLabel() const override;
+    /// Itself as an image, if it has a label, then what its subviews offer. A picture without one adorns only.
+    UIAccessibilityElements accessibilityElements() override;
+
 private:
     Ref<UIImage> image_;
     UIViewContentMode contentMode_ = UIViewContentModeScaleToFill;

@@ -113,4 +113,15 @@ void UILabel::drawRect(UIGraphicsContext& context, CGRect rect) {
     context.drawText(fittedText_, drawnFont(), drawnColor(), origin);
 }
 
+// Accessibility
+
+std::optional<std::string> UILabel::accessibilityLabel() const {
+    std::optional<std::string> label = UIView::accessibilityLabel();
+    return label ? label : text_;
+}
+
+UIAccessibilityElements UILabel::accessibilityElements() {
+    return accessibilityElementAndSubviews(refTo<UIView>(this), UIAccessibilityRole::Text);
+}
+
 } // namespace gx

@@ -40,6 +40,11 @@ public:
     bool showsSomething() const override { return text_ && !text_->empty(); }
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
 
+    /// Its text, unless a label was set.
+    std::optional<std::string> accessibilityLabel() const override;
+    /// Itself as a text, then what its subviews offer.
+    UIAccessibilityElements accessibilityElements() override;
+
 protected:
     /// Called after text or font have changed, and with them the size that fits.
     virtual void textDidChange();

@@ -113,9 +113,12 @@ public:
     bool keyPressed(const UIKey& key) override;
     void focusDidChange() override;
     bool advanceToTime(NSTimeInterval time) override;
+    /// One for each column that the user can turn, and nothing else in the wheel: labels beside its columns belong to what a column says.
+    UIAccessibilityElements accessibilityElements() override;
 
 private:
     struct Component;
+    class ColumnElement;
 
     Ref<UIPickerView> self() { return refTo(this); }
     bool exists(NSInteger component);
@@ -146,6 +149,8 @@ private:
     void completeTyping();
     void arriveExcept(NSInteger component);
     void drawFocus(UIGraphicsContext& context, CGRect band);
+    bool isAdjustable(NSInteger component);
+    std::optional<std::string> spokenRow(NSInteger row, NSInteger component);
     bool isMoving() const;
     void letGo(Component& component);
     void startMoving();

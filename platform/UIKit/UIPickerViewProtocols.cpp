@@ -20,5 +20,12 @@ Ref<UIView> UIPickerViewDelegate::pickerView_viewForRow_forComponent_reusingView
     return nullptr;
 }
 void UIPickerViewDelegate::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {}
+std::optional<std::string> UIPickerViewDelegate::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger) {
+    return std::nullopt;
+}
+std::optional<std::string> UIPickerViewDelegate::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger,
+                                                                                                  NSInteger) {
+    return std::nullopt;
+}
 
 } // namespace gx

@@ -49,6 +49,13 @@ public:
     /// Called once after each turn by the user, when the column has come to rest on a row, also on the one it
     /// left; never for a request by the program. Default: nothing.
     virtual void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component);
+
+    /// What a screen reader calls the column. Default: nothing, which leaves it to the wheel's own label.
+    virtual std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component);
+    /// What a screen reader says of the column while it reports the row. Default: nothing, which leaves it to the row's title or, for a row
+    /// with a view, to what there is to be read in that.
+    virtual std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                        NSInteger component);
 };
 
 } // namespace gx

@@ -120,4 +120,31 @@ void UITableViewCell::drawRect(UIGraphicsContext& context, CGRect rect) {
     if (isHighlighted_ || isSelected_) context.fillRect(bounds(), UIColor::tertiarySystemFillColor());
 }
 
+// Accessibility
+
+namespace {
+
+bool takesOrders(const Ref<UIAccessibilityElement>& element) {
+    return element->role() == UIAccessibilityRole::Button || element->role() == UIAccessibilityRole::Adjustable;
+}
+
+} // namespace
+
+std::optional<std::string> UITableViewCell::accessibilityLabel() const {
+    if (std::optional<std::string> label = UIView::accessibilityLabel()) return label;
+    UIAccessibilityElements quiet;
+    for (const Ref<UIAccessibilityElement>& element : accessibilityElementsOfSubviews(contentView_)) {
+        if (!takesOrders(element)) quiet.push_back(element);
+    }
+    return joinedAccessibilityLabels(quiet);
+}
+
+UIAccessibilityElements UITableViewCell::accessibilityElements() {
+    UIAccessibilityElements elements = wholeAccessibilityElement(refTo<UIView>(this), UIAccessibilityRole::Button);
+    for (const Ref<UIAccessibilityElement>& element : UIView::accessibilityElements()) {
+        if (takesOrders(element)) elements.push_back(element);
+    }
+    return elements;
+}
+
 } // namespace gx

@@ -314,4 +314,8 @@ bool UIView::scrolled(const UIScroll& scroll) {
 
 bool UIView::advanceToTime(NSTimeInterval) { return false; }
 
+// Accessibility
+
+UIAccessibilityElements UIView::accessibilityElements() { return accessibilityElementsOfSubviews(refTo(this)); }
+
 } // namespace gx

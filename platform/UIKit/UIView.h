@@ -6,6 +6,7 @@
 #include "CGGeometry.h"
 #include "NSCoder.h"
 #include "NSObject.h"
+#include "UIAccessibility.h"
 #include "UIColor.h"
 #include "UITouch.h"
 
@@ -175,6 +176,15 @@ public:
     /// whether the view goes on moving.
     virtual bool advanceToTime(NSTimeInterval time);
 
+    // Accessibility
+
+    /// What a screen reader calls the view: the label that was set or, without one, what the view itself knows to say. Here nothing.
+    virtual std::optional<std::string> accessibilityLabel() const { return accessibilityLabel_; }
+    /// Nothing leaves it to the view again.
+    void setAccessibilityLabel(std::optional<std::string> label) { accessibilityLabel_ = std::move(label); }
+    /// What a screen reader finds in the view, in the order in which it is read. Here what its subviews offer.
+    virtual UIAccessibilityElements accessibilityElements();
+
 protected:
     /// Whether the next layout pass will lay out this view itself.
     bool isLayoutDue() const { return needsLayout_; }
@@ -210,6 +220,7 @@ private:
     std::vector<Ref<NSLayoutConstraint>> constraints_;
     std::optional<UIColor> backgroundColor_;
     std::optional<UIColor> tintColor_;
+    std::optional<std::string> accessibilityLabel_;
     double alpha_ = 1;
     CGFloat cornerRadius_ = 0;
     NSInteger tag_ = 0;

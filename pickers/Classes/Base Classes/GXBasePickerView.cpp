@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "GXStyleSheet.h"
+#include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 #include "NSLayoutConstraint.h"
 
@@ -159,6 +160,29 @@ void GXBasePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerVie
     const Ref<GXBasePickerView> keep = self();
     storeCurrentValue(NSNumber::numberWithInteger(valueOfRow(row)));
     informDelegateOfValueChange();
+}
+
+// Answers to a screen reader
+
+std::optional<std::string> GXBasePickerView::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) {
+    return spokenLabel(accessibilityLabel(), spokenMeasurement(), spokenPartOfComponent(component));
+}
+
+std::optional<std::string> GXBasePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView,
+                                                                                              NSInteger row, NSInteger component) {
+    return pickerView_titleForRow_forComponent(pickerView, row, component);
+}
+
+std::string GXBasePickerView::spokenTitle(NSInteger component, SpokenRow row) {
+    const NSInteger shown = component == row.component ? row.row : selectedRowInComponent(pickerView_, component);
+    return pickerView_titleForRow_forComponent(pickerView_, shown, component).value_or(std::string());
+}
+
+GXSpokenNumber GXBasePickerView::spokenNumber(NSInteger wholeComponent, std::string fraction, SpokenRow row) {
+    const Ref<GXMultiValuePickerView> wheel = pickerView_;
+    const Ref<UILabel> separator = wheel ? wheel->separatorAfterComponent(static_cast<NSUInteger>(wholeComponent)) : nullptr;
+    std::string between = separator ? separator->text().value_or(std::string()) : std::string();
+    return {spokenTitle(wholeComponent, row), std::move(between), std::move(fraction)};
 }
 
 } // namespace gx

@@ -2,6 +2,7 @@
 
 #include "GXBasePickerViewDelegate.h"
 #include "GXMultiValuePickerView.h"
+#include "GXSpeech.h"
 #include "NSNumber.h"
 
 namespace gx {
@@ -82,10 +83,32 @@ public:
     /// Stores the row's value and informs the delegate.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
 
+    // Answers to a screen reader, in the words of the shared localiser at this moment
+
+    /// The measurement and what the column stands for, such as "Distance, kilometres". The picker's own `accessibilityLabel`, if one was
+    /// set, stands in for the measurement's name.
+    std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    /// The whole measurement, so that one hears it whichever column is turned, such as "5.3 kilometres": as the wheel reports it, but for
+    /// the component, which stands on `row`. Here the row's title.
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
 protected:
     /// Gives the defaults and makes the wheel. A composite overrides it to have neither.
     virtual void initGXBasePickerView();
     Ref<GXBasePickerView> self() { return refTo(this); }
+    /// What the picker measures, and what a column of it stands for. Here nothing: any number, and a single column.
+    virtual std::optional<GXSpokenName> spokenMeasurement() const { return std::nullopt; }
+    virtual std::optional<GXSpokenName> spokenPartOfComponent(NSInteger /*component*/) { return std::nullopt; }
+    /// The row that a column reports, but for one component, which stands on a given row.
+    struct SpokenRow {
+        NSInteger row;
+        NSInteger component;
+    };
+    /// The title of the row that a column stands on; empty for none.
+    std::string spokenTitle(NSInteger component, SpokenRow row);
+    /// The number on two columns, with what the wheel shows between them.
+    GXSpokenNumber spokenNumber(NSInteger wholeComponent, std::string fraction, SpokenRow row);
     /// Takes a value without turning the wheel.
     void storeCurrentValue(NSNumber value) { currentValue_ = std::move(value); }
 

@@ -33,4 +33,11 @@ void GXBpmPickerView::initGXBpmPickerView() {
     reloadAllComponents(pickerView());
 }
 
+// Answers to a screen reader
+
+std::optional<std::string> GXBpmPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                             NSInteger component) {
+    return spokenQuantity({spokenTitle(component, {row, component}), {}, {}}, GXSpokenUnit::BeatPerMinute);
+}
+
 } // namespace gx

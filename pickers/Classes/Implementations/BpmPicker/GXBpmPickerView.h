@@ -10,6 +10,11 @@ public:
     bool initWithFrame(CGRect frame) override;
     bool initWithCoder(const Ref<NSCoder>& coder) override;
     bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::BeatsPerMinute; }
 
 private:
     void initGXBpmPickerView();

@@ -36,4 +36,11 @@ void GXCaloriesPickerView::initGXCaloriesPickerView() {
     if (const Ref<GXMultiValuePickerView> wheel = pickerView()) wheel->setDataSource(self());
 }
 
+// Answers to a screen reader
+
+std::optional<std::string> GXCaloriesPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                                  NSInteger component) {
+    return spokenQuantity({spokenTitle(component, {row, component}), {}, {}}, GXSpokenUnit::Kilocalorie);
+}
+
 } // namespace gx

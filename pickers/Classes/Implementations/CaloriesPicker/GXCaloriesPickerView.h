@@ -19,6 +19,11 @@ public:
     const Ref<GXCaloriesFormatter>& caloriesFormatter();
     /// Stores only.
     void setCaloriesFormatter(Ref<GXCaloriesFormatter> formatter) { caloriesFormatter_ = std::move(formatter); }
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Calories; }
 
 private:
     void initGXCaloriesPickerView();

@@ -262,4 +262,28 @@ void GXDistancePickerView::selectCurrentMiles() {
     selectRow_inComponent(pickerView(), rowOfDigit(100.0, isFirstTenth), hundredthsComponent);
 }
 
+// Answers to a screen reader
+
+std::optional<GXSpokenName> GXDistancePickerView::spokenPartOfComponent(NSInteger component) {
+    switch (component) {
+    case wholeComponent:
+        return distanceFormatter()->metric() ? GXSpokenName::Kilometres : GXSpokenName::Miles;
+    case tenthsComponent:
+        return GXSpokenName::Tenths;
+    case hundredthsComponent:
+        return GXSpokenName::Hundredths;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<std::string> GXDistancePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                                  NSInteger component) {
+    const SpokenRow at = {row, component};
+    std::string digits = spokenTitle(tenthsComponent, at);
+    if (numberOfFractionUnits_ > 1) digits += spokenTitle(hundredthsComponent, at);
+    return spokenQuantity(spokenNumber(wholeComponent, std::move(digits), at),
+                          distanceFormatter()->metric() ? GXSpokenUnit::Kilometre : GXSpokenUnit::Mile);
+}
+
 } // namespace gx

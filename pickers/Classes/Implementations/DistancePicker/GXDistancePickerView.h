@@ -61,6 +61,12 @@ public:
     CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
     /// Reads the number that the wheel shows from its titles.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Distance; }
+    std::optional<GXSpokenName> spokenPartOfComponent(NSInteger component) override;
 
 private:
     void initGXDistancePickerView();

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "GXLocalization.h"
+#include "GXTitleReading.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 
@@ -337,6 +338,39 @@ void GXDurationPickerView::selectMinutesAndSeconds(NSInteger milliseconds) {
     std::int32_t seconds = secondsFromMilliseconds(milliseconds);
     if (isOnMinimum(firstComponent)) seconds = wrappingSubtract(seconds, minValueForComponent(secondComponent));
     selectRowOfUnit(seconds, secondComponent);
+}
+
+// Answers to a screen reader
+
+std::optional<GXSpokenName> GXDurationPickerView::spokenPartOfComponent(NSInteger component) {
+    const std::optional<Unit> unit = holdsValues(component) ? unitOfComponent(component) : std::nullopt;
+    if (!unit) return std::nullopt;
+    switch (*unit) {
+    case Unit::Hours:
+        return GXSpokenName::Hours;
+    case Unit::Minutes:
+        return GXSpokenName::Minutes;
+    case Unit::Seconds:
+        return GXSpokenName::Seconds;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> GXDurationPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                                  NSInteger component) {
+    const auto number = [this, row, component](NSInteger column) { return integerValueOfTitle(spokenTitle(column, {row, component})); };
+    switch (type_) {
+    case GXDurationTypeHoursMinutes:
+        return spokenSum({{number(firstComponent), GXSpokenUnit::Hour}, {number(secondComponent), GXSpokenUnit::Minute}});
+    case GXDurationTypeHoursMinutesSeconds:
+        return spokenSum({{number(firstComponent), GXSpokenUnit::Hour},
+                          {number(secondComponent), GXSpokenUnit::Minute},
+                          {number(thirdComponent), GXSpokenUnit::Second}});
+    case GXDurationTypeMinutesSeconds:
+        return spokenSum({{number(firstComponent), GXSpokenUnit::Minute}, {number(secondComponent), GXSpokenUnit::Second}});
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace gx

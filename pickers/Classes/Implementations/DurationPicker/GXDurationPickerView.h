@@ -75,6 +75,12 @@ public:
                                                                    NSInteger component) override;
     CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Duration; }
+    std::optional<GXSpokenName> spokenPartOfComponent(NSInteger component) override;
 
 private:
     enum class Unit { Hours, Minutes, Seconds };

@@ -164,4 +164,20 @@ void GXHeartRatePickerView::informDelegateOfRate(const NSNumber& rate, NSInteger
     }
 }
 
+// Answers to a screen reader
+
+std::optional<std::string> GXHeartRatePickerView::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) {
+    const bool isAverage = component == averageColumn;
+    if (const std::optional<std::string> own = accessibilityLabel()) {
+        return spokenLabel(own, std::nullopt, isAverage ? GXSpokenName::Average : GXSpokenName::Maximum);
+    }
+    return spokenLabel(std::nullopt, isAverage ? GXSpokenName::AverageHeartRate : GXSpokenName::MaximumHeartRate, std::nullopt);
+}
+
+std::optional<std::string> GXHeartRatePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                                   NSInteger component) {
+    if (row == 0 && shouldShowNullValue_) return spokenLabel(std::nullopt, GXSpokenName::NoValue, std::nullopt);
+    return spokenQuantity({spokenTitle(component, {row, component}), {}, {}}, GXSpokenUnit::BeatPerMinute);
+}
+
 } // namespace gx

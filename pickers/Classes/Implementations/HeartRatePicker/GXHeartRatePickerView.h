@@ -53,6 +53,11 @@ public:
     /// Stores the rate, makes room for the gap and tells the delegate both rates: the maximum as component 1, then the average as component
     /// 0. A row of the spacer does nothing.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
+    /// Each column is a measurement of its own, unless the application gives both one name.
+    std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    /// The rate of the column alone.
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
 
 private:
     void initGXHeartRatePickerView();

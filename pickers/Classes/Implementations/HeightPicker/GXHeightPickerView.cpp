@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "GXLocalization.h"
+#include "GXSpeech.h"
 #include "NSArithmetic.h"
 
 namespace gx {
@@ -198,6 +199,32 @@ void GXHeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerV
         calculatePickerValues();
     }
     recalculateHeight();
+}
+
+// Answers to a screen reader
+
+std::optional<std::string> GXHeightPickerView::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) {
+    const auto partOf = [](Column column) {
+        switch (column) {
+        case Column::Centimetres:
+            return GXSpokenName::Centimetres;
+        case Column::Feet:
+            return GXSpokenName::Feet;
+        case Column::Inches:
+            return GXSpokenName::Inches;
+        case Column::Unit:
+            break;
+        }
+        return GXSpokenName::Unit;
+    };
+    return spokenLabel(accessibilityLabel(), GXSpokenName::Height, partOf(columnOf(component)));
+}
+
+std::optional<std::string> GXHeightPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                                NSInteger component) {
+    const auto rowOf = [this, row, component](NSInteger column) { return column == component ? row : selectedRowInComponent(column); };
+    if (isMetric_) return spokenSum({{wrappingAdd(rowOf(0), lowestCentimetres), GXSpokenUnit::Centimetre}});
+    return spokenSum({{wrappingAdd(rowOf(0), lowestFeet), GXSpokenUnit::Foot}, {rowOf(1), GXSpokenUnit::Inch}});
 }
 
 } // namespace gx

@@ -67,6 +67,14 @@ public:
     /// Switches the unit, if its column was turned, and then takes the height of the rows.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
 
+    /// "Height, centimetres", in the words of the shared localiser; the picker's own `accessibilityLabel`, if one was set, instead of
+    /// "Height".
+    std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    /// The whole height, such as "5 feet 9 inches": as the wheel reports it, but for the component, which stands on `row`. On the column
+    /// of the unit, it is the height in the unit shown.
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
 private:
     /// What a column shows. The unit column comes after those of the values, and so does every column that does not exist.
     enum class Column { Centimetres, Feet, Inches, Unit };

@@ -62,4 +62,12 @@ Ref<UIView> GXIconPickerView::pickerView_viewForRow_forComponent_reusingView(con
     return imageView;
 }
 
+// Answers to a screen reader
+
+std::optional<std::string> GXIconPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                              NSInteger) {
+    const Ref<UIImage> image = imageOfRow(row);
+    return image ? image->accessibilityLabel() : std::nullopt;
+}
+
 } // namespace gx

@@ -38,6 +38,12 @@ public:
     /// An image view that keeps the image's shape; the one offered, if it is one.
     Ref<UIView> pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component,
                                                                const Ref<UIView>& view) override;
+    /// What the image's own label says; nothing for one without.
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Icon; }
 
 private:
     void initGXIconPickerView();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "GXLocalization.h"
+#include "GXTitleReading.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 
@@ -202,6 +203,27 @@ void GXPacePickerView::selectCurrentValue() {
     const std::int32_t firstSecond = current.minutes == minimum.minutes ? minimum.seconds : 0;
     const std::int32_t secondsRow = quotient(wrappingSubtract(current.seconds, firstSecond), secondsStepSize_);
     selectRow_inComponent(pickerView(), std::max(secondsRow, 0), secondsComponent);
+}
+
+// Answers to a screen reader
+
+std::optional<GXSpokenName> GXPacePickerView::spokenPartOfComponent(NSInteger component) {
+    switch (component) {
+    case minutesComponent:
+        return GXSpokenName::Minutes;
+    case secondsComponent:
+        return GXSpokenName::Seconds;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<std::string> GXPacePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                              NSInteger component) {
+    const SpokenRow at = {row, component};
+    const auto time = spokenSum({{integerValueOfTitle(spokenTitle(minutesComponent, at)), GXSpokenUnit::Minute},
+                                 {integerValueOfTitle(spokenTitle(secondsComponent, at)), GXSpokenUnit::Second}});
+    return spokenPattern(isMetric() ? GXSpokenName::PerKilometre : GXSpokenName::PerMile, time);
 }
 
 } // namespace gx

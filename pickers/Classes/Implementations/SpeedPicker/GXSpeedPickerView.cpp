@@ -212,4 +212,24 @@ void GXSpeedPickerView::selectCurrentValue() {
     selectRow_inComponent(pickerView(), tenthsRow, tenthsComponent);
 }
 
+// Answers to a screen reader
+
+std::optional<GXSpokenName> GXSpeedPickerView::spokenPartOfComponent(NSInteger component) {
+    switch (component) {
+    case wholeComponent:
+        return isMetric() ? GXSpokenName::KilometresPerHour : GXSpokenName::MilesPerHour;
+    case tenthsComponent:
+        return GXSpokenName::Tenths;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<std::string> GXSpeedPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                               NSInteger component) {
+    const SpokenRow at = {row, component};
+    return spokenQuantity(spokenNumber(wholeComponent, spokenTitle(tenthsComponent, at), at),
+                          isMetric() ? GXSpokenUnit::KilometrePerHour : GXSpokenUnit::MilePerHour);
+}
+
 } // namespace gx

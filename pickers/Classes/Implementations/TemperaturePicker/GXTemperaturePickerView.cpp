@@ -97,4 +97,12 @@ void GXTemperaturePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPi
     informDelegateOfValueChange();
 }
 
+// Answers to a screen reader
+
+std::optional<std::string> GXTemperaturePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&,
+                                                                                                     NSInteger row, NSInteger component) {
+    return spokenQuantity({spokenTitle(component, {row, component}), {}, {}},
+                          isMetric() ? GXSpokenUnit::DegreeCelsius : GXSpokenUnit::DegreeFahrenheit);
+}
+
 } // namespace gx

@@ -37,6 +37,11 @@ public:
                                                                    NSInteger component) override;
     /// Stores the row's temperature, its fraction in Fahrenheit included, selects it and informs the delegate in degrees Celsius.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Temperature; }
 
 private:
     void initGXTemperaturePickerView();

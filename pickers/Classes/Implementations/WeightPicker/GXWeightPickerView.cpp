@@ -77,6 +77,18 @@ std::optional<std::string> nameOfUnit(GXWeightUnit unit) {
     }
 }
 
+// A unit that is none of the three is shown like stones.
+
+GXSpokenUnit spokenUnit(GXWeightUnit unit) {
+    if (unit == GXWeightUnitKilogram) return GXSpokenUnit::Kilogram;
+    return unit == GXWeightUnitPound ? GXSpokenUnit::Pound : GXSpokenUnit::Stone;
+}
+
+GXSpokenName spokenNameOfUnit(GXWeightUnit unit) {
+    if (unit == GXWeightUnitKilogram) return GXSpokenName::Kilograms;
+    return unit == GXWeightUnitPound ? GXSpokenName::Pounds : GXSpokenName::Stones;
+}
+
 bool isKnown(GXWeightUnit unit) { return unit <= GXWeightUnitStone; }
 
 GXWeightUnit unitOfRow(NSInteger row) {
@@ -239,6 +251,28 @@ void GXWeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerV
         break;
     }
     informDelegateOfValueChange();
+}
+
+// Answers to a screen reader
+
+std::optional<GXSpokenName> GXWeightPickerView::spokenPartOfComponent(NSInteger component) {
+    switch (component) {
+    case wholeColumn:
+        return spokenNameOfUnit(weightUnit_);
+    case tenthsColumn:
+        return GXSpokenName::Tenths;
+    case unitColumn:
+        return GXSpokenName::Unit;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<std::string> GXWeightPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                                NSInteger component) {
+    const SpokenRow at = {row, component};
+    const GXWeightUnit unit = component == unitColumn ? unitOfRow(row) : weightUnit_;
+    return spokenQuantity(spokenNumber(wholeColumn, spokenTitle(tenthsColumn, at), at), spokenUnit(unit));
 }
 
 } // namespace gx

@@ -53,6 +53,12 @@ public:
     /// Stores the weight that the wheel now shows, or changes the unit, which leaves the stored kilograms alone; then informs the delegate,
     /// whatever the column.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                                NSInteger component) override;
+
+protected:
+    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Weight; }
+    std::optional<GXSpokenName> spokenPartOfComponent(NSInteger component) override;
 
 private:
     void initGXWeightPickerView();

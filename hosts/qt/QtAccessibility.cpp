@@ -1,0 +1,216 @@
+#include "QtAccessibility.h"
+
+#include <algorithm>
+
+#include "UIViewWidget.h"
+
+namespace gx::qt {
+
+namespace {
+
+QString textOf(const std::optional<std::string>& text) { return text ? QString::fromStdString(*text) : QString(); }
+
+bool areSame(const UIAccessibilityElements& one, const UIAccessibilityElements& other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [](const auto& a, const auto& b) { return a->isSameAs(*b); });
+}
+
+/// One element of a widget's views.
+class QtAccessibleElement : public QAccessibleInterface, public QAccessibleValueInterface, public QAccessibleActionInterface {
+public:
+    QtAccessibleElement(UIViewWidget* widget, Ref<UIAccessibilityElement> element) : widget_(widget), element_(std::move(element)) {}
+
+    bool isSameAs(const UIAccessibilityElement& element) const { return element_->isSameAs(element); }
+
+    bool isValid() const override {
+        const Ref<UIView> view = element_->view();
+        return widget_ && view && view->window() == widget_->uiWindow() && element_->exists();
+    }
+    QObject* object() const override { return nullptr; }
+    QAccessibleInterface* parent() const override { return widget_ ? QAccessible::queryAccessibleInterface(widget_.data()) : nullptr; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+
+    QAccessible::Role role() const override {
+        switch (element_->role()) {
+        case UIAccessibilityRole::Adjustable:
+            return QAccessible::SpinBox;
+        case UIAccessibilityRole::Button:
+            return QAccessible::Button;
+        case UIAccessibilityRole::Image:
+            return QAccessible::Graphic;
+        case UIAccessibilityRole::Text:
+            break;
+        }
+        return QAccessible::StaticText;
+    }
+    QString text(QAccessible::Text kind) const override {
+        if (!isValid()) return {};
+        if (kind == QAccessible::Name) return textOf(element_->label());
+        return kind == QAccessible::Value ? textOf(element_->value()) : QString();
+    }
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override {
+        if (!isValid()) return {};
+        const CGRect area = element_->frame();
+        const QRect inWidget = QRectF(area.origin.x, area.origin.y, area.size.width, area.size.height).toAlignedRect();
+        return {widget_->mapToGlobal(inWidget.topLeft()), inWidget.size()};
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        if (!isValid()) {
+            state.invalid = true;
+            return state;
+        }
+        const bool takesOrders = !actionNames().isEmpty();
+        state.disabled = !widget_->isEnabled() || (takesOrders && !element_->isEnabled());
+        state.invisible = !widget_->isVisible();
+        state.offscreen = !rect().intersects(QRect(widget_->mapToGlobal(QPoint()), widget_->size()));
+        state.readOnly = !takesOrders;
+        return state;
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        const bool isAdjustable = element_->role() == UIAccessibilityRole::Adjustable;
+        if (type == QAccessible::ValueInterface && isAdjustable) return static_cast<QAccessibleValueInterface*>(this);
+        if (type == QAccessible::ActionInterface && !actionNames().isEmpty()) return static_cast<QAccessibleActionInterface*>(this);
+        return nullptr;
+    }
+
+    // The value is the row.
+
+    QVariant currentValue() const override { return isValid() ? QVariant(rowOf(element_->index().value_or(0))) : QVariant(); }
+    void setCurrentValue(const QVariant& value) override {
+        bool isNumber = false;
+        const NSInteger row = value.toLongLong(&isNumber);
+        if (isNumber && takesOrders()) Ref<UIAccessibilityElement>(element_)->setIndex(row);
+    }
+    QVariant minimumValue() const override { return isValid() ? QVariant(rowOf(0)) : QVariant(); }
+    QVariant maximumValue() const override { return isValid() ? QVariant(rowOf(element_->count() - 1)) : QVariant(); }
+    QVariant minimumStepSize() const override { return rowOf(1); }
+
+    QStringList actionNames() const override {
+        switch (element_->role()) {
+        case UIAccessibilityRole::Adjustable:
+            return {increaseAction(), decreaseAction()};
+        case UIAccessibilityRole::Button:
+            return {pressAction()};
+        default:
+            return {};
+        }
+    }
+    void doAction(const QString& name) override {
+        if (!takesOrders() || !actionNames().contains(name)) return;
+        // What is told of it may drop the widget, and with that this interface.
+        const Ref<UIAccessibilityElement> element = element_;
+        if (name == increaseAction()) {
+            element->increment();
+        } else if (name == decreaseAction()) {
+            element->decrement();
+        } else {
+            element->activateAtTime(widget_->now());
+        }
+    }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+private:
+    static qlonglong rowOf(NSInteger row) { return row; }
+    bool takesOrders() const { return isValid() && widget_->isEnabled(); }
+
+    QPointer<UIViewWidget> widget_;
+    Ref<UIAccessibilityElement> element_;
+};
+
+} // namespace
+
+QtAccessibleView::QtAccessibleView(UIViewWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+
+QtAccessibleView::~QtAccessibleView() {
+    for (const Known& known : known_) QAccessible::deleteAccessibleInterface(known.identifier);
+}
+
+UIViewWidget* QtAccessibleView::view() const { return dynamic_cast<UIViewWidget*>(object()); }
+
+UIAccessibilityElements QtAccessibleView::elements() const {
+    const UIViewWidget* const widget = view();
+    if (!widget) return {};
+    const Ref<UIWindow> window = widget->uiWindow(); // Who is asked may drop the widget.
+    return window->accessibilityElements();
+}
+
+void QtAccessibleView::forgetViewsThatAreGone() const {
+    std::erase_if(known_, [](const Known& known) {
+        if (known.element->view()) return false;
+        QAccessible::deleteAccessibleInterface(known.identifier);
+        return true;
+    });
+}
+
+QtAccessibleView::Known& QtAccessibleView::knownFor(const Ref<UIAccessibilityElement>& element) const {
+    const auto entry =
+        std::find_if(known_.begin(), known_.end(), [&element](const Known& known) { return known.element->isSameAs(*element); });
+    if (entry != known_.end()) return *entry;
+    forgetViewsThatAreGone();
+    auto* const made = new QtAccessibleElement(view(), element); // Qt's from here on.
+    known_.push_back({element, QAccessible::registerAccessibleInterface(made), textOf(element->value())});
+    return known_.back();
+}
+
+int QtAccessibleView::childCount() const { return static_cast<int>(elements().size()); }
+
+QAccessibleInterface* QtAccessibleView::child(int index) const {
+    const UIAccessibilityElements elements = this->elements();
+    if (index < 0 || static_cast<std::size_t>(index) >= elements.size() || !view()) return nullptr;
+    return QAccessible::accessibleInterface(knownFor(elements[static_cast<std::size_t>(index)]).identifier);
+}
+
+int QtAccessibleView::indexOfChild(const QAccessibleInterface* child) const {
+    const auto* const asked = dynamic_cast<const QtAccessibleElement*>(child);
+    if (!asked) return -1;
+    const UIAccessibilityElements elements = this->elements();
+    const auto entry = std::find_if(elements.begin(), elements.end(), [asked](const auto& element) { return asked->isSameAs(*element); });
+    return entry == elements.end() ? -1 : static_cast<int>(entry - elements.begin());
+}
+
+QAccessibleInterface* QtAccessibleView::childAt(int x, int y) const {
+    // What is read last lies on top.
+    for (int i = childCount(); i-- > 0;) {
+        QAccessibleInterface* const found = child(i);
+        if (found && found->rect().contains(x, y)) return found;
+    }
+    return nullptr;
+}
+
+void QtAccessibleView::announceChanges(Sender send) {
+    const QPointer<QObject> widget = object();
+    const UIAccessibilityElements present = elements();
+    if (!widget) return;
+    if (!areSame(present, announced_)) {
+        announced_ = present;
+        QAccessibleEvent event(this, QAccessible::ObjectReorder);
+        send(&event);
+    }
+    for (const Ref<UIAccessibilityElement>& element : present) {
+        if (element->role() != UIAccessibilityRole::Adjustable) continue;
+        const QString value = textOf(element->value());
+        if (!widget) return; // Who was told or asked has dropped it, and this with it.
+        Known& known = knownFor(element);
+        if (known.value == value) continue;
+        known.value = value;
+        QAccessibleValueChangeEvent event(QAccessible::accessibleInterface(known.identifier), value);
+        send(&event);
+        if (!widget) return;
+    }
+}
+
+QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
+    auto* const widget = dynamic_cast<UIViewWidget*>(object);
+    return widget ? new QtAccessibleView(widget) : nullptr;
+}
+
+void announceAccessibilityChanges(UIViewWidget& widget) {
+    if (!QAccessible::isActive()) return;
+    if (auto* const view = dynamic_cast<QtAccessibleView*>(QAccessible::queryAccessibleInterface(&widget))) view->announceChanges();
+}
+
+} // namespace gx::qt

@@ -1,0 +1,234 @@
+// What a screen reader finds in a wheel, and what its orders turn.
+
+#include "TestWindow.h"
+#include "UILabel.h"
+#include "WheelSource.h"
+
+using namespace gx;
+using Notices = std::vector<WheelSource::Notice>;
+
+namespace {
+
+/// Also answers what a screen reader asks.
+class SpeakingSource : public WheelSource {
+public:
+    std::optional<std::string> name;
+    std::optional<std::string> value;
+    Ref<UIView> view;
+
+    std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) override {
+        return name ? std::optional(*name + " " + std::to_string(component)) : std::nullopt;
+    }
+    std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
+                                                                                NSInteger component) override {
+        return value ? std::optional(*value + " " + std::to_string(row) + " of " + std::to_string(component)) : std::nullopt;
+    }
+    Ref<UIView> pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>&, NSInteger row, NSInteger,
+                                                               const Ref<UIView>&) override {
+        return row == 10 ? view : nullptr;
+    }
+};
+
+struct WheelAccessibility : testing::Test {
+    Ref<SpeakingSource> source = create<SpeakingSource>();
+    Ref<UIPickerView> wheel = wheelWithSource(source);
+
+    Ref<UIAccessibilityElement> element(std::size_t index = 0) {
+        const UIAccessibilityElements elements = wheel->accessibilityElements();
+        EXPECT_LT(index, elements.size());
+        return index < elements.size() ? elements[index] : nullptr;
+    }
+    std::vector<NSInteger> parts() {
+        std::vector<NSInteger> parts;
+        for (const auto& each : wheel->accessibilityElements()) parts.push_back(each->part());
+        return parts;
+    }
+};
+
+struct WheelAccessibilityInWindow : WheelAccessibility {
+    TestWindow window{wheel};
+};
+
+} // namespace
+
+TEST_F(WheelAccessibility, EachColumnThatCanBeTurnedIsOneElement) {
+    // The second has one row, the third none, the fourth rows without titles: nothing to turn.
+    source->rows = {100, 1, 0, 5, 2};
+    source->title = [](NSInteger row, NSInteger component) { return component == 3 ? std::nullopt : std::optional(std::to_string(row)); };
+    wheel->reloadAllComponents();
+    EXPECT_EQ(parts(), (std::vector<NSInteger>{0, 4}));
+    EXPECT_EQ(element()->role(), UIAccessibilityRole::Adjustable);
+    EXPECT_EQ(element()->count(), 100);
+    EXPECT_EQ(element(1)->count(), 2);
+}
+
+TEST_F(WheelAccessibility, NothingElseInTheWheelIsRead) {
+    const auto unit = create<UILabel>(CGRectMake(0, 0, 50, 20));
+    unit->setText("km");
+    wheel->addSubview(unit);
+    EXPECT_EQ(parts(), std::vector<NSInteger>{0});
+}
+
+TEST_F(WheelAccessibility, AnEmptyWheelHasNoElements) {
+    wheel->setFrame({});
+    EXPECT_EQ(parts(), std::vector<NSInteger>{});
+    EXPECT_TRUE(create<UIPickerView>(CGRectMake(0, 0, 320, 216))->accessibilityElements().empty());
+}
+
+TEST_F(WheelAccessibility, TheWheelsLabelNamesAColumnThatTheDelegateDoesNot) {
+    EXPECT_EQ(element()->label(), std::nullopt);
+    wheel->setAccessibilityLabel("Number");
+    EXPECT_EQ(element()->label(), "Number");
+    source->name = "Column";
+    EXPECT_EQ(element()->label(), "Column 0");
+}
+
+TEST_F(WheelAccessibility, TheValueIsTheDelegatesOrElseTheRowsTitle) {
+    wheel->selectRow_inComponent_animated(42, 0, false);
+    EXPECT_EQ(element()->value(), "42");
+    EXPECT_EQ(element()->index(), 42);
+    source->value = "row";
+    EXPECT_EQ(element()->value(), "row 42 of 0");
+}
+
+TEST_F(WheelAccessibility, OfARowsViewItIsWhatThereIsToBeRead) {
+    const auto view = create<UIView>();
+    for (const char* text : {"partly", "cloudy"}) {
+        const auto label = create<UILabel>(CGRectMake(0, 0, 50, 20));
+        label->setText(text);
+        view->addSubview(label);
+    }
+    source->view = view;
+    wheel->selectRow_inComponent_animated(10, 0, false);
+    EXPECT_EQ(element()->value(), "partly, cloudy");
+}
+
+TEST_F(WheelAccessibilityInWindow, ARowThatIsOutOfSightIsReadByItsTitle) {
+    window.fling({160, 190}, {160, 20}, 3);
+    window.run(0.3);
+    ASSERT_FALSE(wheel->viewForRow_forComponent(0, 0)) << "it should have spun further";
+    EXPECT_EQ(element()->value(), "0") << "the row reported";
+    EXPECT_EQ(element()->index(), 0);
+    window.runUntilStill();
+}
+
+TEST_F(WheelAccessibilityInWindow, AColumnsFrameIsItsStrip) { EXPECT_EQ(element()->frame(), CGRectMake(120, 0, 80, 216)); }
+
+TEST_F(WheelAccessibilityInWindow, AnIncrementTurnsByOneRowAndIsReportedOnceAtRest) {
+    wheel->selectRow_inComponent_animated(10, 0, false);
+    element()->increment();
+    window.tick(TestWindow::frame);
+    EXPECT_EQ(source->notices, Notices{}) << "not before it rests";
+    EXPECT_EQ(element()->index(), 10);
+    EXPECT_TRUE(wheel->isTurning());
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{11, 0}}));
+    EXPECT_EQ(element()->index(), 11);
+    element()->decrement();
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{11, 0}, {10, 0}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, QuickIncrementsAddUpToOneReport) {
+    wheel->selectRow_inComponent_animated(10, 0, false);
+    for (int i = 0; i < 3; ++i) {
+        element()->increment();
+        window.tick(TestWindow::frame);
+    }
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{13, 0}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, AnIncrementIsWholeWhateverPartOfANotchIsWaiting) {
+    wheel->selectRow_inComponent_animated(10, 0, false);
+    window.scrollNotches({160, 108}, -0.5);
+    element()->increment();
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{11, 0}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, AtTheEndsNothingTurnsAndNothingIsReported) {
+    element()->decrement();
+    window.runUntilStill();
+    wheel->selectRow_inComponent_animated(99, 0, false);
+    element()->increment();
+    EXPECT_FALSE(wheel->isTurning());
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(element()->index(), 99);
+    wheel->selectRow_inComponent_animated(98, 0, false);
+    element()->increment();
+    element()->increment();
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{99, 0}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, AnIndexIsTurnedToHeldToTheRows) {
+    element()->setIndex(57);
+    window.runUntilStill();
+    element()->setIndex(57);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{57, 0}})) << "it stands there already";
+    element()->setIndex(100);
+    window.runUntilStill();
+    element()->setIndex(-1);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{57, 0}, {99, 0}, {0, 0}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, AFingerOnTheColumnGoesBefore) {
+    window.down({160, 108});
+    element()->increment();
+    window.up({160, 108});
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(element()->index(), 0);
+}
+
+TEST_F(WheelAccessibility, WithoutAWindowATurnArrivesAtOnce) {
+    element()->increment();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+    element()->setIndex(5);
+    EXPECT_EQ(source->notices, (Notices{{1, 0}, {5, 0}}));
+    EXPECT_EQ(element()->index(), 5);
+}
+
+TEST_F(WheelAccessibility, AWheelThatTakesNoTouchesTakesNoOrders) {
+    wheel->setUserInteractionEnabled(false);
+    EXPECT_FALSE(element()->isEnabled());
+    element()->increment();
+    EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(WheelAccessibility, AColumnThatAReloadTakesAwayIsGoneUntilItComesBack) {
+    source->rows = {100, 100};
+    wheel->reloadAllComponents();
+    const auto second = element(1);
+    EXPECT_TRUE(second->exists());
+    source->rows = {100};
+    wheel->reloadAllComponents();
+    EXPECT_FALSE(second->exists());
+    EXPECT_EQ(second->label(), std::nullopt);
+    EXPECT_EQ(second->value(), std::nullopt);
+    EXPECT_EQ(second->index(), std::nullopt);
+    EXPECT_EQ(second->count(), 0);
+    EXPECT_TRUE(CGRectIsNull(second->frame()));
+    second->increment();
+    second->setIndex(3);
+    EXPECT_EQ(source->notices, Notices{});
+    source->rows = {100, 7};
+    wheel->reloadAllComponents();
+    EXPECT_TRUE(second->exists());
+    EXPECT_EQ(second->count(), 7);
+}
+
+TEST_F(WheelAccessibility, WhoIsToldOfATurnMayDropTheWheel) {
+    const auto column = element();
+    source->whenTold = [this](NSInteger, NSInteger) { wheel.reset(); };
+    column->increment();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+    EXPECT_FALSE(wheel);
+    EXPECT_FALSE(column->exists());
+    column->increment();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}

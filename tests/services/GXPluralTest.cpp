@@ -1,0 +1,107 @@
+#include "GXPlural.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+namespace gx {
+namespace {
+
+constexpr GXPluralCategory one = GXPluralCategory::One;
+constexpr GXPluralCategory few = GXPluralCategory::Few;
+constexpr GXPluralCategory many = GXPluralCategory::Many;
+constexpr GXPluralCategory other = GXPluralCategory::Other;
+
+struct Case {
+    const char* whole;
+    const char* fraction;
+    GXPluralCategory category;
+};
+
+void expectCategories(std::initializer_list<const char*> languages, std::initializer_list<Case> cases) {
+    for (const char* language : languages) {
+        for (const Case& example : cases) {
+            EXPECT_EQ(pluralCategoryOfNumber(language, example.whole, example.fraction), example.category)
+                << language << " " << example.whole << " " << example.fraction;
+        }
+    }
+}
+
+TEST(GXPlural, OneIsTheWholeNumberAlone) {
+    expectCategories({"en", "de", "nl", "it"}, {{"0", "", other},
+                                                {"1", "", one},
+                                                {"2", "", other},
+                                                {"11", "", other},
+                                                {"21", "", other},
+                                                {"101", "", other},
+                                                {"1", "0", other},
+                                                {"1", "5", other},
+                                                {"0", "1", other}});
+}
+
+TEST(GXPlural, InFrenchAndPortugueseOneGoesUpToTwo) {
+    expectCategories(
+        {"fr", "pt"},
+        {{"0", "", one}, {"0", "9", one}, {"1", "", one}, {"1", "9", one}, {"2", "", other}, {"2", "0", other}, {"101", "", other}});
+}
+
+TEST(GXPlural, InSpanishOneMayHaveZerosBehindIt) {
+    expectCategories({"es"}, {{"0", "", other}, {"1", "", one}, {"1", "00", one}, {"1", "01", other}, {"2", "0", other}});
+}
+
+TEST(GXPlural, InPolishOneIsOneAndTheTensTakeMany) {
+    expectCategories({"pl"}, {{"0", "", many},
+                              {"1", "", one},
+                              {"2", "", few},
+                              {"4", "", few},
+                              {"5", "", many},
+                              {"11", "", many},
+                              {"12", "", many},
+                              {"14", "", many},
+                              {"21", "", many},
+                              {"22", "", few},
+                              {"24", "", few},
+                              {"25", "", many},
+                              {"101", "", many},
+                              {"112", "", many},
+                              {"122", "", few},
+                              {"1011", "", many},
+                              {"1", "0", other},
+                              {"5", "3", other}});
+}
+
+TEST(GXPlural, InRussianEveryTenBeginsWithOne) {
+    expectCategories({"ru"}, {{"0", "", many},
+                              {"1", "", one},
+                              {"2", "", few},
+                              {"4", "", few},
+                              {"5", "", many},
+                              {"11", "", many},
+                              {"14", "", many},
+                              {"15", "", many},
+                              {"21", "", one},
+                              {"22", "", few},
+                              {"25", "", many},
+                              {"101", "", one},
+                              {"111", "", many},
+                              {"1001", "", one},
+                              {"99999999999999999999911", "", many},
+                              {"1", "0", other},
+                              {"5", "3", other}});
+}
+
+TEST(GXPlural, LanguagesWhoseUnitsStayAsTheyAreKnowOneCategory) {
+    expectCategories({"ja", "zh-Hans", "ko", "tr"}, {{"0", "", other}, {"1", "", other}, {"2", "", other}, {"1", "5", other}});
+}
+
+TEST(GXPlural, ASignCountsForNothingAndWhatIsNoNumberIsOther) {
+    expectCategories({"en"}, {{"-1", "", one}, {"+1", "", one}, {"-2", "", other}, {"", "", other}, {"-", "", other}, {"one", "", other}});
+    expectCategories({"ru"}, {{"-2", "", few}, {"2 ", "", other}, {"", "1", other}});
+}
+
+TEST(GXPlural, AnUnknownLanguageIsCountedAsInEnglish) {
+    expectCategories({"sv", "", "EN"}, {{"0", "", other}, {"1", "", one}, {"1", "0", other}});
+}
+
+} // namespace
+} // namespace gx
