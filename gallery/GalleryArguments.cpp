@@ -1,6 +1,11 @@
 #include "GalleryArguments.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
+#include <string_view>
+
+#include "GXStyleSheet.h"
 
 using namespace gx;
 
@@ -38,6 +43,23 @@ std::optional<double> scale(const std::string& text) {
     return *value;
 }
 
+/// A number with up to one digit after the point, within the style sheet's limits.
+std::optional<double> textScale(const std::string& text) {
+    const std::size_t point = text.find('.');
+    const auto whole = wholeNumber(text.substr(0, point));
+    const auto tenths = point == std::string::npos ? 0 : wholeNumber(text.substr(point + 1));
+    if (!whole || !tenths || *tenths > 9 || (point != std::string::npos && text.size() != point + 2)) return std::nullopt;
+    const double value = (*whole * 10 + *tenths) / 10.0;
+    if (value < GXStyleSheet::minTextScale || value > GXStyleSheet::maxTextScale) return std::nullopt;
+    return value;
+}
+
+bool isOption(const std::string& word) {
+    constexpr std::array<std::string_view, 7> options = {"--shots", "--size",       "--scale",   "--locale",
+                                                         "--page",  "--text-scale", "--contrast"};
+    return std::find(options.begin(), options.end(), word) != options.end();
+}
+
 } // namespace
 
 std::optional<GalleryArguments> GalleryArguments::parse(const std::vector<std::string>& arguments, std::string& error) {
@@ -48,8 +70,7 @@ std::optional<GalleryArguments> GalleryArguments::parse(const std::vector<std::s
             parsed.showsHelp = true;
             continue;
         }
-        const bool isKnown = option == "--shots" || option == "--size" || option == "--scale" || option == "--locale" || option == "--page";
-        if (!isKnown) {
+        if (!isOption(option)) {
             error = "unknown option " + option;
             return std::nullopt;
         }
@@ -73,6 +94,21 @@ std::optional<GalleryArguments> GalleryArguments::parse(const std::vector<std::s
             }
             parsed.scale = *pixels;
         }
+        if (option == "--text-scale") {
+            const auto textScale = gallery::textScale(value);
+            if (!textScale) {
+                error = "--text-scale is 0.8 to 3, such as 1.3, and not " + value;
+                return std::nullopt;
+            }
+            parsed.textScale = *textScale;
+        }
+        if (option == "--contrast") {
+            if (value != "normal" && value != "high") {
+                error = "--contrast is normal or high, and not " + value;
+                return std::nullopt;
+            }
+            parsed.isContrastHigh = value == "high";
+        }
     }
     return parsed;
 }
@@ -86,6 +122,8 @@ std::string GalleryArguments::usage() {
            "  --size WxH     of the window, or of each picture, in points; pictures are as high as they need to be unless told\n"
            "  --scale N      pixels for each point of a picture, 1 to 4; 2 unless told\n"
            "  --locale NAME  decimal separator and language of the pickers, such as de or fr_CH; the system's unless told\n"
+           "  --text-scale N how large texts are, 0.8 to 3; 1 unless told\n"
+           "  --contrast C   of the colours, normal or high; normal unless told\n"
            "  --help         show this text\n";
 }
 

@@ -17,6 +17,9 @@ struct GalleryArguments {
     std::optional<gx::CGSize> size;
     /// Pixels for each point of a picture.
     double scale = 2;
+    /// Of the texts, within the style sheet's limits.
+    double textScale = 1;
+    bool isContrastHigh = false;
     /// Such as "de"; nothing follows the system.
     std::optional<std::string> locale;
     /// The name of the one page to show, in any case.

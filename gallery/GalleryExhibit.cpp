@@ -5,6 +5,7 @@
 #include "GXStyleSheet.h"
 #include "GalleryDelegate.h"
 #include "GalleryNumbers.h"
+#include "UITextEngine.h"
 
 using namespace gx;
 
@@ -12,9 +13,11 @@ namespace gallery {
 
 namespace {
 
+// From the wheel's edges to its band, and to a text in it, which wants some air.
+constexpr CGFloat bandInset = 8;
+constexpr CGFloat inset = 14;
+
 bool fitsIntoBand(const Ref<GXBasePickerView>& picker) {
-    // The band begins 8 points from the wheel's edges; a text wants some air within it.
-    constexpr CGFloat inset = 14;
     picker->layoutIfNeeded();
     const auto& wheel = picker->pickerView();
     const CGRect room = CGRectInset(wheel->bounds(), inset, 0);
@@ -23,6 +26,57 @@ bool fitsIntoBand(const Ref<GXBasePickerView>& picker) {
         return !label->showsSomething() || !isOutside;
     };
     return isInside(wheel->leftDescLabel()) && isInside(wheel->rightDescLabel());
+}
+
+/// Of all texts that differ from this one in their digits alone: digits need not be equally wide.
+CGFloat widestLike(std::string text, const Ref<UIFont>& font) {
+    UITextEngine& engine = *UITextEngine::shared();
+    char widest = '0';
+    CGFloat width = 0;
+    for (char digit = '0'; digit <= '9'; ++digit) {
+        const CGFloat digitWidth = engine.sizeOfText_font(std::string(1, digit), *font).width;
+        if (digitWidth <= width) continue;
+        widest = digit;
+        width = digitWidth;
+    }
+    std::replace_if(
+        text.begin(), text.end(), [](char letter) { return letter >= '0' && letter <= '9'; }, widest);
+    return engine.sizeOfText_font(text, *font).width;
+}
+
+/// Some columns are of one width whatever the font, so that a large one would have its titles cut.
+bool fitsIntoColumns(const Ref<GXBasePickerView>& picker) {
+    const auto& wheel = picker->pickerView();
+    const auto& custom = picker->customValueFont();
+    const Ref<UIFont> font = (custom ? custom : GXStyleSheet::globalStyleSheet()->pickerValueFont())->font();
+    for (NSInteger component = 0; component < wheel->numberOfComponents(); ++component) {
+        const CGFloat room = wheel->rowSizeForComponent(component).width;
+        // Numbers grow longer toward the last row, but for those below 0.
+        for (const NSInteger row : {NSInteger{0}, wheel->numberOfRowsInComponent(component) - 1}) {
+            const auto title = picker->pickerView_titleForRow_forComponent(wheel, row, component);
+            if (title && widestLike(*title, font) > room) return false;
+        }
+    }
+    return true;
+}
+
+bool fits(const Ref<GXBasePickerView>& picker) { return fitsIntoBand(picker) && fitsIntoColumns(picker); }
+
+/// The wheels of a composite overlap a little; there no label lies on another wheel's band.
+bool areLabelsApart(const std::vector<Ref<GXBasePickerView>>& pickers) {
+    const auto isOnBandOf = [](const Ref<UILabel>& label, const Ref<UIView>& wheel) {
+        const CGRect band = CGRectInset(wheel->bounds(), bandInset, 0);
+        return label->showsSomething() && CGRectIntersectsRect(wheel->convertRect_fromView(label->bounds(), label), band);
+    };
+    for (const Ref<GXBasePickerView>& picker : pickers) {
+        const auto& wheel = picker->pickerView();
+        for (const Ref<GXBasePickerView>& other : pickers) {
+            if (other == picker) continue;
+            if (isOnBandOf(wheel->leftDescLabel(), other->pickerView()) || isOnBandOf(wheel->rightDescLabel(), other->pickerView()))
+                return false;
+        }
+    }
+    return true;
 }
 
 Ref<GXStyleSheetFont> resized(const Ref<GXStyleSheetFont>& font, CGFloat size) {
@@ -51,7 +105,7 @@ void fitFonts(const Ref<GXBasePickerView>& picker) {
     };
     setFonts(nullptr, nullptr); // Nothing stands for the style sheet's.
     for (int size = static_cast<int>(values->pointSize()); size >= smallest; --size) {
-        if (std::all_of(pickers.begin(), pickers.end(), fitsIntoBand)) return;
+        if (std::all_of(pickers.begin(), pickers.end(), fits) && areLabelsApart(pickers)) return;
         setFonts(resized(values, size), resized(labels, size));
     }
 }

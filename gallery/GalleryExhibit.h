@@ -45,7 +45,8 @@ struct GalleryExhibit {
 GalleryExhibit exhibitOf(const gx::Ref<gx::GXBasePickerView>& picker, const GalleryReport& report, const std::string& unit,
                          std::function<std::string(const gx::NSNumber& value, gx::NSInteger component)> inWords);
 
-/// Gives a picker that has its frame the largest fonts, up to the style sheet's, with which the labels stand within the wheel's band.
+/// Gives a picker that has its frame the largest fonts, up to the style sheet's, with which the labels stand within the wheel's band
+/// and no row's title is cut in its column; 13 points at least.
 /// Values and labels keep one size, and so one baseline. Within a composite all pickers get the same. Absent ones are fine.
 void fitFonts(const gx::Ref<gx::GXBasePickerView>& picker);
 

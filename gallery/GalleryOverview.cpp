@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "GXStyleSheet.h"
 #include "GalleryTheme.h"
 
 using namespace gx;
@@ -11,11 +12,15 @@ namespace gallery {
 
 namespace {
 
-constexpr CGFloat wheelHeight = 176;
+constexpr CGFloat usualWheelHeight = 176;
+// Of large rows so many have to be whole.
+constexpr double fewestRowsOfWheel = 3;
 // The narrowest that three columns with a unit beside them fit into.
 constexpr CGFloat narrowestCard = 272;
 constexpr CGFloat headingHeight = 44;
-constexpr CGFloat cardHeight = headingHeight + wheelHeight + 12;
+
+CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
+CGFloat cardHeight() { return headingHeight + wheelHeight() + 12; }
 
 /// The grid of equal cards in a width.
 struct Grid {
@@ -29,8 +34,8 @@ struct Grid {
         const auto column = static_cast<CGFloat>(index % columns);
         const std::size_t above = index / columns;
         const auto row = static_cast<CGFloat>(above);
-        return CGRectMake(margin + column * (cardWidth + GalleryTheme::gap), margin + row * (cardHeight + GalleryTheme::gap), cardWidth,
-                          cardHeight);
+        return CGRectMake(margin + column * (cardWidth + GalleryTheme::gap), margin + row * (cardHeight() + GalleryTheme::gap), cardWidth,
+                          cardHeight());
     }
 
     CGFloat margin;
@@ -87,7 +92,7 @@ void GalleryOverview::layoutSubviews() {
         card.card->setFrame(grid.frameOfCard(i));
         const CGFloat padding = GalleryTheme::cardPadding;
         card.heading->setFrame(CGRectMake(padding, 4, std::max(0.0, grid.cardWidth - 2 * padding), GalleryTheme::controlHeight));
-        card.exhibit.picker->setFrame(CGRectMake(0, headingHeight, grid.cardWidth, wheelHeight));
+        card.exhibit.picker->setFrame(CGRectMake(0, headingHeight, grid.cardWidth, wheelHeight()));
         fitFonts(card.exhibit.textPicker);
     }
 }

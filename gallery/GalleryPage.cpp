@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "GXStyleSheet.h"
 #include "GalleryTheme.h"
 
 using namespace gx;
@@ -12,8 +13,9 @@ namespace gallery {
 namespace {
 
 constexpr CGFloat titleHeight = 40;
-// Five rows of a wheel and the ends of two more.
-constexpr CGFloat wheelHeight = 216;
+// Five rows of a wheel and the ends of two more. Of large rows at least three have to be whole.
+constexpr CGFloat usualWheelHeight = 216;
+constexpr double fewestRowsOfWheel = 3;
 // With it the card of the wheel is as high as the log, beside which it may stand.
 constexpr CGFloat wheelPadding = 14;
 // Wider than this, cards look empty.
@@ -22,6 +24,8 @@ constexpr CGFloat widestContent = 920;
 constexpr CGFloat twoColumnWidth = 540;
 constexpr CGFloat optionTitleHeight = 24;
 constexpr CGFloat optionGap = 14;
+
+CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
 
 } // namespace
 
@@ -150,7 +154,7 @@ GalleryPage::Frames GalleryPage::framesForWidth(CGFloat width) const {
     }
     frames.purpose = CGRectMake(margin, y, content, purpose_->sizeThatFits({content, 0}).height);
     y = CGRectGetMaxY(frames.purpose) + GalleryTheme::gap;
-    frames.picker = CGRectMake(margin, y, column, wheelHeight + 2 * wheelPadding);
+    frames.picker = CGRectMake(margin, y, column, wheelHeight() + 2 * wheelPadding);
     // What the delegate is told stands where it is seen while the wheel turns: beside it, or right below.
     const CGFloat below = CGRectGetMaxY(frames.picker) + GalleryTheme::gap;
     const CGFloat logX = hasTwoColumns ? margin + column + GalleryTheme::gap : margin;
@@ -172,7 +176,7 @@ void GalleryPage::layoutSubviews() {
     pickerCard_->setFrame(frames.picker);
     log_->setFrame(frames.log);
     optionsCard_->setFrame(frames.options);
-    exhibit_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, wheelHeight));
+    exhibit_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, wheelHeight()));
     fitFonts(exhibit_.textPicker);
 
     const CGFloat padding = GalleryTheme::cardPadding;

@@ -5,6 +5,7 @@
 
 #include "GXStyleSheet.h"
 #include "GalleryTheme.h"
+#include "NSLocale.h"
 
 using namespace gx;
 
@@ -36,10 +37,13 @@ bool GalleryRowCell::initWithStyle_reuseIdentifier(UITableViewCellStyle style, c
     setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor());
     nameLabel_ = create<UILabel>(CGRectZero);
     nameLabel_->setFont(scaled(GalleryTheme::bodyFont()));
+    nameLabel_->setTextAlignment(NSTextAlignmentNatural);
     nameLabel_->setText("");
     valueLabel_ = create<UILabel>(CGRectZero);
     valueLabel_->setFont(scaled(GalleryTheme::strongFont()));
-    valueLabel_->setTextAlignment(isStacked() ? NSTextAlignmentLeft : NSTextAlignmentRight);
+    const bool isMirrored = NSLocale::currentLocale()->isRightToLeft();
+    const NSTextAlignment atTheFarEdge = isMirrored ? NSTextAlignmentLeft : NSTextAlignmentRight;
+    valueLabel_->setTextAlignment(isStacked() ? NSTextAlignmentNatural : atTheFarEdge);
     valueLabel_->setText("");
     for (const Ref<UILabel>& label : {nameLabel_, valueLabel_}) contentView()->addSubview(label);
     setOpen(false);
@@ -68,8 +72,10 @@ void GalleryRowCell::layoutSubviews() {
     }
     // The value is what the row is read for: the name makes room for it.
     const CGFloat valueWidth = std::min(width, std::ceil(valueLabel_->sizeThatFits(size).width));
-    valueLabel_->setFrame(CGRectMake(inset + width - valueWidth, 0, valueWidth, size.height));
-    nameLabel_->setFrame(CGRectMake(inset, 0, std::max(0.0, width - valueWidth - gap), size.height));
+    const CGFloat nameWidth = std::max(0.0, width - valueWidth - gap);
+    const bool isMirrored = NSLocale::currentLocale()->isRightToLeft();
+    valueLabel_->setFrame(CGRectMake(isMirrored ? inset : inset + width - valueWidth, 0, valueWidth, size.height));
+    nameLabel_->setFrame(CGRectMake(isMirrored ? inset + width - nameWidth : inset, 0, nameWidth, size.height));
 }
 
 } // namespace gallery

@@ -126,6 +126,7 @@ void GalleryScreen::setSettings(const GallerySettings& settings) {
     entry_->setSettings(settings);
     if (settingsPage_) settingsPage_->setSettings(settings);
     if (settings.style != before.style) showStyle();
+    showEase();
     if (settings.textScale != before.textScale || settings.language != before.language ||
         settings.decimalSeparator != before.decimalSeparator) {
         for (const Ref<GalleryPage>& page : pages_) {
@@ -148,9 +149,18 @@ void GalleryScreen::showStyle() {
     if (styleAction_) styleAction_(settings_.style);
 }
 
+void GalleryScreen::showEase() {
+    const Ref<UIWindow> shownIn = window();
+    if (!shownIn) return;
+    shownIn->setAccessibilityContrast(settings_.contrast);
+    shownIn->setReducesMotion(settings_.reducesMotion);
+}
+
 void GalleryScreen::didMoveToWindow() {
     UIView::didMoveToWindow();
-    if (window()) showStyle();
+    if (!window()) return;
+    showStyle();
+    showEase();
 }
 
 // Layout

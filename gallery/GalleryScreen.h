@@ -70,6 +70,7 @@ private:
     void showTitles();
     void takeFocusFromMenu();
     void showStyle();
+    void showEase();
 
     std::vector<GalleryPageDescription> descriptions_;
     std::vector<std::string> names_;

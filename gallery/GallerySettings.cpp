@@ -10,8 +10,11 @@ namespace gallery {
 
 void GallerySettings::apply() const {
     GXStyleSheet::globalStyleSheet()->setTextScale(textScale);
-    GXLocalization::sharedLocalization()->setLanguage(language);
     const auto locale = NSLocale::localeWithIdentifier(language);
+    // The texts may be in another language than the user's, for want of a translation.
+    const bool isSameLanguage = language == GXLocalization::sharedLocalization()->translationLanguage();
+    if (isSameLanguage) locale->setCharacterDirection(NSLocale::currentLocale()->characterDirection());
+    GXLocalization::sharedLocalization()->setLanguage(language);
     if (decimalSeparator) locale->setDecimalSeparator(*decimalSeparator);
     NSLocale::setCurrentLocale(locale);
 }

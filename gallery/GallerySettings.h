@@ -20,9 +20,11 @@ struct GallerySettings {
     std::string language = "en";
     /// Nothing for the language's own.
     std::optional<std::string> decimalSeparator;
+    gx::UIAccessibilityContrast contrast = gx::UIAccessibilityContrast::Normal;
     bool reducesMotion = false;
 
-    /// Hands text size, language and separator to the services that pickers ask. What is on the screen shows them once it is made anew.
+    /// Hands text size, language and separator to the services that pickers ask. What is on the screen shows them once it is made anew. The
+    /// direction in which one reads stays as it is until the user chooses another language.
     void apply() const;
     /// The settings that are in force where nobody has chosen any.
     static GallerySettings current();

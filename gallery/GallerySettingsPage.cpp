@@ -128,6 +128,10 @@ void GallerySettingsPage::makeControls() {
               [](GallerySettings& settings, std::size_t choice) { settings.textScale = textScales.at(choice); });
     addChoice("Look", {text("System"), text("Light"), text("Dark")}, indexIn(styles(), settings_.style),
               [](GallerySettings& settings, std::size_t choice) { settings.style = styles().at(choice); });
+    addChoice("Contrast", {text("Normal"), text("High")}, settings_.contrast == UIAccessibilityContrast::High ? 1 : 0,
+              [](GallerySettings& settings, std::size_t choice) {
+                  settings.contrast = choice == 1 ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal;
+              });
     addChoice("Decimal separator", {text("Automatic"), "1.5", "1,5"}, indexIn(separators(), settings_.decimalSeparator),
               [](GallerySettings& settings, std::size_t choice) { settings.decimalSeparator = separators().at(choice); });
     addChoice("Motion", {text("Full"), text("Reduced")}, settings_.reducesMotion ? 1 : 0,

@@ -25,7 +25,8 @@ public:
     /// Without it where a bar above the page tells the name.
     void setShowsTitle(bool shows);
 
-    /// The choice with this English name: "Units", "Weight", "Text size", "Look", "Decimal separator", "Motion"; empty if there is none.
+    /// The choice with this English name: "Units", "Weight", "Text size", "Look", "Contrast", "Decimal separator", "Motion"; empty if there
+    /// is none.
     gx::Ref<GallerySegments> control(const std::string& name) const;
     /// The button of a language such as "de"; empty if there is none.
     gx::Ref<GalleryButton> languageButton(const std::string& language) const;

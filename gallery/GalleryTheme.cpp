@@ -15,6 +15,11 @@ UIColor lightDark(unsigned light, unsigned dark) {
     return UIColor::colorWithLight_dark(UIColor::colorWithHex(light), UIColor::colorWithHex(dark));
 }
 
+/// The same, and others at high contrast.
+UIColor contrasting(const UIColor& normal, unsigned light, unsigned dark) {
+    return UIColor::colorWithNormal_highContrast(normal, lightDark(light, dark));
+}
+
 /// A font of the host's interface family, made once for each place of use.
 Ref<UIFont> font(CGFloat size, UIFontWeight weight) { return UIFont::systemFontOfSize_weight(size, weight); }
 
@@ -23,16 +28,16 @@ Ref<UIFont> font(CGFloat size, UIFontWeight weight) { return UIFont::systemFontO
 UIColor GalleryTheme::background() { return lightDark(0xF3F4F6, 0x0E1013); }
 UIColor GalleryTheme::sidebar() { return lightDark(0xFBFBFC, 0x15171B); }
 UIColor GalleryTheme::card() { return lightDark(0xFFFFFF, 0x1B1E23); }
-UIColor GalleryTheme::hairline() { return lightDark(0xE6E8EC, 0x2A2E35); }
+UIColor GalleryTheme::hairline() { return contrasting(lightDark(0xE6E8EC, 0x2A2E35), 0x6B727E, 0x8F97A3); }
 UIColor GalleryTheme::text() { return UIColor::labelColor(); }
 UIColor GalleryTheme::secondaryText() { return UIColor::secondaryLabelColor(); }
-UIColor GalleryTheme::accent() { return lightDark(0x0B7269, 0x56CDBF); }
-UIColor GalleryTheme::warning() { return lightDark(0xB3261E, 0xFF8A80); }
+UIColor GalleryTheme::accent() { return contrasting(lightDark(0x0B7269, 0x56CDBF), 0x00453F, 0x8FF0E4); }
+UIColor GalleryTheme::warning() { return contrasting(lightDark(0xB3261E, 0xFF8A80), 0x7A110B, 0xFFC1BB); }
 UIColor GalleryTheme::accentFill() {
     return UIColor::colorWithLight_dark(UIColor::colorWithHex(0x0B7269, 0.10), UIColor::colorWithHex(0x56CDBF, 0.15));
 }
-UIColor GalleryTheme::track() { return lightDark(0xEBEDF0, 0x272B32); }
-UIColor GalleryTheme::thumb() { return lightDark(0xFFFFFF, 0x454B56); }
+UIColor GalleryTheme::track() { return contrasting(lightDark(0xEBEDF0, 0x272B32), 0xD3D7DD, 0x2C3038); }
+UIColor GalleryTheme::thumb() { return contrasting(lightDark(0xFFFFFF, 0x454B56), 0xFFFFFF, 0x0E1013); }
 UIColor GalleryTheme::pressed() {
     return UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0, 0.06), UIColor::colorWithWhite_alpha(1, 0.08));
 }

@@ -6,8 +6,8 @@
 
 namespace gallery {
 
-/// The looks of the gallery in one place: colours for light and dark, fonts and distances. The pickers do not take part: theirs come from
-/// `gx::GXStyleSheet`.
+/// The looks of the gallery in one place: colours for light and dark at either contrast, fonts and distances. The pickers do not take part:
+/// theirs come from `gx::GXStyleSheet`.
 class GalleryTheme {
 public:
     GalleryTheme() = delete;

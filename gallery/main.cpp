@@ -96,6 +96,10 @@ int main(int argc, char** argv) {
     setLocale(arguments->locale);
 
     const auto screen = create<GalleryScreen>(CGRectZero);
+    GallerySettings settings = screen->settings();
+    settings.textScale = arguments->textScale;
+    settings.contrast = arguments->isContrastHigh ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal;
+    screen->setSettings(settings);
     if (arguments->page) {
         const auto index = screen->indexOfPage(*arguments->page);
         if (!index) {

@@ -21,9 +21,9 @@ class QtInput;
 /// Shows any view in a Qt application. Call `installQtHost` once before the first view is made.
 ///
 /// Supports: one root view that fills the widget; fingers, mouse, mouse wheel, trackpad and keyboard (see `QtInput`); any ratio of device
-/// pixels to points, also one that changes between screens; a light and a dark look, by default the palette's. Events that no view made use
-/// of are ignored, so that a QScrollArea around the widget scrolls and shortcuts work; screen readers
-/// (see `QtAccessibleView`).
+/// pixels to points, also one that changes between screens; a light and a dark look, by default the palette's, at either contrast; screen
+/// readers (see `QtAccessibleView`). Events that no view made use of are ignored, so that a QScrollArea around the widget scrolls and
+/// shortcuts work.
 ///
 /// Focus. Tab goes through the views that take the focus, and from the last one on to the widget that follows; who comes by Tab begins at
 /// the first view, who comes by Shift and Tab at the last. A widget that is hidden, as when its window closes, settles its wheels: their
@@ -51,6 +51,10 @@ public:
     /// background stays the palette's.
     void setUserInterfaceStyle(std::optional<UIUserInterfaceStyle> style);
     UIUserInterfaceStyle userInterfaceStyle() const { return window_->userInterfaceStyle(); }
+
+    /// How far colours keep apart; normal unless set.
+    void setContrast(UIAccessibilityContrast contrast) { window_->setAccessibilityContrast(contrast); }
+    UIAccessibilityContrast contrast() const { return window_->accessibilityContrast(); }
 
     /// Called for each row that passes a wheel's band during a turn by the user: the moment for a click.
     void setWheelTickHandler(std::function<void()> handler) { wheelTickHandler_ = std::move(handler); }

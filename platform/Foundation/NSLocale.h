@@ -35,6 +35,7 @@ public:
     /// For a user whose system deviates from the custom of the language.
     void setDecimalSeparator(std::string separator);
     NSLocaleLanguageDirection characterDirection() const { return direction_; }
+    bool isRightToLeft() const { return direction_ == NSLocaleLanguageDirection::RightToLeft; }
     void setCharacterDirection(NSLocaleLanguageDirection direction) { direction_ = direction; }
 
 private:

@@ -5,6 +5,9 @@ namespace gx {
 /// The look that colours are shown in; a property of the window.
 enum class UIUserInterfaceStyle { Light, Dark };
 
+/// How far colours keep apart from each other; a property of the window. High is for eyes that see faint differences badly.
+enum class UIAccessibilityContrast { Normal, High };
+
 /// A colour as it is drawn: red, green, blue and alpha from 0 to 1, sRGB, not premultiplied.
 struct UIColorComponents {
     double red = 0;
@@ -14,8 +17,8 @@ struct UIColorComponents {
     friend bool operator==(const UIColorComponents&, const UIColorComponents&) = default;
 };
 
-/// A colour with a value for each look. It is resolved when it is drawn, so a window that changes from light
-/// to dark only has to draw again.
+/// A colour with a value for each look, at either contrast. It is resolved when it is drawn, so a window that changes from light
+/// to dark, or its contrast, only has to draw again.
 class UIColor {
 public:
     /// The clear colour.
@@ -28,28 +31,40 @@ public:
     static UIColor colorWithHex(unsigned rgb, double alpha = 1);
     /// The light value of `light` in the light look, the dark value of `dark` in the dark one.
     static UIColor colorWithLight_dark(const UIColor& light, const UIColor& dark);
+    /// The values of `normal` at normal contrast, those of `high` at high contrast, each in both looks.
+    static UIColor colorWithNormal_highContrast(const UIColor& normal, const UIColor& high);
 
     static UIColor clearColor();
     static UIColor blackColor();
     static UIColor whiteColor();
-    /// Text: near black in the light look, near white in the dark one.
+    // At high contrast the texts and the tint have a contrast of 7 to 1 and more to white in the light look and to the style sheet's
+    // background in the dark one, also on the fill below.
+
+    /// Text: near black in the light look, near white in the dark one; black and white at high contrast.
     static UIColor labelColor();
     static UIColor secondaryLabelColor();
     /// The tint that a view has when nobody above it sets one.
     static UIColor systemBlueColor();
-    /// A faint grey that lets what lies behind it through.
+    /// A faint grey that lets what lies behind it through; less faint at high contrast.
     static UIColor tertiarySystemFillColor();
 
+    /// This colour in both looks and at either contrast with another alpha, held to 0 to 1.
     UIColor colorWithAlphaComponent(double alpha) const;
-    const UIColorComponents& resolved(UIUserInterfaceStyle style) const;
+    const UIColorComponents& resolved(UIUserInterfaceStyle style, UIAccessibilityContrast contrast = UIAccessibilityContrast::Normal) const;
 
     friend bool operator==(const UIColor&, const UIColor&) = default;
 
 private:
-    explicit UIColor(const UIColorComponents& both) : light_(both), dark_(both) {}
+    /// A value for each look.
+    struct Pair {
+        UIColorComponents light;
+        UIColorComponents dark;
+        friend bool operator==(const Pair&, const Pair&) = default;
+    };
+    explicit UIColor(const UIColorComponents& all) : normal_{all, all}, high_{all, all} {}
 
-    UIColorComponents light_;
-    UIColorComponents dark_;
+    Pair normal_;
+    Pair high_;
 };
 
 } // namespace gx

@@ -3,12 +3,12 @@
 namespace gx {
 
 void UIGraphicsContext::fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius) {
-    const UIColorComponents& components = color.resolved(style_);
+    const UIColorComponents& components = color.resolved(style_, contrast_);
     if (components.alpha > 0 && !CGRectIsEmpty(rect)) fillRectWithComponents(rect, components, cornerRadius);
 }
 
 void UIGraphicsContext::drawText(std::string_view text, const UIFont& font, const UIColor& color, CGPoint origin) {
-    const UIColorComponents& components = color.resolved(style_);
+    const UIColorComponents& components = color.resolved(style_, contrast_);
     if (components.alpha > 0 && !text.empty()) drawTextWithComponents(text, font, components, origin);
 }
 

@@ -13,7 +13,7 @@ namespace gx {
 /// y growing downward, one unit a point.
 ///
 /// Views draw with the operations here; a host implements the protected ones. Colours and images
-/// arrive there resolved for the look of the frame.
+/// arrive there resolved for the look and the contrast of the frame.
 class UIGraphicsContext {
 public:
     virtual ~UIGraphicsContext() = default;
@@ -21,6 +21,9 @@ public:
     /// The look that colours and images are resolved for; the window sets it before it draws.
     UIUserInterfaceStyle userInterfaceStyle() const { return style_; }
     void setUserInterfaceStyle(UIUserInterfaceStyle style) { style_ = style; }
+    /// The contrast that colours are resolved for, and views draw with more or fewer edges; set likewise.
+    UIAccessibilityContrast accessibilityContrast() const { return contrast_; }
+    void setAccessibilityContrast(UIAccessibilityContrast contrast) { contrast_ = contrast; }
 
     /// Keep and restore transform, clip and alpha. Calls nest and come in pairs.
     virtual void saveState() = 0;
@@ -47,6 +50,7 @@ protected:
 
 private:
     UIUserInterfaceStyle style_ = UIUserInterfaceStyle::Light;
+    UIAccessibilityContrast contrast_ = UIAccessibilityContrast::Normal;
 };
 
 } // namespace gx

@@ -9,6 +9,8 @@
 /// - `NSRunLoop::mainRunLoop()->setWakeHandler`: when to call `runPass`;
 /// and to each window that it shows:
 /// - its size (`setFrame`), and itself with `setHost`;
+/// - how the user wants to see it: light or dark (`setUserInterfaceStyle`), at which contrast (`setAccessibilityContrast`), and whether
+///   things may move by themselves (`setReducesMotion`); all of it at any time, also while a wheel turns;
 /// - fingers, the mouse with its button held, and scrolling (`touchBegan_at_time` … `scroll`);
 /// - keys (`keyDown`), each with what it types, and held ones again and again; Tab too, which goes on to what lies around the window where
 ///   the answer is false; and whether the keys come to this window at all (`setReceivesKeys`);

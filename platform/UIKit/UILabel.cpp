@@ -1,5 +1,6 @@
 #include "UILabel.h"
 
+#include "NSLocale.h"
 #include "UIGraphicsContext.h"
 #include "UITextEngine.h"
 
@@ -11,6 +12,21 @@ const Ref<UIFont>& defaultFont() {
     return font;
 }
 constexpr std::string_view ellipsis = "\u2026";
+
+/// Which share of the room that is left lies before the text.
+CGFloat shareBeforeText(NSTextAlignment alignment) {
+    switch (alignment) {
+    case NSTextAlignmentLeft:
+        return 0;
+    case NSTextAlignmentCenter:
+        return 0.5;
+    case NSTextAlignmentRight:
+        return 1;
+    case NSTextAlignmentNatural:
+        return NSLocale::currentLocale()->isRightToLeft() ? 1 : 0;
+    }
+    return 0;
+}
 } // namespace
 
 bool UILabel::initLabel() {
@@ -29,6 +45,7 @@ bool UILabel::initWithCoder(const Ref<NSCoder>& coder) {
     const NSInteger alignment = coder->decodeIntegerForKey("textAlignment");
     if (alignment == NSTextAlignmentCenter) alignment_ = NSTextAlignmentCenter;
     if (alignment == NSTextAlignmentRight) alignment_ = NSTextAlignmentRight;
+    if (alignment == NSTextAlignmentNatural) alignment_ = NSTextAlignmentNatural;
     return true;
 }
 
@@ -108,8 +125,8 @@ void UILabel::drawRect(UIGraphicsContext& context, CGRect rect) {
     if (!text_ || text_->empty()) return;
     fitText(rect.size.width);
     const CGFloat room = rect.size.width - fittedSize_.width;
-    const CGFloat share = alignment_ == NSTextAlignmentLeft ? 0 : alignment_ == NSTextAlignmentCenter ? 0.5 : 1;
-    const CGPoint origin = {rect.origin.x + room * share, rect.origin.y + 0.5 * (rect.size.height - fittedSize_.height)};
+    const CGPoint origin = {rect.origin.x + room * shareBeforeText(alignment_),
+                            rect.origin.y + 0.5 * (rect.size.height - fittedSize_.height)};
     context.drawText(fittedText_, drawnFont(), drawnColor(), origin);
 }
 

@@ -8,7 +8,12 @@
 
 namespace gx {
 
-enum NSTextAlignment { NSTextAlignmentLeft = 0, NSTextAlignmentCenter = 1, NSTextAlignmentRight = 2 };
+enum NSTextAlignment {
+    NSTextAlignmentLeft = 0,
+    NSTextAlignmentCenter = 1,
+    NSTextAlignmentRight = 2,
+    NSTextAlignmentNatural = 4 ///< where lines begin in the current locale, asked for when it is drawn
+};
 
 /// One line of text, aligned in its bounds and centred on their height. A text that is too long ends in "…".
 /// Takes no touches.

@@ -14,8 +14,17 @@ namespace {
 // away (in radians, 65 degrees), and how much fainter a row is that has just left the band.
 constexpr double edgeAngle = 1.1344640137963142;
 constexpr double fadeOutsideBand = 0.42;
+// At high contrast: just enough to tell the row in the band from the others.
+constexpr double slightFadeOutsideBand = 0.2;
 // How far the eye is from the cylinder, in its radii: rows that turn away also move away, and so narrow toward the wheel's middle.
 constexpr double eyeDistance = 3;
+
+/// How much of its colour a row has that is `rows` away from the band and turned away so that its height is shortened.
+double alphaOfRow(double rows, double shortening, UIAccessibilityContrast contrast) {
+    const double left = std::min(std::fabs(rows), 1.0);
+    if (contrast == UIAccessibilityContrast::High) return 1 - slightFadeOutsideBand * left;
+    return (1 - fadeOutsideBand * left) * shortening;
+}
 
 } // namespace
 
@@ -154,7 +163,7 @@ void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
         context.translate(vanishing, middle + radius() * std::sin(angle));
         context.scale(narrowing, shortening);
         context.translate(-vanishing, -CGRectGetMidY(entry.view->frame()));
-        context.multiplyAlpha((1 - fadeOutsideBand * std::min(std::fabs(rows), 1.0)) * shortening);
+        context.multiplyAlpha(alphaOfRow(rows, shortening, context.accessibilityContrast()));
         drawView(*entry.view, context);
         context.restoreState();
     }

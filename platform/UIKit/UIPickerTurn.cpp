@@ -263,6 +263,12 @@ void UIPickerTurn::settle() {
     landed_ = anchor_;
 }
 
+bool UIPickerTurn::arrive() {
+    if (state_ != State::Gliding && state_ != State::Requested) return false;
+    settle();
+    return true;
+}
+
 NSInteger UIPickerTurn::takePassedRows() {
     const NSInteger before = passed_;
     passed_ = rowInBand();

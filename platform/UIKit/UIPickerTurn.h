@@ -84,6 +84,8 @@ public:
     bool advanceToTime(NSTimeInterval time);
     /// Ends the movement at once, a user's turn on its landing row.
     void settle();
+    /// The same for a column that goes by itself; others, such as one under a finger, go on. Answers whether it has arrived so.
+    bool arrive();
     /// How many rows have passed the band in a user's turn since the last call.
     NSInteger takePassedRows();
     /// The row that a user's turn has ended on, once; the column is at rest then.

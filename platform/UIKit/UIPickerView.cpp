@@ -14,6 +14,8 @@ namespace {
 
 constexpr CGFloat bandInset = 8;
 constexpr CGFloat bandCornerRadius = 8;
+// At high contrast: wide enough to be seen, and narrower than the bars that mark the focus.
+constexpr CGFloat bandOutline = 1.5;
 // A moving column has one row more in sight at some moments than at others; one view waits for it on either side.
 constexpr std::size_t poolSize = 2;
 
@@ -326,8 +328,19 @@ void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
     CGFloat height = 0;
     for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
     const CGRect band = CGRectMake(rect.origin.x + bandInset, CGRectGetMidY(rect) - 0.5 * height, rect.size.width - 2 * bandInset, height);
-    if (showsBand_) context.fillRect(band, UIColor::tertiarySystemFillColor(), bandCornerRadius);
+    if (showsBand_) drawBand(context, band);
     drawFocus(context, band);
+}
+
+void UIPickerView::drawBand(UIGraphicsContext& context, CGRect band) const {
+    const bool isOutlined = context.accessibilityContrast() == UIAccessibilityContrast::High;
+    // An outline of straight lines has no rounded corners to follow.
+    context.fillRect(band, UIColor::tertiarySystemFillColor(), isOutlined ? 0 : bandCornerRadius);
+    if (!isOutlined) return;
+    for (const CGFloat y : {CGRectGetMinY(band), CGRectGetMaxY(band) - bandOutline})
+        context.fillRect(CGRectMake(band.origin.x, y, band.size.width, bandOutline), UIColor::secondaryLabelColor());
+    for (const CGFloat x : {CGRectGetMinX(band), CGRectGetMaxX(band) - bandOutline})
+        context.fillRect(CGRectMake(x, band.origin.y, bandOutline, band.size.height), UIColor::secondaryLabelColor());
 }
 
 } // namespace gx

@@ -34,6 +34,9 @@ class UIPickerColumn;
 /// it once, when the text is complete: when no title goes on, a second has passed, or another key, a touch or another column
 /// comes. A character that spells nothing leaves the wheel where it is.
 ///
+/// Every eye. In a window that reduces motion a column that is let go, tapped, asked or turned by a notch or a key arrives with the next
+/// tick, without the way there, and reports as ever. At high contrast rows beside the band fade less, and the band has an outline.
+///
 /// No turn is lost: a wheel that leaves its window, is hidden, or whose window settles, arrives at once and reports.
 ///
 /// The wheel owns neither its data source nor its delegate. Both may do anything while they are asked.
@@ -148,10 +151,13 @@ private:
     UIPickerTitleSearch::Result rowsSpelled(const std::u32string& text, NSInteger component);
     void completeTyping();
     void arriveExcept(NSInteger component);
+    void drawBand(UIGraphicsContext& context, CGRect band) const;
     void drawFocus(UIGraphicsContext& context, CGRect band);
     bool isAdjustable(NSInteger component);
     std::optional<std::string> spokenRow(NSInteger row, NSInteger component);
     bool isMoving() const;
+    bool arrivesAtOnce() const;
+    NSInteger advanceColumn(NSInteger component, NSTimeInterval time);
     void letGo(Component& component);
     void startMoving();
     void tellTicks(NSInteger rows);

@@ -131,14 +131,28 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
     return isTaken;
 }
 
+bool UIPickerView::arrivesAtOnce() const {
+    const Ref<UIWindow> window = this->window();
+    return window && window->reducesMotion();
+}
+
+/// Answers how many rows have passed the band.
+NSInteger UIPickerView::advanceColumn(NSInteger component, NSTimeInterval time) {
+    UIPickerTurn& turn = at(component).turn;
+    const NSInteger underFinger = turn.takePassedRows();
+    turn.advanceToTime(time);
+    const bool isSkipping = arrivesAtOnce() && turn.arrive();
+    const NSInteger passed = turn.takePassedRows();
+    // Nobody sees those that are skipped, so only the one that it arrives on counts.
+    return wrappingAdd(underFinger, isSkipping ? std::min<NSInteger>(passed, 1) : passed);
+}
+
 bool UIPickerView::advanceToTime(NSTimeInterval time) {
     const Ref<UIPickerView> keep = self();
     if (typing_.isOverAt(time)) typing_.clear();
     NSInteger passed = 0;
     for (NSInteger i = 0; i < count_; ++i) {
-        Component& entry = at(i);
-        entry.turn.advanceToTime(time);
-        passed = wrappingAdd(passed, entry.turn.takePassedRows());
+        passed = wrappingAdd(passed, advanceColumn(i, time));
         if (isLayoutDue()) continue; // The layout that follows shows the rows anyway.
         scrollColumn(i);
         showRows(i, false);

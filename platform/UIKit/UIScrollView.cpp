@@ -200,7 +200,7 @@ void UIScrollView::touchEnded(const UITouch& touch) {
     const CGFloat highest = highestOffset();
     if (offset() != held(offset())) {
         springBack(touch.timestamp);
-    } else if (velocity != 0 && highest > 0) {
+    } else if (velocity != 0 && highest > 0 && !reducesMotion()) {
         const CGFloat target = held(offset() + UIScrollMotion::travelOfVelocity(velocity));
         const CGFloat end = velocity < 0 ? 0 : highest;
         glide(State::Gliding, target,
@@ -281,8 +281,13 @@ void UIScrollView::startMoving() {
     if (const Ref<UIWindow> window = this->window()) window->animateView(refTo<UIView>(this));
 }
 
+bool UIScrollView::reducesMotion() const {
+    const Ref<UIWindow> window = this->window();
+    return window && window->reducesMotion();
+}
+
 void UIScrollView::glide(State state, CGFloat target, const UIScrollMotion& motion) {
-    if (!window()) {
+    if (!window() || reducesMotion()) {
         moveTo(target);
         return;
     }
@@ -301,8 +306,9 @@ bool UIScrollView::advanceToTime(NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
     if (UIScrollView::isMoving()) {
         motion_.beginAt(time);
-        if (motion_.isOverAt(time)) state_ = State::AtRest;
-        moveTo(target_ + motionRow * motion_.positionAt(time));
+        const bool isOver = motion_.isOverAt(time) || reducesMotion();
+        if (isOver) state_ = State::AtRest;
+        moveTo(isOver ? target_ : target_ + motionRow * motion_.positionAt(time));
     }
     return isMoving();
 }

@@ -9,7 +9,8 @@
 namespace gx {
 
 /// Shows subviews that together are higher than there is room: they move up and down, never sideways, under a finger, the mouse
-/// wheel or a trackpad, and glide on after a swift stroke.
+/// wheel or a trackpad, and glide on after a swift stroke. In a window that reduces motion nothing glides: requests arrive at once, and a
+/// stroke ends where the finger does.
 ///
 /// Subviews are placed in the coordinates of the content, from 0 to the content's height; scrolling moves the origin of the bounds and
 /// leaves their frames alone. Touches that a subview keeps to itself, such as those on the columns of a wheel, never scroll.
@@ -84,6 +85,8 @@ protected:
     /// Ends every movement where it is, held to the ends, and forgets the finger.
     void stop();
     bool hasFinger() const { return finger_.has_value(); }
+    /// Whether it is in a window that wants no movement of its own accord.
+    bool reducesMotion() const;
 
     void drawSubviews(UIGraphicsContext& context) override;
 

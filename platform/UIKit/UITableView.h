@@ -103,7 +103,8 @@ public:
     void reloadRowsAtIndexPaths(const std::vector<NSIndexPath>& paths);
     /// The data source answers the new counts already, and the paths are those of the new rows. Where the numbers do not add up, this is a
     /// reload. Rows that stay in sight keep their cells untouched. Everything is in its new place at once, and only drawn on its way there
-    /// for `UITableViewChange::duration`; a change that is higher than the table, or has no window, is not animated.
+    /// for `UITableViewChange::duration`; a change that is higher than the table, or has no window or one that reduces motion, is not
+    /// animated.
     void insertRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated);
     /// As an insertion; the paths are those that the rows had before.
     void deleteRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "NSLocale.h"
 #include "UIGraphicsContext.h"
 #include "UILabel.h"
 
@@ -53,6 +54,7 @@ void UITableViewCell::makeContentView() {
 const Ref<UILabel>& UITableViewCell::textLabel() {
     if (!textLabel_ && contentView_) {
         textLabel_ = create<UITableViewCellLabel>();
+        textLabel_->setTextAlignment(NSTextAlignmentNatural);
         contentView_->addSubview(textLabel_);
         setNeedsLayout();
     }
@@ -105,14 +107,19 @@ void UITableViewCell::layoutSubviews() {
     UIView::layoutSubviews();
     const CGRect room = contentView_ ? contentView_->bounds() : CGRect{};
     const CGFloat width = std::max(0.0, room.size.width - 2 * labelInset);
+    // Where one reads from right to left, the name stands at the right, and the value at the left.
+    const auto place = [&room](CGFloat x, CGFloat labelWidth) {
+        const CGFloat left = NSLocale::currentLocale()->isRightToLeft() ? room.size.width - x - labelWidth : x;
+        return CGRectMake(left, 0, labelWidth, room.size.height);
+    };
     // The value is what one reads a row for: where both are too long, the name is cut before it.
     CGFloat detailWidth = 0;
     if (detailTextLabel_ && detailTextLabel_->showsSomething()) {
         detailWidth = std::min(width, detailTextLabel_->sizeThatFits(room.size).width);
-        detailTextLabel_->setFrame(CGRectMake(labelInset + width - detailWidth, 0, detailWidth, room.size.height));
+        detailTextLabel_->setFrame(place(labelInset + width - detailWidth, detailWidth));
     }
     const CGFloat gap = detailWidth > 0 ? labelInset / 2 : 0;
-    if (textLabel_) textLabel_->setFrame(CGRectMake(labelInset, 0, std::max(0.0, width - detailWidth - gap), room.size.height));
+    if (textLabel_) textLabel_->setFrame(place(labelInset, std::max(0.0, width - detailWidth - gap)));
 }
 
 void UITableViewCell::drawRect(UIGraphicsContext& context, CGRect rect) {

@@ -11,7 +11,7 @@ class UILabel;
 
 enum UITableViewCellStyle {
     UITableViewCellStyleDefault = 0, ///< a text at the left
-    UITableViewCellStyleValue1 = 1   ///< a text at the left and a quieter one, its value, at the right
+    UITableViewCellStyleValue1 = 1 ///< a text at the left and a quieter one, its value, at the right; mirrored where one reads to the left
 };
 
 /// A row of a table. What it shows goes into its content view, which always fills it.

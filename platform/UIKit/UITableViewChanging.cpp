@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "NSLocale.h"
 #include "UIGraphicsContext.h"
 #include "UILabel.h"
 #include "UITableView.h"
@@ -72,7 +73,7 @@ void UITableView::change(UITableViewChange::Kind kind, std::vector<NSIndexPath> 
     const CGFloat offsetBefore = contentOffset().y;
     fitContent();
     change->setOffsetChange(contentOffset().y - offsetBefore);
-    const bool isDrawn = animated && window() && change->reach() <= bounds().size.height;
+    const bool isDrawn = animated && window() && !reducesMotion() && change->reach() <= bounds().size.height;
     change_ = std::move(change);
     for (std::size_t i = 0; i < removed_.size(); ++i) {
         // It is drawn, but no finger finds it.
@@ -156,13 +157,15 @@ void UITableView::drawScrolledViews(UIGraphicsContext& context) {
 
 void UITableView::drawSeparators(UIGraphicsContext& context) const {
     const CGFloat width = bounds().size.width - UITableViewCell::labelInset;
+    // A hairline begins below the row's text and runs to the edge.
+    const CGFloat x = NSLocale::currentLocale()->isRightToLeft() ? 0 : UITableViewCell::labelInset;
     for (const Row& row : shown_) {
         if (row.path.row + 1 >= rows_.rowCount(row.path.section)) continue;
         const UITableViewRows::Span span = rows_.spanOfRow(row.path);
         const CGFloat shift = change_ ? change_->shiftOf(span) : 0;
         const CGFloat height = span.height * (change_ ? change_->shownShare(row.path) : 1);
         const CGFloat y = span.top + shift + height - separatorHeight;
-        context.fillRect(CGRectMake(UITableViewCell::labelInset, y, width, separatorHeight), *separatorColor_);
+        context.fillRect(CGRectMake(x, y, width, separatorHeight), *separatorColor_);
     }
 }
 

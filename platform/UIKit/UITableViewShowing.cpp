@@ -16,6 +16,7 @@ Ref<UILabel> makeHeader() {
     static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(headerFontSize, UIFontWeight::Medium);
     auto label = create<UILabel>();
     label->setFont(font);
+    label->setTextAlignment(NSTextAlignmentNatural);
     label->setTextColor(UIColor::secondaryLabelColor());
     return label;
 }

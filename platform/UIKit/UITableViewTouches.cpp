@@ -85,7 +85,7 @@ bool UITableView::isMoving() const { return UIScrollView::isMoving() || change_ 
 bool UITableView::advanceToTime(NSTimeInterval time) {
     const Ref<UITableView> keep = self();
     UIScrollView::advanceToTime(time);
-    if (change_ && !change_->advanceToTime(time)) finishChange();
+    if (change_ && (reducesMotion() || !change_->advanceToTime(time))) finishChange();
     if (lightsAt_ && time >= *lightsAt_) {
         lightsAt_.reset();
         if (pressed_) light(*pressed_);

@@ -26,6 +26,12 @@ void UIWindow::setUserInterfaceStyle(UIUserInterfaceStyle style) {
     setNeedsDisplay();
 }
 
+void UIWindow::setAccessibilityContrast(UIAccessibilityContrast contrast) {
+    if (contrast == contrast_) return;
+    contrast_ = contrast;
+    setNeedsDisplay();
+}
+
 std::vector<UIWindow::Touch>::iterator UIWindow::findTouch(std::int64_t identifier) {
     return std::find_if(touches_.begin(), touches_.end(),
                         [identifier](const Touch& entry) { return entry.touch.identifier == identifier; });
@@ -165,6 +171,7 @@ void UIWindow::draw(UIGraphicsContext& context) {
     const Ref<UIView> keep = refTo<UIView>(this);
     layoutIfNeeded();
     context.setUserInterfaceStyle(style_);
+    context.setAccessibilityContrast(contrast_);
     renderInContext(context);
 }
 

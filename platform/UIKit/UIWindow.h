@@ -22,6 +22,15 @@ public:
     /// The look that colours are drawn in.
     UIUserInterfaceStyle userInterfaceStyle() const { return style_; }
     void setUserInterfaceStyle(UIUserInterfaceStyle style);
+    /// How far the colours in it keep apart, and how much wheels fade the rows beside their band. Default normal.
+    UIAccessibilityContrast accessibilityContrast() const { return contrast_; }
+    void setAccessibilityContrast(UIAccessibilityContrast contrast);
+    /// Whether nothing in it moves by itself, for users whom that makes dizzy. Default false. What would glide arrives in the next tick at
+    /// the latest: wheels on the row that they were turned or asked to, with the same reports, views that scroll on the place that they
+    /// were asked for, rows of a table where they belong. Content that a finger has thrown stops where it was let go. What follows a
+    /// finger does so as ever. Turned on while something moves, it lets that arrive in the next tick.
+    bool reducesMotion() const { return reducesMotion_; }
+    void setReducesMotion(bool reduces) { reducesMotion_ = reduces; }
 
     // From the host. Locations are in points from the window's top left, times in seconds on one steady clock.
 
@@ -54,7 +63,7 @@ public:
     /// Draws the frame. The canvas is the host's.
     void draw(UIGraphicsContext& context);
 
-    /// Whether wheels tell the host of each row that passes. Default true.
+    /// Whether wheels tell the host of each row that passes; of a row that a wheel arrives on at once it tells once. Default true.
     bool areTicksEnabled() const { return areTicksEnabled_; }
     void setTicksEnabled(bool enabled) { areTicksEnabled_ = enabled; }
 
@@ -91,6 +100,8 @@ private:
 
     UIWindowHost* host_ = nullptr;
     UIUserInterfaceStyle style_ = UIUserInterfaceStyle::Light;
+    UIAccessibilityContrast contrast_ = UIAccessibilityContrast::Normal;
+    bool reducesMotion_ = false;
     std::vector<Touch> touches_;
     std::vector<WeakRef<UIView>> moving_;
     WeakRef<UIView> firstResponder_;

@@ -19,6 +19,8 @@ TEST(GalleryArguments, WithoutAnyItIsAWindowThatFollowsTheSystem) {
     EXPECT_FALSE(parsed->pictureFolder);
     EXPECT_FALSE(parsed->size);
     EXPECT_EQ(parsed->scale, 2);
+    EXPECT_EQ(parsed->textScale, 1);
+    EXPECT_FALSE(parsed->isContrastHigh);
     EXPECT_FALSE(parsed->locale);
     EXPECT_FALSE(parsed->page);
 }
@@ -42,7 +44,8 @@ TEST(GalleryArguments, HelpIsAnsweredInBothSpellings) {
         ASSERT_TRUE(parsed);
         EXPECT_TRUE(parsed->showsHelp);
     }
-    for (const char* option : {"--shots DIR", "--page NAME", "--size WxH", "--scale N", "--locale NAME", "--help"}) {
+    for (const char* option :
+         {"--shots DIR", "--page NAME", "--size WxH", "--scale N", "--locale NAME", "--text-scale N", "--contrast C", "--help"}) {
         EXPECT_NE(GalleryArguments::usage().find(option), std::string::npos) << option;
     }
 }
@@ -71,4 +74,25 @@ TEST(GalleryArguments, ScalesAreOneToFour) {
     for (const char* wrong : {"0", "5", "-1", "1.5", "two", "99999999999"}) {
         EXPECT_EQ(errorOf({"--scale", wrong}), std::string("--scale is 1, 2, 3 or 4, and not ") + wrong);
     }
+}
+
+TEST(GalleryArguments, TextsAreAsLargeAsTheStyleSheetAllows) {
+    std::string error;
+    for (const auto& [text, scale] :
+         std::vector<std::pair<std::string, double>>{{"0.8", 0.8}, {"1", 1}, {"1.3", 1.3}, {"2.0", 2}, {"3", 3}}) {
+        const auto parsed = GalleryArguments::parse({"--text-scale", text}, error);
+        ASSERT_TRUE(parsed) << text;
+        EXPECT_EQ(parsed->textScale, scale);
+    }
+    for (const char* text : {"0.7", "3.1", "4", "0", "1.25", "1.", ".9", "-1", "large", "1.x"}) {
+        EXPECT_EQ(errorOf({"--text-scale", text}), std::string("--text-scale is 0.8 to 3, such as 1.3, and not ") + text);
+    }
+}
+
+TEST(GalleryArguments, ContrastIsNormalOrHigh) {
+    std::string error;
+    EXPECT_TRUE(GalleryArguments::parse({"--contrast", "high"}, error)->isContrastHigh);
+    EXPECT_FALSE(GalleryArguments::parse({"--contrast", "normal"}, error)->isContrastHigh);
+    EXPECT_EQ(errorOf({"--contrast", "low"}), "--contrast is normal or high, and not low");
+    EXPECT_EQ(errorOf({"--contrast"}), "--contrast needs a value");
 }

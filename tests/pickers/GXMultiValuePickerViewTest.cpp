@@ -290,3 +290,18 @@ TEST_F(MultiValue, AWheelFromACoderHasItsLabels) {
     EXPECT_TRUE(restored->leftDescLabel());
     EXPECT_TRUE(restored->rightDescLabel());
 }
+
+TEST(GXMultiValuePickerView, a_data_source_without_a_delegate_leaves_the_labels_where_they_are) {
+    class OneRow : public NSObject, public UIPickerViewDataSource {
+    public:
+        NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>&) override { return 1; }
+        NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) override { return 1; }
+    };
+    const auto source = create<OneRow>();
+    const auto wheel = create<GXMultiValuePickerView>(CGRectMake(0, 0, 320, 216));
+    wheel->setRightLabelText("kg");
+    wheel->rightDescLabel()->setFrame(CGRectMake(1, 2, 3, 4));
+    wheel->setDataSource(source);
+    EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(1, 2, 3, 4));
+    EXPECT_EQ(wheel->numberOfComponents(), 1);
+}

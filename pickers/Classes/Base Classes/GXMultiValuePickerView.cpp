@@ -2,6 +2,7 @@
 
 #include "GXStyleSheet.h"
 #include "NSArithmetic.h"
+#include "NSLocale.h"
 
 namespace gx {
 
@@ -89,6 +90,12 @@ void GXMultiValuePickerView::setRightLabelText(std::optional<std::string> text) 
     if (!areLabelsPlacedByLayout()) setupRightLabelFrame();
 }
 
+void GXMultiValuePickerView::setLabelsFollowReading(bool follow) {
+    if (follow == labelsFollowReading_) return;
+    labelsFollowReading_ = follow;
+    setNeedsLayout();
+}
+
 void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::string> text, NSUInteger component) {
     if (!sources()) return;
     Ref<UILabel>& entry = separators_[component];
@@ -168,27 +175,45 @@ CGFloat GXMultiValuePickerView::widestTitleWidth(const Sources& sources, NSInteg
     return sizeOfText(title, valueFont()).width;
 }
 
+bool GXMultiValuePickerView::areSidesChanged() const { return labelsFollowReading_ && NSLocale::currentLocale()->isRightToLeft(); }
+
 void GXMultiValuePickerView::setupLeftLabelFrame() {
     const Sources sources = this->sources();
     if (!sources) return;
-    const CGRect row = rowRectOfComponent(0);
-    const CGFloat title = widestTitleWidth(sources, 0);
-    const CGSize size = sizeOfText(leftDescLabel_->text(), labelFont());
-    leftDescLabel_->setFrame({{CGRectGetMaxX(row) - title - labelGap - size.width, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
+    if (areSidesChanged()) {
+        placeRightOfColumns(sources, leftDescLabel_);
+    } else {
+        placeLeftOfColumns(sources, leftDescLabel_);
+    }
 }
 
 void GXMultiValuePickerView::setupRightLabelFrame() {
     const Sources sources = this->sources();
     if (!sources) return;
+    if (areSidesChanged()) {
+        placeLeftOfColumns(sources, rightDescLabel_);
+    } else {
+        placeRightOfColumns(sources, rightDescLabel_);
+    }
+}
+
+void GXMultiValuePickerView::placeLeftOfColumns(const Sources& sources, const Ref<UILabel>& label) {
+    const CGRect row = rowRectOfComponent(0);
+    const CGFloat title = widestTitleWidth(sources, 0);
+    const CGSize size = sizeOfText(label->text(), labelFont());
+    label->setFrame({{CGRectGetMaxX(row) - title - labelGap - size.width, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
+}
+
+void GXMultiValuePickerView::placeRightOfColumns(const Sources& sources, const Ref<UILabel>& label) {
     const NSInteger count = numberOfComponents();
     const NSInteger last = count - 1;
     const CGRect row = rowRectOfComponent(last);
     const CGFloat title = widestTitleWidth(sources, last);
     const CGFloat width = sources.delegate->pickerView_widthForComponent(refTo<UIPickerView>(this), last);
-    const CGSize size = sizeOfText(rightDescLabel_->text(), labelFont());
+    const CGSize size = sizeOfText(label->text(), labelFont());
     // A single column is centred and its titles are right-aligned; the last of several is left-aligned.
     const CGFloat x = count == 1 ? CGRectGetMidX(bounds()) + 0.5 * width + labelGap : CGRectGetMinX(row) + title + labelGap;
-    rightDescLabel_->setFrame({{x, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
+    label->setFrame({{x, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
 }
 
 void GXMultiValuePickerView::updateSeparatorFrames() {

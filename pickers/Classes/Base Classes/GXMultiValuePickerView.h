@@ -18,6 +18,10 @@ namespace gx {
 /// The labels follow the titles: the left one ends where the widest title of the first column begins, the
 /// right one starts where the widest title of the last column ends. They are placed anew with every layout,
 /// reload and change of text; without a data source and a delegate they stay where they are.
+///
+/// Where the current locale reads from right to left, the columns keep their order, as numbers do, but the labels change sides: the
+/// right one, the unit that is read after the number, stands at the left of the columns, as far from the titles there as the left one
+/// otherwise, and the left one at their right.
 class GXMultiValuePickerView : public UIPickerView {
 public:
     /// Makes the wheel of a picker, filling the given frame.
@@ -36,6 +40,11 @@ public:
     virtual void setRightLabelText(std::optional<std::string> text);
     const Ref<UILabel>& leftDescLabel() const { return leftDescLabel_; }
     const Ref<UILabel>& rightDescLabel() const { return rightDescLabel_; }
+
+    /// Whether the labels change sides where one reads from right to left. Default true; false for labels that name the columns beside
+    /// which they stand, which do not change sides either. Takes effect with the next layout or reload.
+    bool labelsFollowReading() const { return labelsFollowReading_; }
+    void setLabelsFollowReading(bool follow);
 
     /// Go before the style sheet's fonts. A new label font places the labels with the next layout or reload, a
     /// new value font the separators; row labels are the data source's.
@@ -74,6 +83,9 @@ private:
     };
     Sources sources() const;
     bool areLabelsPlacedByLayout();
+    bool areSidesChanged() const;
+    void placeLeftOfColumns(const Sources& sources, const Ref<UILabel>& label);
+    void placeRightOfColumns(const Sources& sources, const Ref<UILabel>& label);
     CGRect rowRectOfComponent(NSInteger component);
     CGFloat widestTitleWidth(const Sources& sources, NSInteger component);
 
@@ -82,6 +94,7 @@ private:
     Ref<UILabel> rightDescLabel_;
     std::optional<std::string> leftLabelText_;
     std::optional<std::string> rightLabelText_;
+    bool labelsFollowReading_ = true;
     Ref<GXStyleSheetFont> customLabelFont_;
     Ref<GXStyleSheetFont> customValueFont_;
 };

@@ -152,6 +152,15 @@ TEST_F(UIViewWidgetFrames, ALookThatWasSetHolds) {
     EXPECT_EQ(widget.userInterfaceStyle(), UIUserInterfaceStyle::Light);
 }
 
+TEST_F(UIViewWidgetFrames, TheContrastIsTheWindowsAndHasItDrawnAgain) {
+    EXPECT_EQ(widget.contrast(), UIAccessibilityContrast::Normal);
+    EXPECT_TRUE(rests());
+    widget.setContrast(UIAccessibilityContrast::High);
+    EXPECT_EQ(widget.uiWindow()->accessibilityContrast(), UIAccessibilityContrast::High);
+    EXPECT_EQ(widget.contrast(), UIAccessibilityContrast::High);
+    EXPECT_TRUE(widget.isFrameDue());
+}
+
 TEST_F(UIViewWidgetFrames, AWidgetWithinAnotherDrawsInItsPlace) {
     QWidget outer;
     outer.resize(300, 200);

@@ -487,3 +487,39 @@ TEST_F(Keys, the_delegate_may_drop_the_wheel_while_it_hears_of_a_number) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}}));
     EXPECT_TRUE(weak.expired());
 }
+
+TEST_F(Keys, attributed_titles_are_spelled_before_plain_ones) {
+    /// Row 4 says 8 to the eye, and 4 as its plain title.
+    class DoubledTitles : public WheelSource {
+    public:
+        Ref<NSAttributedString> pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger) override {
+            return NSAttributedString::attributedStringWithString_attributes(std::to_string(2 * row), {});
+        }
+    };
+    const auto doubled = create<DoubledTitles>();
+    wheel->setDelegate(doubled);
+    window.tick(0);
+    window.type("8");
+    window.runUntilStill();
+    EXPECT_EQ(doubled->notices, (Notices{{4, 0}}));
+}
+
+TEST_F(Keys, a_separator_typed_in_the_last_column_leaves_the_keys_there) {
+    window.press(Code::Right);
+    EXPECT_EQ(wheel->componentOfKeys(), 1);
+    window.type("5.");
+    EXPECT_EQ(wheel->componentOfKeys(), 1);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{5, 1}}));
+}
+
+TEST_F(Keys, a_host_without_clicks_turns_wheels_all_the_same) {
+    struct QuietHost : UIWindowHost {
+        void windowNeedsFrame() override {}
+    } host;
+    window->setHost(&host);
+    window.press(Code::Down);
+    window.runUntilStill();
+    window->setHost(nullptr);
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}

@@ -493,3 +493,18 @@ TEST_F(Wheel, AWheelRestoredFromACoderTurnsLikeAnyOther) {
     EXPECT_TRUE(restored->showsSelectionIndicator());
     EXPECT_TRUE(restored->viewForRow_forComponent(0, 0));
 }
+
+TEST(UIPickerView, a_delegate_that_says_nothing_leaves_everything_to_the_wheel) {
+    class Silent : public NSObject, public UIPickerViewDelegate {};
+    const auto source = create<WheelSource>();
+    const auto silent = create<Silent>();
+    const auto wheel = create<UIPickerView>(CGRectMake(0, 0, 320, 216));
+    wheel->setDataSource(source);
+    wheel->setDelegate(silent);
+    EXPECT_EQ(wheel->rowSizeForComponent(0), CGSizeMake(320, 32));
+    const auto label = std::dynamic_pointer_cast<UILabel>(wheel->viewForRow_forComponent(0, 0));
+    ASSERT_TRUE(label);
+    EXPECT_FALSE(label->showsSomething());
+    wheel->turnToRow_inComponent(3, 0);
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 3);
+}

@@ -611,3 +611,22 @@ TEST_F(Turning, WildTimesAndPlacesEndOnARow) {
     EXPECT_LT(row, 100);
     EXPECT_DOUBLE_EQ(rowsFrom(row), 0);
 }
+
+TEST(UIPickerView, hands_up_a_cancelled_touch_that_turns_no_column) {
+    class Noting : public UIView {
+    public:
+        int cancelled = 0;
+        void touchBegan(const UITouch&) override {}
+        void touchCancelled(const UITouch&) override { ++cancelled; }
+    };
+    const auto source = create<WheelSource>();
+    const auto parent = create<Noting>(CGRectMake(0, 0, 320, 216));
+    parent->addSubview(wheelWithSource(source));
+    TestWindow window(parent);
+    window.down({20, 108}); // Beside the column.
+    window->touchCancelled_at_time(1, window.now);
+    EXPECT_EQ(parent->cancelled, 1);
+    window.down(centre);
+    window->touchCancelled_at_time(1, window.now);
+    EXPECT_EQ(parent->cancelled, 1) << "the column's own";
+}

@@ -401,3 +401,24 @@ TEST_F(Scrolling, what_the_focus_goes_to_comes_into_sight) {
     EXPECT_FALSE(window.tick(0));
     EXPECT_EQ(offset(), 150);
 }
+
+TEST(UIScrollView, clips_its_content_also_when_it_comes_from_an_interface) {
+    const auto coder = create<NSCoder>();
+    coder->encodeCGRect_forKey(CGRectMake(1, 2, 30, 40), "frame");
+    const auto scroll = create<UIScrollView>(coder);
+    EXPECT_EQ(scroll->frame(), CGRectMake(1, 2, 30, 40));
+    EXPECT_TRUE(scroll->clipsToBounds());
+}
+
+TEST_F(Scrolling, content_that_shrinks_below_a_finger_gives_way_as_beyond_an_end) {
+    window.down({150, 300});
+    window.glide({150, 300}, {150, 190}, 11);
+    const CGFloat pulled = offset();
+    ASSERT_GT(pulled, 90);
+    scroll->setContentSize({300, 450}); // The highest offset is 50 now.
+    EXPECT_GT(offset(), 50) << "the finger still pulls";
+    EXPECT_LT(offset(), pulled) << "but not as far";
+    window.up({150, 190});
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 50);
+}

@@ -263,6 +263,24 @@ TEST_F(Changing, without_a_window_or_animation_it_is_drawn_as_it_is) {
     EXPECT_FALSE(canvas.texts.contains("new"));
 }
 
+TEST_F(Changing, in_a_window_that_reduces_motion_it_is_drawn_as_it_is) {
+    window->setReducesMotion(true);
+    insert(1, "new");
+    EXPECT_EQ(drawn().at("b").baseline, 100) << "the third row, below two of 44 points, its text 12 below its top";
+    remove(1);
+    EXPECT_EQ(drawn().at("b").baseline, 56);
+    EXPECT_FALSE(drawn().contains("new"));
+}
+
+TEST_F(Changing, a_change_under_way_arrives_when_motion_is_reduced) {
+    insert(1, "new");
+    runHalf();
+    EXPECT_LT(drawn().at("b").baseline, 100);
+    window->setReducesMotion(true);
+    window.tick(TestWindow::frame);
+    EXPECT_EQ(drawn().at("b").baseline, 100);
+}
+
 TEST_F(Changing, a_table_that_leaves_its_window_arrives) {
     remove(2);
     table->removeFromSuperview();
@@ -311,4 +329,19 @@ TEST(UITableViewChange, tells_what_rows_become) {
     EXPECT_EQ(out->pathAfter({0, 4}), Path({0, 2}));
     EXPECT_EQ(out->pathAfter({1, 1}), Path({1, 1}));
     EXPECT_FALSE(UITableViewChange::change(UITableViewChange::Kind::Removal, paths, few, more));
+}
+
+TEST_F(Changing, headers_below_an_insertion_are_drawn_on_their_way_too) {
+    source->rows = {2, 5};
+    source->titles = {std::nullopt, "header"};
+    table->reloadData();
+    window.tick(0);
+    const CGFloat before = drawn()["header"].baseline;
+    source->rows = {3, 5};
+    table->insertRowsAtIndexPaths_animated({{0, 0}}, true);
+    EXPECT_EQ(drawn()["header"].baseline, before) << "not moved yet";
+    runHalf();
+    EXPECT_NEAR(drawn()["header"].baseline, before + 38.5, 1e-6) << "seven eighths of 44";
+    window.runUntilStill();
+    EXPECT_EQ(drawn()["header"].baseline, before + 44);
 }

@@ -130,3 +130,13 @@ TEST(UITableViewRows, a_place_is_held_to_the_rows_there_are) {
     EXPECT_EQ(rows.heldRow({-1, 0}), Path({0, 0}));
     EXPECT_EQ(UITableViewRows().heldRow({0, 0}), std::nullopt);
 }
+
+TEST(UITableViewRows, without_height_are_passed_over_below_their_header) {
+    UITableViewRows rows;
+    rows.addSection("first", 20, 5, 0);
+    rows.addSection(std::nullopt, 0, 1, 40);
+    EXPECT_EQ(rows.height(), 60);
+    EXPECT_EQ(rows.firstRowBelow(10), Path(NSIndexPath{1, 0}));
+    EXPECT_EQ(rows.rowAt(10), Path());
+    EXPECT_EQ(rows.rowAt(20), Path(NSIndexPath{1, 0}));
+}

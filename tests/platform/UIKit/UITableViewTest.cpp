@@ -396,3 +396,71 @@ TEST_F(Table, a_huge_or_endless_frame_shows_a_bounded_number_of_rows) {
     window.tick(0);
     EXPECT_TRUE(table->indexPathsForVisibleRows().empty());
 }
+
+TEST_F(Table, a_source_and_a_delegate_that_say_little_give_one_section_without_header) {
+    class Brief : public NSObject, public UITableViewDataSource, public UITableViewDelegate {
+    public:
+        NSInteger tableView_numberOfRowsInSection(const Ref<UITableView>&, NSInteger) override { return 3; }
+        Ref<UITableViewCell> tableView_cellForRowAtIndexPath(const Ref<UITableView>& asking, NSIndexPath) override {
+            return asking->dequeueReusableCellWithIdentifier(TableSource::identifier);
+        }
+    };
+    const auto brief = create<Brief>();
+    table->setDataSource(brief);
+    table->setDelegate(brief);
+    window.tick(0);
+    EXPECT_EQ(table->numberOfSections(), 1);
+    EXPECT_EQ(table->rectForRowAtIndexPath({0, 0}), CGRectMake(0, 0, 320, 44));
+    window.down({160, 66});
+    window.run(0.1);
+    EXPECT_TRUE(table->cellForRowAtIndexPath({0, 1})->isHighlighted());
+    window.up({160, 66});
+    window.runUntilStill();
+    EXPECT_FALSE(table->cellForRowAtIndexPath({0, 1})->isHighlighted());
+}
+
+TEST_F(Table, a_header_takes_the_height_that_was_set) {
+    source->titles = {"first"};
+    table->reloadData();
+    EXPECT_EQ(table->rectForRowAtIndexPath({0, 0}).origin.y, 28);
+    table->setSectionHeaderHeight(50);
+    EXPECT_EQ(table->rectForRowAtIndexPath({0, 0}).origin.y, 50);
+    const int questions = source->countQuestions;
+    table->setSectionHeaderHeight(50);
+    table->numberOfSections();
+    EXPECT_EQ(source->countQuestions, questions) << "nothing has changed";
+    table->setSectionHeaderHeight(UITableView::automaticDimension);
+    EXPECT_EQ(table->rectForRowAtIndexPath({0, 0}).origin.y, 28);
+}
+
+TEST_F(Table, a_cell_taken_outside_a_question_belongs_to_its_taker) {
+    source->rows = {9};
+    table->reloadData();
+    window.tick(0); // One cell waits now.
+    const auto cell = table->dequeueReusableCellWithIdentifier(TableSource::identifier);
+    ASSERT_TRUE(cell);
+    EXPECT_FALSE(cell->superview());
+    EXPECT_FALSE(cell->isHidden());
+}
+
+TEST_F(Table, rows_reloaded_before_an_answer_is_there_wait_for_it) {
+    source->asked.clear();
+    table->reloadData();
+    table->reloadRowsAtIndexPaths({{0, 2}});
+    EXPECT_EQ(source->asked, Paths{});
+    window.tick(0);
+    EXPECT_EQ(std::count(source->asked.begin(), source->asked.end(), NSIndexPath{0, 2}), 1);
+}
+
+TEST_F(Table, a_layout_within_a_question_waits_for_its_answer) {
+    source->rows = {3};
+    source->whenAskedForCounts = [this] {
+        table->setNeedsLayout();
+        table->layoutIfNeeded();
+    };
+    table->reloadData();
+    EXPECT_EQ(table->numberOfRowsInSection(0), 3);
+    source->whenAskedForCounts = {};
+    window.tick(0);
+    EXPECT_EQ(table->indexPathsForVisibleRows(), (Paths{{0, 0}, {0, 1}, {0, 2}}));
+}

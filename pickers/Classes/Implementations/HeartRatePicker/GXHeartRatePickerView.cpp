@@ -52,6 +52,7 @@ void GXHeartRatePickerView::initGXHeartRatePickerView() {
     setCurrentMaxHeartRate(NSNumber::numberWithInteger(defaultMaximum));
     const Ref<GXMultiValuePickerView> wheel = pickerView();
     if (!wheel) return;
+    wheel->setLabelsFollowReading(false);
     wheel->setRightLabelText(GXLocalization::sharedLocalization()->localizedStringWithKey_comment("MAX", "MAX - Heartrate Unit"));
     wheel->setLeftLabelText(GXLocalization::sharedLocalization()->localizedStringWithKey_comment("AVG", "AVG - Heartrate Unit"));
     // At once: a fresh picker comes up on its rates, instead of turning to them before the user's eyes.

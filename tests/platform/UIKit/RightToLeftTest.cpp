@@ -1,0 +1,70 @@
+// Where one reads from right to left: labels that begin at the right, and rows of tables in the mirror.
+
+#include <algorithm>
+
+#include "NSLocale.h"
+#include "RecordingCanvas.h"
+#include "TableSource.h"
+#include "TestWindow.h"
+
+using namespace gx;
+
+namespace {
+
+struct RightToLeft : testing::Test {
+    RightToLeft() { NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("he")); }
+    ~RightToLeft() override { NSLocale::setCurrentLocale(nullptr); }
+    static std::vector<std::string> painted(const Ref<UIView>& view) {
+        RecordingCanvas canvas;
+        view->renderInContext(canvas);
+        return canvas.painted();
+    }
+    static bool startsWith(const std::string& text, const std::string& start) { return text.starts_with(start); }
+};
+
+Ref<UILabel> labelOf(NSTextAlignment alignment) {
+    const auto label = create<UILabel>(CGRectMake(0, 0, 100, 20));
+    label->setText("abc");
+    label->setTextAlignment(alignment);
+    return label;
+}
+
+} // namespace
+
+TEST_F(RightToLeft, a_text_of_natural_alignment_begins_at_the_right_and_any_other_one_where_it_was_put) {
+    // 30 of 100 points.
+    EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentNatural)).at(0), "text abc at 70 0");
+    EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentLeft)).at(0), "text abc at 0 0");
+    EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentCenter)).at(0), "text abc at 35 0");
+    EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentRight)).at(0), "text abc at 70 0");
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("en"));
+    EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentNatural)).at(0), "text abc at 0 0");
+}
+
+TEST_F(RightToLeft, a_cell_has_its_name_at_the_right_and_its_value_at_the_left) {
+    const auto cell = create<UITableViewCell>(UITableViewCellStyleValue1, "row");
+    cell->textLabel()->setText("Name");
+    cell->detailTextLabel()->setText("Value");
+    cell->layoutIfNeeded();
+    // 320 less 16 at either side are 288: 50 for the value, 8 between, and 230 for the name.
+    EXPECT_EQ(cell->detailTextLabel()->frame(), CGRectMake(16, 0, 50, 44));
+    EXPECT_EQ(cell->textLabel()->frame(), CGRectMake(74, 0, 230, 44));
+    EXPECT_EQ(cell->textLabel()->textAlignment(), NSTextAlignmentNatural);
+}
+
+TEST_F(RightToLeft, hairlines_and_headers_of_a_table_begin_at_the_right) {
+    const auto source = create<TableSource>();
+    source->rows = {2};
+    source->titles = {"Head"};
+    const auto table = tableWithSource(source);
+    TestWindow window(table);
+    RecordingCanvas canvas;
+    window->draw(canvas);
+    // The header is 28 high and its text 40 wide; the first row ends at 72.
+    const auto calls = canvas.painted();
+    const auto has = [&calls](const std::string& start) {
+        return std::any_of(calls.begin(), calls.end(), [&start](const std::string& call) { return call.starts_with(start); });
+    };
+    EXPECT_TRUE(has("fill 0 71.5 304 0.5 "));
+    EXPECT_TRUE(has("text Head at 248 4 ")) << "within 288 points";
+}
