@@ -122,6 +122,12 @@ void GalleryButton::drawRect(UIGraphicsContext& context, CGRect rect) {
     drawFocus(context, lit, radius);
 }
 
+std::optional<std::string> GalleryButton::accessibilityLabel() const { return GalleryControl::accessibilityLabel().value_or(title_); }
+
+UIAccessibilityElements GalleryButton::accessibilityElements() {
+    return wholeAccessibilityElement(refTo<UIView>(this), UIAccessibilityRole::Button);
+}
+
 void GalleryButton::tapped(CGPoint) {
     const auto action = action_; // The call may replace or drop what it was called by.
     if (action) action();

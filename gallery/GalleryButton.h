@@ -35,6 +35,9 @@ public:
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
     void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
+    /// The title, also where a sign is drawn.
+    std::optional<std::string> accessibilityLabel() const override;
+    gx::UIAccessibilityElements accessibilityElements() override;
 
 protected:
     void tapped(gx::CGPoint point) override;

@@ -60,6 +60,7 @@ void GalleryPage::setUp(GalleryPageDescription description) {
         optionsCard_->addSubview(title);
 
         const auto segments = GallerySegments::segmentsWithChoices(option.choices, option.chosen);
+        segments->setAccessibilityLabel(option.title);
         segments->setAction([weak = WeakRef<GalleryPage>(refTo(this)), i](std::size_t choice) {
             if (const Ref<GalleryPage> page = weak.lock()) page->choose(i, choice);
         });

@@ -1,5 +1,7 @@
 #include "GallerySegments.h"
 
+#include <algorithm>
+
 #include "GalleryTheme.h"
 #include "UIGraphicsContext.h"
 #include "UIKey.h"
@@ -11,7 +13,42 @@ namespace gallery {
 namespace {
 constexpr CGFloat trackRadius = 11;
 constexpr CGFloat thumbInset = 3;
+
+/// The segments as a screen reader has them.
+class SegmentsElement : public UIAccessibilityElement {
+public:
+    explicit SegmentsElement(const Ref<GallerySegments>& segments)
+        : UIAccessibilityElement(segments, UIAccessibilityRole::Adjustable), segments_(segments) {}
+
+    std::optional<std::string> value() const override {
+        const auto segments = segments_.lock();
+        return segments ? std::optional(segments->choices()[segments->chosen()]) : std::nullopt;
+    }
+    std::optional<NSInteger> index() const override {
+        const auto segments = segments_.lock();
+        return segments ? std::optional(static_cast<NSInteger>(segments->chosen())) : std::nullopt;
+    }
+    NSInteger count() const override {
+        const auto segments = segments_.lock();
+        return segments ? static_cast<NSInteger>(segments->choices().size()) : 0;
+    }
+    void increment() override { setIndex(index().value_or(0) + 1); }
+    void decrement() override { setIndex(index().value_or(0) - 1); }
+    void setIndex(NSInteger index) override {
+        const auto segments = segments_.lock();
+        if (segments && isEnabled()) segments->choose(static_cast<std::size_t>(std::clamp<NSInteger>(index, 0, count() - 1)));
+    }
+
+private:
+    WeakRef<GallerySegments> segments_;
+};
+
 } // namespace
+
+UIAccessibilityElements GallerySegments::accessibilityElements() {
+    if (choices_.empty()) return {};
+    return {std::make_shared<SegmentsElement>(refTo(this))};
+}
 
 Ref<GallerySegments> GallerySegments::segmentsWithChoices(std::vector<std::string> choices, std::size_t chosen) {
     auto segments = create<GallerySegments>(CGRectZero);
@@ -76,7 +113,7 @@ bool GallerySegments::keyPressed(const UIKey& key) {
     if ((!isBack && key.code != UIKey::Code::Right) || key.isCommand()) return GalleryControl::keyPressed(key);
     const Ref<UIView> keep = refTo<UIView>(this);
     const std::size_t beside = isBack ? chosen_ - 1 : chosen_ + 1; // Before the first one there is none, as beyond the last.
-    if (beside < choices_.size()) tapped(middleOfSegment(beside));
+    choose(beside);
     return true;
 }
 
@@ -89,8 +126,9 @@ CGPoint GallerySegments::middleOfSegment(std::size_t index) const {
     return {CGRectGetMidX(segment), CGRectGetMidY(segment)};
 }
 
-void GallerySegments::tapped(CGPoint point) {
-    const std::size_t index = segmentAt(point);
+void GallerySegments::tapped(CGPoint point) { choose(segmentAt(point)); }
+
+void GallerySegments::choose(std::size_t index) {
     if (index >= choices_.size() || index == chosen_) return;
     setChosen(index);
     const auto action = action_; // The call may replace or drop what it was called by.

@@ -31,6 +31,10 @@ public:
     /// Left and right choose the one beside, as a tap on it does.
     bool keyPressed(const gx::UIKey& key) override;
     bool canBecomeFirstResponder() override;
+    /// Chooses, and calls the action, as a tap on the segment does. Ignored for the chosen one and beyond the choices.
+    void choose(std::size_t index);
+    /// One that goes from choice to choice, called by the view's label.
+    gx::UIAccessibilityElements accessibilityElements() override;
 
 protected:
     void tapped(gx::CGPoint point) override;

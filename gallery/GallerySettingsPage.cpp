@@ -156,6 +156,7 @@ void GallerySettingsPage::addChoice(const std::string& name, std::vector<std::st
     title->setFont(GalleryTheme::strongCaptionFont());
     title->setTextColor(GalleryTheme::secondaryText());
     const auto control = GallerySegments::segmentsWithChoices(std::move(choices), chosen);
+    control->setAccessibilityLabel(title->text());
     control->setAction([weak = WeakRef<GallerySettingsPage>(refTo(this)), take = std::move(take)](std::size_t choice) {
         if (const auto page = weak.lock()) page->change([&](GallerySettings& settings) { take(settings, choice); });
     });

@@ -23,6 +23,7 @@ void showTemperature(GXTemperaturePickerView& picker, double celsius) {
 
 void configureWeather(GXWeatherAndTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
     picker.setIsMetric(settings.isMetric);
+    picker.weatherPicker()->setAccessibilityLabel(GalleryTexts::text("Weather"));
     picker.weatherPicker()->setIconImages(GalleryWeatherIcons::images());
     picker.weatherPicker()->setCurrentValue(NSNumber::numberWithInteger(static_cast<NSInteger>(workout.weather)));
     showTemperature(*picker.temperaturePicker(), workout.temperature);

@@ -325,22 +325,28 @@ void UIPickerView::showRow(NSInteger component, NSInteger row) {
 void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
     UIView::drawRect(context, rect);
     if (count_ == 0) return;
-    CGFloat height = 0;
-    for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
-    const CGRect band = CGRectMake(rect.origin.x + bandInset, CGRectGetMidY(rect) - 0.5 * height, rect.size.width - 2 * bandInset, height);
-    if (showsBand_) drawBand(context, band);
+    const CGRect band = selectionIndicatorFrame();
+    if (showsBand_) drawSelectionIndicator(context, band);
     drawFocus(context, band);
 }
 
-void UIPickerView::drawBand(UIGraphicsContext& context, CGRect band) const {
+CGRect UIPickerView::selectionIndicatorFrame() {
+    if (count_ == 0) return {};
+    CGFloat height = 0;
+    for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
+    const CGRect room = bounds();
+    return CGRectMake(room.origin.x + bandInset, CGRectGetMidY(room) - 0.5 * height, room.size.width - 2 * bandInset, height);
+}
+
+void UIPickerView::drawSelectionIndicator(UIGraphicsContext& context, CGRect frame) {
     const bool isOutlined = context.accessibilityContrast() == UIAccessibilityContrast::High;
     // An outline of straight lines has no rounded corners to follow.
-    context.fillRect(band, UIColor::tertiarySystemFillColor(), isOutlined ? 0 : bandCornerRadius);
+    context.fillRect(frame, UIColor::tertiarySystemFillColor(), isOutlined ? 0 : bandCornerRadius);
     if (!isOutlined) return;
-    for (const CGFloat y : {CGRectGetMinY(band), CGRectGetMaxY(band) - bandOutline})
-        context.fillRect(CGRectMake(band.origin.x, y, band.size.width, bandOutline), UIColor::secondaryLabelColor());
-    for (const CGFloat x : {CGRectGetMinX(band), CGRectGetMaxX(band) - bandOutline})
-        context.fillRect(CGRectMake(x, band.origin.y, bandOutline, band.size.height), UIColor::secondaryLabelColor());
+    for (const CGFloat y : {CGRectGetMinY(frame), CGRectGetMaxY(frame) - bandOutline})
+        context.fillRect(CGRectMake(frame.origin.x, y, frame.size.width, bandOutline), UIColor::secondaryLabelColor());
+    for (const CGFloat x : {CGRectGetMinX(frame), CGRectGetMaxX(frame) - bandOutline})
+        context.fillRect(CGRectMake(x, frame.origin.y, bandOutline, frame.size.height), UIColor::secondaryLabelColor());
 }
 
 } // namespace gx

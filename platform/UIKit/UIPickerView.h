@@ -64,6 +64,10 @@ public:
     /// The band behind the row in the middle. Default true.
     bool showsSelectionIndicator() const { return showsBand_; }
     void setShowsSelectionIndicator(bool shows);
+    /// Where it is drawn, in this view's coordinates; empty without columns.
+    CGRect selectionIndicatorFrame();
+    /// Draws one, for a view that spans several wheels with it and hides theirs.
+    static void drawSelectionIndicator(UIGraphicsContext& context, CGRect frame);
 
     // Questions
 
@@ -151,7 +155,6 @@ private:
     UIPickerTitleSearch::Result rowsSpelled(const std::u32string& text, NSInteger component);
     void completeTyping();
     void arriveExcept(NSInteger component);
-    void drawBand(UIGraphicsContext& context, CGRect band) const;
     void drawFocus(UIGraphicsContext& context, CGRect band);
     bool isAdjustable(NSInteger component);
     std::optional<std::string> spokenRow(NSInteger row, NSInteger component);

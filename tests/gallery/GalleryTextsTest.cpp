@@ -19,8 +19,8 @@ using gx::GXLocalization;
 namespace {
 
 /// What stands on a button, of which three stand side by side on a narrow screen.
-constexpr std::array<std::string_view, 17> choices = {"Open",   "Save",   "Metric", "Imperial", "Kilograms",      "Pounds",
-                                                      "Stones", "System", "Light",  "Dark",     "Full",           "Reduced",
+constexpr std::array<std::string_view, 17> choices = {"Open",   "Save",   "Metric", "Imperial", "Kilograms", "Pounds",
+                                                      "Stones", "System", "Light",  "Dark",     "Full",      "Reduced",
                                                       "Normal", "High",   "On",     "Off",      "Automatic"};
 /// What stands before a value or above a group, or names a page.
 constexpr std::array<std::string_view, 32> names = {

@@ -1,5 +1,7 @@
 #include "GXDistanceAndDurationPicker.h"
 
+#include "UIGraphicsContext.h"
+
 namespace gx {
 
 namespace {
@@ -31,6 +33,20 @@ void GXDistanceAndDurationPicker::initGXDistanceAndDurationPicker() {
     durationPicker_->setDelegate(refTo(this));
     addSubview(distancePicker_);
     addSubview(durationPicker_);
+    // Theirs would overlap in the middle.
+    for (const Ref<GXMultiValuePickerView>& wheel : {distancePicker_->pickerView(), durationPicker_->pickerView()}) {
+        if (wheel) wheel->setShowsSelectionIndicator(false);
+    }
+}
+
+void GXDistanceAndDurationPicker::drawRect(UIGraphicsContext& context, CGRect rect) {
+    GXBasePickerView::drawRect(context, rect);
+    const Ref<GXMultiValuePickerView> wheel = distancePicker_ ? distancePicker_->pickerView() : nullptr;
+    if (!wheel) return;
+    // As far from the right edge as from the left one.
+    CGRect band = convertRect_fromView(wheel->selectionIndicatorFrame(), wheel);
+    band.size.width = rect.size.width - 2 * (band.origin.x - rect.origin.x);
+    if (band.size.height > 0) UIPickerView::drawSelectionIndicator(context, band);
 }
 
 CGRect GXDistanceAndDurationPicker::distanceFrame() const {

@@ -34,6 +34,8 @@ public:
 
     /// Places the inner pickers by the new bounds, each over its half and a little more.
     void setFrame(CGRect frame) override;
+    /// The one selection indicator that spans both wheels.
+    void drawRect(UIGraphicsContext& context, CGRect rect) override;
     /// Also hands the delegate, or nothing, to the inner pickers; from then on they no longer report here.
     void setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) override;
     /// Also sets the flag of the inner pickers; the duration has no unit systems and only stores it.
