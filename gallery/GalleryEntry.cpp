@@ -90,10 +90,17 @@ void GalleryEntry::makeRows() {
 }
 
 void GalleryEntry::setSettings(const GallerySettings& settings) {
-    if (settings == settings_) return;
-    settleWheels();
+    // What only the window draws by leaves the rows as they are.
+    GallerySettings drawnAlike = settings;
+    drawnAlike.style = settings_.style;
+    drawnAlike.contrast = settings_.contrast;
+    drawnAlike.reducesMotion = settings_.reducesMotion;
+    const bool isSame = drawnAlike == settings_;
+    const bool isOtherLanguage = settings.language != settings_.language;
+    if (!isSame) settleWheels();
     settings_ = settings;
-    makeRows();
+    if (isOtherLanguage) tell("", false);
+    if (!isSame) makeRows();
 }
 
 void GalleryEntry::setWorkout(const GalleryWorkout& workout) {

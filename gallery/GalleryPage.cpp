@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "GXStyleSheet.h"
+#include "GalleryTexts.h"
 #include "GalleryTheme.h"
 
 using namespace gx;
@@ -46,7 +47,7 @@ Ref<GalleryPage> GalleryPage::pageWithDescription(GalleryPageDescription descrip
 
 void GalleryPage::setUp(GalleryPageDescription description) {
     description_ = std::move(description);
-    title_->setText(description_.name);
+    title_->setText(GalleryTexts::text(description_.name));
     purpose_->setText(description_.purpose);
     exhibit_ = makeExhibit();
     pickerCard_->addSubview(exhibit_.picker);
@@ -115,6 +116,7 @@ void GalleryPage::choose(std::size_t option, std::size_t choice) {
 }
 
 void GalleryPage::renewPicker() {
+    title_->setText(GalleryTexts::text(description_.name)); // The language may be another one.
     const GalleryExhibit before = std::move(exhibit_);
     exhibit_ = makeExhibit();
     for (std::size_t i = 0; i < exhibit_.options.size(); ++i) choose(i, before.options[i].chosen);

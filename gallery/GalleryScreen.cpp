@@ -35,11 +35,11 @@ bool GalleryScreen::initWithFrame(CGRect frame) {
     barTitle_ = create<UILabel>(CGRectZero);
     barTitle_->setFont(GalleryTheme::headingFont());
     barTitle_->setTextAlignment(NSTextAlignmentCenter);
-    menuButton_ = GalleryButton::buttonWithTitle_sign("All pages", GalleryButton::Sign::Menu);
+    menuButton_ = GalleryButton::buttonWithTitle_sign(GalleryTexts::text("All pages"), GalleryButton::Sign::Menu);
     menuButton_->setAction([weak] {
         if (const auto screen = weak.lock()) screen->setMenuShown(!screen->isMenuShown());
     });
-    styleButton_ = GalleryButton::buttonWithTitle_sign("Light or dark", GalleryButton::Sign::Look);
+    styleButton_ = GalleryButton::buttonWithTitle_sign(GalleryTexts::text("Light or dark"), GalleryButton::Sign::Look);
     styleButton_->setAction([weak] {
         const auto screen = weak.lock();
         if (!screen) return;
@@ -135,6 +135,8 @@ void GalleryScreen::setSettings(const GallerySettings& settings) {
         if (overview_) overview_->renewPickers();
     }
     sidebar_->showNames();
+    menuButton_->setTitle(GalleryTexts::text("All pages"));
+    styleButton_->setTitle(GalleryTexts::text("Light or dark"));
     showTitles();
     setNeedsLayout();
 }

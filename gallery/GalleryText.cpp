@@ -13,6 +13,23 @@ namespace gallery {
 namespace {
 // Between two lines of a paragraph; chosen by eye.
 constexpr CGFloat leading = 2;
+
+CGFloat widthOf(const std::string& text) { return UITextEngine::shared()->sizeOfText_font(text, *GalleryTheme::bodyFont()).width; }
+
+/// How many bytes of a text fit: whole characters, and at least one.
+std::size_t fittingPart(const std::string& text, CGFloat width) {
+    const auto endOfCharacter = [&text](std::size_t at) {
+        constexpr unsigned char continuationMask = 0xC0;
+        constexpr unsigned char continuation = 0x80;
+        do ++at;
+        while (at < text.size() && (static_cast<unsigned char>(text[at]) & continuationMask) == continuation);
+        return at;
+    };
+    std::size_t part = endOfCharacter(0);
+    while (part < text.size() && widthOf(text.substr(0, endOfCharacter(part))) <= width) part = endOfCharacter(part);
+    return part;
+}
+
 } // namespace
 
 bool GalleryText::initWithFrame(CGRect frame) {
@@ -34,19 +51,23 @@ void GalleryText::setColor(const UIColor& color) {
 }
 
 std::vector<std::string> GalleryText::linesForWidth(CGFloat width) const {
-    UITextEngine& engine = *UITextEngine::shared();
     std::vector<std::string> lines;
     for (std::size_t start = 0; start < text_.size();) {
         const std::size_t end = std::min(text_.find(' ', start), text_.size());
-        const std::string word = text_.substr(start, end - start);
+        std::string word = text_.substr(start, end - start);
         start = end + 1;
         const std::string longer = lines.empty() ? word : lines.back() + " " + word;
-        const bool fits = engine.sizeOfText_font(longer, *GalleryTheme::bodyFont()).width <= width;
-        if (lines.empty() || !fits) {
-            lines.push_back(word);
-        } else {
+        if (!lines.empty() && widthOf(longer) <= width) {
             lines.back() = longer;
+            continue;
         }
+        // Languages that write without spaces, and names of files, break where the line ends.
+        while (widthOf(word) > width) {
+            const std::size_t part = fittingPart(word, width);
+            lines.push_back(word.substr(0, part));
+            word.erase(0, part);
+        }
+        if (!word.empty()) lines.push_back(word);
     }
     return lines;
 }

@@ -24,7 +24,7 @@ struct GalleryWorkout {
     double weight = 72.5;               ///< kilograms
     double height = 176;                ///< centimetres
 
-    /// The numbers among the members, each with its name in a file and what may stand there: no less and no more than its picker offers.
+    /// The numbers among the members, each with its name in a file and what may stand there: what its picker can show, in any unit.
     struct Number {
         const char* name;
         double GalleryWorkout::*value;

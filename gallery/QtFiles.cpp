@@ -18,7 +18,11 @@ QString filter() { return title("Workouts") + QStringLiteral(" (*.json)"); }
 
 QtFiles::Dialogs systemDialogs() {
     return {[](QWidget* parent, const QString& suggestedName) {
-                return QFileDialog::getSaveFileName(parent, title("Save"), suggestedName, filter());
+                QFileDialog dialog(parent, title("Save"), QString(), filter());
+                dialog.setAcceptMode(QFileDialog::AcceptSave);
+                dialog.setDefaultSuffix(QStringLiteral("json"));
+                dialog.selectFile(suggestedName);
+                return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
             },
             [](QWidget* parent) { return QFileDialog::getOpenFileName(parent, title("Open"), QString(), filter()); }};
 }

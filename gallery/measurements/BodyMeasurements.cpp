@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "GXHeightPickerCell.h"
 #include "GXHeightPickerView.h"
 #include "GXStyleSheet.h"
@@ -17,7 +19,8 @@ using Weight = GalleryPickerMeasurement<GXWeightPickerCell, GXWeightPickerView>;
 void configureWeight(GXWeightPickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
     picker.setWeightUnit(settings.weightUnit);
     picker.updateMinMaxWeight();
-    picker.setCurrentValue(NSNumber::numberWithDouble(workout.weight));
+    // Pounds and stones begin a little higher than kilograms; what lies below stands on their first row.
+    picker.setCurrentValue(NSNumber::numberWithDouble(std::max(workout.weight, picker.minValue().doubleValue())));
 }
 
 void takeWeight(GalleryWorkout& workout, const GXWeightPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {

@@ -2,9 +2,7 @@
 #include "GXBpmPickerView.h"
 #include "GXHeartRatePickerCell.h"
 #include "GXHeartRatePickerView.h"
-#include "GXLocalization.h"
 #include "GalleryMeasurements.h"
-#include "GalleryNumbers.h"
 #include "GalleryWords.h"
 
 using namespace gx;
@@ -27,14 +25,15 @@ void takeRates(GalleryWorkout& workout, const GXHeartRatePickerView& picker, con
     workout.maximumHeartRate = picker.currentMaxHeartRate().doubleValue();
 }
 
-/// "Ø 142, MAX 171".
+/// "Ø 142, MAX 171". Read off the wheel, whose first row stands for no rate.
 std::string ratesInWords(const Ref<GXHeartRatePickerView>& picker) {
     const auto& wheel = picker->pickerView();
-    const auto words = [](const std::optional<std::string>& label, const NSNumber& rate) {
-        return label.value_or("") + " " + (rate.integerValue() == 0 ? "–" : GalleryNumbers::decimal(rate.doubleValue(), 0));
+    const auto words = [&](const std::optional<std::string>& label, NSInteger component) {
+        const NSInteger row = wheel->selectedRowInComponent(component);
+        const std::string title = picker->pickerView_titleForRow_forComponent(wheel, row, component).value_or("");
+        return label.value_or("") + " " + (title == "-" ? "–" : title);
     };
-    return words(wheel->leftLabelText(), picker->currentAvgHeartRate()) + ", " +
-           words(wheel->rightLabelText(), picker->currentMaxHeartRate());
+    return words(wheel->leftLabelText(), 0) + ", " + words(wheel->rightLabelText(), wheel->numberOfComponents() - 1);
 }
 
 void configurePulse(GXBpmPickerView& picker, const GalleryWorkout& workout, const GallerySettings&) {

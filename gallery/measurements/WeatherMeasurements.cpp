@@ -24,7 +24,9 @@ void showTemperature(GXTemperaturePickerView& picker, double celsius) {
 void configureWeather(GXWeatherAndTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
     picker.setIsMetric(settings.isMetric);
     picker.weatherPicker()->setAccessibilityLabel(GalleryTexts::text("Weather"));
-    picker.weatherPicker()->setIconImages(GalleryWeatherIcons::images());
+    const auto images = GalleryWeatherIcons::images();
+    for (std::size_t i = 0; i < images->size(); ++i) (*images)[i]->setAccessibilityLabel(GalleryTexts::text(GalleryWeatherIcons::name(i)));
+    picker.weatherPicker()->setIconImages(images);
     picker.weatherPicker()->setCurrentValue(NSNumber::numberWithInteger(static_cast<NSInteger>(workout.weather)));
     showTemperature(*picker.temperaturePicker(), workout.temperature);
 }

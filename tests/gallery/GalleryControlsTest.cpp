@@ -166,7 +166,7 @@ TEST(GalleryTextTest, WordsAreBrokenIntoLinesThatFit) {
     EXPECT_EQ(text->sizeThatFits({270, 0}), CGSizeMake(270, 22));
     EXPECT_EQ(text->sizeThatFits({269, 0}), CGSizeMake(269, 44)); // "letter" has to go
     EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 66)); // ten points, for every, letter
-    EXPECT_EQ(text->sizeThatFits({30, 0}), CGSizeMake(30, 110));  // one word a line, cut or not
+    EXPECT_EQ(text->sizeThatFits({30, 0}), CGSizeMake(30, 176));  // ten, poi, nts, for, eve, ry, let, ter
     text->setText("");
     EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 0));
 }
@@ -288,4 +288,21 @@ TEST_F(GalleryControlsTest, SegmentsAreOneElementThatGoesFromChoiceToChoice) {
     elements[0]->decrement();
     elements[0]->setIndex(-5);
     EXPECT_EQ(told, (std::vector<std::size_t>{2, 1, 0}));
+}
+
+TEST(GalleryTextTest, WhatHasNoSpacesIsBrokenBetweenCharacters) {
+    const auto text = create<GalleryText>(CGRectZero);
+    const CGFloat line = [&text] {
+        text->setText("a");
+        return text->sizeThatFits({100, 0}).height;
+    }();
+    // Ten points a character: ten of them in a line.
+    text->setText("このファイルは破損しているか、記録ではありません");
+    EXPECT_EQ(text->sizeThatFits({100, 0}).height, 3 * line);
+    text->setText("abcdefghij");
+    EXPECT_EQ(text->sizeThatFits({100, 0}).height, line);
+    text->setText("abcdefghijk x");
+    EXPECT_EQ(text->sizeThatFits({100, 0}).height, 2 * line);
+    text->setText("abc");
+    EXPECT_EQ(text->sizeThatFits({0, 0}).height, 3 * line); // At least one in a line.
 }

@@ -74,6 +74,18 @@ protected:
         window->drag(from, {from.x, from.y - rows * turned->rowSizeForComponent(component).height - slop});
         settle();
     }
+    /// Turns each column to its first row and to its last one, and each time saves and opens.
+    void expectEndsToComeBack(const Ref<UIPickerView>& wheel) {
+        for (NSInteger component = 0; component < wheel->numberOfComponents(); ++component) {
+            for (const bool isLast : {false, true}) {
+                wheel->turnToRow_inComponent(isLast ? wheel->numberOfRowsInComponent(component) - 1 : 0, component);
+                NSRunLoop::mainRunLoop()->runPass();
+                entry()->save();
+                std::string error;
+                EXPECT_EQ(GalleryWorkoutFile::workoutOfText(files->text, error), entry()->workout()) << error << files->text;
+            }
+        }
+    }
     void choose(GallerySettings settings) {
         screen->setSettings(settings);
         settle();
@@ -349,6 +361,61 @@ TEST_F(GalleryEntryTest, WithoutFilesThereAreNoButtons) {
     EXPECT_TRUE(entry()->openButton()->isHidden());
     entry()->save();
     entry()->open();
+    EXPECT_EQ(entry()->message(), "");
+}
+
+TEST_F(GalleryEntryTest, WhateverTheWheelsShowCanBeSavedAndOpenedAgain) {
+    openEntry();
+    for (const bool isMetric : {true, false}) {
+        for (const GXWeightUnit unit : {GXWeightUnitKilogram, GXWeightUnitPound, GXWeightUnitStone}) {
+            GallerySettings settings = screen->settings();
+            settings.isMetric = isMetric;
+            settings.weightUnit = unit;
+            choose(settings);
+            for (std::size_t i = 0; i < entry()->measurementCount(); ++i) {
+                SCOPED_TRACE(entry()->measurement(i)->name() + (isMetric ? ", metric, " : ", imperial, ") + std::to_string(unit));
+                entry()->openMeasurement_animated(i, false);
+                settle();
+                for (const Ref<UIPickerView>& wheel : wheels()) expectEndsToComeBack(wheel);
+            }
+        }
+    }
+}
+
+TEST_F(GalleryEntryTest, AWeightBelowTheWheelOfItsUnitStandsOnTheFirstRow) {
+    openEntry();
+    GallerySettings settings = screen->settings();
+    settings.weightUnit = GXWeightUnitStone;
+    choose(settings);
+    GalleryWorkout light;
+    light.weight = 16; // Two and a half stone; the wheel begins at three.
+    entry()->setWorkout(light);
+    settle();
+    EXPECT_EQ(value("Weight"), "3.0 st");
+    EXPECT_EQ(entry()->workout().weight, 16);
+}
+
+TEST_F(GalleryEntryTest, WhatOnlyTheWindowDrawsByLeavesTheRowsAsTheyAre) {
+    openEntry();
+    tapRow("Height");
+    turnWheel(0, 1, 1); // To feet, on the wheel itself.
+    const Ref<UITableView> before = table();
+    GallerySettings settings = screen->settings();
+    settings.style = UIUserInterfaceStyle::Dark;
+    settings.contrast = UIAccessibilityContrast::High;
+    settings.reducesMotion = true;
+    choose(settings);
+    EXPECT_EQ(table(), before);
+    EXPECT_EQ(value("Height"), "5' 9\"");
+}
+
+TEST_F(GalleryEntryTest, AMessageGoesWithItsLanguage) {
+    openEntry();
+    tap(entry()->saveButton());
+    EXPECT_NE(entry()->message(), "");
+    GallerySettings settings = screen->settings();
+    settings.language = "fr";
+    choose(settings);
     EXPECT_EQ(entry()->message(), "");
 }
 

@@ -29,11 +29,12 @@ public:
     /// The picker takes the new bounds, be it inside the cell or not.
     void setFrame(CGRect frame) override;
 
-protected:
     /// Styles the cell.
     virtual void initGXBasePickerCell();
     /// The content view becomes clear and the cell takes the style sheet's background for tables.
     virtual void styleGXBasePickerCell();
+
+protected:
     /// Called once the cell is styled, unless it has a picker already: makes the picker and shows it. Here there is none.
     virtual void makePicker();
     /// Takes a picker and puts it into the content view.

@@ -9,9 +9,11 @@ class GXBpmPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXBpmPickerCell();
+
 protected:
     void makePicker() override { initGXBpmPickerCell(); }
-    void initGXBpmPickerCell();
 };
 
 } // namespace gx

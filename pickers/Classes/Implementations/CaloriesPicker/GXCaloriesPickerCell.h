@@ -9,9 +9,11 @@ class GXCaloriesPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXCaloriesPickerCell();
+
 protected:
     void makePicker() override { initGXCaloriesPickerCell(); }
-    void initGXCaloriesPickerCell();
 };
 
 } // namespace gx

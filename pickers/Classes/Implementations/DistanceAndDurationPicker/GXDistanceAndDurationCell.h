@@ -9,9 +9,11 @@ class GXDistanceAndDurationCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXDistanceAndDurationCell();
+
 protected:
     void makePicker() override { initGXDistanceAndDurationCell(); }
-    void initGXDistanceAndDurationCell();
 };
 
 } // namespace gx

@@ -9,9 +9,11 @@ class GXDistancePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXDistancePickerCell();
+
 protected:
     void makePicker() override { initGXDistancePickerCell(); }
-    void initGXDistancePickerCell();
 };
 
 } // namespace gx

@@ -9,9 +9,11 @@ class GXDurationPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXDurationPickerCell();
+
 protected:
     void makePicker() override { initGXDurationPickerCell(); }
-    void initGXDurationPickerCell();
 };
 
 } // namespace gx

@@ -9,9 +9,11 @@ class GXHeartRatePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXHeartRatePickerCell();
+
 protected:
     void makePicker() override { initGXHeartRatePickerCell(); }
-    void initGXHeartRatePickerCell();
 };
 
 } // namespace gx

@@ -22,7 +22,6 @@ public:
     /// Held strongly.
     const Ref<GXHeightPickerView>& pickerView() const { return pickerView_; }
 
-protected:
     /// Makes the picker and pins it to the content view. Does nothing if there is one.
     void initPicker();
 

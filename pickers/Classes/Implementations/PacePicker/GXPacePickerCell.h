@@ -9,9 +9,11 @@ class GXPacePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXPacePickerCell();
+
 protected:
     void makePicker() override { initGXPacePickerCell(); }
-    void initGXPacePickerCell();
 };
 
 } // namespace gx

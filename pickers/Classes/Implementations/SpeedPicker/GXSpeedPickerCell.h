@@ -9,9 +9,11 @@ class GXSpeedPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXSpeedPickerCell();
+
 protected:
     void makePicker() override { initGXSpeedPickerCell(); }
-    void initGXSpeedPickerCell();
 };
 
 } // namespace gx

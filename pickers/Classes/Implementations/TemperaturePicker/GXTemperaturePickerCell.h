@@ -9,9 +9,11 @@ class GXTemperaturePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXTemperaturePickerCell();
+
 protected:
     void makePicker() override { initGXTemperaturePickerCell(); }
-    void initGXTemperaturePickerCell();
 };
 
 } // namespace gx

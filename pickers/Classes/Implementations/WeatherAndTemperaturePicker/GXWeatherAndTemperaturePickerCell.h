@@ -9,9 +9,11 @@ class GXWeatherAndTemperaturePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXWeatherAndTemperatureCell();
+
 protected:
     void makePicker() override { initGXWeatherAndTemperatureCell(); }
-    void initGXWeatherAndTemperatureCell();
 };
 
 } // namespace gx

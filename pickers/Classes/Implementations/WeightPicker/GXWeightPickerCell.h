@@ -9,9 +9,11 @@ class GXWeightPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
+    /// Makes the picker and shows it.
+    void initGXWeightPickerCell();
+
 protected:
     void makePicker() override { initGXWeightPickerCell(); }
-    void initGXWeightPickerCell();
 };
 
 } // namespace gx
