@@ -23,7 +23,7 @@ public:
 
     bool isValid() const override {
         const Ref<UIView> view = element_->view();
-        return widget_ && view && view->window() == widget_->uiWindow() && element_->exists();
+        return !widget_.isNull() && view && view->window() == widget_->uiWindow() && element_->exists();
     }
     QObject* object() const override { return nullptr; }
     QAccessibleInterface* parent() const override { return widget_ ? QAccessible::queryAccessibleInterface(widget_.data()) : nullptr; }
@@ -146,22 +146,30 @@ void QtAccessibleView::forgetViewsThatAreGone() const {
     });
 }
 
-QtAccessibleView::Known& QtAccessibleView::knownFor(const Ref<UIAccessibilityElement>& element) const {
+QtAccessibleView::Known& QtAccessibleView::knownFor(const Ref<UIAccessibilityElement>& element, const QString& value) const {
     const auto entry =
         std::find_if(known_.begin(), known_.end(), [&element](const Known& known) { return known.element->isSameAs(*element); });
     if (entry != known_.end()) return *entry;
     forgetViewsThatAreGone();
     auto* const made = new QtAccessibleElement(view(), element); // Qt's from here on.
-    known_.push_back({element, QAccessible::registerAccessibleInterface(made), textOf(element->value())});
+    known_.push_back({element, QAccessible::registerAccessibleInterface(made), value});
     return known_.back();
 }
 
 int QtAccessibleView::childCount() const { return static_cast<int>(elements().size()); }
 
 QAccessibleInterface* QtAccessibleView::child(int index) const {
+    const QPointer<QObject> widget = object();
     const UIAccessibilityElements elements = this->elements();
-    if (index < 0 || static_cast<std::size_t>(index) >= elements.size() || !view()) return nullptr;
-    return QAccessible::accessibleInterface(knownFor(elements[static_cast<std::size_t>(index)]).identifier);
+    if (!widget || index < 0 || static_cast<std::size_t>(index) >= elements.size()) return nullptr;
+    return interfaceOf(elements[static_cast<std::size_t>(index)]);
+}
+
+QAccessibleInterface* QtAccessibleView::interfaceOf(const Ref<UIAccessibilityElement>& element) const {
+    const QPointer<QObject> widget = object();
+    const QString value = textOf(element->value());
+    if (!widget) return nullptr; // Who was asked has dropped it, and this with it.
+    return QAccessible::accessibleInterface(knownFor(element, value).identifier);
 }
 
 int QtAccessibleView::indexOfChild(const QAccessibleInterface* child) const {
@@ -174,9 +182,11 @@ int QtAccessibleView::indexOfChild(const QAccessibleInterface* child) const {
 
 QAccessibleInterface* QtAccessibleView::childAt(int x, int y) const {
     // What is read last lies on top.
-    for (int i = childCount(); i-- > 0;) {
-        QAccessibleInterface* const found = child(i);
-        if (found && found->rect().contains(x, y)) return found;
+    const QPointer<QObject> widget = object();
+    const UIAccessibilityElements elements = this->elements();
+    for (std::size_t i = elements.size(); widget && i-- > 0;) {
+        QAccessibleInterface* const found = interfaceOf(elements[i]);
+        if (found != nullptr && found->rect().contains(x, y)) return found;
     }
     return nullptr;
 }
@@ -194,7 +204,7 @@ void QtAccessibleView::announceChanges(Sender send) {
         if (element->role() != UIAccessibilityRole::Adjustable) continue;
         const QString value = textOf(element->value());
         if (!widget) return; // Who was told or asked has dropped it, and this with it.
-        Known& known = knownFor(element);
+        Known& known = knownFor(element, value);
         if (known.value == value) continue;
         known.value = value;
         QAccessibleValueChangeEvent event(QAccessible::accessibleInterface(known.identifier), value);

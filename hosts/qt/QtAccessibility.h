@@ -44,7 +44,8 @@ private:
     };
     UIViewWidget* view() const;
     UIAccessibilityElements elements() const;
-    Known& knownFor(const Ref<UIAccessibilityElement>& element) const;
+    QAccessibleInterface* interfaceOf(const Ref<UIAccessibilityElement>& element) const;
+    Known& knownFor(const Ref<UIAccessibilityElement>& element, const QString& value) const;
     void forgetViewsThatAreGone() const;
 
     // Questions make what they are the first to ask for.

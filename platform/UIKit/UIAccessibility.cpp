@@ -51,8 +51,14 @@ void UIAccessibilityElement::activateAtTime(NSTimeInterval time) const {
     const Ref<UIView> view = this->view();
     const Ref<UIWindow> window = view ? view->window() : nullptr;
     if (!window || !isEnabled()) return;
-    const CGRect area = frame();
+    CGRect area = frame();
+    for (Ref<UIView> above = view->superview(); above; above = above->superview()) {
+        if (above->clipsToBounds()) area = CGRectIntersection(area, window->convertRect_fromView(above->bounds(), above));
+    }
     const CGPoint middle = {CGRectGetMidX(area), CGRectGetMidY(area)};
+    // What is scrolled out of sight or covered is not pressed, and nothing else in its place.
+    const Ref<UIView> pressed = CGRectIsEmpty(area) ? nullptr : window->hitTest(middle);
+    if (!pressed || !pressed->isDescendantOfView(view)) return;
     window->touchBegan_at_time(activatingFinger, middle, time);
     window->touchEnded_at_time(activatingFinger, middle, time);
 }
@@ -66,7 +72,7 @@ UIAccessibilityElements wholeAccessibilityElement(const Ref<UIView>& view, UIAcc
 UIAccessibilityElements accessibilityElementsOfSubviews(const Ref<UIView>& view) {
     UIAccessibilityElements elements;
     if (!view) return elements;
-    const std::vector<Ref<UIView>> below = view->subviews(); // Who is asked may change the list.
+    const std::vector<Ref<UIView>> below = view->subviewsInReadingOrder();
     for (const Ref<UIView>& subview : below) {
         if (!isDrawn(*subview)) continue;
         const UIAccessibilityElements more = subview->accessibilityElements();

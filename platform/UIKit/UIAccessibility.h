@@ -58,8 +58,8 @@ public:
     virtual void decrement() {}
     /// The index is held to those there are.
     virtual void setIndex(NSInteger /*index*/) {}
-    /// A tap in the middle, by way of the window, at a time on the clock of its ticks. Ignored without a window, and by what is not
-    /// enabled.
+    /// A tap in the middle of what is in sight, by way of the window, at a time on the clock of its ticks. Ignored without a window, by
+    /// what is not enabled, and by what is out of sight or covered there.
     void activateAtTime(NSTimeInterval time) const;
 
 private:

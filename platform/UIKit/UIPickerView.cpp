@@ -46,6 +46,7 @@ void UIPickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataSource) {
 }
 
 void UIPickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
+    const Ref<UIPickerView> keep = self();
     delegate_ = std::move(delegate);
     // Views that one delegate has made mean nothing to another.
     for (std::size_t i = 0; i < components_.size(); ++i) {
@@ -87,6 +88,7 @@ void UIPickerView::noteStale() {
 
 void UIPickerView::refreshComponents() {
     if (isCountKnown_ || isCountAsked_) return;
+    const Ref<UIPickerView> keep = self();
     isCountKnown_ = isCountAsked_ = true;
     const Ref<UIPickerViewDataSource> source = dataSource_.lock();
     const NSInteger answer = source ? source->numberOfComponentsInPickerView(self()) : 0;
@@ -96,6 +98,7 @@ void UIPickerView::refreshComponents() {
 }
 
 bool UIPickerView::exists(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
     refreshComponents();
     return component >= 0 && component < count_;
 }
@@ -103,6 +106,7 @@ bool UIPickerView::exists(NSInteger component) {
 UIPickerView::Component& UIPickerView::at(NSInteger component) { return *components_[static_cast<std::size_t>(component)]; }
 
 NSInteger UIPickerView::refreshedRows(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
     if (!exists(component)) return 0;
     Component& entry = at(component);
     if (!entry.areRowsKnown && !entry.areRowsAsked) {
@@ -116,6 +120,7 @@ NSInteger UIPickerView::refreshedRows(NSInteger component) {
 }
 
 void UIPickerView::refreshSizes(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
     Component& entry = at(component);
     if (entry.areSizesKnown || entry.areSizesAsked) return;
     entry.areSizesKnown = entry.areSizesAsked = true;
@@ -140,6 +145,7 @@ NSInteger UIPickerView::heldRow(NSInteger component, NSInteger row) {
 }
 
 NSInteger UIPickerView::numberOfComponents() {
+    const Ref<UIPickerView> keep = self();
     refreshComponents();
     return count_;
 }
@@ -177,6 +183,7 @@ NSInteger UIPickerView::rowInBandOfComponent(NSInteger component) {
 void UIPickerView::reloadAllComponents() { noteStale(); }
 
 void UIPickerView::reloadComponent(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
     if (exists(component)) noteStale();
 }
 

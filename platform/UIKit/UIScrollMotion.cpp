@@ -83,7 +83,9 @@ UIScrollMotion UIScrollMotion::fling(double from, double velocity, double to, do
     UIScrollMotion motion = ease(from, to, 0, start);
     motion.velocity_ = velocity;
     const double travel = travelOfVelocity(velocity);
-    if (std::fabs(travel) > std::fabs(end - from) && to == end) {
+    // An end that is met at a crawl is reached as any other row: nobody would see it bounce, only wait for the report.
+    const bool hitsEnd = to == end && std::fabs(travel) > std::fabs(distance) && std::fabs(velocity - drag * distance) >= restSpeed;
+    if (hitsEnd) {
         motion.curve_ = Curve::Bounce;
         motion.impact_ = -std::log(1 - distance / travel) / drag;
         motion.impactSpeed_ = std::clamp(velocity - drag * distance, -hardestImpact, hardestImpact);

@@ -111,6 +111,8 @@ public:
     /// Scrolls just as far as shows the whole row, or its top if it is higher than the table. Ignored for a row that does not exist.
     void scrollToRowAtIndexPath_animated(NSIndexPath path, bool animated);
 
+    /// From top to bottom.
+    std::vector<Ref<UIView>> subviewsInReadingOrder() const override;
     void layoutSubviews() override;
     void didMoveToWindow() override;
     void touchEnded(const UITouch& touch) override;

@@ -38,7 +38,9 @@ void UITableViewCells::remove(const Ref<UITableViewCell>& cell) {
 
 bool UITableViewCells::put(const Ref<UITableViewCell>& cell) {
     if (!cell->reuseIdentifier()) return false;
-    kind(*cell->reuseIdentifier()).cells.push_back(cell);
+    auto& cells = kind(*cell->reuseIdentifier()).cells;
+    if (cells.size() >= highestWaitingCount) return false;
+    cells.push_back(cell);
     return true;
 }
 

@@ -12,6 +12,9 @@ namespace gx {
 class UITableViewCells {
 public:
     using Factory = std::function<Ref<UITableViewCell>()>;
+    /// Of each identifier. More than a screen shows; the bound keeps a data source that makes cells and takes none from here from filling
+    /// the memory.
+    static constexpr std::size_t highestWaitingCount = 100;
 
     /// An empty factory makes no cells any more.
     void setFactory(Factory factory, const std::string& identifier);
@@ -22,7 +25,7 @@ public:
     Ref<UITableViewCell> take(const std::string& identifier);
     /// Takes this one out, if it is here.
     void remove(const Ref<UITableViewCell>& cell);
-    /// Answers whether the cell is kept: one without an identifier is not.
+    /// Answers whether the cell is kept: one without an identifier is not, nor one too many.
     bool put(const Ref<UITableViewCell>& cell);
 
 private:

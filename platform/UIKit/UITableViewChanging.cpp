@@ -111,7 +111,7 @@ bool UITableView::showsRowOrHeader(const Ref<UIView>& view) const {
 
 void UITableView::drawChanging(UIGraphicsContext& context) {
     const CGFloat width = bounds().size.width;
-    for (std::size_t i = 0; i < removed_.size(); ++i) {
+    for (std::size_t i = 0; change_ && i < removed_.size(); ++i) { // Who is drawn may end the change.
         const Ref<UITableViewCell> cell = removed_[i].cell;
         if (!cell) continue;
         const UITableViewRows::Span span = change_->spanOfRemovedRow(removed_[i].path);
@@ -121,7 +121,7 @@ void UITableView::drawChanging(UIGraphicsContext& context) {
         cell->renderInContext(context);
         context.restoreState();
     }
-    for (std::size_t i = 0; i < shown_.size(); ++i) {
+    for (std::size_t i = 0; change_ && i < shown_.size(); ++i) {
         const Ref<UITableViewCell> cell = shown_[i].cell;
         if (!cell) continue;
         const UITableViewRows::Span span = rows_.spanOfRow(shown_[i].path);
@@ -132,7 +132,7 @@ void UITableView::drawChanging(UIGraphicsContext& context) {
         drawView(*cell, context);
         context.restoreState();
     }
-    for (std::size_t i = 0; i < headers_.size(); ++i) {
+    for (std::size_t i = 0; change_ && i < headers_.size(); ++i) {
         const Ref<UILabel> label = headers_[i].label;
         context.saveState();
         context.translate(0, change_->shiftOf(rows_.spanOfHeader(headers_[i].section)));

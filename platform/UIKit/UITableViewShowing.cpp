@@ -83,6 +83,13 @@ UITableView::Sight UITableView::sight() const {
     return {CGRectGetMinY(area) - reach, CGRectGetMaxY(area) + reach};
 }
 
+std::vector<Ref<UIView>> UITableView::subviewsInReadingOrder() const {
+    std::vector<Ref<UIView>> views = subviews();
+    std::stable_sort(views.begin(), views.end(),
+                     [](const auto& a, const auto& b) { return CGRectGetMinY(a->frame()) < CGRectGetMinY(b->frame()); });
+    return views;
+}
+
 void UITableView::layoutSubviews() {
     UIScrollView::layoutSubviews();
     refreshRows();
@@ -96,7 +103,8 @@ void UITableView::layoutSubviews() {
     recycleRowsOutside(sight);
     NSInteger count = 0;
     auto path = rows_.firstRowBelow(sight.top);
-    while (path && rows_.spanOfRow(*path).top < sight.bottom && count < highestVisibleCount) {
+    // A callback that reloads has made the layout due again; these rows may be gone.
+    while (path && !isStale_ && rows_.spanOfRow(*path).top < sight.bottom && count < highestVisibleCount) {
         showRow(*path);
         path = rows_.nextRow(*path);
         ++count;
@@ -175,7 +183,7 @@ void UITableView::showHeaders(Sight sight) {
             label->setHidden(false);
             header = headers_.insert(headers_.end(), {section, std::move(label)});
         }
-        header->label->setText(rows_.title(section));
+        if (header->label->text() != rows_.title(section)) header->label->setText(rows_.title(section));
         const CGRect area = rectOf(span);
         const CGFloat inset = std::min(UITableViewCell::labelInset, 0.5 * area.size.width);
         header->label->setFrame(CGRectInset(area, inset, 0));

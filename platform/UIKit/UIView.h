@@ -64,6 +64,8 @@ public:
     /// Empty for a view without one.
     Ref<UIView> superview() const;
     const std::vector<Ref<UIView>>& subviews() const { return subviews_; }
+    /// The order in which a screen reader and the Tab key go through them; here that of the list.
+    virtual std::vector<Ref<UIView>> subviewsInReadingOrder() const { return subviews_; }
     Ref<UIWindow> window() const;
     /// True for the view itself and for every view above it.
     bool isDescendantOfView(const Ref<UIView>& view) const;

@@ -51,7 +51,7 @@ void UIView::revealDescendant(CGRect rect) {
 void UIView::collectFocusable(std::vector<Ref<UIView>>& found) {
     if (isHidden_ || !isInteractive_ || alpha_ < lowestTouchableAlpha) return;
     if (const Ref<UIView> self = refTo(this); self && canBecomeFirstResponder()) found.push_back(self);
-    const std::vector<Ref<UIView>> below = subviews_; // Who is asked may change the list.
+    const std::vector<Ref<UIView>> below = subviewsInReadingOrder();
     for (const Ref<UIView>& view : below) {
         if (view->superview_ == this) view->collectFocusable(found);
     }

@@ -1,6 +1,7 @@
 #include "UIWindow.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "UIHost.h"
 #include "UIKey.h"
@@ -37,8 +38,28 @@ std::vector<UIWindow::Touch>::iterator UIWindow::findTouch(std::int64_t identifi
                         [identifier](const Touch& entry) { return entry.touch.identifier == identifier; });
 }
 
+NSTimeInterval UIWindow::heldTime(NSTimeInterval time) {
+    // A movement that began at no time would never end.
+    if (std::isfinite(time)) latestTime_ = time;
+    return latestTime_;
+}
+
+void UIWindow::cancelTouchesWithin(const Ref<UIView>& view) {
+    const auto isWithin = [&view](const Touch& entry) {
+        const Ref<UIView> touched = entry.view.lock();
+        return touched && touched->isDescendantOfView(view);
+    };
+    // Who hears of one may change the list; each round takes one away, and nobody brings a finger down meanwhile for ever.
+    for (std::size_t rounds = touches_.size(); rounds > 0; --rounds) {
+        const auto entry = std::find_if(touches_.begin(), touches_.end(), isWithin);
+        if (entry == touches_.end()) return;
+        touchCancelled_at_time(entry->touch.identifier, entry->touch.timestamp);
+    }
+}
+
 void UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
+    time = heldTime(time);
     touchCancelled_at_time(identifier, time);
     showFocus(false);
     layoutIfNeeded(); // The finger aims at what the next frame would show.
@@ -53,7 +74,7 @@ void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NST
     const auto entry = findTouch(identifier);
     if (entry == touches_.end()) return;
     entry->touch.locationInWindow = location;
-    entry->touch.timestamp = time;
+    entry->touch.timestamp = heldTime(time);
     const UITouch touch = entry->touch;
     if (const Ref<UIView> view = entry->view.lock()) view->touchMoved(touch);
 }
@@ -61,7 +82,7 @@ void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NST
 void UIWindow::touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
     const auto entry = findTouch(identifier);
     if (entry == touches_.end()) return;
-    const UITouch touch = {identifier, time, location};
+    const UITouch touch = {identifier, heldTime(time), location};
     const Ref<UIView> view = entry->view.lock();
     touches_.erase(entry);
     if (view) view->touchEnded(touch);
@@ -71,7 +92,7 @@ void UIWindow::touchCancelled_at_time(std::int64_t identifier, NSTimeInterval ti
     const auto entry = findTouch(identifier);
     if (entry == touches_.end()) return;
     UITouch touch = entry->touch;
-    touch.timestamp = time;
+    touch.timestamp = heldTime(time);
     const Ref<UIView> view = entry->view.lock();
     touches_.erase(entry);
     if (view) view->touchCancelled(touch);
@@ -81,13 +102,21 @@ bool UIWindow::scroll(const UIScroll& scroll) {
     const Ref<UIView> keep = refTo<UIView>(this);
     layoutIfNeeded();
     const Ref<UIView> view = hitTest(scroll.locationInWindow);
-    return view && view->scrolled(scroll);
+    UIScroll timed = scroll;
+    timed.timestamp = heldTime(scroll.timestamp);
+    return view && view->scrolled(timed);
 }
 
 // Keys
 
 bool UIWindow::keyDown(const UIKey& key) {
+    if (!std::isfinite(key.timestamp)) {
+        UIKey timed = key;
+        timed.timestamp = latestTime_;
+        return keyDown(timed);
+    }
     const Ref<UIView> keep = refTo<UIView>(this);
+    latestTime_ = key.timestamp;
     layoutIfNeeded(); // Which views take keys may depend on what they show.
     if (const Ref<UIView> first = firstResponder(); first && !first->takesInput()) setFirstResponder(nullptr);
     const Ref<UIView> first = firstResponder();
@@ -150,6 +179,7 @@ void UIWindow::settle() { notifyDisappearance(); }
 bool UIWindow::tick(NSTimeInterval time) {
     if (isTicking_) return true; // A callback may not turn time within a turn.
     const Ref<UIView> keep = refTo<UIView>(this);
+    time = heldTime(time);
     isTicking_ = true;
     // Views may start or stop to move while others advance; those that start now join in the next frame.
     const std::size_t count = moving_.size();

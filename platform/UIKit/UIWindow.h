@@ -32,7 +32,8 @@ public:
     bool reducesMotion() const { return reducesMotion_; }
     void setReducesMotion(bool reduces) { reducesMotion_ = reduces; }
 
-    // From the host. Locations are in points from the window's top left, times in seconds on one steady clock.
+    // From the host. Locations are in points from the window's top left, times in seconds on one steady clock;
+    // one that is no finite number counts as the latest that was.
 
     /// A finger comes down. An identifier that is still down is cancelled first.
     void touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
@@ -78,6 +79,8 @@ public:
 
     /// What `becomeFirstResponder` and `resignFirstResponder` end in.
     void setFirstResponder(const Ref<UIView>& view);
+    /// Takes the fingers from the view and from those below it, as if the system had.
+    void cancelTouchesWithin(const Ref<UIView>& view);
     /// Takes the focus from the view and from those below it.
     void resignFirstResponderWithin(const Ref<UIView>& view);
     /// Calls the view's `advanceToTime` before each frame, until that answers false.
@@ -94,6 +97,7 @@ private:
         WeakRef<UIView> view;
     };
     std::vector<Touch>::iterator findTouch(std::int64_t identifier);
+    NSTimeInterval heldTime(NSTimeInterval time);
     bool moveFocus(bool isBackward);
     void showFocus(bool shows);
     void tellOfFocus() const;
@@ -108,6 +112,7 @@ private:
     bool isFocusShown_ = false;
     bool receivesKeys_ = true;
     bool areTicksEnabled_ = true;
+    NSTimeInterval latestTime_ = 0;
     bool needsFrame_ = true;
     bool isTicking_ = false;
 };

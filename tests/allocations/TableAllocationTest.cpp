@@ -12,6 +12,7 @@ namespace {
 std::size_t allocationsOfScrolling(NSInteger rows) {
     const auto source = create<TableSource>();
     source->rows = {rows};
+    source->titles = {"A title that is longer than a string keeps in itself"};
     const auto table = tableWithSource(source);
     TestWindow window(table);
     NullCanvas canvas;

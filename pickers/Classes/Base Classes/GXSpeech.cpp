@@ -35,8 +35,10 @@ std::optional<std::string> spokenQuantity(const GXSpokenNumber& number, GXSpoken
 
 std::optional<std::string> spokenSum(std::initializer_list<GXSpokenPart> parts) {
     std::optional<std::string> sum;
+    std::size_t left = parts.size();
     for (const GXSpokenPart& part : parts) {
-        const bool isAllThereIs = !sum && &part + 1 == parts.end();
+        --left;
+        const bool isAllThereIs = !sum && left == 0;
         if (part.number == 0 && !isAllThereIs) continue;
         sum = together(GXSpokenName::Sum, sum, spokenQuantity({std::to_string(part.number), {}, {}}, part.unit));
     }

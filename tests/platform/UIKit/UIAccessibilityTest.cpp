@@ -199,3 +199,30 @@ TEST_F(UIAccessibility, WhatTakesNoTouchesIsNotEnabled) {
     element->activateAtTime(1);
     EXPECT_EQ(cell->taps, 0);
 }
+
+TEST_F(UIAccessibility, WhatIsCoveredOrOutOfSightIsNotPressedNorAnythingInItsPlace) {
+    const auto clip = create<UIView>(CGRectMake(0, 100, 320, 100));
+    clip->setClipsToBounds(true);
+    root->addSubview(clip);
+    const auto cell = create<Tapped>(UITableViewCellStyleDefault, "row");
+    cell->textLabel()->setText("Cell");
+    clip->addSubview(cell);
+    const auto above = create<Tapped>(UITableViewCellStyleDefault, "row");
+    above->setFrame(CGRectMake(0, 56, 320, 44));
+    root->addSubview(above);
+    TestWindow window(root);
+    const auto element = cell->accessibilityElements().at(0);
+
+    cell->setFrame(CGRectMake(0, -30, 320, 44)); // Its middle lies above the clip, its lower edge within.
+    element->activateAtTime(window.now);
+    EXPECT_EQ(cell->taps, 1);
+    EXPECT_EQ(above->taps, 0);
+    cell->setFrame(CGRectMake(0, -44, 320, 44));
+    element->activateAtTime(window.now);
+    EXPECT_EQ(cell->taps, 1);
+    EXPECT_EQ(above->taps, 0);
+    cell->setFrame(CGRectMake(0, 20, 320, 44));
+    root->addSubview(create<UIView>(root->bounds()));
+    element->activateAtTime(window.now);
+    EXPECT_EQ(cell->taps, 1);
+}

@@ -153,3 +153,11 @@ TEST(UIScrollMotion, NoEndIsHitHarderThanWith100RowsASecond) {
     EXPECT_NEAR(over(101 + lost), 2.0437, 1e-3);
     EXPECT_NEAR(over(1e6), 2.0437, 1e-3);
 }
+
+TEST(UIScrollMotion, AnEndThatIsReachedAtACrawlIsNoBounce) {
+    // 20 rows a second run 9.990 rows; with the end 0.01 before that, 3.5 seconds would pass until it is hit.
+    const UIScrollMotion crawl = UIScrollMotion::fling(0, 20, 9.98, 9.98, 0);
+    EXPECT_TRUE(crawl.isOverAt(2.3));
+    for (double time = 0; time < 3; time += 0.01) EXPECT_LE(crawl.positionAt(time), 9.98);
+    EXPECT_EQ(crawl.positionAt(3), 9.98);
+}

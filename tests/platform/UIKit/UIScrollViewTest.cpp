@@ -422,3 +422,19 @@ TEST_F(Scrolling, content_that_shrinks_below_a_finger_gives_way_as_beyond_an_end
     window.runUntilStill();
     EXPECT_EQ(offset(), 50);
 }
+
+TEST_F(Scrolling, a_finger_whose_view_goes_is_forgotten) {
+    const auto label = create<UIView>(CGRectMake(0, 0, 300, 300));
+    content->addSubview(label);
+    window.down(middle, 1);
+    window.glide(middle, {150, 100}, 10, 1);
+    EXPECT_TRUE(scroll->isDragging());
+    label->removeFromSuperview();
+    EXPECT_FALSE(scroll->isDragging());
+    const CGFloat before = offset();
+    window.down(middle, 2);
+    window.glide(middle, {150, 100}, 10, 2);
+    EXPECT_GT(offset(), before);
+    window.up({150, 100}, 1); // Nobody's any more.
+    EXPECT_TRUE(scroll->isDragging());
+}

@@ -464,3 +464,43 @@ TEST_F(Table, a_layout_within_a_question_waits_for_its_answer) {
     window.tick(0);
     EXPECT_EQ(table->indexPathsForVisibleRows(), (Paths{{0, 0}, {0, 1}, {0, 2}}));
 }
+
+TEST_F(Table, a_reload_in_the_middle_of_a_layout_asks_for_no_row_that_is_gone) {
+    source->cell = [this](const Ref<UITableView>& asking, NSIndexPath path) {
+        EXPECT_LT(path.row, source->rows[0]);
+        if (path.row == 3 && source->rows[0] > 4) {
+            source->rows = {4};
+            asking->reloadData();
+        }
+        return TableSource::usualCell(asking, path);
+    };
+    table->reloadData();
+    window.runUntilStill();
+    EXPECT_EQ(table->indexPathsForVisibleRows().size(), 4U);
+}
+
+TEST_F(Table, is_read_from_top_to_bottom) {
+    source->titles = {"Head"};
+    table->reloadData();
+    window.runUntilStill();
+    window.scrollPoints({160, 220}, 100); // Cells that come from the pool.
+    window.scrollPoints({160, 220}, -100);
+    window.runUntilStill();
+    std::vector<std::string> labels;
+    for (const auto& element : table->accessibilityElements()) labels.push_back(element->label().value_or(""));
+    ASSERT_GE(labels.size(), 10U);
+    EXPECT_EQ(labels[0], "Head");
+    for (std::size_t i = 1; i < labels.size(); ++i) EXPECT_EQ(labels[i], "0." + std::to_string(i - 1));
+}
+
+TEST_F(Table, cells_that_nobody_takes_again_do_not_pile_up) {
+    source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(UITableViewCellStyleDefault, "own"); };
+    source->rows = {100'000};
+    table->reloadData();
+    for (int i = 0; i < 50; ++i) {
+        table->setContentOffset({0, i * 440.0});
+        window.tick(TestWindow::frame);
+    }
+    // A hundred of this kind wait and ten of the first one, and ten are shown.
+    EXPECT_EQ(table->subviews().size(), 120U);
+}
