@@ -1,5 +1,6 @@
 // Whatever an application and a user do to pickers, in any order, within notices too.
 
+#include "FuzzHand.h"
 #include "FuzzViews.h"
 #include "GXHeightPickerView.h"
 #include "GXLocalization.h"
@@ -58,10 +59,7 @@ public:
     void run() {
         for (int left = 150; left > 0 && !bytes_.isEmpty(); --left) act();
         // What is still moving has to come to rest.
-        for (int frames = 0; frames < 60; ++frames) {
-            now_ += 0.5;
-            if (!window_->tick(now_)) break;
-        }
+        hand_.waitUntilStill();
         window_->settle();
         draw();
     }
@@ -113,18 +111,19 @@ private:
         case 8:
         case 9:
         case 10:
-            return touch();
+            return hand_.touch();
         case 11:
-            return scroll();
+            return hand_.scroll();
         case 12:
         case 13:
-            return press();
+            return hand_.press();
         case 14:
         case 15:
         case 16:
-            return pass();
+            return hand_.wait();
         case 17:
-            return draw();
+            draw();
+            return hand_.hear();
         case 18:
             return surround();
         case 19:
@@ -155,47 +154,6 @@ private:
         default:
             wheel->layoutIfNeeded();
         }
-    }
-    void touch() {
-        const auto finger = static_cast<std::int64_t>(bytes_.below(4));
-        const CGPoint point = bytes_.point();
-        const NSTimeInterval when = time();
-        switch (bytes_.below(5)) {
-        case 0:
-            return window_->touchBegan_at_time(finger, point, when);
-        case 1:
-        case 2:
-            return window_->touchMoved_at_time(finger, point, when);
-        case 3:
-            return window_->touchEnded_at_time(finger, point, when);
-        default:
-            return window_->touchCancelled_at_time(finger, when);
-        }
-    }
-    void scroll() {
-        UIScroll scroll;
-        scroll.unit = bytes_.flag() ? UIScroll::Unit::Points : UIScroll::Unit::Notches;
-        scroll.deltaX = bytes_.flag() ? bytes_.number() : 0;
-        scroll.deltaY = bytes_.number();
-        scroll.timestamp = time();
-        scroll.locationInWindow = bytes_.point();
-        scroll.isFinished = bytes_.flag();
-        window_->scroll(scroll);
-    }
-    void press() {
-        UIKey key;
-        key.code = static_cast<UIKey::Code>(bytes_.below(static_cast<unsigned>(UIKey::Code::Space) + 1));
-        if (key.code == UIKey::Code::Character) key.characters = bytes_.text();
-        key.modifiers = bytes_.below(4) == 0 ? bytes_.below(16) : 0;
-        key.isRepeat = bytes_.flag();
-        key.timestamp = time();
-        window_->keyDown(key);
-    }
-    /// Mostly the clock's, else any.
-    NSTimeInterval time() { return bytes_.below(16) == 15 ? bytes_.number() : now_; }
-    void pass() {
-        now_ += bytes_.byte() / 200.0;
-        window_->tick(time());
     }
     void draw() {
         NullCanvas canvas;
@@ -275,9 +233,9 @@ private:
 
     FuzzBytes& bytes_;
     Ref<UIWindow> window_;
+    FuzzHand hand_{bytes_, window_};
     std::array<Ref<UIView>, 3> views_;
     std::array<Ref<Listener>, 2> listeners_;
-    NSTimeInterval now_ = 1000;
     int depth_ = 0;
     int reactions_ = 0;
 };

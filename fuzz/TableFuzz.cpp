@@ -1,6 +1,6 @@
 // A table whose data source answers anything and changes at any time, within its own answers too.
 
-#include "FuzzBytes.h"
+#include "FuzzHand.h"
 #include "NullCanvas.h"
 #include "UIHost.h"
 #include "UITableView.h"
@@ -37,10 +37,7 @@ public:
 
     void run() {
         for (int left = 120; left > 0 && !bytes_.isEmpty(); --left) act();
-        for (int frames = 0; frames < 60; ++frames) {
-            now_ += 0.5;
-            if (!window_->tick(now_)) break;
-        }
+        hand_.waitUntilStill();
         draw();
     }
     /// Within a call of the table, one time in `odds`.
@@ -96,19 +93,18 @@ private:
         case 7:
         case 8:
         case 9:
-            return touch();
+            return hand_.touch();
         case 10:
-            return scroll();
+            return hand_.scroll();
         case 11:
-            return press();
+            return hand_.press();
         case 12:
         case 13:
         case 14:
-            now_ += bytes_.byte() / 200.0;
-            window_->tick(time());
-            return;
+            return hand_.wait();
         case 15:
-            return draw();
+            draw();
+            return hand_.hear();
         case 16:
             return ask(table);
         case 17:
@@ -152,37 +148,6 @@ private:
     }
     void scrollTo(const Ref<UITableView>& table, NSIndexPath path) { table->scrollToRowAtIndexPath_animated(path, bytes_.flag()); }
     static NSInteger held(NSInteger rows) { return rows > 300 || rows < 0 ? 100 : rows; }
-    void touch() {
-        const auto finger = static_cast<std::int64_t>(bytes_.below(3));
-        const CGPoint point = bytes_.point();
-        const NSTimeInterval when = time();
-        switch (bytes_.below(5)) {
-        case 0:
-            return window_->touchBegan_at_time(finger, point, when);
-        case 1:
-        case 2:
-            return window_->touchMoved_at_time(finger, point, when);
-        case 3:
-            return window_->touchEnded_at_time(finger, point, when);
-        default:
-            return window_->touchCancelled_at_time(finger, when);
-        }
-    }
-    void scroll() {
-        UIScroll scroll;
-        scroll.unit = bytes_.flag() ? UIScroll::Unit::Points : UIScroll::Unit::Notches;
-        scroll.deltaY = bytes_.number();
-        scroll.timestamp = time();
-        scroll.locationInWindow = bytes_.point();
-        scroll.isFinished = bytes_.flag();
-        window_->scroll(scroll);
-    }
-    void press() {
-        UIKey key;
-        key.code = static_cast<UIKey::Code>(bytes_.below(static_cast<unsigned>(UIKey::Code::Space) + 1));
-        key.timestamp = time();
-        window_->keyDown(key);
-    }
     void ask(const Ref<UITableView>& table) {
         const NSIndexPath any = path();
         table->numberOfRowsInSection(any.section);
@@ -220,7 +185,6 @@ private:
             table->superview() ? table->removeFromSuperview() : window_->addSubview(table);
         }
     }
-    NSTimeInterval time() { return bytes_.below(16) == 15 ? bytes_.number() : now_; }
     void draw() {
         NullCanvas canvas;
         window_->draw(canvas);
@@ -228,9 +192,9 @@ private:
 
     FuzzBytes& bytes_;
     Ref<UIWindow> window_;
+    FuzzHand hand_{bytes_, window_};
     Ref<Source> source_;
     Ref<UITableView> table_;
-    NSTimeInterval now_ = 1000;
     int depth_ = 0;
     int reactions_ = 0;
 };

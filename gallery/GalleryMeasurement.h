@@ -62,6 +62,8 @@ public:
     using Take = void (*)(GalleryWorkout& workout, const Picker& picker, const gx::Ref<gx::GXBasePickerView>& sender,
                           const gx::NSNumber& value);
     using Words = std::string (*)(const gx::Ref<Picker>& picker);
+    /// Brings a picker to its units and steps.
+    using Prepare = void (*)(Picker& picker, const GallerySettings& settings);
 
     static gx::Ref<GalleryMeasurement> measurement(std::string name, std::shared_ptr<GalleryWorkout> workout, GallerySettings settings,
                                                    Configure configure, Take take, Words words) {
@@ -73,10 +75,22 @@ public:
         return made;
     }
 
+    /// A row for one number of the workout, which is the picker's current value.
+    static gx::Ref<GalleryMeasurement> measurementOfValue(std::string name, std::shared_ptr<GalleryWorkout> workout,
+                                                          GallerySettings settings, double GalleryWorkout::*value, Prepare prepare,
+                                                          Words words) {
+        auto made = gx::create<GalleryPickerMeasurement>();
+        made->setUp(std::move(name), Cell::cellIdentifier(), std::move(workout), std::move(settings));
+        made->value_ = value;
+        made->prepare_ = prepare;
+        made->words_ = words;
+        return made;
+    }
+
     /// Read off a picker that is never shown, so that the row says what the wheel says.
     std::string valueInWords() override {
         if (!reader_) reader_ = gx::create<Picker>(gx::CGRectZero);
-        configure_(*reader_, workout(), settings());
+        configure(*reader_);
         return words_(reader_);
     }
 
@@ -86,7 +100,7 @@ public:
         const auto host = std::dynamic_pointer_cast<gx::GXBasePickerCell>(cell);
         picker_ = std::dynamic_pointer_cast<Picker>(host ? host->pickerView() : nullptr);
         if (!picker_) return;
-        configure_(*picker_, workout(), settings());
+        configure(*picker_);
         picker_->setDelegate(gx::refTo(this));
         fitFonts(picker_);
     }
@@ -95,13 +109,22 @@ public:
                                                        gx::NSInteger) override {
         const auto keep = gx::refTo(this);
         if (!picker_) return;
-        take_(workout(), *picker_, sender, value);
+        if (take_) take_(workout(), *picker_, sender, value);
+        if (value_) workout().*value_ = value.doubleValue();
         noteChange();
     }
 
 private:
+    void configure(Picker& picker) {
+        if (configure_) configure_(picker, workout(), settings());
+        if (prepare_) prepare_(picker, settings());
+        if (value_) picker.setCurrentValue(gx::NSNumber::numberWithDouble(workout().*value_));
+    }
+
     Configure configure_ = nullptr;
     Take take_ = nullptr;
+    double GalleryWorkout::*value_ = nullptr;
+    Prepare prepare_ = nullptr;
     Words words_ = nullptr;
     gx::Ref<Picker> reader_;
     gx::Ref<Picker> picker_;

@@ -36,13 +36,8 @@ std::string ratesInWords(const Ref<GXHeartRatePickerView>& picker) {
     return words(wheel->leftLabelText(), 0) + ", " + words(wheel->rightLabelText(), wheel->numberOfComponents() - 1);
 }
 
-void configurePulse(GXBpmPickerView& picker, const GalleryWorkout& workout, const GallerySettings&) {
+void preparePulse(GXBpmPickerView& picker, const GallerySettings&) {
     if (picker.stepSize().integerValue() != 1) picker.setStepSize(NSNumber::numberWithInt(1));
-    picker.setCurrentValue(NSNumber::numberWithDouble(workout.restingPulse));
-}
-
-void takePulse(GalleryWorkout& workout, const GXBpmPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
-    workout.restingPulse = value.doubleValue();
 }
 
 std::string pulseInWords(const Ref<GXBpmPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
@@ -52,7 +47,7 @@ std::string pulseInWords(const Ref<GXBpmPickerView>& picker) { return GalleryWor
 GalleryMeasurementGroup heartMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
     return {"Heart",
             {HeartRate::measurement("Heart rate", workout, settings, configureRates, takeRates, ratesInWords),
-             Pulse::measurement("Resting pulse", workout, settings, configurePulse, takePulse, pulseInWords)}};
+             Pulse::measurementOfValue("Resting pulse", workout, settings, &GalleryWorkout::restingPulse, preparePulse, pulseInWords)}};
 }
 
 } // namespace gallery

@@ -16,9 +16,9 @@ namespace {
 using Weather = GalleryPickerMeasurement<GXWeatherAndTemperaturePickerCell, GXWeatherAndTemperaturePickerView>;
 using Temperature = GalleryPickerMeasurement<GXTemperaturePickerCell, GXTemperaturePickerView>;
 
-void showTemperature(GXTemperaturePickerView& picker, double celsius) {
+void prepareTemperature(GXTemperaturePickerView& picker, const GallerySettings& settings) {
+    picker.setIsMetric(settings.isMetric);
     if (picker.stepSize().integerValue() != 1) picker.setStepSize(NSNumber::numberWithInt(1));
-    picker.setCurrentValue(NSNumber::numberWithDouble(celsius));
 }
 
 void configureWeather(GXWeatherAndTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
@@ -28,7 +28,8 @@ void configureWeather(GXWeatherAndTemperaturePickerView& picker, const GalleryWo
     for (std::size_t i = 0; i < images->size(); ++i) (*images)[i]->setAccessibilityLabel(GalleryTexts::text(GalleryWeatherIcons::name(i)));
     picker.weatherPicker()->setIconImages(images);
     picker.weatherPicker()->setCurrentValue(NSNumber::numberWithInteger(static_cast<NSInteger>(workout.weather)));
-    showTemperature(*picker.temperaturePicker(), workout.temperature);
+    prepareTemperature(*picker.temperaturePicker(), settings);
+    picker.temperaturePicker()->setCurrentValue(NSNumber::numberWithDouble(workout.temperature));
 }
 
 /// The inner pickers report themselves: who has sent it tells what it is.
@@ -43,15 +44,6 @@ std::string weatherInWords(const Ref<GXWeatherAndTemperaturePickerView>& picker)
     return GalleryTexts::text(GalleryWeatherIcons::name(index)) + ", " + GalleryWords::amountOnWheel(picker->temperaturePicker());
 }
 
-void configureWater(GXTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
-    picker.setIsMetric(settings.isMetric);
-    showTemperature(picker, workout.waterTemperature);
-}
-
-void takeWater(GalleryWorkout& workout, const GXTemperaturePickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
-    workout.waterTemperature = value.doubleValue();
-}
-
 std::string waterInWords(const Ref<GXTemperaturePickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
 
 } // namespace
@@ -59,7 +51,8 @@ std::string waterInWords(const Ref<GXTemperaturePickerView>& picker) { return Ga
 GalleryMeasurementGroup weatherMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
     return {"Conditions",
             {Weather::measurement("Weather", workout, settings, configureWeather, takeWeather, weatherInWords),
-             Temperature::measurement("Water temperature", workout, settings, configureWater, takeWater, waterInWords)}};
+             Temperature::measurementOfValue("Water temperature", workout, settings, &GalleryWorkout::waterTemperature, prepareTemperature,
+                                             waterInWords)}};
 }
 
 } // namespace gallery

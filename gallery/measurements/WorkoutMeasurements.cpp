@@ -34,24 +34,9 @@ std::string bothInWords(const Ref<GXDistanceAndDurationPicker>& picker) {
     return GalleryWords::amountOnWheel(picker->distancePicker()) + ", " + GalleryWords::clockOnWheel(picker->durationPicker()) + " h";
 }
 
-void configureSpeed(GXSpeedPickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
-    picker.setIsMetric(settings.isMetric);
-    picker.setCurrentValue(NSNumber::numberWithDouble(workout.speed));
-}
-
-void takeSpeed(GalleryWorkout& workout, const GXSpeedPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
-    workout.speed = value.doubleValue();
-}
+void prepareSpeed(GXSpeedPickerView& picker, const GallerySettings& settings) { picker.setIsMetric(settings.isMetric); }
 
 std::string speedInWords(const Ref<GXSpeedPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
-
-void configureCalories(GXCaloriesPickerView& picker, const GalleryWorkout& workout, const GallerySettings&) {
-    picker.setCurrentValue(NSNumber::numberWithDouble(workout.calories));
-}
-
-void takeCalories(GalleryWorkout& workout, const GXCaloriesPickerView&, const Ref<GXBasePickerView>&, const NSNumber& value) {
-    workout.calories = value.doubleValue();
-}
 
 std::string caloriesInWords(const Ref<GXCaloriesPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
 
@@ -60,8 +45,8 @@ std::string caloriesInWords(const Ref<GXCaloriesPickerView>& picker) { return Ga
 GalleryMeasurementGroup workoutMeasurements(const std::shared_ptr<GalleryWorkout>& workout, const GallerySettings& settings) {
     return {"Workout",
             {DistanceAndDuration::measurement("Distance and time", workout, settings, configureBoth, takeEither, bothInWords),
-             Speed::measurement("Average speed", workout, settings, configureSpeed, takeSpeed, speedInWords),
-             Calories::measurement("Calories", workout, settings, configureCalories, takeCalories, caloriesInWords)}};
+             Speed::measurementOfValue("Average speed", workout, settings, &GalleryWorkout::speed, prepareSpeed, speedInWords),
+             Calories::measurementOfValue("Calories", workout, settings, &GalleryWorkout::calories, nullptr, caloriesInWords)}};
 }
 
 } // namespace gallery

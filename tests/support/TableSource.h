@@ -44,6 +44,26 @@ public:
     }
 };
 
+/// Notes which rows were tapped, and can refuse some.
+class TableListener : public gx::NSObject, public gx::UITableViewDelegate {
+public:
+    std::vector<gx::NSIndexPath> taps;
+    std::function<bool(gx::NSIndexPath)> refuses;
+    std::function<void()> whenAsked;
+    std::function<void()> whenTapped;
+    int questions = 0;
+
+    bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {
+        ++questions;
+        if (whenAsked) whenAsked();
+        return !refuses || !refuses(path);
+    }
+    void tableView_didSelectRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {
+        taps.push_back(path);
+        if (whenTapped) whenTapped();
+    }
+};
+
 /// A table of 320 by 440 points, ten rows, with this source.
 inline gx::Ref<gx::UITableView> tableWithSource(const gx::Ref<TableSource>& source) {
     auto table = gx::create<gx::UITableView>(gx::CGRectMake(0, 0, 320, 440));

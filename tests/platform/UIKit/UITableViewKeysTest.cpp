@@ -12,30 +12,10 @@ using Path = std::optional<NSIndexPath>;
 
 namespace {
 
-/// Notes taps; some rows cannot be tapped.
-class KeyListener : public NSObject, public UITableViewDelegate {
-public:
-    Paths taps;
-    std::function<bool(NSIndexPath)> refuses;
-    std::function<void()> whenAsked;
-    std::function<void()> whenTapped;
-    int questions = 0;
-
-    bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override {
-        ++questions;
-        if (whenAsked) whenAsked();
-        return !refuses || !refuses(path);
-    }
-    void tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override {
-        taps.push_back(path);
-        if (whenTapped) whenTapped();
-    }
-};
-
 /// Rows of 44 points, of which ten are in sight.
 struct TableKeys : testing::Test {
     Ref<TableSource> source = create<TableSource>();
-    Ref<KeyListener> listener = create<KeyListener>();
+    Ref<TableListener> listener = create<TableListener>();
     Ref<UITableView> table = tableWithSource(source);
     TestWindow window{table};
 

@@ -9,26 +9,16 @@ using Paths = std::vector<NSIndexPath>;
 
 namespace {
 
-/// Notes taps; row 3 cannot be tapped.
-class TapListener : public NSObject, public UITableViewDelegate {
-public:
-    Paths taps;
-    std::function<void()> whenTapped;
-    bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override { return path.row != 3; }
-    void tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override {
-        taps.push_back(path);
-        if (whenTapped) whenTapped();
-    }
-};
-
+/// Row 3 cannot be tapped.
 struct TableTouches : testing::Test {
     Ref<TableSource> source = create<TableSource>();
-    Ref<TapListener> listener = create<TapListener>();
+    Ref<TableListener> listener = create<TableListener>();
     Ref<UITableView> table = tableWithSource(source);
     TestWindow window{table};
     static constexpr CGPoint rowTwo = {160, 110}; // 88 to 132
 
     TableTouches() {
+        listener->refuses = [](NSIndexPath path) { return path.row == 3; };
         table->setDelegate(listener);
         window.tick(0);
     }
