@@ -229,7 +229,8 @@ void UIScrollView::endPress(bool isTap, NSTimeInterval time) {
 void UIScrollView::revealDescendant(CGRect rect) {
     const Ref<UIView> keep = refTo<UIView>(this);
     scrollRectToVisible_animated(rect, true);
-    UIView::revealDescendant(rect);
+    // For who is above, where it will be: the way there has only begun.
+    UIView::revealDescendant(CGRectOffset(rect, 0, offset() - offsetAtRest()));
 }
 
 bool UIScrollView::scrolled(const UIScroll& scroll) {

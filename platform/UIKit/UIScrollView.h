@@ -60,7 +60,7 @@ public:
     /// The keys that no view below has used: up and down scroll by a notch, page keys by the height of this view but for a notch, home and
     /// end all the way. A finger that lies here goes before. Where all is in sight they are handed up.
     bool keyPressed(const UIKey& key) override;
-    /// Scrolls there, animated, and hands it up.
+    /// Scrolls there, animated, and hands up where the rectangle will be then.
     void revealDescendant(CGRect rect) override;
     bool advanceToTime(NSTimeInterval time) override;
 

@@ -340,3 +340,19 @@ TEST_F(PickerSpeech, AnApplicationsLocaliserSaysItItsOwnWay) {
     EXPECT_EQ(labelsOf(picker), (Texts{"Way, kilometres", "Way"}));
     EXPECT_EQ(valueOf(picker), "5 point 3 clicks");
 }
+
+TEST_F(PickerSpeech, AColumnThatHoldsNoPartIsCalledByTheMeasurementAlone) {
+    const auto nameOf = [](const Ref<GXBasePickerView>& picker, NSInteger component) {
+        return picker->pickerView_accessibilityLabelForComponent(picker->pickerView(), component);
+    };
+    for (const NSInteger component : {1, 99}) {
+        EXPECT_EQ(nameOf(create<GXDistancePickerView>(place), component), "Distance");
+        EXPECT_EQ(nameOf(create<GXSpeedPickerView>(place), component), "Speed");
+        EXPECT_EQ(nameOf(create<GXPacePickerView>(place), component), "Pace");
+        EXPECT_EQ(nameOf(create<GXWeightPickerView>(place), component), "Weight");
+        EXPECT_EQ(nameOf(create<GXDurationPickerView>(place), component), "Duration");
+    }
+    const auto duration = create<GXDurationPickerView>(place);
+    duration->setType(99);
+    EXPECT_EQ(duration->pickerView_accessibilityValueForRow_forComponent(duration->pickerView(), 0, 0), std::nullopt);
+}

@@ -232,3 +232,13 @@ TEST_F(WheelAccessibility, WhoIsToldOfATurnMayDropTheWheel) {
     column->increment();
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));
 }
+
+TEST(UIPickerViewAccessibility, ADelegateThatOnlyGivesTitlesIsReadByThem) {
+    const auto source = create<WheelSource>();
+    const auto wheel = wheelWithSource(source);
+    wheel->setAccessibilityLabel("Number");
+    const auto elements = wheel->accessibilityElements();
+    ASSERT_EQ(elements.size(), 1U);
+    EXPECT_EQ(elements[0]->label(), "Number");
+    EXPECT_EQ(elements[0]->value(), "0");
+}

@@ -1,5 +1,7 @@
 // Wheels turned by the keyboard, through the window, and what the delegate hears of it.
 
+#include <limits>
+
 #include "RecordingCanvas.h"
 #include "TestWindow.h"
 #include "WheelSource.h"
@@ -522,4 +524,10 @@ TEST_F(Keys, a_host_without_clicks_turns_wheels_all_the_same) {
     window.runUntilStill();
     window->setHost(nullptr);
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}
+
+TEST_F(Keys, a_press_at_no_time_counts_as_at_the_latest) {
+    EXPECT_TRUE(window->keyDown({UIKey::Code::Down, {}, 0, false, std::numeric_limits<double>::quiet_NaN()}));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices.size(), 1U);
 }

@@ -438,3 +438,45 @@ TEST_F(Scrolling, a_finger_whose_view_goes_is_forgotten) {
     window.up({150, 100}, 1); // Nobody's any more.
     EXPECT_TRUE(scroll->isDragging());
 }
+
+TEST_F(Scrolling, who_is_around_it_shows_the_place_where_a_revealed_view_will_be) {
+    // 300 by 200 points that show this one, 400 high, at the end of 800.
+    const auto outer = create<UIScrollView>(CGRectMake(0, 0, 300, 200));
+    const auto low = create<UIView>(CGRectMake(10, 900, 50, 50));
+    content->addSubview(low);
+    scroll->removeFromSuperview();
+    scroll->setFrame(CGRectMake(0, 400, 300, 400));
+    outer->addSubview(scroll);
+    outer->setContentSize({300, 800});
+    TestWindow around(outer);
+    low->revealDescendant(low->bounds());
+    around.runUntilStill();
+    EXPECT_EQ(offset(), 550);                 // Its lower edge, 950, at the lower edge.
+    EXPECT_EQ(outer->contentOffset().y, 600); // Which lies at 800.
+    EXPECT_EQ(CGRectGetMaxY(around->convertRect_fromView(low->bounds(), low)), 200);
+}
+
+TEST_F(Scrolling, keys_that_nothing_inside_has_used_scroll) {
+    class Field : public UIView {
+    public:
+        bool canBecomeFirstResponder() override { return true; }
+    };
+    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    content->addSubview(field);
+    ASSERT_TRUE(field->becomeFirstResponder());
+    const auto offsetAfter = [this](UIKey::Code code) {
+        EXPECT_TRUE(window.press(code));
+        window.runUntilStill();
+        return offset();
+    };
+    EXPECT_EQ(offsetAfter(UIKey::Code::Down), 48);
+    EXPECT_EQ(offsetAfter(UIKey::Code::PageDown), 400); // 400 less a notch further.
+    EXPECT_EQ(offsetAfter(UIKey::Code::Up), 352);
+    EXPECT_EQ(offsetAfter(UIKey::Code::PageUp), 0);
+    EXPECT_EQ(offsetAfter(UIKey::Code::End), 600);
+    EXPECT_EQ(offsetAfter(UIKey::Code::Down), 600);
+    EXPECT_EQ(offsetAfter(UIKey::Code::Home), 0);
+    EXPECT_FALSE(window.press(UIKey::Code::Right));
+    EXPECT_FALSE(window.press(UIKey::Code::Down, UIKey::Control));
+    EXPECT_EQ(offset(), 0);
+}

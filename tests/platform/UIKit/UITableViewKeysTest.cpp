@@ -1,6 +1,9 @@
 // What keys do to a table, and where the focus goes.
 
+#include <algorithm>
+
 #include "NullCanvas.h"
+#include "RecordingCanvas.h"
 #include "TableSource.h"
 #include "TestWindow.h"
 #include "WheelSource.h"
@@ -390,4 +393,28 @@ TEST_F(TableKeysWithWheel, when_the_row_is_scrolled_away_the_table_has_the_focus
     window.runUntilStill();
     EXPECT_TRUE(table->isFirstResponder());
     EXPECT_EQ(offset(), 200);
+}
+
+TEST_F(TableKeys, the_mark_goes_with_its_row_while_rows_come) {
+    table->becomeFirstResponder();
+    press(Code::Home);
+    press(Code::Down);
+    ASSERT_EQ(focused(), (NSIndexPath{0, 1}));
+    ++source->rows[0];
+    table->insertRowsAtIndexPaths_animated({{0, 0}}, true);
+    ASSERT_EQ(focused(), (NSIndexPath{0, 2}));
+    const auto marks = [this] {
+        RecordingCanvas canvas;
+        window->draw(canvas);
+        return canvas.painted();
+    };
+    window.tick(0); // The change begins.
+    // Final at once, but drawn where it was: the mark still lies over the second place.
+    const auto onTheWay = marks();
+    EXPECT_NE(std::find_if(onTheWay.begin(), onTheWay.end(), [](const auto& call) { return call.starts_with("fill 0 44 320 44 "); }),
+              onTheWay.end());
+    window.runUntilStill();
+    const auto there = marks();
+    EXPECT_NE(std::find_if(there.begin(), there.end(), [](const auto& call) { return call.starts_with("fill 0 88 320 44 "); }),
+              there.end());
 }
