@@ -226,3 +226,14 @@ TEST_F(UIAccessibility, WhatIsCoveredOrOutOfSightIsNotPressedNorAnythingInItsPla
     element->activateAtTime(window.now);
     EXPECT_EQ(cell->taps, 1);
 }
+
+TEST_F(UIAccessibility, WhatIsNotAdjustableIgnoresOrdersToTurn) {
+    root->addSubview(labelWithText("text"));
+    const auto element = root->accessibilityElements().at(0);
+    element->increment();
+    element->decrement();
+    element->setIndex(3);
+    EXPECT_EQ(element->index(), std::nullopt);
+    EXPECT_EQ(element->count(), 0);
+    EXPECT_EQ(element->label(), "text");
+}
