@@ -51,8 +51,8 @@ bool GalleryRowCell::initWithStyle_reuseIdentifier(UITableViewCellStyle style, c
 }
 
 void GalleryRowCell::setName_value(const std::string& name, const std::string& value) {
-    if (nameLabel_->text() != name) nameLabel_->setText(name);
-    if (valueLabel_->text() == value) return;
+    if (nameLabel_->text() == name && valueLabel_->text() == value) return;
+    nameLabel_->setText(name);
     valueLabel_->setText(value);
     setNeedsLayout();
 }
@@ -65,14 +65,15 @@ void GalleryRowCell::layoutSubviews() {
     UITableViewCell::layoutSubviews();
     const CGSize size = contentView()->bounds().size;
     const CGFloat width = std::max(0.0, size.width - 2 * inset);
-    if (isStacked()) {
-        nameLabel_->setFrame(CGRectMake(inset, rowPadding, width, lineHeight()));
-        valueLabel_->setFrame(CGRectMake(inset, rowPadding + lineHeight(), width, lineHeight()));
-        return;
-    }
-    // The value is what the row is read for: the name makes room for it.
+    const auto placeStacked = [&](CGFloat y, CGFloat height) {
+        nameLabel_->setFrame(CGRectMake(inset, y, width, height));
+        valueLabel_->setFrame(CGRectMake(inset, y + height, width, height));
+    };
+    if (isStacked()) return placeStacked(rowPadding, lineHeight());
     const CGFloat valueWidth = std::min(width, std::ceil(valueLabel_->sizeThatFits(size).width));
     const CGFloat nameWidth = std::max(0.0, width - valueWidth - gap);
+    // Some languages have long words. The row keeps its height, which two lines have room in if they stand close.
+    if (nameLabel_->sizeThatFits(size).width > nameWidth) return placeStacked(0, 0.5 * size.height);
     const bool isMirrored = NSLocale::currentLocale()->isRightToLeft();
     valueLabel_->setFrame(CGRectMake(isMirrored ? inset : inset + width - valueWidth, 0, valueWidth, size.height));
     nameLabel_->setFrame(CGRectMake(isMirrored ? inset + width - nameWidth : inset, 0, nameWidth, size.height));

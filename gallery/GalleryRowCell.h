@@ -5,8 +5,8 @@
 
 namespace gallery {
 
-/// A row of the entry screen: a name at the left and its value at the right, or below it when the text is large. Mirrored where one reads
-/// from right to left.
+/// A row of the entry screen: a name at the left and its value at the right, on a second line where they need more than the width or the
+/// text is large. Mirrored where one reads from right to left.
 class GalleryRowCell : public gx::UITableViewCell {
 public:
     bool initWithStyle_reuseIdentifier(gx::UITableViewCellStyle style, const std::optional<std::string>& reuseIdentifier) override;

@@ -1,6 +1,7 @@
 #include "GallerySegments.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "GalleryTheme.h"
 #include "UIGraphicsContext.h"
@@ -13,6 +14,8 @@ namespace gallery {
 namespace {
 constexpr CGFloat trackRadius = 11;
 constexpr CGFloat thumbInset = 3;
+constexpr CGFloat textInset = thumbInset + 1;
+constexpr CGFloat wantedTextInset = thumbInset + 4;
 
 /// The segments as a screen reader has them.
 class SegmentsElement : public UIAccessibilityElement {
@@ -57,6 +60,8 @@ Ref<GallerySegments> GallerySegments::segmentsWithChoices(std::vector<std::strin
         const auto label = create<UILabel>(CGRectZero);
         label->setText(choice);
         label->setTextAlignment(NSTextAlignmentCenter);
+        label->setFont(GalleryTheme::strongCaptionFont()); // The wider one, of the chosen.
+        segments->neededWidths_.push_back(label->sizeThatFits({}).width + 2 * wantedTextInset);
         segments->labels_.push_back(label);
         segments->addSubview(label);
     }
@@ -80,8 +85,17 @@ void GallerySegments::showChosen() {
 }
 
 CGRect GallerySegments::frameOfSegment(std::size_t index) const {
-    const CGFloat width = bounds().size.width / static_cast<CGFloat>(choices_.size());
-    return CGRectMake(static_cast<CGFloat>(index) * width, 0, width, bounds().size.height);
+    if (index >= choices_.size()) return {};
+    const CGSize size = bounds().size;
+    const auto count = static_cast<CGFloat>(choices_.size());
+    if (*std::max_element(neededWidths_.begin(), neededWidths_.end()) <= size.width / count) {
+        const CGFloat width = size.width / count;
+        return CGRectMake(static_cast<CGFloat>(index) * width, 0, width, size.height);
+    }
+    const auto before = neededWidths_.begin() + static_cast<std::ptrdiff_t>(index);
+    const CGFloat spare = (size.width - std::accumulate(neededWidths_.begin(), neededWidths_.end(), 0.0)) / count;
+    const CGFloat x = std::accumulate(neededWidths_.begin(), before, static_cast<CGFloat>(index) * spare);
+    return CGRectMake(x, 0, *before + spare, size.height);
 }
 
 std::size_t GallerySegments::segmentAt(CGPoint point) const {
@@ -94,7 +108,7 @@ CGSize GallerySegments::sizeThatFits(CGSize available) const { return {available
 
 void GallerySegments::layoutSubviews() {
     GalleryControl::layoutSubviews();
-    for (std::size_t i = 0; i < labels_.size(); ++i) labels_[i]->setFrame(CGRectInset(frameOfSegment(i), thumbInset + 2, 0));
+    for (std::size_t i = 0; i < labels_.size(); ++i) labels_[i]->setFrame(CGRectInset(frameOfSegment(i), textInset, 0));
 }
 
 void GallerySegments::drawRect(UIGraphicsContext& context, CGRect rect) {

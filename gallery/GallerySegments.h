@@ -9,7 +9,8 @@
 
 namespace gallery {
 
-/// One of several: choices side by side, of which one is chosen. They share the width evenly.
+/// One of several: choices side by side, of which one is chosen. They are equally wide; where a text needs more than that, each gets what
+/// its text needs and they share the rest.
 ///
 /// Invariant: `chosen` is one of the choices, as long as there are any.
 class GallerySegments : public GalleryControl {
@@ -22,7 +23,7 @@ public:
     void setChosen(std::size_t chosen);
     /// Called when the user has chosen another one.
     void setAction(std::function<void(std::size_t chosen)> action) { action_ = std::move(action); }
-    /// The segment's rectangle in this view's coordinates.
+    /// The segment's rectangle in this view's coordinates; empty beyond the choices.
     gx::CGRect frameOfSegment(std::size_t index) const;
 
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
@@ -49,6 +50,7 @@ private:
     std::size_t chosen_ = 0;
     std::function<void(std::size_t)> action_;
     std::vector<gx::Ref<gx::UILabel>> labels_;
+    std::vector<gx::CGFloat> neededWidths_; ///< of each choice, whether it is the chosen one or not
 };
 
 } // namespace gallery

@@ -120,6 +120,31 @@ TEST_F(GalleryControlsTest, TheMouseWheelMovesARowANotchAndTheTrackpadPointByPoi
     EXPECT_FALSE(window->scrollNotches({150, 200}, 2)); // Nothing is hidden, so the event is someone else's.
 }
 
+TEST_F(GalleryControlsTest, SegmentsAreEquallyWideAsLongAsEachHasRoomForItsText) {
+    // Ten points for a letter, and seven at either side: 104, 44 and 44.
+    const auto segments = GallerySegments::segmentsWithChoices({"Automatic", "1.5", "1,5"}, 0);
+    const auto widths = [&segments](CGFloat width) {
+        segments->setFrame(CGRectMake(0, 0, width, 40));
+        std::vector<CGFloat> found;
+        CGFloat end = 0;
+        for (std::size_t i = 0; i < 3; ++i) {
+            const CGRect segment = segments->frameOfSegment(i);
+            EXPECT_DOUBLE_EQ(segment.origin.x, end);
+            EXPECT_EQ(segment.size.height, 40);
+            end = CGRectGetMaxX(segment);
+            found.push_back(segment.size.width);
+        }
+        EXPECT_DOUBLE_EQ(end, width);
+        return found;
+    };
+    EXPECT_EQ(widths(312), (std::vector<CGFloat>{104, 104, 104}));
+    EXPECT_EQ(widths(309), (std::vector<CGFloat>{143, 83, 83})); // 117 are to spare, 39 for each.
+    EXPECT_EQ(widths(192), (std::vector<CGFloat>{104, 44, 44}));
+    EXPECT_EQ(widths(162), (std::vector<CGFloat>{94, 34, 34})); // Each lacks the same.
+    EXPECT_EQ(segments->frameOfSegment(3), CGRectZero);
+    EXPECT_EQ(GallerySegments::segmentsWithChoices({}, 0)->frameOfSegment(0), CGRectZero);
+}
+
 TEST_F(GalleryControlsTest, SegmentsChooseOneAndTellOnlyOfAnother) {
     const auto segments = GallerySegments::segmentsWithChoices({"a", "b", "c"}, 1);
     segments->setFrame(CGRectMake(0, 200, 300, 40));

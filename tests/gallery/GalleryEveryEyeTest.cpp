@@ -122,6 +122,24 @@ TEST_F(GalleryEveryEye, ContrastAndMotionOfTheSettingsAreTheWindows) {
     EXPECT_TRUE(other->reducesMotion());
 }
 
+TEST_F(GalleryEveryEye, ANameThatHasNoRoomBesideItsValueStandsAboveIt) {
+    open(390, 844);
+    const auto row = std::dynamic_pointer_cast<GalleryRowCell>(screen->entry()->table()->cellForRowAtIndexPath({0, 2}));
+    ASSERT_TRUE(row);
+    const auto frames = [&row](const std::string& name) {
+        row->setName_value(name, "420 kcal");
+        row->layoutIfNeeded();
+        return std::make_pair(row->contentView()->subviews().at(0)->frame(), row->contentView()->subviews().at(1)->frame());
+    };
+    // As below, 266 points are left for the name.
+    const CGFloat height = GalleryRowCell::height();
+    EXPECT_EQ(frames("twenty-six letters, but no").first, CGRectMake(16, 0, 266, height));
+    const auto [name, value] = frames("twenty-seven letters not 26");
+    EXPECT_EQ(name, CGRectMake(16, 0, 358, height / 2));
+    EXPECT_EQ(value, CGRectMake(16, height / 2, 358, height / 2));
+    EXPECT_LE(20, height / 2) << "a line of the null text engine";
+}
+
 TEST_F(GalleryEveryEye, RowsAreMirroredWhereOneReadsFromRightToLeft) {
     for (const bool isMirrored : {false, true}) {
         NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier(isMirrored ? "ar" : "en"));
