@@ -2,7 +2,9 @@
 
 #include "GXStyleSheet.h"
 #include "PickerTest.h"
+#include "RecordingCanvas.h"
 #include "TestWindow.h"
+#include "UITextEngine.h"
 #include "WheelSource.h"
 
 using namespace gx;
@@ -26,6 +28,17 @@ struct Source : NSObject, UIPickerViewDataSource, GXMultiValuePickerViewDelegate
         return row == rowCount - 1 ? lastTitle : "1";
     }
 };
+
+class HalfAsWideAsHigh : public UITextEngine {
+public:
+    CGSize sizeOfText_font(std::string_view text, const UIFont& font) override {
+        return {0.5 * font.pointSize() * static_cast<CGFloat>(text.size()), font.pointSize()};
+    }
+};
+
+Ref<GXStyleSheetFont> fontOfSize(CGFloat size) {
+    return GXStyleSheetFont::fontWithFamily_size_weight_color("", size, UIFontWeight::Medium, UIColor::blackColor());
+}
 
 struct MultiValue : testing::Test {
     Ref<Source> source = create<Source>();
@@ -175,13 +188,19 @@ TEST_F(MultiValue, ASeparatorAfterTheLastColumnIsNeverPlaced) {
     wheel->setSeparatorText_afterComponent(":", 1);
     wheel->reloadAllComponents();
     wheel->layoutIfNeeded();
-    EXPECT_EQ(wheel->separatorAfterComponent(1)->frame(), CGRectMake(0, 0, 10, 20)) << "sized, but at the origin";
+    const Ref<UILabel> label = wheel->separatorAfterComponent(1);
+    EXPECT_EQ(label->frame(), CGRectMake(0, 0, 10, 20)) << "sized, but at the origin";
+    EXPECT_TRUE(label->isHidden()) << "the wheel's corner is no place for it";
+    source->widths = {80, 80, 80};
+    wheel->reloadAllComponents();
+    EXPECT_FALSE(label->isHidden());
 }
 
 TEST_F(MultiValue, InASingleColumnNoSeparatorIsPlaced) {
     connect();
     wheel->setSeparatorText_afterComponent(":", 0);
     EXPECT_EQ(wheel->separatorAfterComponent(0)->frame().origin, CGPointMake(0, 0));
+    EXPECT_TRUE(wheel->separatorAfterComponent(0)->isHidden());
 }
 
 TEST_F(MultiValue, TheSameLabelIsTextedAgain) {
@@ -208,6 +227,27 @@ TEST_F(MultiValue, AValueFontReachesSeparatorsAtTheirNextPlacementButNotTheirSiz
     wheel->reloadAllComponents();
     EXPECT_EQ(label->font(), font->font());
     EXPECT_EQ(label->bounds().size, CGSizeMake(10, 20));
+}
+
+TEST_F(MultiValue, ASeparatorIsDrawnWholeAndInTheMiddleWhateverFontCameLater) {
+    UITextEngine::setShared(create<HalfAsWideAsHigh>());
+    source->widths = {80, 5, 80};
+    connect();
+    wheel->setCustomValueFont(fontOfSize(20));
+    wheel->setSeparatorText_afterComponent(":", 0);
+    const Ref<UILabel> label = wheel->separatorAfterComponent(0);
+    const auto drawnWithSize = [&](CGFloat size) {
+        wheel->setCustomValueFont(fontOfSize(size));
+        wheel->reloadAllComponents();
+        EXPECT_EQ(label->bounds(), CGRectMake(0, 0, 10, 20));
+        RecordingCanvas canvas;
+        label->drawRect(canvas, label->bounds());
+        return canvas.painted();
+    };
+    EXPECT_EQ(drawnWithSize(20), std::vector<std::string>{"text : at 0 0 with 0 0 0 1"});
+    EXPECT_EQ(drawnWithSize(60), std::vector<std::string>{"text : at -10 -20 with 0 0 0 1"});
+    EXPECT_EQ(drawnWithSize(10), std::vector<std::string>{"text : at 2.5 5 with 0 0 0 1"});
+    UITextEngine::setShared(nullptr);
 }
 
 TEST_F(MultiValue, ALabelFontReachesBothLabelsAtOnce) {

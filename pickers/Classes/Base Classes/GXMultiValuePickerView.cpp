@@ -16,8 +16,28 @@ GXMultiValuePickerView::Factory& sharedFactory() {
     return factory;
 }
 
-Ref<UILabel> createLabel(const Ref<GXStyleSheetFont>& font) {
-    auto label = create<UILabel>(CGRectNull);
+/// Keeps the size that its text had when it was set, so it draws from the middle of its bounds, and whole: a font that came later may need
+/// less room or more.
+class SeparatorLabel : public UILabel {
+public:
+    void drawRect(UIGraphicsContext& context, CGRect rect) override {
+        UILabel::drawRect(context,
+                          CGRectOffset({{}, {textWidth_, rect.size.height}}, CGRectGetMidX(rect) - 0.5 * textWidth_, rect.origin.y));
+    }
+
+protected:
+    void textDidChange() override {
+        UILabel::textDidChange();
+        textWidth_ = sizeThatFits({}).width;
+    }
+
+private:
+    CGFloat textWidth_ = 0;
+};
+
+template <class Label>
+Ref<Label> createLabel(const Ref<GXStyleSheetFont>& font) {
+    auto label = create<Label>(CGRectNull);
     label->setBackgroundColor(UIColor::clearColor());
     setStyleSheetFont(label, font);
     return label;
@@ -52,9 +72,9 @@ bool GXMultiValuePickerView::initWithCoder(const Ref<NSCoder>& coder) {
 
 void GXMultiValuePickerView::initGXMultiValuePickerView() {
     setShowsSelectionIndicator(true);
-    leftDescLabel_ = createLabel(labelFont());
+    leftDescLabel_ = createLabel<UILabel>(labelFont());
     addSubview(leftDescLabel_);
-    rightDescLabel_ = createLabel(labelFont());
+    rightDescLabel_ = createLabel<UILabel>(labelFont());
     addSubview(rightDescLabel_);
 }
 
@@ -100,7 +120,8 @@ void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::
     if (!sources()) return;
     Ref<UILabel>& entry = separators_[component];
     if (!entry) {
-        entry = createLabel(valueFont());
+        entry = createLabel<SeparatorLabel>(valueFont());
+        entry->setHidden(true); // Until it has a place.
         addSubview(entry);
     }
     const Ref<UILabel> label = entry;
@@ -222,6 +243,7 @@ void GXMultiValuePickerView::updateSeparatorFrames() {
         if (!label) continue;
         setStyleSheetFont(label, valueFont());
         label->setCenter({CGRectGetMidX(rowRectOfComponent(i + 1)), CGRectGetMidY(bounds())});
+        label->setHidden(false);
     }
 }
 

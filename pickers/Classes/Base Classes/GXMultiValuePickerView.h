@@ -54,7 +54,8 @@ public:
     virtual void setCustomValueFont(Ref<GXStyleSheetFont> font);
 
     /// Shows a text after a component, centred on the column that follows: pickers give it a column of its own,
-    /// whose rows have no titles. Ignored, and not remembered, while the data source or the delegate is absent.
+    /// whose rows have no titles. After the last component it is not shown. Ignored, and not remembered, while the data source or the
+    /// delegate is absent.
     virtual void setSeparatorText_afterComponent(std::optional<std::string> text, NSUInteger component);
     /// Nothing if none was set.
     Ref<UILabel> separatorAfterComponent(NSUInteger component) const;
