@@ -214,6 +214,17 @@ TEST_F(TemperaturePicker, EveryRowThatIsPickedStaysPicked) {
     }
 }
 
+TEST_F(TemperaturePicker, FromAMinimumWithAFractionInFahrenheitAPickedRowMayGoBackByOneButItsValueStays) {
+    picker->setMinValue(NSNumber::numberWithInteger(-16)); // 3.2 °F
+    picker->setStepSize(NSNumber::numberWithInteger(2));
+    EXPECT_EQ(title(31), "65");
+    turn(31);
+    EXPECT_NEAR(picker->currentValue().doubleValue(), 18.4444, 0.00005); // 65.2 °F, less 32, by 1.8
+    EXPECT_EQ(selectedTitle(), "63");
+    ASSERT_EQ(notices->list.size(), 1U);
+    EXPECT_EQ(notices->list[0].value.doubleValue(), picker->currentValue().doubleValue());
+}
+
 TEST_F(TemperaturePicker, AFingerTurnsTheWheelAndTheDelegateIsToldOnce) {
     TestWindow window(picker);
     window.drag({160, 108}, {160, 108 + 46}); // one row of 40 back, and the slop

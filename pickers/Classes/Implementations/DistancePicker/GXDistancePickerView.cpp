@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GXRounding.h"
 #include "GXTitleReading.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"

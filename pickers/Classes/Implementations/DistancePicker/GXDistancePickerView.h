@@ -2,6 +2,7 @@
 
 #include "GXBasePickerView.h"
 #include "GXDistanceFormatter.h"
+#include "GXRounding.h" // How it stores the distances that are picked.
 
 namespace gx {
 

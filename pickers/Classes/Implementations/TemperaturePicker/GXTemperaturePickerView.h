@@ -12,7 +12,9 @@ namespace gx {
 ///
 /// The Fahrenheit rows begin at the Fahrenheit equivalent of the minimum and lie the step apart in Fahrenheit degrees, so that their titles
 /// are as even as the Celsius ones. They do not lie where the Celsius rows do: a value is shown on the row at or below it, and picking that
-/// row in the other unit can change it by part of a step (20 °C shows as 66 °F, and 66 °F, once picked, as 15 °C).
+/// row in the other unit can change it by part of a step (20 °C shows as 66 °F, and 66 °F, once picked, as 15 °C). Where the minimum is no
+/// whole degree of Fahrenheit, sums of fractions in single precision can end below the row that was picked: the value stays as picked, and
+/// the wheel shows the row before (from -16 °C in steps of 2, 65 °F goes back to 63).
 ///
 /// Nothing is clamped: a value below the minimum asks the wheel for a negative row, one above the maximum for a row beyond the last.
 class GXTemperaturePickerView : public GXBasePickerView {
