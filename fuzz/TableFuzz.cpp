@@ -1,6 +1,7 @@
 // A table whose data source answers anything and changes at any time, within its own answers too.
 
 #include "FuzzHand.h"
+#include "NSArithmetic.h"
 #include "NullCanvas.h"
 #include "UIHost.h"
 #include "UITableView.h"
@@ -138,7 +139,8 @@ private:
     }
     void insert(const Ref<UITableView>& table) {
         const std::vector<NSIndexPath> added = paths();
-        if (bytes_.below(8) < 7 && source_->sections == 1) source_->rows = held(source_->rows + static_cast<NSInteger>(added.size()));
+        if (bytes_.below(8) < 7 && source_->sections == 1)
+            source_->rows = held(wrappingAdd(source_->rows, static_cast<NSInteger>(added.size())));
         table->insertRowsAtIndexPaths_animated(added, bytes_.flag());
     }
     void remove(const Ref<UITableView>& table) {

@@ -106,9 +106,9 @@ double UIPickerTurn::rawOffset(double displayed) const {
     return displayed;
 }
 
-void UIPickerTurn::follow(double rows) {
-    if (!std::isfinite(rows)) return;
-    raw_ += rows;
+void UIPickerTurn::follow(double raw) {
+    if (!std::isfinite(raw)) return;
+    raw_ = raw;
     offset_ = bandedOffset(raw_);
 }
 
@@ -147,7 +147,7 @@ void UIPickerTurn::touchMoved(CGFloat y, NSTimeInterval time) {
         // The column starts where the finger crossed the slop, so that it does not jump.
         lastTouch_ = touchStart_ + std::copysign(touchSlop, y - touchStart_);
     }
-    follow((lastTouch_ - y) / rowHeight_);
+    follow(raw_ + (lastTouch_ - y) / rowHeight_);
     lastTouch_ = y;
 }
 
@@ -200,6 +200,11 @@ NSInteger UIPickerTurn::rowAfter(NSInteger rows) const {
     return from + std::clamp<NSInteger>(rows, -from, count_ - 1 - from);
 }
 
+/// What comes on and on at the end does not slow down the way there.
+bool UIPickerTurn::isOnItsWayTo(NSInteger row) const {
+    return row == stepStart() && (state_ == State::AtRest || state_ == State::Gliding || state_ == State::Landed);
+}
+
 bool UIPickerTurn::scrollNotches(double notches) {
     if (finger_ || count_ == 0 || !std::isfinite(notches)) return false;
     notches_ += notches;
@@ -207,7 +212,7 @@ bool UIPickerTurn::scrollNotches(double notches) {
     if (whole == 0) return true;
     notches_ -= whole;
     const NSInteger row = rowAfter(truncateTo<NSInteger>(whole));
-    if (row == stepStart() && !isTurning()) return true; // At the end there is nothing to turn.
+    if (isOnItsWayTo(row)) return true; // At the end there is nothing to turn.
     if (!isUsersTurn()) passed_ = rowInBand();
     glideToRow(row, UIScrollMotion::notchDuration, std::nullopt);
     return true;
@@ -218,10 +223,8 @@ bool UIPickerTurn::stepByRows(NSInteger rows) { return !finger_ && count_ > 0 &&
 bool UIPickerTurn::turnToRow(NSInteger row) {
     if (finger_ || count_ == 0) return false;
     const NSInteger held = std::clamp<NSInteger>(row, 0, count_ - 1);
+    if (isOnItsWayTo(held)) return true;
     const NSInteger from = stepStart();
-    // A key that is held at the end does not slow down the way there.
-    const bool isOnItsWay = state_ == State::AtRest || state_ == State::Gliding || state_ == State::Landed;
-    if (held == from && isOnItsWay) return true;
     if (!isUsersTurn()) passed_ = rowInBand();
     const bool isStep = held - from >= -1 && held - from <= 1;
     glideToRow(held, isStep ? UIScrollMotion::notchDuration : UIScrollMotion::requestDuration, std::nullopt);
@@ -231,13 +234,14 @@ bool UIPickerTurn::turnToRow(NSInteger row) {
 bool UIPickerTurn::scrollPoints(CGFloat points, NSTimeInterval time, bool isFinished) {
     if (finger_ || count_ == 0) return false;
     const bool isScrolled = state_ == State::Scrolled;
-    if (points == 0 && !isScrolled) return true;
-    if (!isScrolled) {
-        if (!isUsersTurn()) passed_ = rowInBand();
-        raw_ = rawOffset(offset_);
-        state_ = State::Scrolled;
-    }
-    follow(points / rowHeight_);
+    const double from = isScrolled ? raw_ : rawOffset(offset_);
+    // A trackpad glides on after the fingers have left it: beyond an end that is no pull, and would take all rows out of sight.
+    const double rows = std::isfinite(points) ? points / rowHeight_ : 0;
+    const double to = std::clamp(from + rows, std::min(from, firstOffset()), std::max(from, lastOffset()));
+    if (to == from && !isScrolled) return true; // There is nothing to turn.
+    if (!isUsersTurn()) passed_ = rowInBand();
+    state_ = State::Scrolled;
+    follow(to);
     lastScroll_ = time;
     if (isFinished) snap(time);
     return true;
@@ -246,7 +250,10 @@ bool UIPickerTurn::scrollPoints(CGFloat points, NSTimeInterval time, bool isFini
 // Time
 
 bool UIPickerTurn::advanceToTime(NSTimeInterval time) {
-    if (state_ == State::Scrolled && time - lastScroll_ >= scrollIdle) snap(time);
+    if (state_ == State::Scrolled) {
+        lastScroll_ = UIScrollMotion::startSeenAt(lastScroll_, time);
+        if (time - lastScroll_ >= scrollIdle) snap(time);
+    }
     if (state_ != State::Gliding && state_ != State::Requested) return isMoving();
     motion_.beginAt(time);
     offset_ = motion_.positionAt(time);

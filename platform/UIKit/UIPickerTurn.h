@@ -77,7 +77,7 @@ public:
     bool stepByRows(NSInteger rows);
     /// The same, to a row.
     bool turnToRow(NSInteger row);
-    /// Follows a trackpad by points.
+    /// Follows a trackpad by points, up to the ends.
     bool scrollPoints(CGFloat points, NSTimeInterval time, bool isFinished);
 
     /// Moves to where the column is at `time`. Answers whether it moves on.
@@ -96,13 +96,14 @@ private:
     double firstOffset() const { return static_cast<double>(-anchor_); }
     double lastOffset() const { return static_cast<double>(count_ - 1 - anchor_); }
     NSInteger rowAtOffset(double offset) const;
-    void follow(double rows);
+    void follow(double raw);
     double bandedOffset(double raw) const;
     double rawOffset(double displayed) const;
     void glideToRow(NSInteger row, NSTimeInterval duration, std::optional<NSTimeInterval> start);
     void snap(std::optional<NSTimeInterval> start);
     NSInteger stepStart() const;
     NSInteger rowAfter(NSInteger rows) const;
+    bool isOnItsWayTo(NSInteger row) const;
     double releaseVelocityAt(NSTimeInterval time) const;
 
     NSInteger count_ = 0;

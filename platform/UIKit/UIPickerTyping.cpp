@@ -1,6 +1,7 @@
 #include "UIPickerTyping.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "NSLocale.h"
 
@@ -86,7 +87,7 @@ void UIPickerTyping::setText_inComponent_atTime(std::u32string text, NSInteger c
     latest_ = time;
 }
 
-bool UIPickerTyping::isOverAt(NSTimeInterval time) const { return !(time - latest_ < longestPause); }
+bool UIPickerTyping::isOverAt(NSTimeInterval time) const { return !(std::fabs(time - latest_) < longestPause); }
 
 void UIPickerTyping::clear() {
     text_.clear();

@@ -29,7 +29,8 @@ public:
     const std::u32string& text() const { return text_; }
     /// The text so far, which `time` has made longer.
     void setText_inComponent_atTime(std::u32string text, NSInteger component, NSTimeInterval time);
-    /// Whether the text is complete by the time: a character then begins another one. A time that is no number completes it.
+    /// Whether the text is complete by the time: a character then begins another one. A time that is no number completes it, and so does
+    /// one that lies as long before the text, by another clock.
     bool isOverAt(NSTimeInterval time) const;
     void clear();
 

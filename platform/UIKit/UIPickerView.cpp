@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "UIGraphicsContext.h"
-#include "UILabel.h"
 #include "UIPickerViewComponent.h"
 #include "UIWindow.h"
 
@@ -12,25 +10,11 @@ namespace gx {
 
 namespace {
 
-constexpr CGFloat bandInset = 8;
-constexpr CGFloat bandCornerRadius = 8;
-// At high contrast: wide enough to be seen, and narrower than the bars that mark the focus.
-constexpr CGFloat bandOutline = 1.5;
-// A moving column has one row more in sight at some moments than at others; one view waits for it on either side.
-constexpr std::size_t poolSize = 2;
-
 /// A length that a delegate may give; nothing if it leaves it to the wheel.
 std::optional<CGFloat> given(CGFloat dimension) {
     if (dimension == UIPickerView::automaticDimension || std::isnan(dimension)) return std::nullopt;
     return std::clamp(dimension, 0.0, 1e6); // Wider than any screen: sums of widths stay exact.
 }
-
-const Ref<UIFont>& titleFont() {
-    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(UIPickerView::titleFontSize, UIFontWeight::Medium);
-    return font;
-}
-
-bool isShowable(CGRect bounds) { return !CGRectIsEmpty(bounds) && std::isfinite(bounds.size.width) && std::isfinite(bounds.size.height); }
 
 } // namespace
 
@@ -140,8 +124,22 @@ CGFloat UIPickerView::widthOfComponent(NSInteger component) const {
     return std::max(0.0, (bounds().size.width - (count - 1) * columnGap) / count);
 }
 
+bool UIPickerView::hasRow(NSInteger row, NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    return row >= 0 && row < refreshedRows(component);
+}
+
 NSInteger UIPickerView::heldRow(NSInteger component, NSInteger row) {
     return std::clamp<NSInteger>(row, 0, std::max<NSInteger>(refreshedRows(component) - 1, 0));
+}
+
+/// Its attributed title, or else the plain one; nothing for a row that is not there, or has gone while it was asked for.
+std::optional<std::string> UIPickerView::titleOfRow(NSInteger row, NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
+    if (!delegate || !hasRow(row, component)) return std::nullopt;
+    if (const auto title = delegate->pickerView_attributedTitleForRow_forComponent(keep, row, component)) return title->string();
+    return hasRow(row, component) ? delegate->pickerView_titleForRow_forComponent(keep, row, component) : std::nullopt;
 }
 
 NSInteger UIPickerView::numberOfComponents() {
@@ -154,7 +152,7 @@ NSInteger UIPickerView::numberOfRowsInComponent(NSInteger component) { return re
 
 CGSize UIPickerView::rowSizeForComponent(NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (!isShowable(bounds()) || !exists(component)) return {};
+    if (!isShowable() || !exists(component)) return {};
     for (NSInteger i = 0; i < count_; ++i) refreshSizes(i);
     return exists(component) ? CGSize{widthOfComponent(component), at(component).rowHeight} : CGSize{};
 }
@@ -166,7 +164,7 @@ NSInteger UIPickerView::selectedRowInComponent(NSInteger component) {
 
 Ref<UIView> UIPickerView::viewForRow_forComponent(NSInteger row, NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (isShowable(bounds())) layoutIfNeeded();
+    if (isShowable()) layoutIfNeeded();
     if (!exists(component) || !at(component).column) return nullptr;
     return at(component).column->viewForRow(row);
 }
@@ -221,139 +219,6 @@ void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
     if (const Ref<UIPickerViewDelegate> delegate = delegate_.lock()) {
         delegate->pickerView_didSelectRow_inComponent(keep, held, component);
     }
-}
-
-// Layout
-
-void UIPickerView::layoutSubviews() {
-    UIView::layoutSubviews();
-    if (!isShowable(bounds())) return;
-    const Ref<UIPickerView> keep = self();
-    const bool areRowsDue = areRowsDue_;
-    areRowsDue_ = false;
-    refreshComponents();
-    for (NSInteger i = 0; i < count_; ++i) {
-        refreshSizes(i);
-        refreshedRows(i);
-    }
-    placeColumns();
-    for (NSInteger i = 0; i < count_; ++i) {
-        const NSInteger reported = heldRow(i, at(i).requested);
-        if (i >= count_ || !at(i).column) continue;
-        Component& entry = at(i);
-        entry.turn.setRows_height_extent(entry.rows, entry.rowHeight, bounds().size.height, reported);
-        if (!entry.turn.isTurning()) entry.turn.standOnRow(reported);
-        // New rows may let a request through that was held to the last one so far.
-        const bool isRequested = entry.turn.state() == UIPickerTurn::State::Requested;
-        if (isRequested && entry.turn.landingRow() != reported) entry.turn.goToRow(reported);
-        scrollColumn(i);
-        showRows(i, areRowsDue);
-    }
-    // A turn whose row is gone has landed and still has to be told of, in the next frame.
-    if (isTurning()) startMoving();
-}
-
-void UIPickerView::placeColumns() {
-    for (auto i = static_cast<std::size_t>(count_); i < components_.size(); ++i) {
-        Component& gone = *components_[i];
-        gone.turn.standOnRow(0);
-        if (const Ref<UIPickerColumn> column = std::move(gone.column)) column->removeFromSuperview();
-        gone.column = nullptr;
-    }
-    CGFloat total = static_cast<CGFloat>(std::max<NSInteger>(count_ - 1, 0)) * columnGap;
-    for (NSInteger i = 0; i < count_; ++i) total += widthOfComponent(i);
-    CGFloat x = CGRectGetMidX(bounds()) - 0.5 * total;
-    for (NSInteger i = 0; i < count_; ++i) {
-        Component& entry = at(i);
-        const CGRect frame = CGRectMake(x, CGRectGetMinY(bounds()), widthOfComponent(i), bounds().size.height);
-        if (!entry.column) {
-            entry.column = create<UIPickerColumn>(frame);
-            insertSubview_atIndex(entry.column, i); // Below the labels that a subclass lays over the columns.
-        }
-        entry.column->setFrame(frame);
-        entry.column->setRowHeight(entry.rowHeight);
-        x += frame.size.width + columnGap;
-    }
-}
-
-void UIPickerView::scrollColumn(NSInteger component) {
-    const Component& entry = at(component);
-    if (entry.column) entry.column->scrollToAnchor_offset(entry.turn.anchorRow(), entry.turn.offset());
-}
-
-void UIPickerView::showRows(NSInteger component, bool anew) {
-    const Ref<UIPickerColumn> column = at(component).column;
-    if (!column) return;
-    const UIPickerColumn::Range range = column->rowsInSight(at(component).rows);
-    column->recycleRowsOutside(range);
-    for (NSInteger row = range.first; row < range.last; ++row) {
-        if (anew || !column->viewForRow(row)) showRow(component, row);
-        if (component >= count_ || at(component).column != column) return; // The delegate has changed the wheel.
-    }
-    column->trimPool(poolSize);
-}
-
-void UIPickerView::showRow(NSInteger component, NSInteger row) {
-    const Ref<UIPickerColumn> column = at(component).column;
-    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
-    const Ref<UIPickerView> keep = self();
-    UIPickerColumn::Row offered = column->takeRow(row, true);
-    Ref<UIView> view = delegate ? delegate->pickerView_viewForRow_forComponent_reusingView(keep, row, component, offered.view) : nullptr;
-    // A delegate that was replaced while it was asked has made its views for nobody; the layout that is due asks the new one.
-    if (delegate_.lock() != delegate) {
-        if (offered.view) offered.view->removeFromSuperview();
-        return;
-    }
-    // A view above the column cannot show a row of it.
-    if (view && column->isDescendantOfView(view)) view = nullptr;
-    if (view) {
-        if (offered.view && offered.view != view) column->pool(std::move(offered));
-        column->showRow({row, std::move(view), true});
-        return;
-    }
-    column->pool(std::move(offered));
-    const UIPickerColumn::Row own = column->takeRow(row, false);
-    auto label = std::static_pointer_cast<UILabel>(own.view);
-    if (!label) {
-        label = create<UILabel>(CGRectNull);
-        label->setTextAlignment(NSTextAlignmentCenter);
-        label->setFont(titleFont());
-    }
-    const Ref<NSAttributedString> attributed =
-        delegate ? delegate->pickerView_attributedTitleForRow_forComponent(keep, row, component) : nullptr;
-    if (attributed) {
-        label->setAttributedText(attributed);
-    } else {
-        label->setText(delegate ? delegate->pickerView_titleForRow_forComponent(keep, row, component) : std::nullopt);
-    }
-    column->showRow({row, std::move(label), false});
-}
-
-void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
-    UIView::drawRect(context, rect);
-    if (count_ == 0) return;
-    const CGRect band = selectionIndicatorFrame();
-    if (showsBand_) drawSelectionIndicator(context, band);
-    drawFocus(context, band);
-}
-
-CGRect UIPickerView::selectionIndicatorFrame() {
-    if (count_ == 0) return {};
-    CGFloat height = 0;
-    for (NSInteger i = 0; i < count_; ++i) height = std::max(height, at(i).rowHeight);
-    const CGRect room = bounds();
-    return CGRectMake(room.origin.x + bandInset, CGRectGetMidY(room) - 0.5 * height, room.size.width - 2 * bandInset, height);
-}
-
-void UIPickerView::drawSelectionIndicator(UIGraphicsContext& context, CGRect frame) {
-    const bool isOutlined = context.accessibilityContrast() == UIAccessibilityContrast::High;
-    // An outline of straight lines has no rounded corners to follow.
-    context.fillRect(frame, UIColor::tertiarySystemFillColor(), isOutlined ? 0 : bandCornerRadius);
-    if (!isOutlined) return;
-    for (const CGFloat y : {CGRectGetMinY(frame), CGRectGetMaxY(frame) - bandOutline})
-        context.fillRect(CGRectMake(frame.origin.x, y, frame.size.width, bandOutline), UIColor::secondaryLabelColor());
-    for (const CGFloat x : {CGRectGetMinX(frame), CGRectGetMaxX(frame) - bandOutline})
-        context.fillRect(CGRectMake(x, frame.origin.y, bandOutline, frame.size.height), UIColor::secondaryLabelColor());
 }
 
 } // namespace gx

@@ -43,10 +43,7 @@ public:
     void increment() override { step(1); }
     void decrement() override { step(-1); }
     void setIndex(NSInteger index) override {
-        const Ref<UIPickerView> wheel = present();
-        if (!wheel) return;
-        const NSInteger row = wheel->heldRow(part(), index);
-        turn([row](UIPickerTurn& column) { return column.turnToRow(row); });
+        turn([index](UIPickerTurn& column) { return column.turnToRow(index); });
     }
 
 private:
@@ -61,8 +58,9 @@ private:
     }
     template <class Order>
     void turn(Order order) const {
-        if (!isEnabled()) return;
-        const Ref<UIPickerView> wheel = present();
+        if (const Ref<UIPickerView> wheel = isEnabled() ? present() : nullptr) wheel->completeTyping();
+        // Who was told of a typed text may have changed the columns.
+        const Ref<UIPickerView> wheel = isEnabled() ? present() : nullptr;
         if (wheel && order(wheel->at(part()).turn)) wheel->startMoving();
     }
 
@@ -83,8 +81,7 @@ std::optional<std::string> UIPickerView::spokenRow(NSInteger row, NSInteger comp
     if (auto value = delegate->pickerView_accessibilityValueForRow_forComponent(keep, row, component)) return value;
     // A view in sight shows whatever the delegate gave. Of a row that is out of sight while its column spins there are only the titles.
     if (const Ref<UIView> view = viewForRow_forComponent(row, component)) return joinedAccessibilityLabels(view->accessibilityElements());
-    if (const auto title = delegate->pickerView_attributedTitleForRow_forComponent(keep, row, component)) return title->string();
-    return delegate->pickerView_titleForRow_forComponent(keep, row, component);
+    return titleOfRow(row, component);
 }
 
 UIAccessibilityElements UIPickerView::accessibilityElements() {

@@ -84,7 +84,7 @@ bool UIPickerView::keyPressed(const UIKey& key) {
     switch (pressed.code) {
     case UIKey::Code::Character: {
         const std::u32string characters = UIPickerTyping::readableForm(pressed.characters);
-        for (const char32_t character : characters) typeCharacter(character, pressed.timestamp);
+        for (std::size_t i = 0; !pressed.isRepeat && i < characters.size(); ++i) typeCharacter(characters[i], pressed.timestamp);
         return !characters.empty() || UIView::keyPressed(pressed);
     }
     case UIKey::Code::Left:
@@ -136,14 +136,7 @@ void UIPickerView::turnByKey(UIKey::Code code, NSInteger component) {
 // Typed characters
 
 UIPickerTitleSearch::Result UIPickerView::rowsSpelled(const std::u32string& text, NSInteger component) {
-    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
-    if (!delegate) return {};
-    const auto titles = [&](NSInteger row) -> std::optional<std::string> {
-        if (const auto attributed = delegate->pickerView_attributedTitleForRow_forComponent(self(), row, component)) {
-            return attributed->string();
-        }
-        return delegate->pickerView_titleForRow_forComponent(self(), row, component);
-    };
+    const auto titles = [this, component](NSInteger row) { return titleOfRow(row, component); };
     return UIPickerTitleSearch::resultOfText_amongRows(text, at(component).rows, titles);
 }
 
@@ -152,7 +145,10 @@ void UIPickerView::typeCharacter(char32_t character, NSTimeInterval time) {
     const NSInteger present = componentOfKeys();
     if (present < 0 || at(present).turn.isHeld()) return;
     if (typing_.component() != present) completeTyping();
-    if (UIPickerTyping::endsColumn(character)) {
+    const bool isSeparator = UIPickerTyping::endsColumn(character);
+    // A title may have one of its own, as 36.5 has after 36.
+    const bool isOfTitle = isSeparator && !typing_.text().empty() && rowsSpelled(typing_.text() + character, present).canGrow;
+    if (isSeparator && !isOfTitle) {
         const NSInteger next = componentThatShowsAfter(present);
         if (next >= 0) {
             completeTyping();

@@ -121,8 +121,7 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
     const NSInteger component = componentAt(convertPointFromWindow(scroll.locationInWindow));
     // What goes sideways, and what could turn nothing, may scroll something around the wheel. A column at its end keeps the wheel's
     // notches, so that nothing else moves below the pointer then.
-    const bool isSideways = std::fabs(scroll.deltaX) > std::fabs(scroll.deltaY);
-    if (isSideways || !canBeChosen(component)) return UIView::scrolled(scroll);
+    if (scroll.isSideways() || !canBeChosen(component)) return UIView::scrolled(scroll);
     typing_.clear();
     UIPickerTurn& turn = at(component).turn;
     const bool isTaken = scroll.unit == UIScroll::Unit::Notches ? turn.scrollNotches(scroll.deltaY)
@@ -169,6 +168,7 @@ void UIPickerView::settle() {
         at(i).turn.settle();
         scrollColumn(i);
     }
+    setNeedsLayout(); // For the rows that have come into sight: of a request nothing is reported that would lay out.
     reportLandings();
 }
 

@@ -22,6 +22,9 @@ constexpr NSTimeInterval bounceDuration = 0.5;
 // stays in sight.
 constexpr double hardestImpact = 100;
 
+// Frames may be timed a little before the finger that they follow, by no more than this.
+constexpr NSTimeInterval furthestAhead = 1;
+
 /// The share of its way that a fling has run: drag and a constant friction that brings it to a stop at `duration`
 /// exactly, with no speed left. 0 at 0, 1 at `duration`.
 double flingShare(NSTimeInterval elapsed, NSTimeInterval duration) {
@@ -97,9 +100,11 @@ UIScrollMotion UIScrollMotion::fling(double from, double velocity, double to, do
     return motion;
 }
 
-void UIScrollMotion::beginAt(NSTimeInterval time) {
-    if (!start_) start_ = time;
+NSTimeInterval UIScrollMotion::startSeenAt(NSTimeInterval start, NSTimeInterval time) {
+    return start - time > furthestAhead ? time : start;
 }
+
+void UIScrollMotion::beginAt(NSTimeInterval time) { start_ = startSeenAt(start_.value_or(time), time); }
 
 double UIScrollMotion::flownAt(NSTimeInterval elapsed) const {
     const double distance = to_ - from_;

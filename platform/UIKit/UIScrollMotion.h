@@ -33,7 +33,12 @@ public:
     /// last row that way: a fling that would run beyond it bounces there, over by little more than two rows however fast it is.
     static UIScrollMotion fling(double from, double velocity, double to, double end, NSTimeInterval start);
 
-    /// Fixes the start, if that is still open.
+    /// When something began that a frame at `time` shows: at `start`, or with that frame if the start lies more than a second after it.
+    /// Such a start was told by another clock, and waiting for it might take for ever.
+    static NSTimeInterval startSeenAt(NSTimeInterval start, NSTimeInterval time);
+
+    /// For each frame that shows the movement: fixes a start that is still open, and one that lies too far ahead (`startSeenAt`). A clock
+    /// that goes back takes the movement back with it, to its start; one that goes back further runs on from there.
     void beginAt(NSTimeInterval time);
     double positionAt(NSTimeInterval time) const;
     bool isOverAt(NSTimeInterval time) const;

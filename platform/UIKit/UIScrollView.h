@@ -34,14 +34,18 @@ public:
     CGPoint contentOffset() const { return bounds().origin; }
     /// At once, as without animation.
     void setContentOffset(CGPoint offset);
-    /// Goes to an offset, held to what there is; its x counts for nothing. Ends what else moves the content; a finger that lies there
-    /// scrolls no more. Without a window, animation has no clock and the content arrives at once.
+    /// Goes to an offset, held to what there is, also to the present one; its x counts for nothing. Ends what else moves the content; a
+    /// finger that lies there scrolls and taps no more. Without a window, animation has no clock and the content arrives at once.
     void setContentOffset_animated(CGPoint offset, bool animated);
     /// Scrolls just as far as shows the whole rectangle, or its top if it is higher than this view. Content on its way to where that is
     /// in sight goes on.
     void scrollRectToVisible_animated(CGRect rect, bool animated);
     /// The offset that shows the content's end; 0 if all of it fits.
     CGFloat highestOffset() const;
+
+    /// Ends every movement at once, where it was heading for, and forgets the finger; what that has pulled beyond an end is back there. A
+    /// view that leaves its window, is hidden, or whose window settles, does so.
+    virtual void settle();
 
     /// Whether a finger moves the content.
     bool isDragging() const { return state_ == State::Dragged; }
@@ -52,10 +56,12 @@ public:
     /// Its origin is the content's offset.
     void setBounds(CGRect bounds) override;
     void didMoveToWindow() override;
+    void didDisappear() override;
     void touchBegan(const UITouch& touch) override;
     void touchMoved(const UITouch& touch) override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
+    /// What goes sideways, and everything where all is in sight, is handed up. Content at its end keeps the rest.
     bool scrolled(const UIScroll& scroll) override;
     /// The keys that no view below has used: up and down scroll by a notch, page keys by the height of this view but for a notch, home and
     /// end all the way. A finger that lies here goes before. Where all is in sight they are handed up.
@@ -98,6 +104,9 @@ private:
         Gliding,  ///< it goes on by itself, or springs back to an end
         Requested ///< it is on its way to where the program wants it
     };
+
+    // The curves count in rows; so many points are one, the height of a row of a list.
+    static constexpr CGFloat motionRow = 44;
 
     CGFloat offset() const { return bounds().origin.y; }
     CGFloat offsetAtRest() const;

@@ -114,7 +114,8 @@ public:
     /// From top to bottom.
     std::vector<Ref<UIView>> subviewsInReadingOrder() const override;
     void layoutSubviews() override;
-    void didMoveToWindow() override;
+    /// Also forgets the row that is lit, and draws rows that came or went where they belong.
+    void settle() override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
     bool keyPressed(const UIKey& key) override;

@@ -45,7 +45,7 @@ public:
     /// Lit while a finger holds it. Set by the table.
     bool isHighlighted() const { return isHighlighted_; }
     virtual void setHighlighted(bool highlighted);
-    /// Lit as long as it is chosen. Set by the table.
+    /// Lit until it is set otherwise, or shows another row. For who fills the cell; a table leaves nothing chosen.
     bool isSelected() const { return isSelected_; }
     virtual void setSelected(bool selected);
 

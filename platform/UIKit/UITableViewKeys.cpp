@@ -129,7 +129,7 @@ void UITableView::focusDidChange() {
 void UITableView::focusRow(NSIndexPath path) {
     if (focused_ != path) setNeedsDisplay();
     focused_ = path;
-    scrollRectToVisible_animated(rectToReveal(path), true);
+    UIScrollView::revealDescendant(rectToReveal(path));
 }
 
 /// With the header above it, which tells what the rows are about.

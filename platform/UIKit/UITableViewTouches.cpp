@@ -86,18 +86,20 @@ bool UITableView::advanceToTime(NSTimeInterval time) {
     const Ref<UITableView> keep = self();
     UIScrollView::advanceToTime(time);
     if (change_ && (reducesMotion() || !change_->advanceToTime(time))) finishChange();
-    if (lightsAt_ && time >= *lightsAt_) {
+    const auto hasCome = [time](const std::optional<NSTimeInterval>& moment) {
+        return moment && time >= UIScrollMotion::startSeenAt(*moment, time);
+    };
+    if (hasCome(lightsAt_)) {
         lightsAt_.reset();
         if (pressed_) light(*pressed_);
     }
-    if (darkensAt_ && time >= *darkensAt_) darken();
+    if (hasCome(darkensAt_)) darken();
     return isMoving();
 }
 
-void UITableView::didMoveToWindow() {
+void UITableView::settle() {
     const Ref<UITableView> keep = self();
-    UIScrollView::didMoveToWindow();
-    if (window()) return;
+    UIScrollView::settle();
     forgetPress();
     finishChange();
 }

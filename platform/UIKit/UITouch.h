@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "CGGeometry.h"
@@ -30,6 +31,9 @@ struct UIScroll {
     CGPoint locationInWindow;
     /// The fingers have left the trackpad and it glides no more: nothing else is coming.
     bool isFinished = false;
+
+    /// It goes more to the side than up or down. Nothing here moves sideways, so it is left to what lies around.
+    bool isSideways() const { return std::max(deltaX, -deltaX) > std::max(deltaY, -deltaY); }
 };
 
 } // namespace gx

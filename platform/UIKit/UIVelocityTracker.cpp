@@ -21,7 +21,8 @@ double UIVelocityTracker::velocityAt(NSTimeInterval time) const {
     Sample earliest = latest;
     for (std::size_t back = 2; back <= count_; ++back) {
         const Sample& sample = samples_[(next_ + size - back) % size];
-        if (!(latest.time - sample.time <= memory)) break;
+        // Of places that came out of order, only the later ones tell of a speed.
+        if (!(latest.time - sample.time <= memory && sample.time <= earliest.time)) break;
         earliest = sample;
     }
     const double velocity = (latest.place - earliest.place) / (latest.time - earliest.time);

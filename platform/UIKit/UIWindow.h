@@ -32,8 +32,9 @@ public:
     bool reducesMotion() const { return reducesMotion_; }
     void setReducesMotion(bool reduces) { reducesMotion_ = reduces; }
 
-    // From the host. Locations are in points from the window's top left, times in seconds on one steady clock;
-    // one that is no finite number counts as the latest that was.
+    // From the host. Locations are in points from the window's top left, times in seconds on one steady clock; one that is no finite
+    // number counts as the latest that was. What began more than a second after the frame that shows it, by another clock, begins with
+    // that frame.
 
     /// A finger comes down. An identifier that is still down is cancelled first.
     void touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);

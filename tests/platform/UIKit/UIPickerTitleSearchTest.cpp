@@ -150,3 +150,9 @@ TEST(UIPickerTitleSearch, nothing_is_found_without_a_text_titles_or_rows) {
     EXPECT_EQ(empty(U"1"), (Result{}));
     EXPECT_EQ(empty.questions, 0);
 }
+
+TEST(UIPickerTitleSearch, a_separator_alone_is_no_number_yet) {
+    Search tenths(10, [](NSInteger row) { return "," + std::to_string(row); });
+    EXPECT_EQ(tenths(U"."), (Result{std::nullopt, true}));
+    EXPECT_EQ(tenths(U".7"), (Result{7, false}));
+}

@@ -114,3 +114,25 @@ TEST_F(UIPickerTurnSteps, each_row_passes_once) {
     }
     EXPECT_EQ(passed, 5);
 }
+
+TEST_F(UIPickerTurnSteps, a_notch_beyond_the_end_does_not_hold_up_the_way_there) {
+    turn.standOnRow(98);
+    EXPECT_TRUE(turn.scrollNotches(1));
+    turn.advanceToTime(10);
+    turn.advanceToTime(10.139);
+    EXPECT_TRUE(turn.scrollNotches(1));
+    turn.advanceToTime(10.141);
+    EXPECT_EQ(turn.state(), State::Landed);
+    EXPECT_TRUE(turn.scrollNotches(1));
+    EXPECT_EQ(turn.takeLanding(), 99);
+}
+
+TEST_F(UIPickerTurnSteps, a_trackpad_told_by_another_clock_falls_silent_after_the_next_frame) {
+    turn.scrollPoints(50, 1e300, false);
+    turn.advanceToTime(10);
+    EXPECT_EQ(turn.state(), State::Scrolled);
+    turn.advanceToTime(10.121);
+    EXPECT_EQ(turn.state(), State::Gliding);
+    turn.advanceToTime(11);
+    EXPECT_EQ(turn.takeLanding(), 51);
+}

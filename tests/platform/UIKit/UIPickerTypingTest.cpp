@@ -71,3 +71,11 @@ TEST(UIPickerTyping, a_text_is_complete_a_second_after_its_last_character) {
     EXPECT_EQ(typing.text(), U"");
     EXPECT_FALSE(typing.component());
 }
+
+TEST(UIPickerTyping, a_character_told_by_another_clock_is_complete) {
+    UIPickerTyping typing;
+    typing.setText_inComponent_atTime(U"4", 1, 1e300);
+    EXPECT_TRUE(typing.isOverAt(10));
+    typing.setText_inComponent_atTime(U"4", 1, 10.999);
+    EXPECT_FALSE(typing.isOverAt(10));
+}

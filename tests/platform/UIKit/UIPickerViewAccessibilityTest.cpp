@@ -185,6 +185,54 @@ TEST_F(WheelAccessibilityInWindow, AFingerOnTheColumnGoesBefore) {
     EXPECT_EQ(element()->index(), 0);
 }
 
+TEST_F(WheelAccessibilityInWindow, AStepCompletesANumberThatIsTyped) {
+    wheel->becomeFirstResponder();
+    window.type("4");
+    window.run(0.5);
+    ASSERT_EQ(source->notices, Notices{}) << "more digits may come";
+    element()->increment();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+    window.run(0.2);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}}));
+    window.type("7");
+    window.run(0.5);
+    element()->setIndex(70);
+    window.run(0.4);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}, {7, 0}, {70, 0}}));
+    window.type("2"); // Another number, not the end of one.
+    window.run(0.5);
+    element()->decrement();
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}, {7, 0}, {70, 0}, {2, 0}, {1, 0}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, AStepOfAnotherColumnCompletesANumberToo) {
+    source->rows = {100, 100};
+    wheel->reloadAllComponents();
+    window.tick(0);
+    wheel->becomeFirstResponder();
+    window.type("4");
+    window.run(0.5);
+    element(1)->increment();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+    window.run(0.2);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {1, 1}}));
+}
+
+TEST_F(WheelAccessibilityInWindow, WhoIsToldOfATypedNumberMayTakeTheColumnAway) {
+    wheel->becomeFirstResponder();
+    window.type("4");
+    window.run(0.5);
+    source->whenTold = [this](NSInteger, NSInteger) {
+        source->rows = {};
+        wheel->reloadAllComponents();
+    };
+    element()->increment();
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+    EXPECT_FALSE(wheel->isTurning());
+}
+
 TEST_F(WheelAccessibility, WithoutAWindowATurnArrivesAtOnce) {
     element()->increment();
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));

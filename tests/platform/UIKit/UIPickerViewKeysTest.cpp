@@ -371,6 +371,16 @@ TEST_F(Keys, a_character_that_does_not_go_on_begins_anew) {
     EXPECT_EQ(source->notices, (Notices{{2, 0}}));
 }
 
+TEST_F(Keys, a_character_that_is_held_is_typed_once) {
+    window.typeCharacter("4");
+    for (int i = 0; i < 9; ++i) {
+        window.tick(1.0 / 30);
+        EXPECT_TRUE(window->keyDown({Code::Character, "4", 0, true, window.now}));
+    }
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}}));
+}
+
 TEST_F(Keys, several_characters_may_come_with_one_key) {
     EXPECT_TRUE(window.typeCharacter("42"));
     window.runUntilStill();
@@ -413,6 +423,21 @@ TEST_F(ThreeColumns, a_decimal_separator_goes_on_to_the_next_column_that_shows_s
         window.runUntilStill();
     }
     EXPECT_EQ(source->notices, (Notices{{5, 0}, {7, 2}, {6, 0}, {8, 2}}));
+}
+
+TEST_F(Keys, a_separator_within_a_title_stays_in_its_column) {
+    source->title = [](NSInteger row, NSInteger component) -> std::optional<std::string> {
+        if (component == 1) return std::to_string(row);
+        return std::to_string(row / 2) + (row % 2 == 0 ? ",0" : ",5");
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    EXPECT_TRUE(window.type("36,5"));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{73, 0}}));
+    EXPECT_TRUE(window.type("4.5.7")) << "the second one goes on";
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{73, 0}, {9, 0}, {7, 1}}));
 }
 
 TEST_F(ThreeColumns, a_column_arrives_before_the_next_one_is_asked_for_its_titles) {

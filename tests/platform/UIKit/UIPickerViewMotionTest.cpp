@@ -261,11 +261,42 @@ TEST(UIPickerViewMotion, TimeThatRunsBackwardRunsBackOnTheCurveAndNotBeforeItsSt
     };
     EXPECT_NEAR(positionAt(WheelStage::clock(0.5)), frames[30].position, 1e-9);
     EXPECT_NEAR(positionAt(WheelStage::clock(0.2)), 504.35, 1e-9);
-    EXPECT_NEAR(positionAt(-1e9), 504.35, 1e-9);
+    EXPECT_NEAR(positionAt(WheelStage::clock(-0.5)), 504.35, 1e-9);
     EXPECT_NEAR(positionAt(std::numeric_limits<double>::quiet_NaN()), 504.35, 1e-9);
     EXPECT_NEAR(positionAt(WheelStage::clock(0.5)), frames[30].position, 1e-9);
     EXPECT_EQ(positionAt(1e9), 519);
     EXPECT_EQ(stage.source->notices.size(), 1U);
+}
+
+TEST(UIPickerViewMotion, AClockThatBeginsAnewRunsAMovementAnewFromItsStart) {
+    for (const double begin : {-1e6, 0.0, 990.0}) {
+        WheelStage stage(1000, 500);
+        flingOf30Rows(stage);
+        const auto frames = stage.play(60, 1);
+        const auto positionAt = [&](double time) {
+            stage.window->tick(begin + time);
+            return stage.position();
+        };
+        EXPECT_NEAR(positionAt(0), 504.35, 1e-9) << begin;
+        // The finger had let go after a quarter of a second.
+        EXPECT_NEAR(positionAt(0.5 - 0.25), frames[30].position, 1e-6) << begin;
+        EXPECT_EQ(positionAt(9), 519) << begin;
+        EXPECT_EQ(stage.source->notices.size(), 1U) << begin;
+    }
+}
+
+TEST(UIPickerViewMotion, OneFrameAtAWildTimeHoldsUpNoMovement) {
+    WheelStage stage(1000, 500);
+    stage.notch(0);
+    stage.play(60, 0);
+    for (const double wild : {1e300, -1e300}) {
+        stage.window->tick(wild);
+        stage.window->tick(WheelStage::clock(1));
+        stage.window->tick(WheelStage::clock(1.2));
+        EXPECT_FALSE(stage.wheel->isTurning()) << wild;
+        stage.window->scroll({UIScroll::Unit::Notches, 0, 1, WheelStage::clock(2), {160, 108}, false});
+    }
+    EXPECT_EQ(stage.source->notices.size(), 2U);
 }
 
 TEST(UIPickerViewMotion, AFlingCaughtBeforeItBeganHasNoSpeedToAdd) {

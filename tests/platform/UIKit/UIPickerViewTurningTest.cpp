@@ -458,6 +458,15 @@ TEST_F(Turning, AWheelThatLeavesItsWindowSettles) {
     EXPECT_EQ(source->notices, (Notices{{10, 0}}));
 }
 
+TEST_F(Turning, ARequestUnderWayArrivesAndShowsItsRowsWhenTheWheelLeavesItsWindow) {
+    wheel->selectRow_inComponent_animated(50, 0, true);
+    window.run(0.1);
+    wheel->removeFromSuperview();
+    EXPECT_DOUBLE_EQ(rowsFrom(50), 0);
+    EXPECT_FALSE(wheel->isTurning());
+    EXPECT_EQ(source->notices, Notices{});
+}
+
 TEST_F(Turning, AHiddenWheelSettles) {
     window.fling(centre, {160, 8}, 10);
     window.run(0.1);
@@ -629,4 +638,60 @@ TEST(UIPickerView, hands_up_a_cancelled_touch_that_turns_no_column) {
     window.down(centre);
     window->touchCancelled_at_time(1, window.now);
     EXPECT_EQ(parent->cancelled, 1) << "the column's own";
+}
+
+TEST_F(Turning, ATrackpadThatGlidesOnBeyondAnEndPullsNothingOutOfSight) {
+    wheel->selectRow_inComponent_animated(1, 0, false);
+    for (int i = 0; i < 30; ++i) {
+        window.scrollPoints(centre, -100);
+        window.tick(TestWindow::frame);
+    }
+    EXPECT_DOUBLE_EQ(rowsFrom(0), 0);
+    window.scrollPoints(centre, 40);
+    EXPECT_TRUE(window.scrollPoints(centre, 0, true));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{1, 0}})) << "and the way back begins at the end";
+}
+
+TEST_F(Turning, ATrackpadTakesAColumnThatSwingsBackFromWhereItStands) {
+    window.down(centre);
+    window.glide(centre, {160, 214}, 10); // 100 points beyond: 216 · (1 − 1 / (0.55 · 100 / 216 + 1)) = 43.8376
+    window.tick(0);
+    EXPECT_NEAR(rowsFrom(0), -43.8376 / 40, 1e-4);
+    window.up({160, 214});
+    window.scrollPoints(centre, 30); // 70 points: 216 · (1 − 1 / (0.55 · 70 / 216 + 1)) = 32.6758
+    window.scrollPoints(centre, -50);
+    window.tick(TestWindow::frame);
+    EXPECT_NEAR(rowsFrom(0), -32.6758 / 40, 1e-4) << "no further out";
+    window.scrollPoints(centre, 70);
+    window.tick(TestWindow::frame);
+    EXPECT_NEAR(rowsFrom(0), 0, 1e-9);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{0, 0}}));
+}
+
+TEST_F(Turning, ATrackpadBeyondTheEndTurnsNothing) {
+    EXPECT_TRUE(window.scrollPoints(centre, -50));
+    EXPECT_FALSE(wheel->isTurning());
+    EXPECT_TRUE(window.scrollPoints(centre, 0, true));
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(Turning, AFlingToldByAnotherClockRunsFromTheNextFrameOn) {
+    for (int i = 0; i <= 5; ++i) {
+        const CGPoint place = {160, 108.0 - 20 * i};
+        const double time = 1e9 + i / 64.0;
+        if (i == 0) window->touchBegan_at_time(1, place, time);
+        if (i > 0) window->touchMoved_at_time(1, place, time);
+        if (i == 5) window->touchEnded_at_time(1, place, time);
+    }
+    // 1280 points a second are 32 rows, which run 32 / 2.002002 = 15.98 from 94 / 40 = 2.35 on: to row 18.
+    window.tick(TestWindow::frame);
+    EXPECT_NEAR(rowsFrom(2), 0.35, 1e-9);
+    window.run(0.1);
+    EXPECT_GT(wheel->rowInBandOfComponent(0), 3);
+    EXPECT_LT(wheel->rowInBandOfComponent(0), 8);
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{18, 0}}));
 }

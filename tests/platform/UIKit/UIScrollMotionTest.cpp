@@ -161,3 +161,25 @@ TEST(UIScrollMotion, AnEndThatIsReachedAtACrawlIsNoBounce) {
     for (double time = 0; time < 3; time += 0.01) EXPECT_LE(crawl.positionAt(time), 9.98);
     EXPECT_EQ(crawl.positionAt(3), 9.98);
 }
+
+TEST(UIScrollMotion, AStartThatLiesMoreThanASecondAfterAFrameIsThatFrame) {
+    for (const double start : {11.001, 1e300}) {
+        UIScrollMotion early = UIScrollMotion::ease(2, 10, 0.3, start);
+        early.beginAt(10);
+        EXPECT_NEAR(early.positionAt(10.15), 9, 1e-9); // 2 + 8 · (1 − 0.5³)
+        EXPECT_TRUE(early.isOverAt(10.3001));
+    }
+    UIScrollMotion ahead = UIScrollMotion::ease(2, 10, 0.3, 11);
+    ahead.beginAt(10); // A second: clocks may differ so far.
+    EXPECT_EQ(ahead.positionAt(10.15), 2);
+    EXPECT_NEAR(ahead.positionAt(11.15), 9, 1e-9);
+    UIScrollMotion seen = UIScrollMotion::ease(2, 10, 0.3, 10);
+    seen.beginAt(10.1);
+    seen.beginAt(9.001); // It runs back with the clock, and on with it …
+    EXPECT_EQ(seen.positionAt(9.001), 2);
+    EXPECT_NEAR(seen.positionAt(10.15), 9, 1e-9);
+    seen.beginAt(8.5); // … but does not wait for it.
+    EXPECT_EQ(seen.positionAt(8.5), 2);
+    EXPECT_NEAR(seen.positionAt(8.65), 9, 1e-9);
+    EXPECT_TRUE(seen.isOverAt(8.8001));
+}

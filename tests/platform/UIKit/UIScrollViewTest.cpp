@@ -288,6 +288,18 @@ TEST_F(Scrolling, notches_and_points_stop_at_the_ends_and_are_taken_there_too) {
     EXPECT_EQ(offset(), 600);
 }
 
+TEST_F(Scrolling, what_goes_sideways_is_left_to_others) {
+    const auto scrollBy = [this](CGFloat x, CGFloat y, UIScroll::Unit unit = UIScroll::Unit::Points) {
+        return window->scroll({unit, x, y, window.now, middle, false});
+    };
+    EXPECT_FALSE(scrollBy(1, 0));
+    EXPECT_FALSE(scrollBy(1, 0, UIScroll::Unit::Notches));
+    EXPECT_FALSE(scrollBy(-10.5, 10));
+    EXPECT_EQ(offset(), 0);
+    EXPECT_TRUE(scrollBy(-10, 10));
+    EXPECT_EQ(offset(), 10);
+}
+
 TEST_F(Scrolling, under_a_finger_the_mouse_wheel_moves_nothing) {
     window.down(middle);
     EXPECT_TRUE(window.scrollNotches(middle, 1));
@@ -348,6 +360,26 @@ TEST_F(Scrolling, a_request_ends_the_drag_that_it_meets) {
     EXPECT_FALSE(scroll->isDragging());
     window.move({150, 50});
     EXPECT_EQ(offset(), 300);
+}
+
+TEST_F(Scrolling, a_request_for_the_present_place_ends_the_drag_too) {
+    window.down(middle);
+    window.move({150, 190});
+    window.move({150, 100});
+    setOffset(90);
+    EXPECT_FALSE(scroll->isDragging());
+    window.move({150, 50});
+    EXPECT_EQ(offset(), 90);
+    window.up({150, 50});
+    EXPECT_FALSE(scroll->isDecelerating());
+
+    scroll->taps.clear();
+    window.down(middle);
+    scroll->setContentOffset_animated({0, 90}, true);
+    window.tick(0);
+    EXPECT_FALSE(window.tick(0)) << "there is no way to go";
+    window.up(middle);
+    EXPECT_EQ(scroll->taps, std::vector<bool>{false}) << "the finger taps nothing either";
 }
 
 TEST_F(Scrolling, a_rectangle_is_shown_with_the_shortest_way) {
@@ -479,4 +511,76 @@ TEST_F(Scrolling, keys_that_nothing_inside_has_used_scroll) {
     EXPECT_FALSE(window.press(UIKey::Code::Right));
     EXPECT_FALSE(window.press(UIKey::Code::Down, UIKey::Control));
     EXPECT_EQ(offset(), 0);
+}
+
+TEST_F(Scrolling, hidden_while_it_glides_it_arrives_and_is_still_when_it_comes_back) {
+    scroll->setContentSize({300, 100000});
+    window.fling({150, 300}, {150, 200}, 5); // From 80 on, 599.4 further.
+    window.run(0.1);
+    scroll->setHidden(true);
+    EXPECT_FALSE(scroll->isDecelerating());
+    EXPECT_NEAR(offset(), 679.4, 0.01);
+    const CGFloat arrived = offset();
+    scroll->setHidden(false);
+    window.runUntilStill();
+    EXPECT_EQ(offset(), arrived);
+}
+
+TEST_F(Scrolling, what_springs_back_is_there_at_once_when_a_view_above_is_hidden) {
+    const auto page = create<UIView>(CGRectMake(0, 0, 300, 400));
+    window->addSubview(page);
+    page->addSubview(scroll);
+    window.down(middle);
+    window.move({150, 210});
+    window.move({150, 310});
+    window.up({150, 310});
+    ASSERT_LT(offset(), 0);
+    page->setHidden(true);
+    EXPECT_EQ(offset(), 0);
+}
+
+TEST_F(Scrolling, in_a_window_that_settles_a_request_arrives) {
+    scroll->setContentOffset_animated({0, 333}, true);
+    window.tick(TestWindow::frame);
+    window->settle();
+    EXPECT_EQ(offset(), 333);
+    window.tick(TestWindow::frame);
+    EXPECT_FALSE(window.tick(TestWindow::frame));
+}
+
+TEST_F(Scrolling, hidden_under_a_finger_it_forgets_the_finger_at_the_nearest_end) {
+    window.down(middle);
+    window.move({150, 210});
+    window.move({150, 310});
+    scroll->setHidden(true);
+    EXPECT_FALSE(scroll->isDragging());
+    EXPECT_EQ(offset(), 0);
+    scroll->setHidden(false);
+    window.move({150, 100});
+    window.up({150, 100});
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 0);
+    window.down(middle, 2);
+    window.move({150, 190}, 2);
+    window.move({150, 150}, 2);
+    EXPECT_EQ(offset(), 40) << "the next one scrolls";
+}
+
+TEST_F(Scrolling, a_stroke_told_by_another_clock_glides_from_the_next_frame_on) {
+    scroll->setContentSize({300, 100000});
+    for (int i = 0; i <= 5; ++i) {
+        const CGPoint place = {150, 300.0 - 20 * i};
+        const double time = 1e9 + i / 64.0; // 1280 points a second: they run 1280 / 2.002002 = 639.4.
+        if (i == 0) window->touchBegan_at_time(1, place, time);
+        if (i > 0) window->touchMoved_at_time(1, place, time);
+        if (i == 5) window->touchEnded_at_time(1, place, time);
+    }
+    EXPECT_EQ(offset(), 80);
+    window.tick(TestWindow::frame);
+    EXPECT_EQ(offset(), 80);
+    window.run(0.1);
+    EXPECT_GT(offset(), 180);
+    EXPECT_LT(offset(), 210);
+    window.runUntilStill();
+    EXPECT_NEAR(offset(), 80 + 639.4, 0.05);
 }

@@ -291,6 +291,17 @@ TEST_F(Changing, a_table_that_leaves_its_window_arrives) {
     EXPECT_NEAR(canvas.texts.at("d").baseline - canvas.texts.at("a").baseline, 2 * 44, 1e-9);
 }
 
+TEST_F(Changing, a_table_that_is_hidden_arrives) {
+    insert(1, "new");
+    runHalf();
+    EXPECT_LT(drawn().at("b").baseline, 100);
+    table->setHidden(true);
+    table->setHidden(false);
+    EXPECT_EQ(drawn().at("b").baseline, 100);
+    window.tick(0);
+    EXPECT_FALSE(window.tick(0));
+}
+
 TEST_F(Changing, rows_shown_anew_are_asked_for_and_the_others_are_not) {
     const auto cellOfA = table->cellForRowAtIndexPath({0, 0});
     names[1] = "B";

@@ -137,6 +137,29 @@ TEST_F(TableKeys, the_focused_row_scrolls_just_into_sight) {
     EXPECT_EQ(offset(), 0);
 }
 
+TEST_F(TableKeys, the_focused_row_comes_into_sight_in_what_scrolls_around_the_table_too) {
+    // 320 by 200 points that show the top of the table, 440 high.
+    const auto outer = create<UIScrollView>(CGRectMake(0, 0, 320, 200));
+    table->removeFromSuperview();
+    outer->addSubview(table);
+    outer->setContentSize({320, 440});
+    TestWindow around(outer);
+    const auto pressAndWait = [&around](Code code) {
+        EXPECT_TRUE(around.press(code));
+        around.runUntilStill();
+    };
+    pressAndWait(Code::Tab);
+    for (int row = 1; row <= 4; ++row) pressAndWait(Code::Down);
+    EXPECT_EQ(focused(), Path({0, 4}));
+    EXPECT_EQ(outer->contentOffset().y, 20); // Row 4 ends at 220.
+    pressAndWait(Code::End);                 // Row 99, which the table shows at its lower end.
+    EXPECT_EQ(offset(), 3960);
+    EXPECT_EQ(outer->contentOffset().y, 240);
+    pressAndWait(Code::Home);
+    EXPECT_EQ(offset(), 0);
+    EXPECT_EQ(outer->contentOffset().y, 0);
+}
+
 TEST_F(TableKeys, page_keys_go_by_what_is_in_sight_but_one_row) {
     press(Code::Tab);
     EXPECT_TRUE(press(Code::PageDown));

@@ -118,6 +118,52 @@ TEST_F(TableTouches, a_row_that_may_not_light_up_cannot_be_tapped) {
     EXPECT_TRUE(listener->taps.empty());
 }
 
+TEST_F(TableTouches, a_tapped_row_does_not_stay_chosen) {
+    window.tap(rowTwo);
+    EXPECT_FALSE(table->cellForRowAtIndexPath({0, 2})->isSelected());
+    window.runUntilStill();
+    EXPECT_FALSE(table->cellForRowAtIndexPath({0, 2})->isSelected());
+}
+
+TEST_F(TableTouches, a_table_that_disappears_is_dark_and_still_when_it_comes_back) {
+    window.down(rowTwo);
+    window.run(0.1);
+    ASSERT_TRUE(isLit(2));
+    table->setHidden(true);
+    EXPECT_FALSE(isLit(2));
+    table->setHidden(false);
+    window.up(rowTwo);
+    EXPECT_EQ(listener->taps, Paths{}) << "the finger is forgotten";
+
+    window.tap(rowTwo);
+    ASSERT_TRUE(isLit(2));
+    window->settle();
+    EXPECT_FALSE(isLit(2));
+    window.tick(0);
+    EXPECT_FALSE(window.tick(0));
+
+    window.fling({160, 300}, {160, 200}, 5);
+    window.run(0.1);
+    table->setHidden(true);
+    EXPECT_FALSE(table->isDecelerating());
+    const CGFloat arrived = offset();
+    table->setHidden(false);
+    window.runUntilStill();
+    EXPECT_EQ(offset(), arrived);
+    EXPECT_NEAR(arrived, 679.4, 0.01); // 80 under the finger, and 1200 points a second run 1200 / 2.002002 further.
+}
+
+TEST_F(TableTouches, a_row_tapped_by_another_clock_is_lit_and_darkened_by_the_next_frames) {
+    window->touchBegan_at_time(1, rowTwo, 1e300);
+    window.tick(TestWindow::frame);
+    EXPECT_TRUE(isLit(2));
+    window->touchEnded_at_time(1, rowTwo, 1e300);
+    EXPECT_TRUE(isLit(2));
+    window.tick(TestWindow::frame);
+    EXPECT_FALSE(isLit(2));
+    EXPECT_EQ(listener->taps, Paths({{0, 2}}));
+}
+
 TEST_F(TableTouches, beside_the_rows_there_is_nothing_to_tap) {
     source->rows = {2};
     table->reloadData();
