@@ -1,8 +1,9 @@
-// A view restored from any values can be laid out, touched and drawn.
+// A view restored from any values can be laid out, asked, set, touched, typed at, heard and drawn.
 
+#include "FuzzHand.h"
+#include "FuzzProperties.h"
 #include "FuzzViews.h"
 #include "NullCanvas.h"
-#include "UIWindow.h"
 
 using namespace gx;
 
@@ -40,11 +41,64 @@ Ref<NSCoder> coderOf(FuzzBytes& bytes) {
     return coder;
 }
 
+/// An application's own format: it has a value for every key, or does not know yet, and each time another.
+class AnyCoder : public NSCoder {
+public:
+    explicit AnyCoder(FuzzBytes& bytes) : bytes_(bytes) {}
+
+    bool containsValueForKey(std::string_view) const override { return bytes_.below(4) > 0; }
+    bool decodeBoolForKey(std::string_view) const override { return bytes_.flag(); }
+    NSInteger decodeIntegerForKey(std::string_view) const override { return bytes_.integer(); }
+    double decodeDoubleForKey(std::string_view) const override { return bytes_.number(); }
+    std::optional<std::string> decodeStringForKey(std::string_view) const override {
+        return bytes_.flag() ? std::optional(bytes_.text()) : std::nullopt;
+    }
+    CGRect decodeCGRectForKey(std::string_view) const override { return bytes_.rect(); }
+
+private:
+    FuzzBytes& bytes_;
+};
+
+Ref<NSCoder> someCoder(FuzzBytes& bytes) {
+    switch (bytes.below(8)) {
+    case 0:
+        return nullptr;
+    case 1:
+    case 2:
+        return std::make_shared<AnyCoder>(bytes);
+    default:
+        return coderOf(bytes);
+    }
+}
+
+void use(FuzzBytes& bytes, const Ref<UIView>& view, FuzzHand& hand) {
+    switch (bytes.below(10)) {
+    case 0:
+    case 1:
+        return setSomething(bytes, view.get());
+    case 2:
+        return askSomething(bytes, view);
+    case 3:
+    case 4:
+        return hand.touch();
+    case 5:
+        return hand.scroll();
+    case 6:
+        return hand.press();
+    case 7:
+        return hand.hear();
+    case 8:
+        return view->awakeFromNib();
+    default:
+        return hand.wait();
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzBytes bytes(data, size);
-    const Ref<NSCoder> coder = bytes.below(16) == 0 ? nullptr : coderOf(bytes);
+    const Ref<NSCoder> coder = someCoder(bytes);
     const Ref<UIView> view = makeViewWithCoder(bytes, coder);
     if (bytes.flag()) view->awakeFromNib();
     view->sizeThatFits(bytes.rect().size);
@@ -52,17 +106,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const auto window = create<UIWindow>(CGRectMake(0, 0, 400, 400));
     window->addSubview(view);
-    double now = 100;
+    FuzzHand hand(bytes, window);
     NullCanvas canvas;
-    for (int left = 12; left > 0; --left) {
-        const CGPoint point = bytes.point();
-        window->touchBegan_at_time(1, point, now);
-        window->touchMoved_at_time(1, {point.x, point.y + bytes.byte() - 128.0}, now + 0.02);
-        window->touchEnded_at_time(1, {point.x, point.y + bytes.byte() - 128.0}, now + 0.04);
-        setSomething(bytes, view);
-        window->tick(now += 0.05);
-        window->draw(canvas);
-    }
+    for (int left = 60; left > 0 && !bytes.isEmpty(); --left) use(bytes, view, hand);
+    hand.waitUntilStill();
+    window->draw(canvas);
     view->renderInContext(canvas);
     return 0;
 }

@@ -95,6 +95,25 @@ public:
         if (below(3) == 0) return {{number(), number()}, {number(), number()}};
         return {{byte() / 2.0, byte() / 2.0}, {byte() * 2.0, byte() * 2.0}};
     }
+    /// What people type at a wheel, character by character: digits, minus signs, separators and blanks of several scripts, and the
+    /// beginnings of units.
+    std::string typedText() {
+        constexpr std::array<const char*, 12> odd = {"-", "\xe2\x88\x92", ".",       ",", "\xd9\xab", ":", "k", "m", "P",
+                                                     " ", "\xe2\x80\x8f", "\xd9\xac"};
+        std::string result;
+        for (unsigned left = below(8) == 7 ? below(6) : 1; left > 0; --left) {
+            const unsigned which = below(32);
+            if (which < 10) {
+                result += static_cast<char>('0' + which);
+            } else if (which < 20) {
+                result += "\xd9"; // Arabic-Indic digits.
+                result += static_cast<char>(0xA0 + which - 10);
+            } else {
+                result += odd[which - 20];
+            }
+        }
+        return result;
+    }
     /// Bytes as they come, so seldom valid UTF-8; or the texts that wheels show.
     std::string text() {
         constexpr std::array<const char*, 8> shown = {"1",

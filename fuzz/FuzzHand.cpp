@@ -38,9 +38,10 @@ void FuzzHand::scroll() {
 
 void FuzzHand::press() {
     UIKey key;
-    key.code = static_cast<UIKey::Code>(bytes_.below(static_cast<unsigned>(UIKey::Code::Space) + 1));
-    if (key.code == UIKey::Code::Character) key.characters = bytes_.text();
-    key.modifiers = bytes_.below(4) == 0 ? bytes_.below(16) : 0;
+    const unsigned kind = bytes_.below(24);
+    key.code = kind <= static_cast<unsigned>(UIKey::Code::Space) ? static_cast<UIKey::Code>(kind) : UIKey::Code::Character;
+    if (key.code == UIKey::Code::Character) key.characters = bytes_.below(8) == 7 ? bytes_.text() : bytes_.typedText();
+    key.modifiers = bytes_.below(8) == 7 ? bytes_.below(16) : 0;
     key.isRepeat = bytes_.flag();
     key.timestamp = time();
     window_->keyDown(key);
@@ -51,14 +52,27 @@ void FuzzHand::wait() {
     window_->tick(time());
 }
 
-void FuzzHand::hear() {
+Ref<UIAccessibilityElement> FuzzHand::presentElement() {
     const UIAccessibilityElements elements = window_->accessibilityElements();
-    if (elements.empty()) return;
+    if (elements.empty()) return nullptr;
     const auto count = static_cast<unsigned>(std::min<std::size_t>(elements.size(), 256));
-    const Ref<UIAccessibilityElement> element = elements[bytes_.below(count)];
+    return elements[bytes_.below(count)];
+}
+
+void FuzzHand::hear() {
+    const unsigned place = bytes_.below(2 * static_cast<unsigned>(kept_.size()));
+    if (place < kept_.size()) {
+        // Who is asked meanwhile may keep others.
+        const Ref<UIAccessibilityElement> present = presentElement();
+        if (present) kept_[place] = present;
+    }
+    const Ref<UIAccessibilityElement> element = kept_[place % kept_.size()];
+    if (!element) return;
+    element->exists();
     element->label();
     element->value();
     element->frame();
+    element->isEnabled();
     element->index();
     element->count();
     switch (bytes_.below(6)) {

@@ -11,8 +11,3 @@ gx::Ref<gx::UIView> makeViewWithCoder(FuzzBytes& bytes, const gx::Ref<gx::NSCode
 gx::Ref<gx::GXBasePickerView> pickerOf(const gx::Ref<gx::UIView>& view);
 /// The wheel that the view is, or that its picker has.
 gx::Ref<gx::UIPickerView> wheelOf(const gx::Ref<gx::UIView>& view);
-
-/// Gives one property of the view any value.
-void setSomething(FuzzBytes& bytes, const gx::Ref<gx::UIView>& view);
-/// Asks one question with any row and component.
-void askSomething(FuzzBytes& bytes, const gx::Ref<gx::UIView>& view);

@@ -1,11 +1,9 @@
 // Whatever an application and a user do to pickers, in any order, within notices too.
 
-#include "FuzzHand.h"
+#include "FuzzProperties.h"
+#include "FuzzStage.h"
 #include "FuzzViews.h"
 #include "GXHeightPickerView.h"
-#include "GXLocalization.h"
-#include "GXMultiValuePickerView.h"
-#include "GXStyleSheet.h"
 #include "NullCanvas.h"
 #include "UIHost.h"
 
@@ -13,140 +11,173 @@ using namespace gx;
 
 namespace {
 
-class World;
-
-/// Answers to bare wheels with any counts and sizes, and does something whenever it is told or asked.
-class Listener : public NSObject,
-                 public GXBasePickerViewDelegate,
-                 public GXHeightPickerViewDelegate,
-                 public UIPickerViewDataSource,
-                 public UIPickerViewDelegate {
+/// An application's own wheel, which does anything whenever the library calls it.
+class OwnWheel : public GXMultiValuePickerView {
 public:
-    World* world = nullptr;
+    FuzzWorld* world = nullptr;
 
-    void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber&, NSInteger) override;
-    void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat, bool) override;
-    NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>&) override;
-    NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) override;
-    CGFloat pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger) override;
-    CGFloat pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) override;
-    std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger) override;
-    void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) override;
+    void reloadAllComponents() override {
+        GXMultiValuePickerView::reloadAllComponents();
+        react(16);
+    }
+    void selectRow_inComponent_animated(NSInteger row, NSInteger component, bool animated) override {
+        react(16);
+        GXMultiValuePickerView::selectRow_inComponent_animated(row, component, animated);
+    }
+    void layoutSubviews() override {
+        react(16);
+        GXMultiValuePickerView::layoutSubviews();
+        react(16);
+    }
+    void didMoveToWindow() override {
+        react(8);
+        GXMultiValuePickerView::didMoveToWindow();
+    }
+    void didDisappear() override {
+        react(8);
+        GXMultiValuePickerView::didDisappear();
+    }
+    void touchCancelled(const UITouch& touch) override {
+        GXMultiValuePickerView::touchCancelled(touch);
+        react(4);
+    }
+    void tintColorDidChange() override { react(4); }
+    void focusDidChange() override {
+        GXMultiValuePickerView::focusDidChange();
+        react(4);
+    }
 
-    NSInteger rows = 10;
-    CGFloat width = 80;
-    CGFloat height = 32;
+private:
+    void react(unsigned odds) const {
+        if (world) world->react(odds);
+    }
 };
 
-class World : public UIWindowHost {
+class World : public FuzzWorld, public UIWindowHost {
 public:
-    explicit World(FuzzBytes& bytes) : bytes_(bytes), window_(create<UIWindow>(CGRectMake(0, 0, 400, 400))) {
-        window_->setHost(this);
-        for (Ref<Listener>& listener : listeners_) listener = newListener();
+    explicit World(FuzzBytes& bytes) : FuzzWorld(bytes), stage_(bytes, *this) {
+        for (Ref<FuzzListener>& listener : listeners_) listener = newListener();
     }
     ~World() override {
-        window_->setHost(nullptr);
-        for (const Ref<Listener>& listener : listeners_) listener->world = nullptr;
-        for (int passes = 0; passes < 20; ++passes) NSRunLoop::mainRunLoop()->runPass();
-        NSLocale::setCurrentLocale(nullptr);
-        GXLocalization::setSharedLocalization(nullptr);
-        GXStyleSheet::setGlobalStyleSheet(nullptr);
         GXMultiValuePickerView::setFactory({});
+        for (const Ref<FuzzListener>& listener : listeners_) listener->setWorld(nullptr, nullptr);
+        for (const WeakRef<OwnWheel>& entry : ownWheels_) {
+            if (const Ref<OwnWheel> wheel = entry.lock()) wheel->world = nullptr;
+        }
+        // Whoever puts a picker into its own wheel, or shows it in a row there, has made a ring, and has to take it apart.
+        for (const WeakRef<UIPickerView>& entry : answered_) {
+            if (const Ref<UIPickerView> wheel = entry.lock()) wheel->setDelegate({});
+        }
+        for (const WeakRef<UIView>& entry : made_) {
+            if (const Ref<UIView> view = entry.lock()) view->removeFromSuperview();
+        }
+        for (int passes = 0; passes < 20; ++passes) NSRunLoop::mainRunLoop()->runPass();
+        restoreSurroundings();
     }
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
     void run() {
-        for (int left = 150; left > 0 && !bytes_.isEmpty(); --left) act();
-        // What is still moving has to come to rest.
-        hand_.waitUntilStill();
-        window_->settle();
-        draw();
+        actUntilBytesEnd();
+        stage_.end();
     }
-    /// Within a call of the library; reactions to reactions end at some depth, as those of any application that works.
-    void react() {
-        if (depth_ >= 3 || reactions_ >= 200) return;
-        ++reactions_;
-        ++depth_;
-        for (unsigned left = bytes_.below(4); left > 0; --left) act();
-        --depth_;
-    }
-    FuzzBytes& bytes() { return bytes_; }
 
     void windowNeedsFrame() override {}
-    void wheelDidTick() override {
-        if (bytes_.below(8) == 7) react();
-    }
+    void wheelDidTick() override { react(8); }
 
 private:
-    Ref<Listener> newListener() {
-        auto listener = std::make_shared<Listener>();
-        listener->world = this;
+    Ref<FuzzListener> newListener() {
+        auto listener = std::make_shared<FuzzListener>();
+        listener->setWorld(this, &views_);
         return listener;
     }
-    Ref<Listener>& someListener() { return listeners_[bytes_.below(2)]; }
-    Ref<UIView>& someView() { return views_[bytes_.below(3)]; }
+    Ref<OwnWheel> newOwnWheel(CGRect frame) {
+        auto wheel = create<OwnWheel>(frame);
+        wheel->world = this;
+        ownWheels_.push_back(wheel);
+        return wheel;
+    }
+    Ref<FuzzListener>& someListener() { return listeners_[bytes().below(2)]; }
+    Ref<UIView>& someView() { return views_[bytes().below(3)]; }
 
-    void act() {
+    void act() override {
         Ref<UIView>& slot = someView();
-        if (!slot) {
-            slot = makeView(bytes_);
-            listen(slot);
-            window_->addSubview(slot);
-            return;
-        }
-        const Ref<UIView> view = slot;
-        switch (bytes_.below(24)) {
+        if (!slot) return fill(slot);
+        switch (bytes().below(32)) {
         case 0:
         case 1:
         case 2:
         case 3:
         case 4:
         case 5:
-            return setSomething(bytes_, view);
+            return setSomething(bytes(), slot.get());
         case 6:
-            return askSomething(bytes_, view);
+            return askSomething(bytes(), slot);
         case 7:
-            return order(wheelOf(view));
         case 8:
+            return order(wheelOf(slot).get());
         case 9:
         case 10:
-            return hand_.touch();
         case 11:
-            return hand_.scroll();
+            return stage_.hand().touch();
         case 12:
+            return stage_.hand().scroll();
         case 13:
-            return hand_.press();
         case 14:
         case 15:
+            return stage_.hand().press();
         case 16:
-            return hand_.wait();
         case 17:
-            draw();
-            return hand_.hear();
         case 18:
-            return surround();
+            return stage_.hand().wait();
         case 19:
-            return listen(view);
         case 20:
-            return changeListener();
+            return stage_.hand().hear();
         case 21:
-            return changeWindow(view);
+            return draw();
         case 22:
-            NSRunLoop::mainRunLoop()->runPass();
-            return;
+            return bytes().below(4) == 0 ? setFactory() : setSurroundings(bytes());
+        case 23:
+            return listen(slot);
+        case 24:
+            return changeListener();
+        case 25:
+        case 26:
+            return stage_.place(slot, someView());
+        case 27:
+        case 28:
+            return stage_.change(slot);
+        case 29:
+            return NSRunLoop::mainRunLoop()->runPass();
+        case 30:
+            return bytes().flag() ? focus(slot) : slot->awakeFromNib();
         default:
             return drop(slot);
         }
     }
 
-    void order(const Ref<UIPickerView>& wheel) {
+    void fill(Ref<UIView>& slot) {
+        const Ref<UIView> made = makeView(bytes());
+        slot = made;
+        made_.push_back(made);
+        listen(made);
+        bytes().flag() ? stage_.place(made, someView()) : stage_.place(made, nullptr);
+    }
+    static void drop(Ref<UIView>& slot) {
+        const Ref<UIView> view = std::exchange(slot, nullptr);
+        view->removeFromSuperview();
+    }
+    static void focus(const Ref<UIView>& view) {
+        if (UIPickerView* const wheel = wheelOf(view).get()) wheel->becomeFirstResponder();
+    }
+    // The view is not held meanwhile: whoever is called out to may let go of it, as an application may.
+    void order(UIPickerView* wheel) {
         if (!wheel) return;
-        const NSInteger row = bytes_.integer();
-        const NSInteger component = bytes_.below(4) == 0 ? bytes_.integer() : bytes_.below(4);
-        switch (bytes_.below(4)) {
+        const NSInteger row = bytes().integer();
+        const NSInteger component = bytes().below(4) == 0 ? bytes().integer() : bytes().below(4);
+        switch (bytes().below(4)) {
         case 0:
-            return wheel->selectRow_inComponent_animated(row, component, bytes_.flag());
+            return wheel->selectRow_inComponent_animated(row, component, bytes().flag());
         case 1:
             return wheel->turnToRow_inComponent(row, component);
         case 2:
@@ -156,117 +187,68 @@ private:
         }
     }
     void draw() {
+        stage_.draw();
         NullCanvas canvas;
-        window_->draw(canvas);
         for (const Ref<UIView>& view : std::array(views_)) {
             if (view) view->renderInContext(canvas);
         }
     }
-    /// What pickers look up in their surroundings.
-    void surround() {
-        constexpr std::array<const char*, 6> languages = {"en", "de", "ar_EG", "zh-Hans", "", "xx"};
-        const std::string language = languages[bytes_.below(languages.size())];
-        switch (bytes_.below(5)) {
-        case 0:
-            return GXLocalization::sharedLocalization()->setLanguage(language);
-        case 1:
-            return NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier(language));
-        case 2:
-            return GXStyleSheet::globalStyleSheet()->setTextScale(bytes_.number());
-        case 3:
-            return GXStyleSheet::setGlobalStyleSheet(nullptr);
-        default:
-            GXMultiValuePickerView::setFactory([](CGRect) { return nullptr; });
-        }
+
+    /// Wheels of the application: none, plain ones, its own, one that another picker has already; or any of them after something else.
+    void setFactory() {
+        const unsigned kind = bytes().below(8);
+        if (kind == 0) return GXMultiValuePickerView::setFactory({});
+        GXMultiValuePickerView::setFactory([this, kind](CGRect frame) -> Ref<GXMultiValuePickerView> {
+            if (kind % 2 == 1) react(2);
+            if (kind < 2) return nullptr;
+            if (kind < 4) return create<GXMultiValuePickerView>(frame);
+            if (kind < 6) return newOwnWheel(frame);
+            return std::dynamic_pointer_cast<GXMultiValuePickerView>(wheelOf(someView()));
+        });
     }
+
+    /// Hears of what the user does to the view or, where it is a wheel, answers to it. Sometimes a picker's own wheel asks somebody else.
     void listen(const Ref<UIView>& view) {
-        const Ref<Listener> listener = someListener();
-        if (const Ref<GXBasePickerView> picker = pickerOf(view)) return picker->setDelegate(listener);
+        const Ref<FuzzListener> listener = someListener();
+        const Ref<GXBasePickerView> picker = pickerOf(view);
         const Ref<UIPickerView> wheel = wheelOf(view);
+        const auto height = std::dynamic_pointer_cast<GXHeightPickerView>(wheel);
+        const unsigned part = bytes().below(8);
+        if (picker) picker->setDelegate(listener);
+        if (height) height->setHeightDelegate(listener);
         if (!wheel) return;
-        if (const auto height = std::dynamic_pointer_cast<GXHeightPickerView>(wheel)) return height->setHeightDelegate(listener);
-        wheel->setDataSource(listener);
-        wheel->setDelegate(listener);
+        answered_.push_back(wheel);
+        const bool hasOwnAnswers = picker || height;
+        if (!hasOwnAnswers || part == 0 || part == 1) wheel->setDataSource(listener);
+        if (!hasOwnAnswers || part == 0 || part == 2) wheel->setDelegate(listener);
+        if (part == 3) wheel->setDataSource({});
+        if (part == 4) wheel->setDelegate({});
+        if (part != 5) return;
+        if (height) height->setupSelf();
+        if (!picker) return;
+        wheel->setDataSource(picker);
+        wheel->setDelegate(picker);
     }
     void changeListener() {
-        Ref<Listener>& listener = someListener();
-        switch (bytes_.below(4)) {
+        Ref<FuzzListener>& listener = someListener();
+        switch (bytes().below(4)) {
         case 0:
             listener = newListener();
             return;
         case 1:
-            listener->rows = bytes_.integer();
-            return;
-        case 2:
-            listener->width = bytes_.number();
-            return;
+            return stage_.setTableSource(listener);
         default:
-            listener->height = bytes_.number();
+            listener->changeAnswers(bytes());
         }
-    }
-    void changeWindow(const Ref<UIView>& view) {
-        switch (bytes_.below(8)) {
-        case 0:
-            return window_->addSubview(view);
-        case 1:
-            return view->removeFromSuperview();
-        case 2:
-            return window_->settle();
-        case 3:
-            return window_->setReceivesKeys(bytes_.flag());
-        case 4:
-            return window_->setFrame(bytes_.rect());
-        case 5:
-            return window_->setUserInterfaceStyle(bytes_.flag() ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light);
-        case 6:
-            view->becomeFirstResponder();
-            return;
-        default:
-            view->awakeFromNib();
-        }
-    }
-    void drop(Ref<UIView>& slot) {
-        const Ref<UIView> view = std::move(slot);
-        slot = nullptr;
-        view->removeFromSuperview();
     }
 
-    FuzzBytes& bytes_;
-    Ref<UIWindow> window_;
-    FuzzHand hand_{bytes_, window_};
+    std::vector<WeakRef<OwnWheel>> ownWheels_;
+    std::vector<WeakRef<UIView>> made_;
+    std::vector<WeakRef<UIPickerView>> answered_;
     std::array<Ref<UIView>, 3> views_;
-    std::array<Ref<Listener>, 2> listeners_;
-    int depth_ = 0;
-    int reactions_ = 0;
+    FuzzStage stage_;
+    std::array<Ref<FuzzListener>, 2> listeners_;
 };
-
-void Listener::pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber&, NSInteger) {
-    if (world) world->react();
-}
-void Listener::heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat, bool) {
-    if (world) world->react();
-}
-void Listener::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {
-    if (world) world->react();
-}
-NSInteger Listener::numberOfComponentsInPickerView(const Ref<UIPickerView>&) {
-    if (!world) return 3;
-    if (world->bytes().below(8) == 7) world->react();
-    return world ? world->bytes().below(7) - NSInteger{1} : 3;
-}
-NSInteger Listener::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) {
-    if (world && world->bytes().below(8) == 7) world->react();
-    return rows;
-}
-CGFloat Listener::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger) {
-    if (world && world->bytes().below(16) == 15) world->react();
-    return width;
-}
-CGFloat Listener::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) { return height; }
-std::optional<std::string> Listener::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger) {
-    if (world && world->bytes().below(16) == 15) world->react();
-    return std::to_string(row);
-}
 
 } // namespace
 

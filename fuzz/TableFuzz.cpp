@@ -1,65 +1,56 @@
 // A table whose data source answers anything and changes at any time, within its own answers too.
 
 #include "FuzzHand.h"
-#include "NSArithmetic.h"
+#include "FuzzProperties.h"
+#include "FuzzTableSource.h"
+#include "FuzzViews.h"
+#include "GXDurationPickerCell.h"
 #include "NullCanvas.h"
-#include "UIHost.h"
-#include "UITableView.h"
 
 using namespace gx;
 
 namespace {
 
-class World;
-
-class Source : public NSObject, public UITableViewDataSource, public UITableViewDelegate {
-public:
-    World* world = nullptr;
-    NSInteger sections = 1;
-    NSInteger rows = 30;
-
-    NSInteger numberOfSectionsInTableView(const Ref<UITableView>&) override;
-    NSInteger tableView_numberOfRowsInSection(const Ref<UITableView>&, NSInteger) override;
-    Ref<UITableViewCell> tableView_cellForRowAtIndexPath(const Ref<UITableView>& table, NSIndexPath path) override;
-    std::optional<std::string> tableView_titleForHeaderInSection(const Ref<UITableView>&, NSInteger section) override;
-    CGFloat tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override;
-    bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) override;
-    void tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) override;
-    void tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>&, const Ref<UITableViewCell>&, NSIndexPath) override;
-};
-
-class World {
+class World : public FuzzWorld {
 public:
     explicit World(FuzzBytes& bytes)
-        : bytes_(bytes), window_(create<UIWindow>(CGRectMake(0, 0, 400, 400))), source_(newSource()), table_(newTable()) {}
-    ~World() { source_->world = nullptr; }
+        : FuzzWorld(bytes), bytes_(bytes), window_(newWindow()), scrollView_(create<UIScrollView>(CGRectMake(0, 0, 400, 400))),
+          source_(newSource()), table_(newTable()) {
+        scrollView_->setContentSize({400, 1000});
+    }
+    ~World() override {
+        source_->world = nullptr;
+        for (const WeakRef<FuzzCell>& entry : ownCells_) {
+            if (const Ref<FuzzCell> cell = entry.lock()) cell->world = nullptr;
+        }
+    }
     World(const World&) = delete;
     World& operator=(const World&) = delete;
 
     void run() {
-        for (int left = 120; left > 0 && !bytes_.isEmpty(); --left) act();
+        actUntilBytesEnd();
         hand_.waitUntilStill();
         draw();
     }
-    /// Within a call of the table, one time in `odds`.
-    void react(unsigned odds) {
-        if (depth_ >= 3 || reactions_ >= 100 || bytes_.below(odds) != odds - 1) return;
-        ++reactions_;
-        ++depth_;
-        for (unsigned left = bytes_.below(4); left > 0; --left) act();
-        --depth_;
-    }
-    FuzzBytes& bytes() { return bytes_; }
 
 private:
-    Ref<Source> newSource() {
-        auto source = std::make_shared<Source>();
+    static Ref<UIWindow> newWindow() { return create<UIWindow>(CGRectMake(0, 0, 400, 400)); }
+    Ref<FuzzTableSource> newSource() {
+        auto source = std::make_shared<FuzzTableSource>();
         source->world = this;
         return source;
     }
     Ref<UITableView> newTable() {
         auto table = create<UITableView>(bytes_.below(4) == 3 ? bytes_.rect() : CGRectMake(0, 0, 320, 300));
         table->registerClass_forCellReuseIdentifier<UITableViewCell>("cell");
+        table->registerClass_forCellReuseIdentifier<GXDurationPickerCell>("picker");
+        const auto newOwnCell = [this] {
+            auto cell = create<FuzzCell>(UITableViewCellStyleValue1, std::optional<std::string>("own"));
+            cell->world = this;
+            ownCells_.push_back(cell);
+            return cell;
+        };
+        table->registerClass_forCellReuseIdentifier(newOwnCell, "own");
         table->setDataSource(source_);
         if (bytes_.flag()) table->setDelegate(source_);
         window_->addSubview(table);
@@ -76,9 +67,9 @@ private:
         return result;
     }
 
-    void act() {
-        const Ref<UITableView> table = table_;
-        switch (bytes_.below(24)) {
+    void act() override {
+        const Ref<UITableView>& table = table_; // Not held meanwhile: whoever is asked may let go of it, as an application may.
+        switch (bytes_.below(28)) {
         case 0:
             return table->reloadData();
         case 1:
@@ -90,7 +81,7 @@ private:
         case 5:
             return remove(table);
         case 6:
-            return table->scrollToRowAtIndexPath_animated(path(), bytes_.flag());
+            return scrollTo(table);
         case 7:
         case 8:
         case 9:
@@ -128,9 +119,38 @@ private:
             table->removeFromSuperview();
             table_ = newTable();
             return;
-        default:
+        case 23:
             return table->layoutIfNeeded();
+        case 24:
+            return changeCell(table);
+        case 25:
+            return setWindowProperty(bytes_, window_);
+        case 26:
+            return bytes_.below(4) == 3 ? closeWindow() : setWindowProperty(bytes_, window_);
+        default:
+            table->becomeFirstResponder();
         }
+    }
+    /// The application or the user changes something in a row.
+    void changeCell(const Ref<UITableView>& table) {
+        const NSIndexPath row = {bytes_.below(2), bytes_.below(16)};
+        const Ref<UITableViewCell> cell = table->cellForRowAtIndexPath(row);
+        if (!cell) return;
+        switch (bytes_.below(4)) {
+        case 0:
+            return setSomething(bytes_, cell.get());
+        case 1:
+            return cell->removeFromSuperview();
+        case 2:
+            if (const Ref<UIPickerView> wheel = wheelOf(cell)) wheel->becomeFirstResponder();
+            return;
+        default:
+            if (const Ref<UIPickerView> wheel = wheelOf(cell)) wheel->turnToRow_inComponent(bytes_.below(16), 0);
+        }
+    }
+    void closeWindow() {
+        const Ref<UIWindow> closed = std::exchange(window_, newWindow());
+        hand_.goTo(window_);
     }
     /// Either few enough to be asked for heights each, or more than the table asks for.
     NSInteger manyRows() {
@@ -139,8 +159,7 @@ private:
     }
     void insert(const Ref<UITableView>& table) {
         const std::vector<NSIndexPath> added = paths();
-        if (bytes_.below(8) < 7 && source_->sections == 1)
-            source_->rows = held(wrappingAdd(source_->rows, static_cast<NSInteger>(added.size())));
+        if (bytes_.below(8) < 7 && source_->sections == 1) source_->rows = held(source_->rows) + static_cast<NSInteger>(added.size());
         table->insertRowsAtIndexPaths_animated(added, bytes_.flag());
     }
     void remove(const Ref<UITableView>& table) {
@@ -148,9 +167,13 @@ private:
         if (bytes_.below(8) < 7 && source_->sections == 1) source_->rows -= static_cast<NSInteger>(removed.size());
         table->deleteRowsAtIndexPaths_animated(removed, bytes_.flag());
     }
-    void scrollTo(const Ref<UITableView>& table, NSIndexPath path) { table->scrollToRowAtIndexPath_animated(path, bytes_.flag()); }
+    void scrollTo(const Ref<UITableView>& table) {
+        const NSIndexPath row = path();
+        table->scrollToRowAtIndexPath_animated(row, bytes_.flag());
+    }
     static NSInteger held(NSInteger rows) { return rows > 300 || rows < 0 ? 100 : rows; }
-    void ask(const Ref<UITableView>& table) {
+    void ask(const Ref<UITableView>& present) {
+        const Ref<UITableView> table = present;
         const NSIndexPath any = path();
         table->numberOfRowsInSection(any.section);
         table->rectForRowAtIndexPath(any);
@@ -176,13 +199,17 @@ private:
         }
     }
     void place(const Ref<UITableView>& table) {
-        switch (bytes_.below(4)) {
+        switch (bytes_.below(6)) {
         case 0:
             return table->setFrame(bytes_.rect());
         case 1:
             return table->setBounds(bytes_.rect());
         case 2:
-            return window_->settle();
+            return window_->addSubview(scrollView_);
+        case 3:
+            return scrollView_->addSubview(table);
+        case 4:
+            return setSomething(bytes_, scrollView_.get());
         default:
             table->superview() ? table->removeFromSuperview() : window_->addSubview(table);
         }
@@ -193,46 +220,13 @@ private:
     }
 
     FuzzBytes& bytes_;
+    std::vector<WeakRef<FuzzCell>> ownCells_;
     Ref<UIWindow> window_;
+    Ref<UIScrollView> scrollView_;
     FuzzHand hand_{bytes_, window_};
-    Ref<Source> source_;
+    Ref<FuzzTableSource> source_;
     Ref<UITableView> table_;
-    int depth_ = 0;
-    int reactions_ = 0;
 };
-
-NSInteger Source::numberOfSectionsInTableView(const Ref<UITableView>&) {
-    if (world) world->react(8);
-    return sections;
-}
-NSInteger Source::tableView_numberOfRowsInSection(const Ref<UITableView>&, NSInteger) {
-    if (world) world->react(16);
-    return rows;
-}
-Ref<UITableViewCell> Source::tableView_cellForRowAtIndexPath(const Ref<UITableView>& table, NSIndexPath) {
-    if (world) world->react(16);
-    if (world && world->bytes().below(16) == 15) return world->bytes().flag() ? create<UITableViewCell>() : nullptr;
-    return table->dequeueReusableCellWithIdentifier("cell");
-}
-std::optional<std::string> Source::tableView_titleForHeaderInSection(const Ref<UITableView>&, NSInteger section) {
-    if (section % 2) return std::nullopt;
-    return "header";
-}
-CGFloat Source::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) {
-    if (path.row > 0 || !world) return 20 + static_cast<CGFloat>(path.row % 3) * 15;
-    world->react(16);
-    return world ? world->bytes().number() : 0;
-}
-bool Source::tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) {
-    if (world) world->react(4);
-    return true;
-}
-void Source::tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) {
-    if (world) world->react(1);
-}
-void Source::tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>&, const Ref<UITableViewCell>&, NSIndexPath) {
-    if (world) world->react(16);
-}
 
 } // namespace
 

@@ -99,6 +99,7 @@ void UIScrollView::setFrame(CGRect frame) {
 }
 
 void UIScrollView::setBounds(CGRect newBounds) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     const CGRect before = bounds();
     UIView::setBounds({before.origin, newBounds.size});
     holdToContent();

@@ -46,6 +46,7 @@ void UITableView::setSeparatorColor(std::optional<UIColor> color) {
 // Answers
 
 void UITableView::reloadData() {
+    const Ref<UITableView> keep = self();
     isStale_ = true;
     forgetPress();
     setNeedsLayout();

@@ -53,13 +53,13 @@ void UIView::insertSubview_atIndex(const Ref<UIView>& view, NSInteger index) {
 
 void UIView::removeFromSuperview() {
     if (!superview_) return;
+    const Ref<UIView> keep = refTo(this);
     // While those above can still hear of it, since they may have been handed the finger.
-    if (UIWindow* const shownIn = root()->asWindow()) shownIn->cancelTouchesWithin(refTo(this));
+    if (UIWindow* const shownIn = root()->asWindow()) shownIn->cancelTouchesWithin(keep);
     if (!superview_) return;
     UIView& above = *superview_;
     const auto entry =
         std::find_if(above.subviews_.begin(), above.subviews_.end(), [this](const Ref<UIView>& view) { return view.get() == this; });
-    const Ref<UIView> keep = *entry;
     const UIColor tintBefore = tintColor();
     UIWindow* const windowBefore = root()->asWindow();
     above.setNeedsDisplay();

@@ -45,7 +45,8 @@ NSTimeInterval UIWindow::heldTime(NSTimeInterval time) {
 }
 
 void UIWindow::cancelTouchesWithin(const Ref<UIView>& view) {
-    const auto isWithin = [&view](const Touch& entry) {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    const auto isWithin = [view](const Touch& entry) { // A copy: who hears of one may forget the view.
         const Ref<UIView> touched = entry.view.lock();
         return touched && touched->isDescendantOfView(view);
     };

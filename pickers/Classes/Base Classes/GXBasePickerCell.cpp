@@ -24,6 +24,7 @@ void GXBasePickerCell::awakeFromNib() {
 }
 
 void GXBasePickerCell::setUp() {
+    const Ref<UIView> keep = refTo<UIView>(this); // An application's wheels are made with the picker.
     initGXBasePickerCell();
     if (!pickerView_) makePicker();
 }

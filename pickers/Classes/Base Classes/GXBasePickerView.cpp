@@ -45,14 +45,14 @@ void GXBasePickerView::initGXBasePickerView() {
     stepSize_ = NSNumber::numberWithInt(1);
     currentValue_ = NSNumber::numberWithInt(0);
 
-    pickerView_ = GXMultiValuePickerView::wheelWithFrame(bounds());
-    pickerView_->setDelegate(self());
-    pickerView_->setDataSource(self());
-    pickerView_->setTranslatesAutoresizingMaskIntoConstraints(false);
-    addSubview(pickerView_);
+    const Ref<GXMultiValuePickerView> wheel = GXMultiValuePickerView::wheelWithFrame(bounds());
+    pickerView_ = wheel;
+    wheel->setDelegate(self());
+    wheel->setDataSource(self());
+    wheel->setTranslatesAutoresizingMaskIntoConstraints(false);
+    addSubview(wheel);
     for (const char* format : {"H:|[_pickerView]|", "V:|[_pickerView]|"}) {
-        addConstraints(
-            NSLayoutConstraint::constraintsWithVisualFormat_options_metrics_views(format, 0, {}, {{"_pickerView", pickerView_}}));
+        addConstraints(NSLayoutConstraint::constraintsWithVisualFormat_options_metrics_views(format, 0, {}, {{"_pickerView", wheel}}));
     }
 }
 
@@ -60,8 +60,9 @@ void GXBasePickerView::initGXBasePickerView() {
 
 void GXBasePickerView::storeBound(NSNumber& bound, NSNumber value) {
     if (value.isIdenticalTo(bound)) return;
+    const Ref<GXBasePickerView> keep = self();
     bound = std::move(value);
-    if (pickerView_) pickerView_->reloadAllComponents();
+    reloadAllComponents(pickerView_);
     selectCurrentValue();
 }
 
@@ -80,17 +81,17 @@ void GXBasePickerView::setCurrentValue(NSNumber value) {
 }
 
 void GXBasePickerView::setCustomValueFont(Ref<GXStyleSheetFont> font) {
+    const Ref<GXBasePickerView> keep = self();
     customValueFont_ = std::move(font);
-    if (!pickerView_) return;
-    pickerView_->setCustomValueFont(customValueFont_);
-    pickerView_->reloadAllComponents();
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView_) wheel->setCustomValueFont(customValueFont_);
+    reloadAllComponents(pickerView_);
 }
 
 void GXBasePickerView::setCustomLabelFont(Ref<GXStyleSheetFont> font) {
+    const Ref<GXBasePickerView> keep = self();
     customLabelFont_ = std::move(font);
-    if (!pickerView_) return;
-    pickerView_->setCustomLabelFont(customLabelFont_);
-    pickerView_->reloadAllComponents();
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView_) wheel->setCustomLabelFont(customLabelFont_);
+    reloadAllComponents(pickerView_);
 }
 
 NSInteger GXBasePickerView::valueOfRow(NSInteger row) const {
@@ -103,7 +104,7 @@ void GXBasePickerView::selectCurrentValue() {
     if (currentValue_.floatValue() < minValue_.floatValue()) return;
     const NSInteger distance = wrappingSubtract(currentValue_.integerValue(), minValue_.integerValue());
     const NSInteger row = quotient(distance, stepSize_.integerValue());
-    if (pickerView_) pickerView_->selectRow_inComponent_animated(row, 0, false);
+    selectRow_inComponent(pickerView_, row, 0);
 }
 
 void GXBasePickerView::informDelegateOfValueChange() {

@@ -138,6 +138,7 @@ Ref<UILabel> GXMultiValuePickerView::separatorAfterComponent(NSUInteger componen
 // Occasions to place the labels
 
 void GXMultiValuePickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     UIPickerView::setDelegate(std::move(delegate));
     if (areLabelsPlacedByLayout()) return;
     setupLeftLabelFrame();
@@ -145,6 +146,7 @@ void GXMultiValuePickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate)
 }
 
 void GXMultiValuePickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataSource) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     UIPickerView::setDataSource(std::move(dataSource));
     if (areLabelsPlacedByLayout()) return;
     setupLeftLabelFrame();
@@ -170,6 +172,7 @@ bool GXMultiValuePickerView::areLabelsPlacedByLayout() {
 }
 
 void GXMultiValuePickerView::reloadLabelFrames() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     if (!sources()) return;
     setupRightLabelFrame();
     setupLeftLabelFrame();
@@ -199,6 +202,7 @@ CGFloat GXMultiValuePickerView::widestTitleWidth(const Sources& sources, NSInteg
 bool GXMultiValuePickerView::areSidesChanged() const { return labelsFollowReading_ && NSLocale::currentLocale()->isRightToLeft(); }
 
 void GXMultiValuePickerView::setupLeftLabelFrame() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     const Sources sources = this->sources();
     if (!sources) return;
     if (areSidesChanged()) {
@@ -209,6 +213,7 @@ void GXMultiValuePickerView::setupLeftLabelFrame() {
 }
 
 void GXMultiValuePickerView::setupRightLabelFrame() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     const Sources sources = this->sources();
     if (!sources) return;
     if (areSidesChanged()) {
@@ -238,6 +243,7 @@ void GXMultiValuePickerView::placeRightOfColumns(const Sources& sources, const R
 }
 
 void GXMultiValuePickerView::updateSeparatorFrames() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     for (NSInteger i = 0; i < numberOfComponents() - 1; ++i) {
         const Ref<UILabel> label = separatorAfterComponent(static_cast<NSUInteger>(i));
         if (!label) continue;

@@ -584,3 +584,22 @@ TEST_F(Scrolling, a_stroke_told_by_another_clock_glides_from_the_next_frame_on) 
     window.runUntilStill();
     EXPECT_NEAR(offset(), 80 + 639.4, 0.05);
 }
+
+TEST(UIScrollView, who_hears_of_scrolling_may_drop_the_view_while_it_takes_new_bounds) {
+    struct Hearing : UIScrollView {
+        std::function<void()> whenScrolled;
+        bool* isGone = nullptr;
+        ~Hearing() override { *isGone = true; }
+        void scrollViewDidScroll() override {
+            if (const auto told = std::exchange(whenScrolled, nullptr)) told();
+        }
+    };
+    bool isGone = false;
+    auto view = create<Hearing>(CGRectMake(0, 0, 300, 200));
+    view->isGone = &isGone;
+    view->setContentSize({300, 1000});
+    view->setContentOffset({0, 800});
+    view->whenScrolled = [&view] { view = nullptr; };
+    view->setBounds(CGRectMake(0, 100, 300, 400)); // Of which 600 are the end, so that it scrolls twice.
+    EXPECT_TRUE(isGone);
+}

@@ -50,6 +50,17 @@ struct TableWithWheel : TableTouches {
     }
 };
 
+/// Tells when it is no longer lit.
+struct DarkeningCell : UITableViewCell {
+    std::function<void()> whenDark;
+
+    void setHighlighted(bool highlighted) override {
+        UITableViewCell::setHighlighted(highlighted);
+        if (highlighted) return;
+        if (const auto told = std::exchange(whenDark, nullptr)) told();
+    }
+};
+
 } // namespace
 
 TEST_F(TableTouches, a_tap_is_told_once) {
@@ -289,4 +300,26 @@ TEST_F(TableWithWheel, a_wheel_goes_on_spinning_while_rows_come_and_go) {
     window.runUntilStill();
     EXPECT_EQ(wheelSource->notices.size(), 1U);
     EXPECT_GT(wheelSource->notices[0].row, 5);
+}
+
+TEST_F(TableTouches, a_cell_that_a_reload_darkens_may_drop_the_table) {
+    const auto cell = create<DarkeningCell>();
+    source->cell = [&cell](const Ref<UITableView>& view, NSIndexPath path) -> Ref<UITableViewCell> {
+        if (path.row == 2) return cell;
+        return TableSource::usualCell(view, path);
+    };
+    table->reloadData();
+    window.tick(0);
+    window.tap(rowTwo);
+    ASSERT_TRUE(cell->isHighlighted());
+    const WeakRef<UITableView> weak = table;
+    bool isAlive = false;
+    cell->whenDark = [&] {
+        table->removeFromSuperview();
+        table = nullptr;
+        isAlive = !weak.expired();
+    };
+    table->reloadData();
+    EXPECT_TRUE(isAlive) << "it has more to do";
+    EXPECT_TRUE(weak.expired());
 }

@@ -190,6 +190,37 @@ TEST_F(Window, TheWindowMayBeDroppedByATouchThatItCancels) {
     EXPECT_EQ(actor->log, "began 1 cancelled 1 ");
 }
 
+TEST_F(Window, TheWindowMayBeDroppedByATouchThatARemovalCancels) {
+    window->touchBegan_at_time(1, {20, 20}, 1);
+    window->touchBegan_at_time(2, {30, 30}, 1);
+    actor->whenCancelled = [this] { window = nullptr; };
+    actor->removeFromSuperview();
+    EXPECT_EQ(actor->log, "began 1 began 2 cancelled 1 cancelled 2 ");
+    EXPECT_EQ(actor->superview(), nullptr);
+}
+
+TEST_F(Window, AViewMayBeDroppedByATouchThatItsRemovalCancels) {
+    window->touchBegan_at_time(1, {20, 20}, 1);
+    Actor& removed = *actor;
+    removed.whenCancelled = [this] {
+        const Ref<Actor> dropped = std::move(actor);
+        dropped->removeFromSuperview();
+    };
+    removed.removeFromSuperview();
+    EXPECT_EQ(actor, nullptr);
+    EXPECT_EQ(window->subviews(), std::vector<Ref<UIView>>{other});
+}
+
+TEST_F(Window, WhoTakesAllFingersFromAViewMayForgetItMeanwhile) {
+    window->touchBegan_at_time(1, {20, 20}, 1);
+    window->touchBegan_at_time(2, {30, 30}, 1);
+    const Ref<Actor> touched = actor;
+    Ref<UIView> forgotten = actor;
+    actor->whenCancelled = [&forgotten] { forgotten = nullptr; };
+    window->cancelTouchesWithin(forgotten);
+    EXPECT_EQ(touched->log, "began 1 began 2 cancelled 1 cancelled 2 ");
+}
+
 TEST_F(Window, TheWindowMayBeDroppedByALayout) {
     const WeakRef<UIWindow> weak = window;
     actor->whenLaidOut = [this] { window = nullptr; };

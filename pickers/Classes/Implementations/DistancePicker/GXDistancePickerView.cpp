@@ -76,6 +76,7 @@ const Ref<GXDistanceFormatter>& GXDistancePickerView::distanceFormatter() {
 
 void GXDistancePickerView::setIsMetric(bool metric) {
     if (metric == isMetric()) return;
+    const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setIsMetric(metric);
     const Ref<GXDistanceFormatter> formatter = distanceFormatter();
     formatter->setMetric(isMetric());
@@ -90,6 +91,7 @@ void GXDistancePickerView::showUnit() {
 }
 
 void GXDistancePickerView::setCurrentValue(NSNumber value) {
+    const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setCurrentValue(std::move(value));
     reloadAllComponents(pickerView());
 }
@@ -212,6 +214,7 @@ void GXDistancePickerView::checkMetricAndInformDelegate(double value) {
 // From the value to the wheel
 
 void GXDistancePickerView::selectCurrentValue() {
+    const Ref<GXBasePickerView> keep = self();
     if (distanceFormatter()->metric()) {
         selectCurrentKilometers();
     } else {

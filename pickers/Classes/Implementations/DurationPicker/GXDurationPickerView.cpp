@@ -67,6 +67,7 @@ bool GXDurationPickerView::hasHours() const { return type_ == GXDurationTypeHour
 
 void GXDurationPickerView::setType(NSInteger type) {
     if (type == type_) return;
+    const Ref<GXBasePickerView> keep = self();
     type_ = type;
     showLayout();
     reloadAllComponents(pickerView());
@@ -299,6 +300,7 @@ void GXDurationPickerView::setCurrentValueToBound(NSInteger bound, Clamping clam
 }
 
 void GXDurationPickerView::selectCurrentValue() {
+    const Ref<GXBasePickerView> keep = self();
     clampCurrentValue();
     const NSInteger milliseconds = currentValue().integerValue();
     if (hasHours()) {

@@ -64,11 +64,13 @@ void GXHeartRatePickerView::initGXHeartRatePickerView() {
 // The rates
 
 void GXHeartRatePickerView::setCurrentAvgHeartRate(NSNumber rate) {
+    const Ref<GXBasePickerView> keep = self();
     currentAvgHeartRate_ = rate ? std::move(rate) : NSNumber::numberWithInteger(defaultAverage);
     currentAvgHeartRate_ = storedRate(currentAvgHeartRate_, averageColumn);
 }
 
 void GXHeartRatePickerView::setCurrentMaxHeartRate(NSNumber rate) {
+    const Ref<GXBasePickerView> keep = self();
     currentMaxHeartRate_ = rate ? std::move(rate) : NSNumber::numberWithInteger(defaultMaximum);
     currentMaxHeartRate_ = storedRate(currentMaxHeartRate_, maximumColumn);
 }
@@ -77,8 +79,9 @@ void GXHeartRatePickerView::setCurrentMaxHeartRate(NSNumber rate) {
 NSNumber GXHeartRatePickerView::storedRate(NSNumber rate, NSInteger component) {
     const NSInteger distance = wrappingSubtract(rate.integerValue(), minValue().integerValue());
     // A range too small to offer an average offers no pair of rates, so the average's rows decide for both wheels.
-    if (pickerView() && pickerView()->numberOfRowsInComponent(averageColumn) != 0) {
-        pickerView()->selectRow_inComponent_animated(std::max<NSInteger>(distance, 0), component, true);
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
+    if (wheel && wheel->numberOfRowsInComponent(averageColumn) != 0) {
+        wheel->selectRow_inComponent_animated(std::max<NSInteger>(distance, 0), component, true);
     }
     // The row "-" stands where the minimum's would be.
     if (shouldShowNullValue_ && distance == 0) return NSNumber::numberWithInteger(0);

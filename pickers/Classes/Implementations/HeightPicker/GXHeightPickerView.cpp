@@ -59,6 +59,7 @@ GXHeightPickerView::~GXHeightPickerView() {
 }
 
 void GXHeightPickerView::setupSelf() {
+    const Ref<GXHeightPickerView> keep = refTo(this);
     setDataSource(refTo(this));
     setDelegate(refTo(this));
     setTintColor(UIColor::blackColor());
@@ -82,6 +83,7 @@ void GXHeightPickerView::setIsMetric(bool isMetric) {
 }
 
 void GXHeightPickerView::reload() {
+    const Ref<GXHeightPickerView> keep = refTo(this);
     // The rows are asked for before the wheel knows the new columns. It keeps the requests, so that the right rows appear with the reload.
     calculatePickerValues();
     reloadAllComponents();
@@ -97,6 +99,7 @@ void GXHeightPickerView::reload2ndStage() {
 }
 
 void GXHeightPickerView::calculatePickerValues() {
+    const Ref<GXHeightPickerView> keep = refTo(this);
     if (isMetric_) {
         const bool isGiven = heightInCm_ > 0;
         const auto row = truncateTo<NSInteger>(heightInCm_ - static_cast<double>(lowestCentimetres));

@@ -71,6 +71,7 @@ std::int32_t GXPacePickerView::checkStepSize(std::int32_t step) const { return s
 
 void GXPacePickerView::setIsMetric(bool metric) {
     if (metric == isMetric()) return;
+    const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setIsMetric(metric);
     updatePaceUnitLabel();
     reloadAllComponents(pickerView());
@@ -85,6 +86,7 @@ void GXPacePickerView::updatePaceUnitLabel() {
 }
 
 void GXPacePickerView::setCurrentValue(NSNumber value) {
+    const Ref<GXBasePickerView> keep = self();
     // A bound is taken as it is: it lies within the range or, with crossed bounds, would lead to the other one for ever.
     const bool isBound = std::exchange(isSettingBound_, false);
     if (!isBound) {
@@ -98,6 +100,7 @@ void GXPacePickerView::setCurrentValue(NSNumber value) {
 
 /// Through the object, so that a subclass hears of the value that is stored.
 void GXPacePickerView::setCurrentValueToBound(NSNumber bound) {
+    const Ref<GXBasePickerView> keep = self();
     isSettingBound_ = true;
     setCurrentValue(std::move(bound));
     isSettingBound_ = false;
@@ -196,6 +199,7 @@ void GXPacePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerVie
 // From the value to the wheel
 
 void GXPacePickerView::selectCurrentValue() {
+    const Ref<GXBasePickerView> keep = self();
     const Pace current = paceOfValue(currentValue());
     const Pace minimum = paceOfValue(minValue());
     const std::int32_t minutesRow = quotient(wrappingSubtract(current.minutes, minimum.minutes), minutesStepSize_);

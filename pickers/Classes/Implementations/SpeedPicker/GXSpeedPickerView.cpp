@@ -97,6 +97,7 @@ void GXSpeedPickerView::setCurrentValue(NSNumber value) {
 
 void GXSpeedPickerView::setIsMetric(bool metric) {
     if (metric == isMetric()) return;
+    const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setIsMetric(metric);
     setMaxSpeedInMphOrKph(displayed(maxValue()));
     setMinSpeedInMphOrKph(displayed(minValue()));
@@ -201,6 +202,7 @@ void GXSpeedPickerView::checkMetricAndInformDelegate(double speed) {
 // From the value to the wheel
 
 void GXSpeedPickerView::selectCurrentValue() {
+    const Ref<GXBasePickerView> keep = self();
     // The difference is cut off, not the two speeds: 6.2 above a minimum of 5.5 is on the row of 5.
     const NSInteger above = wholePart(std::max(currentSpeedInMphOrKph_ - minSpeedInMphOrKph_, 0.0));
     const NSInteger wholeRow = quotient(above, stepSize().integerValue());

@@ -48,6 +48,7 @@ void GXTemperaturePickerView::updateTemperaturUnitLabel() {
 
 void GXTemperaturePickerView::setIsMetric(bool isMetric) {
     if (isMetric == this->isMetric()) return;
+    const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setIsMetric(isMetric);
     updateTemperaturUnitLabel();
     reloadAllComponents(pickerView());

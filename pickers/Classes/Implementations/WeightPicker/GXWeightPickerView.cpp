@@ -126,12 +126,14 @@ void GXWeightPickerView::initGXWeightPickerView() {
 // The unit
 
 void GXWeightPickerView::setWeightUnit(NSUInteger unit) {
+    const Ref<GXBasePickerView> keep = self();
     weightUnit_ = static_cast<GXWeightUnit>(unit);
     updateCurrentRightLabel();
     reloadAllComponents(pickerView());
 }
 
 void GXWeightPickerView::setWeightUnitSelectable(bool selectable) {
+    const Ref<GXBasePickerView> keep = self();
     weightUnitSelectable_ = selectable;
     updateCurrentRightLabel();
     reloadAllComponents(pickerView());
@@ -146,6 +148,7 @@ void GXWeightPickerView::updateCurrentRightLabel() {
 }
 
 void GXWeightPickerView::updateMinMaxWeight() {
+    const Ref<GXBasePickerView> keep = self();
     switch (weightUnit_) {
     case GXWeightUnitKilogram:
         setMinValue(NSNumber::numberWithInt(15));
@@ -163,6 +166,7 @@ void GXWeightPickerView::updateMinMaxWeight() {
 }
 
 void GXWeightPickerView::selectCurrentValue() {
+    const Ref<GXBasePickerView> keep = self();
     if (currentValue().floatValue() < minValue().floatValue()) return;
     float weight = weightInUnit(currentValue().floatValue(), weightUnit_);
     // Pounds alone are held to the wheel; kilograms and stones beyond it keep their value.
