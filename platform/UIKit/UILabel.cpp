@@ -29,16 +29,20 @@ CGFloat shareBeforeText(NSTextAlignment alignment) {
 }
 } // namespace
 
-bool UILabel::initLabel() {
+void UILabel::initLabel() {
     font_ = defaultFont();
     setUserInteractionEnabled(false);
+}
+
+bool UILabel::initWithFrame(CGRect frame) {
+    if (!UIView::initWithFrame(frame)) return false;
+    initLabel();
     return true;
 }
 
-bool UILabel::initWithFrame(CGRect frame) { return UIView::initWithFrame(frame) && initLabel(); }
-
 bool UILabel::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!UIView::initWithCoder(coder) || !initLabel()) return false;
+    if (!UIView::initWithCoder(coder)) return false;
+    initLabel();
     if (!coder) return true;
     text_ = coder->decodeStringForKey("text");
     if (coder->containsValueForKey("fontSize")) font_ = UIFont::systemFontOfSize_weight(coder->decodeDoubleForKey("fontSize"));

@@ -55,7 +55,7 @@ protected:
     virtual void textDidChange();
 
 private:
-    bool initLabel();
+    void initLabel();
     const UIFont& drawnFont() const;
     const UIColor& drawnColor() const;
     void fitText(CGFloat width) const;

@@ -63,6 +63,7 @@ public:
     };
     /// The smallest number from `lowest` to `highest`.
     std::optional<Entry> entryBetween(NSInteger lowest, NSInteger highest) const {
+        std::optional<Entry> entry;
         NSInteger begin = 0;
         NSInteger end = size_;
         while (begin < end) {
@@ -73,12 +74,10 @@ public:
                 begin = middle + 1;
             } else {
                 end = middle;
+                entry = Entry{rowAt(middle), *number};
             }
         }
-        if (begin == size_) return std::nullopt;
-        const std::optional<Spelled> number = numberOfRow(rowAt(begin));
-        if (!number || number->value < lowest || number->value > highest) return std::nullopt;
-        return Entry{rowAt(begin), *number};
+        return entry && entry->number.value <= highest ? entry : std::nullopt;
     }
 
 private:

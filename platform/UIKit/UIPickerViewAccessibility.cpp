@@ -29,7 +29,6 @@ public:
         const CGPoint origin = wheel->convertPointFromWindow({});
         return CGRectOffset(wheel->at(part()).column->frame(), -origin.x, -origin.y);
     }
-    bool isEnabled() const override { return UIAccessibilityElement::isEnabled() && present() != nullptr; }
 
     std::optional<NSInteger> index() const override {
         const Ref<UIPickerView> wheel = present();

@@ -89,11 +89,10 @@ void UIPickerView::touchEnded(const UITouch& touch) {
     Component& entry = at(component);
     const CGPoint point = convertPointFromWindow(touch.locationInWindow);
     std::optional<NSInteger> tappedRow;
-    if (entry.column) {
-        if (const auto offset = entry.column->offsetDrawnAt(point.y - CGRectGetMinY(entry.column->frame()))) {
-            const NSInteger row = wrappingAdd(entry.turn.anchorRow(), truncateTo<NSInteger>(std::round(*offset)));
-            if (row >= 0 && row < entry.rows) tappedRow = row;
-        }
+    // A finger lies on a column that is laid out; with its view, a column loses its finger.
+    if (const auto offset = entry.column->offsetDrawnAt(point.y - CGRectGetMinY(entry.column->frame()))) {
+        const NSInteger row = wrappingAdd(entry.turn.anchorRow(), truncateTo<NSInteger>(std::round(*offset)));
+        if (row >= 0 && row < entry.rows) tappedRow = row;
     }
     entry.turn.touchEnded(point.y, touch.timestamp, tappedRow);
     letGo(entry);

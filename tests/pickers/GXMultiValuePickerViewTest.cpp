@@ -313,6 +313,46 @@ TEST_F(MultiValue, WithoutColumnsNothingBreaks) {
     EXPECT_EQ(wheel->numberOfComponents(), 0);
 }
 
+TEST_F(MultiValue, WithoutSourcesLayoutAndReloadLeaveTheLabelsWhereTheyAre) {
+    wheel->setRightLabelText("km");
+    wheel->reloadAllComponents();
+    wheel->layoutIfNeeded();
+    EXPECT_TRUE(CGRectIsNull(wheel->rightDescLabel()->frame()));
+}
+
+TEST_F(MultiValue, AReloadInTheMiddleOfALayoutPlacesTheLabelsAllTheSame) {
+    struct Reloading : Source {
+        int reloads = 0;
+        std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& asking, NSInteger row,
+                                                                       NSInteger component) override {
+            if (reloads > 0) {
+                --reloads;
+                asking->reloadAllComponents();
+            }
+            return Source::pickerView_titleForRow_forComponent(asking, row, component);
+        }
+    };
+    const auto reloading = create<Reloading>();
+    source = reloading;
+    connect();
+    wheel->setRightLabelText("bpm");
+    reloading->reloads = 1;
+    wheel->reloadAllComponents();
+    wheel->layoutIfNeeded();
+    EXPECT_EQ(reloading->reloads, 0);
+    EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(210, 98, 30, 20)) << "160 + 0.5 · 80 + 10; centred on 108";
+}
+
+TEST_F(MultiValue, LabelsThatFollowAnywayAreNotPlacedAnew) {
+    connect();
+    TestWindow window(wheel);
+    window.tick(0);
+    wheel->setLabelsFollowReading(true);
+    EXPECT_FALSE(window.tick(0));
+    wheel->setLabelsFollowReading(false);
+    EXPECT_TRUE(window.tick(0));
+}
+
 TEST_F(MultiValue, AFactoryPutsAnApplicationsWheelUnderPickers) {
     RecordingWheel::install();
     const auto own = GXMultiValuePickerView::wheelWithFrame(CGRectMake(0, 0, 10, 20));

@@ -295,6 +295,7 @@ TEST_F(PickerSpeech, Icon) {
     EXPECT_EQ(valueOf(picker), "partly cloudy");
     picker->accessibilityElements().at(0)->increment();
     EXPECT_EQ(picker->accessibilityElements().at(0)->value(), std::nullopt);
+    EXPECT_EQ(picker->pickerView_accessibilityValueForRow_forComponent(picker->pickerView(), 3, 0), std::nullopt) << "there is none";
     picker->setAccessibilityLabel("Weather");
     EXPECT_EQ(labelsOf(picker), Texts{"Weather"});
     picker->setAccessibilityLabel(std::nullopt);
@@ -309,6 +310,16 @@ TEST_F(PickerSpeech, ANumberOfNothingIsItsTitle) {
     EXPECT_EQ(valueOf(picker), "42");
     picker->setAccessibilityLabel("Laps");
     EXPECT_EQ(labelsOf(picker), Texts{"Laps"});
+}
+
+TEST_F(PickerSpeech, ANumberWithoutATitleIsNotSaid) {
+    struct Untitled : GXDistancePickerView {
+        std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) override {
+            return std::nullopt;
+        }
+    };
+    const auto picker = metricPicker<Untitled>(boxed(5300));
+    EXPECT_EQ(picker->pickerView_accessibilityValueForRow_forComponent(picker->pickerView(), 5, 0), std::nullopt);
 }
 
 TEST_F(PickerSpeech, ACompositeOffersTheColumnsOfBothPickers) {
@@ -339,6 +350,26 @@ TEST_F(PickerSpeech, AnApplicationsLocaliserSaysItItsOwnWay) {
     const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
     EXPECT_EQ(labelsOf(picker), (Texts{"Way, kilometres", "Way"}));
     EXPECT_EQ(valueOf(picker), "5 point 3 clicks");
+}
+
+TEST_F(PickerSpeech, ALocaliserMayLeaveOutPatternsAndQuantities) {
+    struct FewWords : GXLocalization {
+        bool hasQuantities = true;
+        std::optional<std::string> spokenTextForName(GXSpokenName name) const override {
+            const bool isLeftOut = name == GXSpokenName::NameAndPart || name == GXSpokenName::PerKilometre;
+            return isLeftOut ? std::nullopt : GXLocalization::spokenTextForName(name);
+        }
+        std::optional<std::string> spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
+            return hasQuantities ? GXLocalization::spokenQuantity(number, unit) : std::nullopt;
+        }
+    };
+    const auto localization = create<FewWords>();
+    GXLocalization::setSharedLocalization(localization);
+    const auto picker = metricPicker<GXPacePickerView>(boxedDouble(1000.0 / 315)); // 5:15 per kilometre.
+    EXPECT_EQ(labelsOf(picker), (Texts{"Pace", "Pace"}));
+    EXPECT_EQ(valueOf(picker), "5 minutes 15 seconds");
+    localization->hasQuantities = false;
+    EXPECT_EQ(valuesOf(picker), (Texts{"05", "15"})) << "the titles are left to be said";
 }
 
 TEST_F(PickerSpeech, AColumnThatHoldsNoPartIsCalledByTheMeasurementAlone) {

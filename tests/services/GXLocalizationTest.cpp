@@ -149,6 +149,8 @@ TEST_F(GXLocalizationTest, ARegionFallsBackToItsLanguage) {
     EXPECT_EQ(translationLanguageFor("zh_CN"), "zh-Hans");
     EXPECT_EQ(translationLanguageFor("zh"), "zh-Hans");
     EXPECT_EQ(translationLanguageFor("zh_TW"), "zh-Hans");
+    EXPECT_EQ(translationLanguageFor("es-419"), "es");
+    EXPECT_EQ(translationLanguageFor("zh-1234"), "zh-Hans");
 }
 
 TEST_F(GXLocalizationTest, AnUnknownLanguageSpeaksEnglish) {

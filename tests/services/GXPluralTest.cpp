@@ -95,7 +95,14 @@ TEST(GXPlural, LanguagesWhoseUnitsStayAsTheyAreKnowOneCategory) {
 }
 
 TEST(GXPlural, ASignCountsForNothingAndWhatIsNoNumberIsOther) {
-    expectCategories({"en"}, {{"-1", "", one}, {"+1", "", one}, {"-2", "", other}, {"", "", other}, {"-", "", other}, {"one", "", other}});
+    expectCategories({"en"}, {{"-1", "", one},
+                              {"+1", "", one},
+                              {"-2", "", other},
+                              {"", "", other},
+                              {"-", "", other},
+                              {"one", "", other},
+                              {"1", "x", other},
+                              {"2", "x", other}});
     expectCategories({"ru"}, {{"-2", "", few}, {"2 ", "", other}, {"", "1", other}});
 }
 

@@ -3,7 +3,6 @@
 #include "AllocationCount.h"
 
 #include <cstdlib>
-#include <new>
 
 namespace {
 std::size_t allocations = 0;
@@ -14,7 +13,7 @@ std::size_t allocationCount() { return allocations; }
 void* operator new(std::size_t size) {
     ++allocations;
     if (void* memory = std::malloc(size)) return memory;
-    throw std::bad_alloc();
+    std::abort(); // Instead of an exception: the build that counts coverage has none.
 }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

@@ -117,6 +117,9 @@ TEST_F(Constraints, AnyOtherFormatGivesNoConstraints) {
                                "H:|--5-[view]|",
                                "H:|-1234567890-[view]|",
                                "H:|->=5-[view]|",
+                               "H:|-5",
+                               "H:[view]-unknown-|",
+                               "H:|[vi{ew]|",
                                "H:|-unknown-[view]|",
                                "H:|[view(100)]|",
                                "H:[view][view]",
@@ -199,6 +202,15 @@ TEST_F(Constraints, ARemovedViewTakesItsConstraintsWithIt) {
     holder->addSubview(view);
     holder->layoutIfNeeded();
     EXPECT_EQ(view->frame(), CGRectMake(1, 2, 30, 40));
+}
+
+TEST_F(Constraints, AConstraintOnAViewThatIsGoneMovesNothing) {
+    auto stranger = create<UIView>(CGRectMake(0, 0, 50, 50));
+    holder->addConstraints(
+        NSLayoutConstraint::constraintsWithVisualFormat_options_metrics_views("H:|[view]|", 0, {}, {{"view", stranger}}));
+    holder->addSubview(view);
+    stranger = nullptr;
+    EXPECT_EQ(frameAfter({"H:|-5-[view]"}), CGRectMake(5, 2, 30, 40));
 }
 
 TEST_F(Constraints, AConstraintOnAViewFurtherDownMovesNothing) {

@@ -237,3 +237,62 @@ TEST_F(UIAccessibility, WhatIsNotAdjustableIgnoresOrdersToTurn) {
     EXPECT_EQ(element->count(), 0);
     EXPECT_EQ(element->label(), "text");
 }
+
+TEST_F(UIAccessibility, WhatIsTransparentOrBelowItDoesNotExist) {
+    const auto group = create<UIView>(CGRectMake(0, 0, 320, 100));
+    group->addSubview(labelWithText("text"));
+    root->addSubview(group);
+    const auto element = root->accessibilityElements().at(0);
+    EXPECT_TRUE(element->exists());
+    group->setAlpha(0);
+    EXPECT_FALSE(element->exists());
+    EXPECT_TRUE(CGRectIsNull(element->frame()));
+    EXPECT_TRUE(root->accessibilityElements().empty());
+}
+
+TEST_F(UIAccessibility, AnElementOutlivesItsView) {
+    auto label = labelWithText("text");
+    const auto element = label->accessibilityElements().at(0);
+    label = nullptr;
+    EXPECT_FALSE(element->exists());
+    EXPECT_FALSE(element->isEnabled());
+    EXPECT_EQ(element->label(), std::nullopt);
+    EXPECT_TRUE(CGRectIsNull(element->frame()));
+}
+
+TEST_F(UIAccessibility, ElementsAreTheSameIfTheirViewsAndPartsAre) {
+    root->addSubview(labelWithText("one"));
+    root->addSubview(labelWithText("other"));
+    const auto one = root->accessibilityElements().at(0);
+    const auto other = root->accessibilityElements().at(1);
+    EXPECT_TRUE(one->isSameAs(*root->accessibilityElements().at(0)));
+    EXPECT_FALSE(one->isSameAs(*other));
+    EXPECT_FALSE(other->isSameAs(*one));
+    EXPECT_FALSE(one->isSameAs(UIAccessibilityElement(one->view(), one->role(), one->part() + 1)));
+}
+
+TEST_F(UIAccessibility, OfSeveralLabelsThoseThatSayNothingAreLeftOut) {
+    for (const char* text : {"one", "two", "three", "four"}) root->addSubview(labelWithText(text));
+    const auto elements = root->accessibilityElements();
+    EXPECT_EQ(joinedAccessibilityLabels(elements), "one, two, three, four");
+    std::static_pointer_cast<UILabel>(root->subviews()[0])->setText("");
+    std::static_pointer_cast<UILabel>(root->subviews()[2])->setText(std::nullopt);
+    EXPECT_EQ(joinedAccessibilityLabels(elements), "two, four");
+    EXPECT_EQ(joinedAccessibilityLabels({}), std::nullopt);
+}
+
+TEST_F(UIAccessibility, NoViewOffersNothing) {
+    EXPECT_TRUE(wholeAccessibilityElement(nullptr, UIAccessibilityRole::Text).empty());
+    EXPECT_TRUE(accessibilityElementsOfSubviews(nullptr).empty());
+}
+
+TEST_F(UIAccessibility, ACellInACellIsAButtonOfItsOwn) {
+    const auto outer = create<UITableViewCell>(CGRectMake(0, 0, 320, 88));
+    outer->textLabel()->setText("outer");
+    const auto inner = create<UITableViewCell>(CGRectMake(0, 44, 320, 44));
+    inner->textLabel()->setText("inner");
+    outer->contentView()->addSubview(inner);
+    root->addSubview(outer);
+    outer->layoutIfNeeded();
+    EXPECT_EQ(labelsOf(root), (Labels{"outer", "inner"}));
+}

@@ -51,6 +51,7 @@ TEST_F(Image, ThePixelsMustFitTheSize) {
 TEST_F(Image, SizesMustBeAboveZero) {
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 0, 0, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 0, 5, 1));
+    EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 5, 0, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale(bytes(4), -1, -1, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale(bytes(4), 1, 1, 0));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale(bytes(4), 1, 1, -2));

@@ -32,6 +32,7 @@ TEST_F(ImageView, WithoutAnImageItShowsNothing) {
     EXPECT_FALSE(view->showsSomething());
     EXPECT_EQ(drawn(UIViewContentModeScaleToFill), Calls{});
     EXPECT_EQ(view->sizeThatFits({100, 100}), CGSizeMake(0, 0));
+    EXPECT_EQ(view->accessibilityLabel(), std::nullopt);
 }
 
 TEST_F(ImageView, ItTakesNoTouches) {

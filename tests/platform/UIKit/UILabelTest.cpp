@@ -271,6 +271,14 @@ TEST_F(Label, ItRestoresTextAlignmentAndFontSize) {
     EXPECT_EQ(restored->frame(), CGRectMake(1, 2, 3, 4));
 }
 
+TEST_F(Label, ItRestoresEachAlignment) {
+    for (const NSTextAlignment alignment : {NSTextAlignmentLeft, NSTextAlignmentCenter, NSTextAlignmentRight, NSTextAlignmentNatural}) {
+        const auto coder = create<NSCoder>();
+        coder->encodeInteger_forKey(alignment, "textAlignment");
+        EXPECT_EQ(create<UILabel>(coder)->textAlignment(), alignment);
+    }
+}
+
 TEST_F(Label, WhatACoderLacksKeepsItsDefault) {
     const auto coder = create<NSCoder>();
     coder->encodeInteger_forKey(9, "textAlignment");
@@ -279,4 +287,11 @@ TEST_F(Label, WhatACoderLacksKeepsItsDefault) {
         EXPECT_EQ(restored->textAlignment(), NSTextAlignmentLeft);
         EXPECT_EQ(restored->font()->pointSize(), 17);
     }
+}
+
+TEST_F(Label, NoAttributedTextTakesAPlainOneAway) {
+    label->setText("plain");
+    label->setAttributedText(nullptr);
+    EXPECT_EQ(label->text(), std::nullopt);
+    EXPECT_EQ(drawn(), Calls{});
 }

@@ -134,3 +134,33 @@ TEST_F(WheelDrawing, TheBandIsDrawnOnlyWhereItIsWanted) {
     window->draw(canvas);
     EXPECT_EQ(canvas.bands, 1);
 }
+
+TEST_F(WheelDrawing, AWheelWithoutColumnsDrawsNothing) {
+    source->rows = {};
+    wheel->reloadAllComponents();
+    window.tick(0);
+    PlacingCanvas canvas;
+    window->draw(canvas);
+    EXPECT_EQ(canvas.bands, 0);
+    EXPECT_TRUE(canvas.texts.empty());
+    EXPECT_EQ(wheel->selectionIndicatorFrame(), CGRect{});
+}
+
+TEST_F(WheelDrawing, ARowThatIsTurnedAwayBeyondTheEdgeIsNotDrawn) {
+    source->height = 216; // As high as the wheel: the rows beside the one in the band are turned away by more than 90 degrees.
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    window.tick(0);
+    ASSERT_TRUE(wheel->viewForRow_forComponent(51, 0));
+    const auto texts = drawn();
+    EXPECT_EQ(texts.size(), 1U);
+    EXPECT_TRUE(texts.contains("50"));
+}
+
+TEST_F(WheelDrawing, AViewThatWasPutElsewhereStaysThere) {
+    const auto elsewhere = create<UIView>(CGRectMake(0, 300, 100, 100)); // In no window.
+    elsewhere->addSubview(wheel->viewForRow_forComponent(0, 0));
+    EXPECT_FALSE(drawn().contains("0"));
+    EXPECT_TRUE(drawn().contains("1"));
+    wheel->setDelegate(create<WheelSource>()); // All rows go; they may not be taken from elsewhere.
+    EXPECT_EQ(elsewhere->subviews().size(), 1U);
+}

@@ -103,7 +103,7 @@ TEST(UIPickerTitleSearch, tenths_may_be_titled_with_their_separator) {
 TEST(UIPickerTitleSearch, a_billion_rows_take_a_few_dozen_questions) {
     Search search(1'000'000'000, [](NSInteger row) { return std::to_string(row); });
     EXPECT_EQ(search(U"123456789"), (Result{123456789, false}));
-    // 30 halvings and both ends, and one question more for the row itself.
+    // 30 halvings, and the ends.
     EXPECT_LE(search.questions, 40);
     search.questions = 0;
     EXPECT_EQ(search(U"1"), (Result{1, true}));
@@ -155,4 +155,26 @@ TEST(UIPickerTitleSearch, a_separator_alone_is_no_number_yet) {
     Search tenths(10, [](NSInteger row) { return "," + std::to_string(row); });
     EXPECT_EQ(tenths(U"."), (Result{std::nullopt, true}));
     EXPECT_EQ(tenths(U".7"), (Result{7, false}));
+}
+
+TEST(UIPickerTitleSearch, of_rows_that_are_spelled_alike_the_first_is_found) {
+    Search search({"a", "5", "b", "5"});
+    EXPECT_EQ(search(U"5").row, 1);
+    Search padded({"a", "05", "b", "005"});
+    EXPECT_EQ(padded(U"5").row, 1) << "equal, though neither is spelled so";
+}
+
+TEST(UIPickerTitleSearch, a_word_may_come_first_and_last_and_alone) {
+    Search last({"1", "2", "max"});
+    EXPECT_EQ(last(U"2"), (Result{1, false}));
+    EXPECT_EQ(last(U"m"), (Result{2, true}));
+    Search alone(std::vector<std::string>{"max"});
+    EXPECT_EQ(alone(U"1"), (Result{}));
+    EXPECT_EQ(alone(U"max"), (Result{0, false}));
+}
+
+TEST(UIPickerTitleSearch, more_digits_than_a_number_has_are_found_as_they_are_spelled) {
+    Search search({"123456789012345678", "1234567890123456789"}); // 18 and 19 digits.
+    EXPECT_EQ(search(U"1234567890123456789"), (Result{1, false}));
+    EXPECT_EQ(search(U"0123456789012345678"), (Result{})) << "19 digits are no number, so they are not equal to row 0";
 }

@@ -1,4 +1,4 @@
-// Steps and turns to a row, as keys make them.
+// One column by itself: steps and turns to a row, as keys make them, and orders that come at an odd moment.
 
 #include <limits>
 
@@ -135,4 +135,81 @@ TEST_F(UIPickerTurnSteps, a_trackpad_told_by_another_clock_falls_silent_after_th
     EXPECT_EQ(turn.state(), State::Gliding);
     turn.advanceToTime(11);
     EXPECT_EQ(turn.takeLanding(), 51);
+}
+
+TEST_F(UIPickerTurnSteps, a_step_takes_over_from_a_request_and_from_a_trackpad) {
+    turn.goToRow(60);
+    EXPECT_TRUE(turn.turnToRow(50)) << "where it stands: it has not left yet";
+    EXPECT_TRUE(turn.isUsersTurn());
+    turn.settle();
+    EXPECT_EQ(turn.takeLanding(), 50);
+    turn.scrollPoints(40, 10, false);
+    EXPECT_TRUE(turn.turnToRow(51)) << "the row that the trackpad has come to";
+    EXPECT_EQ(turn.state(), State::Gliding);
+}
+
+// Orders that come at an odd moment
+
+TEST_F(UIPickerTurnSteps, a_finger_goes_before_the_mouse_wheel_and_the_trackpad) {
+    turn.touchBegan(1, 100, 10);
+    EXPECT_FALSE(turn.scrollNotches(1));
+    EXPECT_FALSE(turn.scrollPoints(40, 10, false));
+    EXPECT_EQ(turn.state(), State::Touched);
+    EXPECT_EQ(turn.rowInBand(), 50);
+}
+
+TEST_F(UIPickerTurnSteps, without_rows_nothing_turns_it) {
+    turn.setRows_height_extent(0, 40, 216, 0);
+    turn.touchBegan(1, 100, 10);
+    EXPECT_FALSE(turn.isHeld());
+    EXPECT_FALSE(turn.scrollNotches(1));
+    EXPECT_FALSE(turn.scrollPoints(40, 10, false));
+    EXPECT_EQ(turn.state(), State::AtRest);
+}
+
+TEST_F(UIPickerTurnSteps, a_trackpad_may_end_with_no_points) {
+    EXPECT_TRUE(turn.scrollPoints(0, 10, true)) << "but not begin";
+    EXPECT_EQ(turn.state(), State::AtRest);
+    turn.scrollPoints(50, 10, false);
+    EXPECT_EQ(turn.state(), State::Scrolled);
+    EXPECT_TRUE(turn.scrollPoints(0, 10.01, true));
+    EXPECT_EQ(turn.state(), State::Gliding) << "to the nearest row, without waiting for the pause";
+    EXPECT_EQ(turn.landingRow(), 51);
+}
+
+TEST_F(UIPickerTurnSteps, rows_that_come_under_a_finger_beyond_the_end_are_followed_at_once) {
+    turn.standOnRow(99);
+    turn.touchBegan(1, 100, 10);
+    turn.touchMoved(14, 10.1); // 80 points, after the slop of 6.
+    // Two rows beyond the end of 216 points: (1 − 1 / (0.55 · 80 / 216 + 1)) · 216 = 36.55 points.
+    EXPECT_NEAR(turn.offset() * 40, 36.553846, 1e-6);
+    turn.setRows_height_extent(102, 40, 216, 99);
+    EXPECT_DOUBLE_EQ(turn.offset(), 2);
+    EXPECT_EQ(turn.landingRow(), 101);
+}
+
+TEST_F(UIPickerTurnSteps, a_movement_that_is_told_only_with_the_release_turns) {
+    turn.touchBegan(1, 100, 10);
+    turn.touchEnded(53, 12, std::nullopt); // 47 points less the slop of 6, long after it came down: no speed.
+    EXPECT_EQ(turn.state(), State::Gliding);
+    EXPECT_EQ(turn.landingRow(), 51);
+    turn.settle();
+    turn.takeLanding();
+    turn.touchBegan(1, 100, 20);
+    turn.touchEnded(94, 22, std::nullopt);
+    EXPECT_EQ(turn.state(), State::AtRest) << "within the slop it is none";
+}
+
+TEST_F(UIPickerTurnSteps, settling_under_a_finger_that_turned_nothing_reports_nothing) {
+    turn.touchBegan(1, 100, 10);
+    turn.settle();
+    EXPECT_EQ(turn.state(), State::AtRest);
+    EXPECT_EQ(turn.takeLanding(), std::nullopt);
+    turn.turnToRow(60);
+    turn.advanceToTime(20);
+    turn.advanceToTime(20.15);
+    // Half the time leaves an eighth of the way: 1.25 rows before row 60.
+    turn.touchBegan(1, 100, 20.15);
+    turn.settle();
+    EXPECT_EQ(turn.takeLanding(), 59) << "one that stopped a turn reports where it stopped it";
 }

@@ -20,16 +20,31 @@ TEST(UIPickerTyping, every_minus_is_one) {
     EXPECT_EQ(UIPickerTyping::readableForm("-4"), U"-4");
     EXPECT_EQ(UIPickerTyping::readableForm("\u22124"), U"-4");
     EXPECT_EQ(UIPickerTyping::readableForm("\u20134"), U"-4");
+    EXPECT_EQ(UIPickerTyping::readableForm("\u2010\u2013\uFE63\uFF0D"), U"----") << "the hyphen, and those of small and full width";
+    EXPECT_EQ(UIPickerTyping::readableForm("\u200B\u2014"), U"\u200B\u2014") << "one beside them is none";
 }
 
 TEST(UIPickerTyping, every_separator_is_a_dot) { EXPECT_EQ(UIPickerTyping::readableForm("5,5.5٫5"), U"5.5.5.5"); }
 
+TEST(UIPickerTyping, so_are_those_of_full_width) { EXPECT_EQ(UIPickerTyping::readableForm("5\uFF0C5\uFF0E5"), U"5.5.5"); }
+
 TEST(UIPickerTyping, letters_are_small) { EXPECT_EQ(UIPickerTyping::readableForm("KmÀÖßΣЯЁ"), U"kmàößσяё"); }
+
+TEST(UIPickerTyping, letters_at_the_ends_of_their_alphabets_are_small_too_and_what_lies_beside_them_stays) {
+    EXPECT_EQ(UIPickerTyping::readableForm("AZ@["), U"az@[");
+    EXPECT_EQ(UIPickerTyping::readableForm("ÀÞ\u00BF×ß"), U"àþ\u00BF×ß") << "the sign for times lies among them";
+    EXPECT_EQ(UIPickerTyping::readableForm("ΑΩ\u0390\u03AA"), U"αω\u0390\u03AA");
+    EXPECT_EQ(UIPickerTyping::readableForm("ЀЏАЯ\u03FFа"), U"ѐџая\u03FFа");
+}
 
 TEST(UIPickerTyping, blanks_around_a_text_and_marks_of_direction_are_left_out) {
     EXPECT_EQ(UIPickerTyping::readableForm("  fl oz\u00A0"), U"fl oz");
     EXPECT_EQ(UIPickerTyping::readableForm("\u200E\u06614\u061C"), U"14");
     EXPECT_EQ(UIPickerTyping::readableForm("   "), U"");
+    EXPECT_EQ(UIPickerTyping::readableForm("\t\r4\u202F\n"), U"4");
+    EXPECT_EQ(UIPickerTyping::readableForm("\b4\x0E"), U"\b4\x0E") << "one beside tab and return is no blank";
+    EXPECT_EQ(UIPickerTyping::readableForm("\u200F\u202A4\u202E\u2066\u2069"), U"4");
+    EXPECT_EQ(UIPickerTyping::readableForm("\u20294\u2065\u206A"), U"\u20294\u2065\u206A") << "and one beside the marks is none";
 }
 
 TEST(UIPickerTyping, bytes_that_are_no_text_are_left_out) {

@@ -15,7 +15,11 @@ public:
     std::optional<std::string> name;
     std::optional<std::string> value;
     Ref<UIView> view;
+    Ref<NSAttributedString> attributed;
 
+    Ref<NSAttributedString> pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) override {
+        return attributed;
+    }
     std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) override {
         return name ? std::optional(*name + " " + std::to_string(component)) : std::nullopt;
     }
@@ -108,6 +112,9 @@ TEST_F(WheelAccessibilityInWindow, ARowThatIsOutOfSightIsReadByItsTitle) {
     window.run(0.3);
     ASSERT_FALSE(wheel->viewForRow_forComponent(0, 0)) << "it should have spun further";
     EXPECT_EQ(element()->value(), "0") << "the row reported";
+    source->attributed = NSAttributedString::attributedStringWithString_attributes("rich", {});
+    EXPECT_EQ(element()->value(), "rich") << "an attributed title goes before a plain one";
+    source->attributed = nullptr;
     EXPECT_EQ(element()->index(), 0);
     window.runUntilStill();
 }
@@ -234,6 +241,8 @@ TEST_F(WheelAccessibilityInWindow, WhoIsToldOfATypedNumberMayTakeTheColumnAway) 
 }
 
 TEST_F(WheelAccessibility, WithoutAWindowATurnArrivesAtOnce) {
+    element()->decrement();
+    EXPECT_EQ(source->notices, Notices{}) << "at the end there is nothing to turn";
     element()->increment();
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));
     element()->setIndex(5);
@@ -256,6 +265,7 @@ TEST_F(WheelAccessibility, AColumnThatAReloadTakesAwayIsGoneUntilItComesBack) {
     source->rows = {100};
     wheel->reloadAllComponents();
     EXPECT_FALSE(second->exists());
+    EXPECT_FALSE(second->isEnabled());
     EXPECT_EQ(second->label(), std::nullopt);
     EXPECT_EQ(second->value(), std::nullopt);
     EXPECT_EQ(second->index(), std::nullopt);
@@ -270,6 +280,23 @@ TEST_F(WheelAccessibility, AColumnThatAReloadTakesAwayIsGoneUntilItComesBack) {
     EXPECT_EQ(second->count(), 7);
 }
 
+TEST_F(WheelAccessibility, AHiddenWheelsColumnsAreNowhere) {
+    const auto column = element();
+    wheel->setHidden(true);
+    EXPECT_FALSE(column->exists());
+    EXPECT_TRUE(CGRectIsNull(column->frame()));
+    EXPECT_FALSE(column->isEnabled());
+}
+
+TEST_F(WheelAccessibility, WithoutItsDelegateAColumnHasTheWheelsLabelAndNoValue) {
+    const auto column = element();
+    wheel->setAccessibilityLabel("Number");
+    source = nullptr;
+    EXPECT_EQ(column->label(), "Number");
+    EXPECT_EQ(column->value(), std::nullopt);
+    EXPECT_EQ(column->index(), 0) << "it stands where it stood";
+}
+
 TEST_F(WheelAccessibility, WhoIsToldOfATurnMayDropTheWheel) {
     const auto column = element();
     source->whenTold = [this](NSInteger, NSInteger) { wheel.reset(); };
@@ -277,6 +304,12 @@ TEST_F(WheelAccessibility, WhoIsToldOfATurnMayDropTheWheel) {
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));
     EXPECT_FALSE(wheel);
     EXPECT_FALSE(column->exists());
+    EXPECT_FALSE(column->isEnabled());
+    EXPECT_EQ(column->label(), std::nullopt);
+    EXPECT_EQ(column->value(), std::nullopt);
+    EXPECT_EQ(column->index(), std::nullopt);
+    EXPECT_EQ(column->count(), 0);
+    EXPECT_TRUE(CGRectIsNull(column->frame()));
     column->increment();
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));
 }

@@ -167,6 +167,27 @@ TEST_F(Keys, keys_tick_for_each_row) {
     window->setHost(nullptr);
 }
 
+TEST_F(Keys, a_host_may_take_the_wheel_away_with_a_tick) {
+    struct Host : UIWindowHost {
+        explicit Host(Ref<UIPickerView> wheel) : wheel_(std::move(wheel)) {}
+        void windowNeedsFrame() override {}
+        void wheelDidTick() override {
+            ++ticks;
+            wheel_->removeFromSuperview();
+        }
+        int ticks = 0;
+
+    private:
+        Ref<UIPickerView> wheel_;
+    } host(wheel);
+    window->setHost(&host);
+    window.press(Code::End); // Several rows pass in a frame.
+    window.runUntilStill();
+    EXPECT_EQ(host.ticks, 1);
+    EXPECT_EQ(source->notices, (Notices{{99, 0}})) << "without a window it arrives";
+    window->setHost(nullptr);
+}
+
 // Columns
 
 TEST_F(Keys, left_and_right_choose_the_column) {
@@ -228,6 +249,10 @@ TEST_F(Keys, a_wheel_that_nobody_can_turn_takes_no_focus) {
     wheel->reloadAllComponents();
     EXPECT_TRUE(wheel->becomeFirstResponder());
     EXPECT_EQ(wheel->componentOfKeys(), 1);
+    const auto unseen = create<UIPickerView>(CGRectZero);
+    unseen->setDataSource(source);
+    EXPECT_EQ(unseen->numberOfRowsInComponent(1), 2);
+    EXPECT_FALSE(unseen->canBecomeFirstResponder()) << "nor does one that has no room for columns";
 }
 
 TEST_F(Keys, a_touch_gives_the_focus_without_its_mark) {
@@ -259,6 +284,29 @@ TEST_F(Keys, the_chosen_column_is_marked_within_the_band_once_a_key_is_used) {
                               "fill 170.5 126 64 2 with 1 0 0 1 rounded 1"}));
     window->setReceivesKeys(false);
     EXPECT_EQ(marks(), Calls{});
+    window->setReceivesKeys(true);
+    source->width = 16;
+    wheel->reloadAllComponents();
+    window.tick(0);
+    // The second column lies from 162.5 to 178.5: its corners leave no room for bars.
+    EXPECT_EQ(marks(), (Calls{"fill 162.5 88 16 40 with 1 0 0 0.14 rounded 8"}));
+    source->rows = {0, 0};
+    wheel->reloadAllComponents();
+    window.tick(0);
+    EXPECT_EQ(marks(), Calls{}) << "no column is left to turn";
+    source->rows = {100, 100};
+    wheel->reloadAllComponents();
+    window.tick(0);
+    EXPECT_NE(marks(), Calls{});
+    class Field : public UIView {
+    public:
+        bool canBecomeFirstResponder() override { return true; }
+    };
+    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    window->addSubview(field);
+    field->becomeFirstResponder();
+    EXPECT_TRUE(window->showsFocus());
+    EXPECT_EQ(marks(), Calls{}) << "the keys go elsewhere";
 }
 
 // Typed characters
@@ -363,6 +411,37 @@ TEST_F(Keys, a_character_that_spells_nothing_leaves_the_wheel) {
     window.run(2);
     EXPECT_EQ(source->notices, Notices{});
     EXPECT_EQ(wheel->rowInBandOfComponent(0), 50);
+}
+
+TEST_F(Keys, blanks_alone_spell_nothing_and_are_left_to_others) {
+    struct Taker : UIView {
+        bool keyPressed(const UIKey&) override { return true; }
+    };
+    EXPECT_FALSE(window.typeCharacter(" "));
+    const auto taker = create<Taker>(wheel->frame());
+    window->addSubview(taker);
+    taker->addSubview(wheel);
+    wheel->becomeFirstResponder();
+    EXPECT_TRUE(window.typeCharacter(" ")) << "who is above has taken it";
+    EXPECT_TRUE(window.typeCharacter(" 7"));
+    EXPECT_EQ(wheel->rowInBandOfComponent(0), 0) << "it is on its way";
+    window.runUntilStill();
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 7);
+}
+
+TEST_F(Keys, a_number_for_one_column_leaves_another_to_the_finger_on_it) {
+    window.down({202, 108});
+    window.glide({202, 108}, {202, 62}, 10); // 46 points less the slop: one row.
+    window.press(Code::Left);
+    window.typeCharacter("7");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices.size(), 1U) << "of the number, once it is complete";
+    EXPECT_EQ(wheel->rowInBandOfComponent(1), 1) << "still where the finger has it";
+    window.run(0.2);
+    window.up({202, 62});
+    window.runUntilStill();
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 7);
+    EXPECT_EQ(wheel->selectedRowInComponent(1), 1);
 }
 
 TEST_F(Keys, a_character_that_does_not_go_on_begins_anew) {
@@ -500,6 +579,48 @@ TEST_F(Keys, the_delegate_may_change_everything_while_its_titles_are_read) {
     EXPECT_TRUE(window.typeCharacter("4"));
     window.runUntilStill();
     EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(Keys, characters_after_the_one_that_took_the_columns_away_spell_nothing) {
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    window.tick(0);
+    source->title = [this](NSInteger row, NSInteger) {
+        source->rows = {};
+        wheel->reloadAllComponents();
+        return std::to_string(row);
+    };
+    window.typeCharacter("42");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, Notices{});
+}
+
+TEST_F(Keys, a_character_whose_neighbours_take_its_column_away_spells_nothing) {
+    for (const std::vector<NSInteger>& left : {std::vector<NSInteger>{}, std::vector<NSInteger>{0, 100}}) {
+        source->rows = {100, 100};
+        source->whenTold = nullptr;
+        wheel->reloadAllComponents();
+        stand(0);
+        stand(0, 1);
+        source->notices.clear();
+        EXPECT_TRUE(window.scrollNotches({202, 108}, 1)); // The second column turns …
+        source->whenTold = [&](NSInteger, NSInteger) {
+            source->rows = left; // … and its report takes away the one that is typed into.
+            wheel->reloadAllComponents();
+        };
+        EXPECT_TRUE(window.typeCharacter("7"));
+        window.runUntilStill();
+        EXPECT_EQ(source->notices, (Notices{{1, 1}}));
+    }
+}
+
+TEST_F(Keys, without_a_delegate_there_are_no_titles_to_spell) {
+    auto other = create<WheelSource>();
+    wheel->setDelegate(other);
+    window.tick(0);
+    other = nullptr;
+    EXPECT_TRUE(window.typeCharacter("7"));
+    window.runUntilStill();
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 0);
 }
 
 TEST_F(Keys, the_delegate_may_drop_the_wheel_while_it_hears_of_a_number) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 #include <utility>
 
 #include "TestWindow.h"
@@ -210,6 +211,32 @@ TEST_F(Wheel, WithoutBoundsThereAreNoViewsAndNoRowSize) {
     EXPECT_EQ(wheel->numberOfRowsInComponent(0), 100) << "counts need no bounds";
     wheel->setFrame(CGRectMake(0, 0, 320, 216));
     EXPECT_TRUE(wheel->viewForRow_forComponent(0, 0));
+    constexpr CGFloat infinity = std::numeric_limits<CGFloat>::infinity();
+    for (const CGSize size : {CGSizeMake(infinity, 216), CGSizeMake(320, infinity)}) {
+        wheel->setFrame({{0, 0}, size});
+        EXPECT_EQ(wheel->rowSizeForComponent(0), CGSizeMake(0, 0)) << "nor with bounds that have no end";
+    }
+}
+
+TEST_F(Wheel, AComponentThatDoesNotExistHasNoRowSize) {
+    EXPECT_EQ(wheel->rowSizeForComponent(0), CGSizeMake(80, 40));
+    EXPECT_EQ(wheel->rowSizeForComponent(1), CGSizeMake(0, 0));
+    EXPECT_EQ(wheel->rowSizeForComponent(-1), CGSizeMake(0, 0));
+}
+
+TEST_F(Wheel, TheSameBoundsAskNothingAnew) {
+    wheel->layoutIfNeeded();
+    source->forget();
+    wheel->setBounds(wheel->bounds());
+    wheel->layoutIfNeeded();
+    EXPECT_EQ(source->questions(), 0);
+}
+
+TEST_F(Wheel, BeforeItsFirstLayoutAnAnimatedRequestArrivesAtOnce) {
+    const auto window = create<UIWindow>(wheel->frame());
+    window->addSubview(wheel);
+    wheel->selectRow_inComponent_animated(50, 0, true);
+    EXPECT_EQ(wheel->rowInBandOfComponent(0), 50) << "there is no column yet that could move";
 }
 
 // What the delegate gives
@@ -266,6 +293,23 @@ TEST_F(RichWheel, AViewGoesBeforeTitlesAndComesBackForReuse) {
     EXPECT_NE(std::find(source->offered.begin(), source->offered.end(), first), source->offered.end());
 }
 
+TEST_F(RichWheel, ADelegateMayGiveAnotherViewThanTheOneOffered) {
+    struct Wasteful : WheelSource {
+        std::map<NSInteger, Ref<UIView>> given;
+        Ref<UIView> pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>&, NSInteger row, NSInteger,
+                                                                   const Ref<UIView>&) override {
+            return given[row] = create<UIView>(CGRectZero);
+        }
+    };
+    const auto wasteful = create<Wasteful>();
+    wheel->setDelegate(wasteful);
+    for (int i = 0; i < 5; ++i) {
+        wheel->reloadAllComponents();
+        EXPECT_EQ(wheel->viewForRow_forComponent(0, 0), wasteful->given[0]);
+    }
+    EXPECT_LE(viewsBelow(*wheel), 1 + wasteful->given.size() + 2) << "the column, its rows, and two views that wait";
+}
+
 TEST_F(RichWheel, OneDelegatesViewsAreNotOfferedToAnother) {
     source->givesViews = true;
     wheel->layoutIfNeeded();
@@ -299,6 +343,18 @@ TEST_F(RichWheel, AViewSharedByRowsStaysWhenOneOfThemLeavesSight) {
     source->fixedView = nullptr;
 }
 
+TEST_F(RichWheel, AViewSharedByRowsStaysWhenSeveralOfThemLeaveSight) {
+    source->fixedView = create<UIView>(CGRectZero);
+    wheel->reloadAllComponents();
+    wheel->selectRow_inComponent_animated(50, 0, false);
+    wheel->layoutIfNeeded();
+    wheel->setFrame(CGRectMake(0, 0, 320, 20)); // Of seven rows or so, more leave than there are views that wait.
+    wheel->layoutIfNeeded();
+    ASSERT_TRUE(source->fixedView->superview());
+    EXPECT_EQ(source->fixedView->superview()->superview(), wheel);
+    source->fixedView = nullptr;
+}
+
 TEST_F(RichWheel, ADelegateReplacedWhileItMakesAViewHasMadeItForNobody) {
     struct Leaver : RichSource {
         Ref<RichSource> successor;
@@ -323,6 +379,14 @@ TEST_F(RichWheel, ADelegateReplacedWhileItMakesAViewHasMadeItForNobody) {
         EXPECT_EQ(std::count(source->offered.begin(), source->offered.end(), view), 0);
         EXPECT_FALSE(view->superview());
     }
+    EXPECT_EQ(wheel->viewForRow_forComponent(1, 0)->tag(), 1);
+    const auto another = create<RichSource>();
+    another->givesViews = true;
+    leaver->successor = another;
+    wheel->setDelegate(leaver); // Which leaves before any row has a view.
+    for (int i = 0; i < 3; ++i) wheel->layoutIfNeeded();
+    EXPECT_FALSE(leaver->made.back()->superview());
+    EXPECT_EQ(wheel->delegate().lock(), another);
     EXPECT_EQ(wheel->viewForRow_forComponent(1, 0)->tag(), 1);
 }
 
@@ -471,6 +535,84 @@ TEST_F(Wheel, ADataSourceThatAsksBackOrOrdersWhileItIsAskedIsAnswered) {
         window.drag({160, 108}, {160, 20}, 3);
     }
     EXPECT_GE(meddled->selectedRowInComponent(0), 0);
+}
+
+TEST_F(Wheel, WhoReloadsAndAsksBackHearsTheLastAnswer) {
+    struct Asker : WheelSource {
+        std::vector<NSInteger> counts;
+        std::vector<CGFloat> widths;
+        NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& wheel) override {
+            wheel->reloadAllComponents();
+            if (counts.size() < 2) counts.push_back(wheel->numberOfComponents());
+            return WheelSource::numberOfComponentsInPickerView(wheel);
+        }
+        CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& wheel, NSInteger component) override {
+            wheel->reloadAllComponents();
+            if (widths.size() < 2) widths.push_back(wheel->rowSizeForComponent(component).width);
+            return WheelSource::pickerView_widthForComponent(wheel, component);
+        }
+    };
+    const auto asker = create<Asker>();
+    const auto asked = wheelWithSource(asker);
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(asked->rowSizeForComponent(0).width, 80);
+    EXPECT_EQ(asker->counts, (std::vector<NSInteger>{0, 1}));
+    EXPECT_EQ(asker->widths, (std::vector<CGFloat>{320, 80})) << "before the first answer its share of the wheel";
+}
+
+TEST_F(Wheel, AnAnswerThatTakesTheColumnsAwayEndsTheRequestAndTheQuestion) {
+    struct Vanishing : WheelSource {
+        bool vanishes = false;
+        void vanish(const Ref<UIPickerView>& wheel) {
+            if (!vanishes) return;
+            rows = {};
+            wheel->reloadAllComponents();
+        }
+        NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& wheel, NSInteger component) override {
+            const NSInteger answer = WheelSource::pickerView_numberOfRowsInComponent(wheel, component);
+            vanish(wheel);
+            return answer;
+        }
+        CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& wheel, NSInteger component) override {
+            vanish(wheel);
+            return WheelSource::pickerView_widthForComponent(wheel, component);
+        }
+    };
+    const auto vanishing = create<Vanishing>();
+    const auto vanished = wheelWithSource(vanishing);
+    vanishing->vanishes = true;
+    vanished->selectRow_inComponent_animated(5, 0, false);
+    vanishing->vanishes = false;
+    vanishing->rows = {100};
+    vanished->reloadAllComponents();
+    EXPECT_EQ(vanished->selectedRowInComponent(0), 0) << "a request for a column that was gone";
+    vanished->reloadAllComponents();
+    vanishing->vanishes = true;
+    EXPECT_EQ(vanished->rowSizeForComponent(0), CGSizeMake(0, 0));
+}
+
+TEST_F(Wheel, ADelegateThatTakesAColumnAwayWhileItGivesItsRowsIsAskedForNoMore) {
+    NSInteger asked = 0;
+    source->rows = {100, 100};
+    source->title = [this, &asked](NSInteger row, NSInteger component) {
+        if (component == 1) {
+            ++asked;
+            source->rows = {100};
+            wheel->reloadAllComponents();
+            wheel->numberOfComponents();
+        }
+        return std::to_string(row);
+    };
+    wheel->reloadAllComponents();
+    wheel->layoutIfNeeded();
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(wheel->viewForRow_forComponent(0, 0));
+    EXPECT_FALSE(wheel->viewForRow_forComponent(0, 1));
+}
+
+TEST_F(Wheel, ADataSourceThatDiesUnnoticedHasNoRows) {
+    EXPECT_EQ(wheel->numberOfComponents(), 1);
+    source = nullptr;
+    EXPECT_EQ(wheel->numberOfRowsInComponent(0), 0);
 }
 
 TEST_F(Wheel, ADataSourceThatDiesLeavesAnEmptyWheel) {

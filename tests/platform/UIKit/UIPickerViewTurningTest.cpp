@@ -308,6 +308,17 @@ TEST_F(Turning, AReloadThatLeavesNoRowsEndsTheTurnSilently) {
     EXPECT_EQ(source->notices, Notices{});
 }
 
+TEST_F(Turning, ColumnsThatAreNotLaidOutYetLeaveTheOthersTheirTurn) {
+    window.fling(centre, {160, 8}, 10);
+    window.run(0.1);
+    source->rows = {100, 100};
+    wheel->reloadAllComponents();
+    wheel->setFrame(CGRectMake(120, 0, 0, 216)); // Without room the new column is not laid out …
+    EXPECT_EQ(wheel->numberOfComponents(), 2);   // … but counted.
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{10, 0}}));
+}
+
 TEST_F(Turning, OneNotchIsOneRow) {
     EXPECT_TRUE(window.scrollNotches(centre, 1));
     EXPECT_EQ(source->notices, Notices{});

@@ -183,3 +183,17 @@ TEST(UIScrollMotion, AStartThatLiesMoreThanASecondAfterAFrameIsThatFrame) {
     EXPECT_NEAR(seen.positionAt(8.65), 9, 1e-9);
     EXPECT_TRUE(seen.isOverAt(8.8001));
 }
+
+TEST(UIScrollMotion, ABandWithoutRoomOrPullShowsNothing) {
+    EXPECT_EQ(UIScrollMotion::rubberBandInverse(5, 0), 0);
+    EXPECT_EQ(UIScrollMotion::rubberBandInverse(0, 216), 0);
+    EXPECT_EQ(UIScrollMotion::rubberBandInverse(-5, 216), 0);
+    EXPECT_EQ(UIScrollMotion::rubberBand(5, 0), 0);
+    EXPECT_EQ(UIScrollMotion::rubberBand(-5, 216), 0);
+}
+
+TEST(UIScrollMotion, BeforeItBeginsItStandsAtItsStart) {
+    const UIScrollMotion motion = UIScrollMotion::ease(3, 0, 0.3, std::nullopt);
+    EXPECT_EQ(motion.positionAt(1000), 3);
+    EXPECT_FALSE(motion.isOverAt(1000));
+}

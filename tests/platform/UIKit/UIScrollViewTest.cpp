@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 #include "RecordingCanvas.h"
@@ -18,12 +19,16 @@ public:
     int drags = 0;
     int presses = 0;
     std::vector<bool> taps;
+    std::function<void()> whenPressEnds;
 
 protected:
     void scrollViewDidScroll() override { ++moves; }
     void scrollViewWillBeginDragging() override { ++drags; }
     void pressBegan(CGPoint, NSTimeInterval) override { ++presses; }
-    void pressEnded(bool isTap, NSTimeInterval) override { taps.push_back(isTap); }
+    void pressEnded(bool isTap, NSTimeInterval) override {
+        taps.push_back(isTap);
+        if (whenPressEnds) whenPressEnds();
+    }
 };
 
 /// 300 by 400 points that show 1000: the highest offset is 600.
@@ -99,6 +104,7 @@ TEST_F(Scrolling, places_and_sizes_that_are_no_numbers_are_ignored) {
         scroll->setContentSize({300, bad});
         scroll->setContentSize({bad, 300});
         scroll->scrollRectToVisible_animated(CGRectMake(0, bad, 10, 10), false);
+        scroll->scrollRectToVisible_animated(CGRectMake(0, 500, 10, bad), false);
         scroll->setBounds(CGRectMake(0, bad, 300, 400));
         EXPECT_TRUE(window.scrollPoints(middle, bad));
         EXPECT_TRUE(window.scrollNotches(middle, bad));
@@ -602,4 +608,77 @@ TEST(UIScrollView, who_hears_of_scrolling_may_drop_the_view_while_it_takes_new_b
     view->whenScrolled = [&view] { view = nullptr; };
     view->setBounds(CGRectMake(0, 100, 300, 400)); // Of which 600 are the end, so that it scrolls twice.
     EXPECT_TRUE(isGone);
+}
+
+TEST_F(Scrolling, a_finger_that_stops_a_swing_before_the_start_pulls_on_from_there) {
+    setOffset(100);
+    window.fling({150, 200}, {150, 300}, 2);
+    while (offset() >= 0) window.tick(TestWindow::frame);
+    const CGFloat beyond = offset();
+    window.down(middle);
+    window.move({150, 209}); // Beyond the slop: it pulls from here.
+    window.move({150, 210});
+    EXPECT_LT(offset(), beyond);
+    EXPECT_GT(offset(), beyond - 1) << "by less than the finger, and without a jump";
+    window.run(0.2);
+    window.up({150, 210});
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 0);
+}
+
+TEST_F(Scrolling, more_content_lets_a_movement_go_on) {
+    scroll->setContentOffset_animated({0, 600}, true);
+    window.tick(TestWindow::frame);
+    window.run(0.15);
+    scroll->setContentSize({300, 2000});
+    EXPECT_NEAR(offset(), 600 * 0.875, 1e-6) << "half the time leaves an eighth of the way";
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 600);
+}
+
+TEST_F(Scrolling, who_hears_that_a_press_has_become_a_drag_may_end_it) {
+    scroll->whenPressEnds = [this] { setOffset(300); };
+    window.down(middle);
+    window.move({150, 150});
+    EXPECT_FALSE(scroll->isDragging());
+    EXPECT_EQ(scroll->drags, 0);
+    window.move({150, 50});
+    window.up({150, 50});
+    EXPECT_EQ(offset(), 300);
+    EXPECT_EQ(scroll->taps, std::vector<bool>{false}) << "told once";
+}
+
+TEST_F(Scrolling, also_where_the_movement_is_told_only_with_the_release) {
+    scroll->whenPressEnds = [this] { setOffset(300); };
+    window.down(middle);
+    window.up({150, 100});
+    EXPECT_EQ(offset(), 300);
+    EXPECT_EQ(scroll->drags, 0);
+    EXPECT_EQ(scroll->taps, std::vector<bool>{false});
+}
+
+TEST_F(Scrolling, under_a_finger_keys_are_of_use_but_move_nothing) {
+    class Field : public UIView {
+    public:
+        bool canBecomeFirstResponder() override { return true; }
+    };
+    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    content->addSubview(field);
+    field->becomeFirstResponder();
+    window.down(middle);
+    EXPECT_TRUE(window.press(UIKey::Code::Down));
+    EXPECT_EQ(offset(), 0);
+    window.up(middle);
+    EXPECT_TRUE(window.press(UIKey::Code::Down));
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 48);
+}
+
+TEST_F(Scrolling, a_finger_that_comes_down_anew_has_ended_its_press_without_a_tap) {
+    // As from a view that hands touches up by itself; a window would have cancelled the first one.
+    scroll->touchBegan({1, window.now, middle});
+    scroll->touchBegan({1, window.now, middle});
+    scroll->touchBegan({1, window.now, {150, notANumber}});
+    EXPECT_EQ(scroll->presses, 2);
+    EXPECT_EQ(scroll->taps, std::vector<bool>{false});
 }

@@ -91,9 +91,11 @@ TEST(UITableViewCell, is_restored_from_a_coder) {
     EXPECT_EQ(cell->style(), UITableViewCellStyleValue1);
     EXPECT_EQ(cell->reuseIdentifier(), "row");
 
-    const auto empty = create<UITableViewCell>(create<NSCoder>());
-    EXPECT_EQ(empty->style(), UITableViewCellStyleDefault);
-    EXPECT_EQ(empty->reuseIdentifier(), std::nullopt);
+    for (const auto& empty : {create<UITableViewCell>(create<NSCoder>()), create<UITableViewCell>(Ref<NSCoder>())}) {
+        EXPECT_EQ(empty->style(), UITableViewCellStyleDefault);
+        EXPECT_EQ(empty->reuseIdentifier(), std::nullopt);
+        EXPECT_TRUE(empty->contentView());
+    }
     coder->encodeInteger_forKey(7, "style");
     EXPECT_EQ(create<UITableViewCell>(coder)->style(), UITableViewCellStyleDefault);
 }

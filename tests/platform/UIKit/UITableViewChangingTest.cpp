@@ -339,7 +339,36 @@ TEST(UITableViewChange, tells_what_rows_become) {
     EXPECT_EQ(out->pathAfter({0, 2}), std::nullopt);
     EXPECT_EQ(out->pathAfter({0, 4}), Path({0, 2}));
     EXPECT_EQ(out->pathAfter({1, 1}), Path({1, 1}));
+    EXPECT_EQ(out->spanOfRemovedRow({0, 1}).height, 0) << "this one stays";
+    EXPECT_EQ(out->spanOfRemovedRow({1, 1}).height, 0);
     EXPECT_FALSE(UITableViewChange::change(UITableViewChange::Kind::Removal, paths, few, more));
+}
+
+TEST(UITableViewChange, is_none_where_sections_come_or_paths_lie_beyond_them) {
+    UITableViewRows one;
+    one.addSection(std::nullopt, 0, 3, 44);
+    UITableViewRows two = one;
+    two.addSection(std::nullopt, 0, 1, 44);
+    const auto insertion = UITableViewChange::Kind::Insertion;
+    EXPECT_FALSE(UITableViewChange::change(insertion, {{1, 0}}, one, two));
+    EXPECT_FALSE(UITableViewChange::change(insertion, {{1, 0}}, one, one));
+    const auto nothing = UITableViewChange::change(insertion, {}, one, one);
+    ASSERT_TRUE(nothing) << "of no rows it is one that changes nothing";
+    EXPECT_EQ(nothing->reach(), 0);
+    EXPECT_EQ(nothing->pathAfter({0, 2}), Path({0, 2}));
+}
+
+TEST(UITableViewChange, leaves_the_sections_above_alone) {
+    UITableViewRows before;
+    before.addSection(std::nullopt, 0, 3, 44);
+    before.addSection(std::nullopt, 0, 0, 44);
+    UITableViewRows after;
+    after.addSection(std::nullopt, 0, 3, 44);
+    after.addSection(std::nullopt, 0, 1, 44);
+    const auto change = UITableViewChange::change(UITableViewChange::Kind::Insertion, {{1, 0}}, before, after);
+    ASSERT_TRUE(change);
+    EXPECT_EQ(change->pathAfter({0, 0}), Path({0, 0}));
+    EXPECT_EQ(change->pathAfter({0, 2}), Path({0, 2}));
 }
 
 TEST_F(Changing, headers_below_an_insertion_are_drawn_on_their_way_too) {
@@ -355,4 +384,120 @@ TEST_F(Changing, headers_below_an_insertion_are_drawn_on_their_way_too) {
     EXPECT_NEAR(drawn()["header"].baseline, before + 38.5, 1e-6) << "seven eighths of 44";
     window.runUntilStill();
     EXPECT_EQ(drawn()["header"].baseline, before + 44);
+}
+
+TEST_F(Changing, more_rows_than_are_in_sight_come_at_once) {
+    const auto insertMany = [this](std::size_t many) {
+        Paths paths;
+        names.insert(names.begin(), many, "new");
+        count();
+        for (NSInteger row = 0; row < static_cast<NSInteger>(many); ++row) paths.push_back({0, row});
+        table->insertRowsAtIndexPaths_animated(paths, true);
+        window.tick(0);
+        return window.tick(TestWindow::frame);
+    };
+    EXPECT_TRUE(insertMany(10)) << "440 points move";
+    window.runUntilStill();
+    EXPECT_FALSE(insertMany(11)) << "484 do not";
+}
+
+TEST_F(Changing, rows_without_cells_come_and_go_as_gaps) {
+    source->cell = [this](const Ref<UITableView>& view, NSIndexPath path) -> Ref<UITableViewCell> {
+        const std::string& name = names[static_cast<std::size_t>(path.row)];
+        if (name == "gap") return nullptr;
+        auto cell = view->dequeueReusableCellWithIdentifier("row");
+        cell->textLabel()->setText(name);
+        return cell;
+    };
+    insert(1, "gap");
+    runHalf();
+    EXPECT_NEAR(drawn().at("b").baseline - drawn().at("a").baseline, 44 + 38.5, 1e-6) << "seven eighths of 44";
+    window.runUntilStill();
+    EXPECT_EQ(table->cellForRowAtIndexPath({0, 1}), nullptr);
+    insert(0, "new"); // The gap moves with the others.
+    window.runUntilStill();
+    EXPECT_EQ(table->cellForRowAtIndexPath({0, 2}), nullptr);
+    EXPECT_EQ(drawn().at("b").baseline - drawn().at("a").baseline, 88);
+    remove(2);
+    runHalf();
+    EXPECT_NEAR(drawn().at("b").baseline - drawn().at("a").baseline, 44 + 5.5, 1e-6);
+    window.runUntilStill();
+    EXPECT_EQ(drawn().at("b").baseline - drawn().at("a").baseline, 44);
+}
+
+namespace {
+
+/// Reloads when a cell goes.
+class Reloading : public NSObject, public UITableViewDelegate {
+public:
+    bool reloads = false;
+    void tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>& table, const Ref<UITableViewCell>&,
+                                                          NSIndexPath) override {
+        if (reloads) table->reloadData();
+    }
+};
+
+/// Does something whenever it is drawn.
+class Acting : public UITableViewCell {
+public:
+    std::function<void()> whenDrawn;
+    void drawRect(UIGraphicsContext&, CGRect) override { whenDrawn(); }
+};
+
+} // namespace
+
+TEST_F(Changing, a_reload_by_who_hears_of_the_change_before_takes_the_next_one_in) {
+    const auto delegate = create<Reloading>();
+    table->setDelegate(delegate);
+    window.tick(0);
+    remove(2);
+    delegate->reloads = true;
+    insert(0, "new"); // The removal arrives first, and its cell goes.
+    delegate->reloads = false;
+    EXPECT_EQ(shown(), "newabdefghij");
+    EXPECT_EQ(drawn().at("a").baseline, 56) << "the second row of 44 points, its text 12 below its top";
+}
+
+TEST_F(Changing, so_does_one_by_who_is_asked) {
+    source->whenAskedForCounts = [this] { table->reloadData(); };
+    insert(0, "new");
+    source->whenAskedForCounts = nullptr;
+    EXPECT_EQ(shown(), "newabcdefghi");
+    EXPECT_EQ(drawn().at("a").baseline, 56);
+}
+
+TEST_F(Changing, who_is_drawn_on_its_way_out_may_end_the_change) {
+    source->cell = [this](const Ref<UITableView>& view, NSIndexPath path) -> Ref<UITableViewCell> {
+        const std::string& name = names[static_cast<std::size_t>(path.row)];
+        if (name == "c") {
+            auto acting = create<Acting>();
+            acting->whenDrawn = [this] { table->removeFromSuperview(); };
+            return acting;
+        }
+        auto cell = view->dequeueReusableCellWithIdentifier("row");
+        cell->textLabel()->setText(name);
+        return cell;
+    };
+    table->reloadData();
+    window.tick(0);
+    remove(2);
+    runHalf();
+    drawn();
+    EXPECT_EQ(table->window(), nullptr);
+    table->layoutIfNeeded();
+    PlacingCanvas canvas;
+    table->renderInContext(canvas);
+    EXPECT_EQ(canvas.texts.at("d").baseline - canvas.texts.at("a").baseline, 88) << "it has arrived";
+}
+
+TEST_F(Changing, a_header_whose_title_a_change_takes_away_goes) {
+    source->titles = {"header"};
+    table->reloadData();
+    window.tick(0);
+    ASSERT_TRUE(drawn().contains("header"));
+    source->titles = {};
+    insert(0, "new", false);
+    window.tick(0);
+    EXPECT_FALSE(drawn().contains("header"));
+    EXPECT_EQ(drawn().at("new").baseline, 12) << "the first row has its place";
 }

@@ -176,6 +176,11 @@ TEST_F(TableKeys, page_keys_go_by_what_is_in_sight_but_one_row) {
     press(Code::Down);
     EXPECT_TRUE(press(Code::PageUp));
     EXPECT_EQ(focused(), Path({0, 0}));
+    press(Code::PageUp);
+    EXPECT_EQ(focused(), Path({0, 0})) << "the first row is the last one upwards";
+    press(Code::End);
+    press(Code::PageDown);
+    EXPECT_EQ(focused(), Path({0, 99}));
 }
 
 TEST_F(TableKeys, in_a_table_lower_than_its_rows_page_keys_still_go_on) {
@@ -216,6 +221,76 @@ TEST_F(TableKeys, beyond_the_last_row_that_can_be_tapped_up_and_down_scroll) {
     EXPECT_EQ(offset(), UIScrollView::pointsPerNotch);
 }
 
+TEST_F(TableKeys, upwards_too_and_never_beyond_where_they_started) {
+    listener->refuses = [](NSIndexPath path) { return path.row < 2; };
+    for (const Code key : {Code::Home, Code::PageUp}) {
+        window.tap({160, 44 * 5 + 22});
+        ASSERT_EQ(focused(), Path({0, 5}));
+        EXPECT_TRUE(press(key));
+        EXPECT_EQ(focused(), Path({0, 2})) << "the first one that can be tapped";
+        press(key);
+        EXPECT_EQ(focused(), Path({0, 2})) << "there is none above it";
+    }
+}
+
+TEST_F(TableKeys, nor_downwards) {
+    listener->refuses = [](NSIndexPath path) { return path.row > 97; };
+    press(Code::Tab);
+    EXPECT_TRUE(press(Code::End));
+    EXPECT_EQ(focused(), Path({0, 97})) << "the last one that can be tapped";
+    press(Code::PageDown);
+    EXPECT_EQ(focused(), Path({0, 97}));
+}
+
+TEST_F(TableKeys, a_question_that_takes_the_rows_away_leaves_nothing_to_go_to) {
+    const auto takeRows = [this] {
+        source->rows = {0};
+        table->reloadData();
+        table->numberOfSections();
+    };
+    table->becomeFirstResponder();
+    for (const Code key : {Code::Return, Code::PageDown, Code::Home}) {
+        reload({100});
+        press(Code::Down);
+        ASSERT_TRUE(focused());
+        listener->whenAsked = takeRows;
+        press(key);
+        listener->whenAsked = nullptr;
+        EXPECT_EQ(focused(), std::nullopt);
+    }
+    EXPECT_TRUE(listener->taps.empty());
+    reload({100});
+    listener->refuses = [](NSIndexPath) { return true; };
+    listener->whenAsked = takeRows;
+    EXPECT_FALSE(table->canBecomeFirstResponder());
+}
+
+TEST_F(TableKeys, a_single_row_takes_the_focus) {
+    reload({1});
+    EXPECT_TRUE(press(Code::Tab));
+    EXPECT_EQ(focused(), Path({0, 0}));
+}
+
+TEST_F(TableKeys, a_row_that_is_out_of_sight_is_tapped_and_comes_into_sight) {
+    press(Code::Tab);
+    table->setContentOffset({0, 2000});
+    window.tick(0);
+    EXPECT_TRUE(window.press(Code::Return));
+    EXPECT_EQ(listener->taps, Paths({{0, 0}}));
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 0);
+}
+
+TEST_F(TableKeys, what_lies_in_another_row_is_revealed_by_itself) {
+    press(Code::Tab);
+    table->setContentOffset({0, 440});
+    window.tick(0);
+    const auto label = table->cellForRowAtIndexPath({0, 12})->textLabel();
+    label->revealDescendant(label->bounds());
+    window.runUntilStill();
+    EXPECT_EQ(offset(), 440) << "the focused row stays out of sight";
+}
+
 TEST_F(TableKeys, a_hundred_rows_are_passed_over_and_no_more) {
     reload({1'000'000});
     NSInteger second = 101;
@@ -229,6 +304,23 @@ TEST_F(TableKeys, a_hundred_rows_are_passed_over_and_no_more) {
     press(Code::Down);
     EXPECT_EQ(focused(), Path({0, 0}));
     EXPECT_EQ(listener->questions, UITableView::highestPassedCount + 1);
+}
+
+TEST_F(TableKeys, where_no_row_can_be_tapped_any_more_the_focus_stays) {
+    press(Code::Tab);
+    listener->refuses = [](NSIndexPath) { return true; };
+    press(Code::End);
+    EXPECT_EQ(focused(), Path({0, 0}));
+}
+
+TEST_F(TableKeys, a_table_that_loses_its_rows_marks_none) {
+    reload({0});
+    const int plain = fills();
+    reload({100});
+    press(Code::Tab);
+    reload({0});
+    EXPECT_TRUE(window->showsFocus());
+    EXPECT_EQ(fills(), plain);
 }
 
 TEST_F(TableKeys, keys_ask_as_little_in_a_long_table_as_in_a_short_one) {
@@ -289,6 +381,21 @@ TEST_F(TableKeys, the_row_is_marked_from_a_key_to_a_touch) {
     window.down({160, 300});
     window.move({160, 310});
     window.up({160, 310});
+    EXPECT_EQ(fills(), plain);
+}
+
+TEST_F(TableKeys, only_where_the_keys_go_is_a_row_marked) {
+    class Field : public UIView {
+    public:
+        bool canBecomeFirstResponder() override { return true; }
+    };
+    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    const int plain = fills();
+    window->addSubview(field);
+    press(Code::Tab);
+    EXPECT_EQ(fills(), plain + 5);
+    field->becomeFirstResponder();
+    EXPECT_TRUE(window->showsFocus());
     EXPECT_EQ(fills(), plain);
 }
 

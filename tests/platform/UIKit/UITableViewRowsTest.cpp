@@ -140,3 +140,25 @@ TEST(UITableViewRows, without_height_are_passed_over_below_their_header) {
     EXPECT_EQ(rows.rowAt(10), Path());
     EXPECT_EQ(rows.rowAt(20), Path(NSIndexPath{1, 0}));
 }
+
+TEST(UITableViewRows, more_than_one_of_a_section_may) {
+    UITableViewRows rows = mixedRows();
+    rows.setHeight({0, 1}, 50);
+    rows.setHeight({0, 0}, 10);
+    EXPECT_EQ(rows.spanOfRow({0, 0}).height, 10);
+    EXPECT_EQ(rows.spanOfRow({0, 1}).top, 30);
+    EXPECT_EQ(rows.spanOfRow({0, 1}).height, 50);
+    EXPECT_EQ(rows.spanOfRow({0, 2}).height, 40);
+    EXPECT_EQ(rows.height(), 160);
+}
+
+TEST(UITableViewRows, none_may_in_a_section_too_long_for_that) {
+    UITableViewRows rows;
+    rows.addSection(std::nullopt, 0, UITableViewRows::highestHeightCount + 1, 10);
+    rows.setHeight({0, 0}, 50);
+    EXPECT_EQ(rows.spanOfRow({0, 0}).height, 10);
+    UITableViewRows shorter;
+    shorter.addSection(std::nullopt, 0, UITableViewRows::highestHeightCount, 10);
+    shorter.setHeight({0, 0}, 50);
+    EXPECT_EQ(shorter.spanOfRow({0, 0}).height, 50);
+}

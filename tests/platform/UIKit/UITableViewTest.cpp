@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "RecordingCanvas.h"
 #include "TableSource.h"
@@ -20,6 +21,7 @@ public:
     int questions = 0;
     Paths gone;
     std::function<void()> whenAsked;
+    std::function<void(const Ref<UITableViewCell>&)> whenGone;
 
     CGFloat tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) override {
         ++questions;
@@ -27,8 +29,10 @@ public:
         const auto row = static_cast<std::size_t>(path.row);
         return row < heights.size() ? heights[row] : UITableView::automaticDimension;
     }
-    void tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>&, const Ref<UITableViewCell>&, NSIndexPath path) override {
+    void tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>&, const Ref<UITableViewCell>& cell,
+                                                          NSIndexPath path) override {
         gone.push_back(path);
+        if (whenGone) whenGone(cell);
     }
 };
 
@@ -195,6 +199,13 @@ TEST_F(Table, headers_scroll_with_the_content) {
     EXPECT_TRUE(texts().empty());
     scrollTo(28 + 20 * 44 - 439);
     EXPECT_EQ(texts(), std::vector<std::string>{"two"});
+    scrollTo(28 + 20 * 44 - 440);
+    EXPECT_TRUE(texts().empty()) << "it leaves at the bottom, too";
+    scrollTo(0);
+    source->titles = {"two"};
+    table->reloadData();
+    window.tick(0);
+    EXPECT_EQ(texts(), std::vector<std::string>{"two"}) << "a reload asks for the titles in sight, too";
 }
 
 TEST_F(Table, hairlines_lie_between_rows) {
@@ -370,6 +381,70 @@ TEST_F(Table, the_source_may_be_dropped_while_it_is_asked) {
     EXPECT_FALSE(table->cellForRowAtIndexPath({0, 1}));
 }
 
+TEST_F(Table, so_it_may_while_it_counts) {
+    source->whenAskedForCounts = [this] { source = nullptr; };
+    table->reloadData();
+    EXPECT_EQ(table->numberOfSections(), 1);
+    EXPECT_EQ(table->numberOfRowsInSection(0), 0) << "nobody is left to tell";
+}
+
+TEST_F(Table, rows_that_change_within_a_question_are_a_reload) {
+    using Change = std::function<void(NSIndexPath)>;
+    const Change reloads = [this](NSIndexPath path) { table->reloadRowsAtIndexPaths({path}); };
+    const Change inserts = [this](NSIndexPath path) { table->insertRowsAtIndexPaths_animated({path}, true); };
+    for (const Change& change : {reloads, inserts}) {
+        bool isFirst = true;
+        source->cell = [&](const Ref<UITableView>& view, NSIndexPath path) {
+            if (std::exchange(isFirst, false)) change(path);
+            return TableSource::usualCell(view, path);
+        };
+        table->reloadData();
+        source->asked.clear();
+        window.tick(0);
+        window.tick(0);
+        EXPECT_EQ(source->asked.size(), 11U) << "the first row, and then all ten anew";
+        EXPECT_EQ(textOf({0, 9}), "0.9");
+    }
+}
+
+TEST_F(Table, a_cell_that_goes_may_be_put_elsewhere) {
+    source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
+    const auto giver = create<HeightGiver>();
+    const auto elsewhere = create<UIView>();
+    table->setDelegate(giver);
+    window.tick(0);
+    giver->whenGone = [&elsewhere](const Ref<UITableViewCell>& cell) { elsewhere->addSubview(cell); };
+    const NSInteger before = cellCount();
+    scrollTo(44);
+    EXPECT_EQ(elsewhere->subviews().size(), 1U);
+    EXPECT_EQ(cellCount(), before) << "one has come for it";
+}
+
+TEST_F(Table, what_is_set_already_asks_for_nothing) {
+    const int before = source->countQuestions;
+    table->setRowHeight(UITableView::automaticDimension);
+    table->setSectionHeaderHeight(UITableView::automaticDimension);
+    table->setSeparatorColor(table->separatorColor());
+    EXPECT_FALSE(window.tick(0));
+    EXPECT_EQ(source->countQuestions, before);
+}
+
+TEST_F(Table, a_tap_that_nobody_hears_lights_its_row_all_the_same) {
+    window.tap({160, 110});
+    EXPECT_TRUE(table->cellForRowAtIndexPath({0, 2})->isHighlighted());
+}
+
+TEST_F(Table, in_a_section_too_long_for_heights_of_its_own_none_is_asked_for_when_a_row_is_shown_anew) {
+    const auto giver = create<HeightGiver>();
+    giver->heights = {100};
+    table->setDelegate(giver);
+    source->rows = {UITableViewRows::highestHeightCount + 1};
+    window.tick(0);
+    table->reloadRowsAtIndexPaths({{0, 0}});
+    EXPECT_EQ(giver->questions, 0);
+    EXPECT_EQ(table->rectForRowAtIndexPath({0, 1}), CGRectMake(0, 44, 320, 44));
+}
+
 TEST_F(Table, heights_that_call_back_hear_the_last_answers) {
     const auto giver = create<HeightGiver>();
     giver->whenAsked = [this] {
@@ -392,9 +467,12 @@ TEST_F(Table, a_huge_or_endless_frame_shows_a_bounded_number_of_rows) {
     table->setFrame(CGRectMake(0, 0, 320, 1e9));
     window.tick(0);
     EXPECT_EQ(table->indexPathsForVisibleRows().size(), 1000U);
-    table->setFrame(CGRectNull);
-    window.tick(0);
-    EXPECT_TRUE(table->indexPathsForVisibleRows().empty());
+    constexpr CGFloat infinity = std::numeric_limits<CGFloat>::infinity();
+    for (const CGRect frame : {CGRectNull, CGRectMake(0, 0, 320, infinity), CGRectMake(0, 0, infinity, 440)}) {
+        table->setFrame(frame);
+        window.tick(0);
+        EXPECT_TRUE(table->indexPathsForVisibleRows().empty());
+    }
 }
 
 TEST_F(Table, a_source_and_a_delegate_that_say_little_give_one_section_without_header) {

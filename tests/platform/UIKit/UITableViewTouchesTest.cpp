@@ -195,6 +195,40 @@ TEST_F(TableTouches, a_reload_under_a_finger_takes_its_tap) {
     EXPECT_FALSE(isLit(2));
 }
 
+TEST_F(TableTouches, so_does_a_row_that_is_shown_anew) {
+    window.down(rowTwo);
+    table->reloadRowsAtIndexPaths({{0, 1}});
+    window.up(rowTwo);
+    EXPECT_EQ(listener->taps, Paths({{0, 2}})) << "another row's does not";
+    window.down(rowTwo);
+    table->reloadRowsAtIndexPaths({{0, 2}});
+    window.up(rowTwo);
+    EXPECT_EQ(listener->taps.size(), 1U);
+}
+
+TEST_F(TableTouches, a_row_without_a_cell_can_be_tapped) {
+    source->cell = [](const Ref<UITableView>& view, NSIndexPath path) {
+        return path.row == 2 ? nullptr : TableSource::usualCell(view, path);
+    };
+    table->reloadData();
+    window.tick(0);
+    window.tap(rowTwo);
+    EXPECT_EQ(listener->taps, Paths({{0, 2}}));
+    EXPECT_FALSE(isLit(1));
+}
+
+TEST_F(TableTouches, a_lit_row_that_leaves_goes_dark) {
+    source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
+    table->reloadData();
+    window.tick(0);
+    const auto cell = table->cellForRowAtIndexPath({0, 2});
+    window.tap(rowTwo);
+    ASSERT_TRUE(cell->isHighlighted());
+    table->setContentOffset({0, 1000});
+    table->layoutIfNeeded();
+    EXPECT_FALSE(cell->isHighlighted());
+}
+
 TEST_F(TableTouches, rows_that_come_above_a_finger_leave_it_its_row) {
     window.down(rowTwo);
     source->rows = {101};
@@ -225,6 +259,19 @@ TEST_F(TableTouches, a_tap_may_reload_or_drop_the_table) {
     window.tap({160, 20});
     EXPECT_TRUE(weak.expired());
     EXPECT_EQ(listener->taps.size(), 2U);
+}
+
+TEST_F(TableTouches, a_cell_that_is_not_reused_goes_also_when_its_finger_is_cancelled) {
+    source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
+    table->reloadData();
+    window.tick(0);
+    const WeakRef<UIView> touched = table->cellForRowAtIndexPath({0, 2});
+    window.down({160, 110});
+    window.glide({160, 110}, {160, -90}, 40);
+    EXPECT_FALSE(touched.expired());
+    (*window).touchCancelled_at_time(1, window.now);
+    window.tick(0);
+    EXPECT_TRUE(touched.expired());
 }
 
 TEST_F(TableTouches, a_finger_on_a_cell_that_is_not_reused_is_followed_to_its_end) {

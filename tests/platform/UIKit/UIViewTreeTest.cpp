@@ -298,3 +298,43 @@ TEST_F(Tree, AViewMayDropItsLastReferenceWhenItLeaves) {
     EXPECT_TRUE(weak.expired());
     EXPECT_TRUE(window->subviews().empty());
 }
+
+TEST_F(Tree, AViewMayLeaveByItselfWhenItsRemovalCancelsItsFinger) {
+    struct Leaver : Mover {
+        void touchCancelled(const UITouch&) override { removeFromSuperview(); }
+    };
+    const auto window = create<UIWindow>(CGRectMake(0, 0, 100, 100));
+    const auto leaver = create<Leaver>(CGRectMake(0, 0, 100, 100));
+    window->addSubview(leaver);
+    window->touchBegan_at_time(1, {50, 50}, 0);
+    leaver->moves = 0;
+    leaver->removeFromSuperview();
+    EXPECT_EQ(leaver->superview(), nullptr);
+    EXPECT_EQ(leaver->moves, 1) << "told once";
+}
+
+TEST_F(Tree, WhoIsToldThatItDisappearsMayLeaveAndTakeOthersAlong) {
+    struct Vanishing : UIView {
+        int times = 0;
+        std::function<void()> whenGone;
+        void didDisappear() override {
+            ++times;
+            if (whenGone) whenGone();
+        }
+    };
+    const auto first = create<Vanishing>();
+    const auto second = create<Vanishing>();
+    const auto third = create<Vanishing>();
+    for (const auto& view : {first, second, third}) above->addSubview(view);
+    first->whenGone = [&first] { first->removeFromSuperview(); };
+    second->whenGone = [&third] { third->removeFromSuperview(); };
+    above->setHidden(true);
+    EXPECT_EQ(first->times, 1);
+    EXPECT_EQ(second->times, 1);
+    EXPECT_EQ(above->subviews(), (Views{second}));
+    above->setHidden(false);
+    second->whenGone = [&second] { second->removeFromSuperview(); };
+    above->setHidden(true);
+    EXPECT_EQ(second->times, 2);
+    EXPECT_TRUE(above->subviews().empty());
+}

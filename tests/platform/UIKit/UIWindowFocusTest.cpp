@@ -206,6 +206,32 @@ TEST_F(Focus, who_hears_of_it_may_pass_it_on) {
     EXPECT_TRUE(c->isFirstResponder());
 }
 
+TEST_F(Focus, who_hears_of_its_loss_may_give_it_to_another) {
+    a->becomeFirstResponder();
+    a->whenFocusChanges = [this] {
+        a->whenFocusChanges = nullptr;
+        c->becomeFirstResponder();
+    };
+    EXPECT_FALSE(b->becomeFirstResponder()) << "it has gone elsewhere";
+    EXPECT_TRUE(c->isFirstResponder());
+    EXPECT_EQ(b->log.find("gained"), std::string::npos);
+}
+
+TEST_F(Focus, tab_does_not_go_to_a_view_that_left_when_another_was_asked) {
+    struct Pusher : Field {
+        std::function<void()> whenAsked;
+        bool canBecomeFirstResponder() override {
+            whenAsked();
+            return false;
+        }
+    };
+    const auto pusher = create<Pusher>(CGRectMake(0, 0, 10, 10));
+    pusher->whenAsked = [this] { a->removeFromSuperview(); };
+    root->insertSubview_atIndex(pusher, 0);
+    EXPECT_TRUE(window.press(Code::Tab));
+    EXPECT_TRUE(b->isFirstResponder());
+}
+
 TEST_F(Focus, who_hears_of_its_loss_may_come_back_elsewhere) {
     const auto other = create<UIView>(CGRectMake(0, 0, 10, 10));
     a->whenFocusChanges = [&] {
@@ -215,4 +241,26 @@ TEST_F(Focus, who_hears_of_its_loss_may_come_back_elsewhere) {
     a->removeFromSuperview();
     EXPECT_EQ(a->superview(), other);
     EXPECT_FALSE(a->window());
+}
+
+TEST_F(Focus, tab_passes_over_a_view_that_changes_its_mind) {
+    struct Fickle : Field {
+        int questions = 0;
+        bool canBecomeFirstResponder() override { return ++questions == 1; }
+    };
+    const auto fickle = create<Fickle>(CGRectMake(0, 0, 10, 10));
+    root->insertSubview_atIndex(fickle, 0);
+    EXPECT_TRUE(window.press(Code::Tab));
+    EXPECT_TRUE(a->isFirstResponder());
+    EXPECT_GT(fickle->questions, 1);
+}
+
+TEST_F(Focus, who_has_it_hears_that_keys_come_and_go_and_only_then) {
+    window->setReceivesKeys(false); // Nobody has it yet.
+    a->becomeFirstResponder();
+    a->log.clear();
+    window->setReceivesKeys(false);
+    EXPECT_EQ(a->log, "") << "they did not come before";
+    window->setReceivesKeys(true);
+    EXPECT_EQ(a->log, "gained ");
 }
