@@ -84,6 +84,19 @@ bool UIPickerTyping::endsColumn(char32_t character) {
 void UIPickerTyping::setText_inComponent_atTime(std::u32string text, NSInteger component, NSTimeInterval time) {
     text_ = std::move(text);
     component_ = component;
+    latestComponent_ = component;
+    latest_ = time;
+}
+
+void UIPickerTyping::endTextInComponent_atTime(NSInteger component, NSTimeInterval time) {
+    clear();
+    latestComponent_ = component;
+    latest_ = time;
+}
+
+void UIPickerTyping::goBeyondColumnsAtTime(NSTimeInterval time) {
+    clear();
+    isBeyond_ = true;
     latest_ = time;
 }
 
@@ -92,6 +105,8 @@ bool UIPickerTyping::isOverAt(NSTimeInterval time) const { return !(std::fabs(ti
 void UIPickerTyping::clear() {
     text_.clear();
     component_.reset();
+    latestComponent_.reset();
+    isBeyond_ = false;
 }
 
 } // namespace gx

@@ -29,15 +29,26 @@ public:
     const std::u32string& text() const { return text_; }
     /// The text so far, which `time` has made longer.
     void setText_inComponent_atTime(std::u32string text, NSInteger component, NSTimeInterval time);
+    /// The text has become complete at `time`, with a character after which nothing could come.
+    void endTextInComponent_atTime(NSInteger component, NSTimeInterval time);
+    /// Whether the latest character was typed at the component, whether or not it has completed the text there.
+    bool hasTypedInComponent(NSInteger component) const { return latestComponent_ == component; }
+    /// Goes on beyond the last column: until a pause what is typed counts for nothing, as the seconds of 12:20:05 where there are hours and
+    /// minutes alone.
+    void goBeyondColumnsAtTime(NSTimeInterval time);
+    bool isBeyondColumns() const { return isBeyond_; }
     /// Whether the text is complete by the time: a character then begins another one. A time that is no number completes it, and so does
     /// one that lies as long before the text, by another clock.
     bool isOverAt(NSTimeInterval time) const;
+    /// Forgets all of it.
     void clear();
 
 private:
     std::optional<NSInteger> component_;
     std::u32string text_;
+    std::optional<NSInteger> latestComponent_;
     NSTimeInterval latest_ = 0;
+    bool isBeyond_ = false;
 };
 
 } // namespace gx

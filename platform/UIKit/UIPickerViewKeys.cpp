@@ -144,7 +144,8 @@ void UIPickerView::typeCharacter(char32_t character, NSTimeInterval time) {
     if (typing_.isOverAt(time)) completeTyping();
     const NSInteger present = componentOfKeys();
     if (present < 0 || at(present).turn.isHeld()) return;
-    if (typing_.component() != present) completeTyping();
+    if (typing_.isBeyondColumns()) return typing_.goBeyondColumnsAtTime(time);
+    if (!typing_.hasTypedInComponent(present)) completeTyping();
     const bool isSeparator = UIPickerTyping::endsColumn(character);
     // A title may have one of its own, as 36.5 has after 36.
     const bool isOfTitle = isSeparator && !typing_.text().empty() && rowsSpelled(typing_.text() + character, present).canGrow;
@@ -154,6 +155,10 @@ void UIPickerView::typeCharacter(char32_t character, NSTimeInterval time) {
             completeTyping();
             choose(next); // Also a column of one row: what is typed next is meant for it.
             return;
+        }
+        if (typing_.hasTypedInComponent(present)) {
+            completeTyping();
+            return typing_.goBeyondColumnsAtTime(time);
         }
     }
     // A column may offer other rows once those beside it have told of their own: so they arrive first.
@@ -170,7 +175,7 @@ void UIPickerView::typeCharacter(char32_t character, NSTimeInterval time) {
     if (found.canGrow) {
         typing_.setText_inComponent_atTime(std::move(text), component, time);
     } else {
-        typing_.clear();
+        typing_.endTextInComponent_atTime(component, time);
     }
     if (found.row) at(component).turn.turnToRow(*found.row);
     if (isMoving()) startMoving();
@@ -187,9 +192,9 @@ void UIPickerView::arriveExcept(NSInteger component) {
 }
 
 void UIPickerView::completeTyping() {
-    if (!typing_.component()) return;
+    const bool isReportDue = typing_.component().has_value();
     typing_.clear();
-    reportLandings();
+    if (isReportDue) reportLandings();
 }
 
 } // namespace gx

@@ -94,3 +94,33 @@ TEST(UIPickerTyping, a_character_told_by_another_clock_is_complete) {
     typing.setText_inComponent_atTime(U"4", 1, 10.999);
     EXPECT_FALSE(typing.isOverAt(10));
 }
+
+TEST(UIPickerTyping, it_is_known_where_was_typed_last_also_when_that_is_complete) {
+    UIPickerTyping typing;
+    EXPECT_FALSE(typing.hasTypedInComponent(0));
+    typing.setText_inComponent_atTime(U"1", 0, 10);
+    EXPECT_TRUE(typing.hasTypedInComponent(0));
+    EXPECT_FALSE(typing.hasTypedInComponent(1));
+    typing.endTextInComponent_atTime(0, 10.5);
+    EXPECT_FALSE(typing.component()) << "nothing waits";
+    EXPECT_EQ(typing.text(), U"");
+    EXPECT_TRUE(typing.hasTypedInComponent(0));
+    EXPECT_FALSE(typing.isOverAt(11.49));
+    EXPECT_TRUE(typing.isOverAt(11.5));
+    typing.clear();
+    EXPECT_FALSE(typing.hasTypedInComponent(0));
+}
+
+TEST(UIPickerTyping, beyond_the_columns_it_is_at_none_of_them) {
+    UIPickerTyping typing;
+    EXPECT_FALSE(typing.isBeyondColumns());
+    typing.setText_inComponent_atTime(U"1", 0, 10);
+    typing.goBeyondColumnsAtTime(10.5);
+    EXPECT_TRUE(typing.isBeyondColumns());
+    EXPECT_FALSE(typing.component());
+    EXPECT_FALSE(typing.hasTypedInComponent(0));
+    EXPECT_FALSE(typing.isOverAt(11.49));
+    EXPECT_TRUE(typing.isOverAt(11.5));
+    typing.clear();
+    EXPECT_FALSE(typing.isBeyondColumns());
+}

@@ -661,6 +661,45 @@ TEST_F(Keys, a_separator_typed_in_the_last_column_leaves_the_keys_there) {
     EXPECT_EQ(source->notices, (Notices{{5, 1}}));
 }
 
+TEST_F(Times, what_is_typed_beyond_the_last_column_counts_for_nothing) {
+    window.type("12:20:05");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{12, 0}, {20, 1}})) << "and not 05 minutes";
+    window.run(1);
+    window.type("07");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{12, 0}, {20, 1}, {7, 1}})) << "after a pause it is another number";
+}
+
+TEST_F(Times, so_is_what_follows_a_number_that_might_have_gone_on) {
+    window.type("12:2:05:30");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{12, 0}, {2, 1}}));
+    window.type(":30"); // The pause counts from the last character.
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{12, 0}, {2, 1}}));
+}
+
+TEST_F(Times, another_key_and_a_finger_end_what_was_typed_beyond_the_last_column) {
+    window.type("12:20:");
+    window.press(Code::Right);
+    window.type("30"); // Before the column has come to 20.
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{12, 0}, {30, 1}}));
+    window.type("40:");
+    window.tap({202, 148}); // The row below.
+    window.type("50");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices.back(), (WheelSource::Notice{50, 1}));
+}
+
+TEST_F(Keys, a_separator_that_nothing_was_typed_before_is_passed_over) {
+    window.press(Code::Right);
+    window.type(".5");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{5, 1}}));
+}
+
 TEST_F(Keys, a_host_without_clicks_turns_wheels_all_the_same) {
     struct QuietHost : UIWindowHost {
         void windowNeedsFrame() override {}
