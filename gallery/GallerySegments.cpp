@@ -92,10 +92,15 @@ CGRect GallerySegments::frameOfSegment(std::size_t index) const {
         const CGFloat width = size.width / count;
         return CGRectMake(static_cast<CGFloat>(index) * width, 0, width, size.height);
     }
-    const auto before = neededWidths_.begin() + static_cast<std::ptrdiff_t>(index);
-    const CGFloat spare = (size.width - std::accumulate(neededWidths_.begin(), neededWidths_.end(), 0.0)) / count;
-    const CGFloat x = std::accumulate(neededWidths_.begin(), before, static_cast<CGFloat>(index) * spare);
-    return CGRectMake(x, 0, *before + spare, size.height);
+    const auto needed = neededWidths_.begin() + static_cast<std::ptrdiff_t>(index);
+    const CGFloat neededByAll = std::accumulate(neededWidths_.begin(), neededWidths_.end(), 0.0);
+    const CGFloat neededBefore = std::accumulate(neededWidths_.begin(), needed, 0.0);
+    if (neededByAll > size.width) {
+        const CGFloat share = size.width / neededByAll;
+        return CGRectMake(neededBefore * share, 0, *needed * share, size.height);
+    }
+    const CGFloat spare = (size.width - neededByAll) / count;
+    return CGRectMake(neededBefore + static_cast<CGFloat>(index) * spare, 0, *needed + spare, size.height);
 }
 
 std::size_t GallerySegments::segmentAt(CGPoint point) const {

@@ -10,7 +10,7 @@
 namespace gallery {
 
 /// One of several: choices side by side, of which one is chosen. They are equally wide; where a text needs more than that, each gets what
-/// its text needs and they share the rest.
+/// its text needs and they share the rest, or, of too little room, as large a part as of what they need.
 ///
 /// Invariant: `chosen` is one of the choices, as long as there are any.
 class GallerySegments : public GalleryControl {

@@ -26,8 +26,8 @@ class QtInput;
 /// shortcuts work.
 ///
 /// Focus. Tab goes through the views that take the focus, and from the last one on to the widget that follows; who comes by Tab begins at
-/// the first view, who comes by Shift and Tab at the last. A widget that is hidden, as when its window closes, settles its wheels: their
-/// delegates hear of the rows that they were turned to.
+/// the first view, who comes by Shift and Tab at the last. A widget that is hidden, as when its window closes, settles what moves
+/// in it: delegates of wheels hear of the rows that these were turned to.
 ///
 /// Frames. Nothing runs while nothing changes. A change starts ticks at the screen's refresh rate; each tick moves the views
 /// and has the widget painted, until one finds nothing to draw. Ticks do not depend on the widget being visible.

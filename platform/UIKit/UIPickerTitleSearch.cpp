@@ -131,7 +131,7 @@ UIPickerTitleSearch::Result walk(const std::u32string& text, NSInteger count, co
         if (!beginning) beginning = row;
     }
     // A number has to be spelled to its end: with rows 10 to 19, a 1 is none of them yet.
-    const bool isOfNumber = number || text == U"-" || text == U".";
+    const bool isOfNumber = number || text == U"-" || text == U"." || text == U"-.";
     result.row = same ? same : equal ? equal : isOfNumber ? std::nullopt : beginning;
     return result;
 }

@@ -156,7 +156,8 @@ void UIPickerView::typeCharacter(char32_t character, NSTimeInterval time) {
             choose(next); // Also a column of one row: what is typed next is meant for it.
             return;
         }
-        if (typing_.hasTypedInComponent(present)) {
+        const bool isSpelled = rowsSpelled(std::u32string(1, character), present).canGrow; // As .5 begins, in a column of tenths.
+        if (typing_.hasTypedInComponent(present) && !isSpelled) {
             completeTyping();
             return typing_.goBeyondColumnsAtTime(time);
         }

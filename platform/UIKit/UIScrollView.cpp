@@ -72,7 +72,7 @@ void UIScrollView::setContentOffset_animated(CGPoint offset, bool animated) {
     if (!std::isfinite(offset.y)) return;
     const Ref<UIView> keep = refTo<UIView>(this);
     const CGFloat target = held(offset.y);
-    if (target == this->offset() && state_ == State::AtRest) return;
+    if (target == this->offset() && !UIScrollView::isMoving()) return;
     finger_.reset();
     state_ = State::AtRest;
     endPress(false, 0);

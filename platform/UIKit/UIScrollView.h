@@ -34,8 +34,9 @@ public:
     CGPoint contentOffset() const { return bounds().origin; }
     /// At once, as without animation.
     void setContentOffset(CGPoint offset);
-    /// Goes to an offset, held to what there is, also to the present one; its x counts for nothing. Ends what else moves the content; a
-    /// finger that lies there scrolls and taps no more. Without a window, animation has no clock and the content arrives at once.
+    /// Goes to an offset, held to what there is; its x counts for nothing. Ends what else moves the content; a finger that lies there
+    /// scrolls and taps no more. The present offset stops a glide and leaves a finger alone, so that who hears of scrolling may hold it to
+    /// some range. Without a window, animation has no clock and the content arrives at once.
     void setContentOffset_animated(CGPoint offset, bool animated);
     /// Scrolls just as far as shows the whole rectangle, or its top if it is higher than this view. Content on its way to where that is
     /// in sight goes on.

@@ -55,8 +55,8 @@ public:
     bool receivesKeys() const { return receivesKeys_; }
     void setReceivesKeys(bool receives);
 
-    /// Ends every movement in the window at once: wheels report the rows that they were turned to. For a window that closes or is hidden,
-    /// so that no turn is lost.
+    /// Ends every movement in the window at once: wheels report the rows that they were turned to, what scrolls is where it was heading
+    /// for. For a window that closes or is hidden, so that no turn is lost.
     void settle();
 
     /// Moves everything to `time`, lays out, and answers whether to draw (again). While something moves, the

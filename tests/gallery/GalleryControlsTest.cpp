@@ -140,7 +140,8 @@ TEST_F(GalleryControlsTest, SegmentsAreEquallyWideAsLongAsEachHasRoomForItsText)
     EXPECT_EQ(widths(312), (std::vector<CGFloat>{104, 104, 104}));
     EXPECT_EQ(widths(309), (std::vector<CGFloat>{143, 83, 83})); // 117 are to spare, 39 for each.
     EXPECT_EQ(widths(192), (std::vector<CGFloat>{104, 44, 44}));
-    EXPECT_EQ(widths(162), (std::vector<CGFloat>{94, 34, 34})); // Each lacks the same.
+    EXPECT_EQ(widths(96), (std::vector<CGFloat>{52, 22, 22})); // Each has half of what it needs.
+    EXPECT_EQ(widths(0), (std::vector<CGFloat>{0, 0, 0}));
     EXPECT_EQ(segments->frameOfSegment(3), CGRectZero);
     EXPECT_EQ(GallerySegments::segmentsWithChoices({}, 0)->frameOfSegment(0), CGRectZero);
 }

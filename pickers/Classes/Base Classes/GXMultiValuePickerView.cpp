@@ -16,13 +16,16 @@ GXMultiValuePickerView::Factory& sharedFactory() {
     return factory;
 }
 
-/// Keeps the size that its text had when it was set, so it draws from the middle of its bounds, and whole: a font that came later may need
-/// less room or more.
+/// Drawn on the column that follows, if there is one. It keeps the size that its text had when it was set, so it draws from the middle of
+/// its bounds, and whole: a font that came later may need less room or more.
 class SeparatorLabel : public UILabel {
 public:
+    void setComponent(NSUInteger component) { component_ = component; }
     void drawRect(UIGraphicsContext& context, CGRect rect) override {
-        UILabel::drawRect(context,
-                          CGRectOffset({{}, {textWidth_, rect.size.height}}, CGRectGetMidX(rect) - 0.5 * textWidth_, rect.origin.y));
+        const auto wheel = std::dynamic_pointer_cast<UIPickerView>(superview());
+        const NSInteger last = wheel ? wheel->numberOfComponents() - 1 : 0;
+        if (last <= 0 || component_ >= static_cast<NSUInteger>(last)) return;
+        UILabel::drawRect(context, CGRectMake(CGRectGetMidX(rect) - 0.5 * textWidth_, rect.origin.y, textWidth_, rect.size.height));
     }
 
 protected:
@@ -32,6 +35,7 @@ protected:
     }
 
 private:
+    NSUInteger component_ = 0;
     CGFloat textWidth_ = 0;
 };
 
@@ -120,8 +124,9 @@ void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::
     if (!sources()) return;
     Ref<UILabel>& entry = separators_[component];
     if (!entry) {
-        entry = createLabel<SeparatorLabel>(valueFont());
-        entry->setHidden(true); // Until it has a place.
+        const auto created = createLabel<SeparatorLabel>(valueFont());
+        created->setComponent(component);
+        entry = created;
         addSubview(entry);
     }
     const Ref<UILabel> label = entry;
@@ -249,7 +254,6 @@ void GXMultiValuePickerView::updateSeparatorFrames() {
         if (!label) continue;
         setStyleSheetFont(label, valueFont());
         label->setCenter({CGRectGetMidX(rowRectOfComponent(i + 1)), CGRectGetMidY(bounds())});
-        label->setHidden(false);
     }
 }
 

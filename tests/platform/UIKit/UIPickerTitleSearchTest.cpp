@@ -155,6 +155,9 @@ TEST(UIPickerTitleSearch, a_separator_alone_is_no_number_yet) {
     Search tenths(10, [](NSInteger row) { return "," + std::to_string(row); });
     EXPECT_EQ(tenths(U"."), (Result{std::nullopt, true}));
     EXPECT_EQ(tenths(U".7"), (Result{7, false}));
+    Search below(10, [](NSInteger row) { return "-." + std::to_string(row); });
+    EXPECT_EQ(below(U"-."), (Result{std::nullopt, true}));
+    EXPECT_EQ(below(U"-.7"), (Result{7, false}));
 }
 
 TEST(UIPickerTitleSearch, of_rows_that_are_spelled_alike_the_first_is_found) {

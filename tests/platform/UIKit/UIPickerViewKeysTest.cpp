@@ -693,6 +693,17 @@ TEST_F(Times, another_key_and_a_finger_end_what_was_typed_beyond_the_last_column
     EXPECT_EQ(source->notices.back(), (WheelSource::Notice{50, 1}));
 }
 
+TEST_F(Keys, a_title_may_begin_with_a_separator_also_in_the_last_column) {
+    source->rows = {100, 10};
+    source->title = [](NSInteger row, NSInteger component) { return (component == 1 ? "." : "") + std::to_string(row); };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.press(Code::Right);
+    window.type(".5.7");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{7, 1}}));
+}
+
 TEST_F(Keys, a_separator_that_nothing_was_typed_before_is_passed_over) {
     window.press(Code::Right);
     window.type(".5");

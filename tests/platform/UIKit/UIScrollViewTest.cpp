@@ -368,24 +368,31 @@ TEST_F(Scrolling, a_request_ends_the_drag_that_it_meets) {
     EXPECT_EQ(offset(), 300);
 }
 
-TEST_F(Scrolling, a_request_for_the_present_place_ends_the_drag_too) {
+TEST_F(Scrolling, a_request_for_the_present_place_leaves_the_finger_alone_and_stops_a_glide) {
+    scroll->setContentSize({300, 100000});
     window.down(middle);
     window.move({150, 190});
     window.move({150, 100});
     setOffset(90);
-    EXPECT_FALSE(scroll->isDragging());
+    EXPECT_TRUE(scroll->isDragging());
     window.move({150, 50});
-    EXPECT_EQ(offset(), 90);
+    EXPECT_EQ(offset(), 140);
+    window.run(0.2);
     window.up({150, 50});
-    EXPECT_FALSE(scroll->isDecelerating());
 
     scroll->taps.clear();
     window.down(middle);
-    scroll->setContentOffset_animated({0, 90}, true);
-    window.tick(0);
-    EXPECT_FALSE(window.tick(0)) << "there is no way to go";
+    scroll->setContentOffset_animated({0, 140}, true);
     window.up(middle);
-    EXPECT_EQ(scroll->taps, std::vector<bool>{false}) << "the finger taps nothing either";
+    EXPECT_EQ(scroll->taps, std::vector<bool>{true}) << "so does a tap";
+
+    window.fling({150, 300}, {150, 200}, 5);
+    window.run(0.1);
+    const CGFloat present = offset();
+    scroll->setContentOffset_animated({0, present}, true);
+    window.tick(TestWindow::frame);
+    EXPECT_FALSE(window.tick(TestWindow::frame)) << "there is no way to go";
+    EXPECT_EQ(offset(), present);
 }
 
 TEST_F(Scrolling, a_rectangle_is_shown_with_the_shortest_way) {

@@ -293,6 +293,7 @@ void GXDurationPickerView::clampCurrentValue() {
 }
 
 void GXDurationPickerView::setCurrentValueToBound(NSInteger bound, Clamping clamping) {
+    const Ref<GXBasePickerView> keep = self();
     const Clamping outer = clamping_;
     clamping_ = clamping;
     setCurrentValue(NSNumber::numberWithInteger(bound));
