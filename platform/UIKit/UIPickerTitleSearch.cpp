@@ -129,6 +129,9 @@ UIPickerTitleSearch::Result walk(const std::u32string& text, NSInteger count, co
         if (form.size() <= text.size() || form.compare(0, text.size(), text) != 0) continue;
         result.canGrow = true;
         if (!beginning) beginning = row;
+        // 5 spells 5' and 5 km: only digits would make another number of it.
+        const char32_t after = form[text.size()];
+        if (number && !equal && after != U'.' && (after < U'0' || after > U'9')) equal = row;
     }
     // A number has to be spelled to its end: with rows 10 to 19, a 1 is none of them yet.
     const bool isOfNumber = number || text == U"-" || text == U"." || text == U"-.";

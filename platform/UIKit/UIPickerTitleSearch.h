@@ -10,9 +10,10 @@ namespace gx {
 
 /// Finds the row of a column whose title a typed text spells, without reading every title.
 ///
-/// Numbers are found by their value, so that "5" also spells "05" and ".5". In a column whose titles are whole numbers in order, upward or
-/// downward (the first title may be something else, such as a dash for no value), their row is found by halving: a billion rows take a few
-/// dozen questions. Everything else is looked for in the first `longestWalk` rows. Other texts are found by how a title begins.
+/// Numbers are found by their value, so that "5" also spells "05" and ".5", and without what stands behind them, so that it spells "5'". In
+/// a column whose titles are whole numbers in order, upward or downward (the first title may be something else, such as a dash for no
+/// value), their row is found by halving: a billion rows take a few dozen questions. Everything else is looked for in the first
+/// `longestWalk` rows. Other texts are found by how a title begins.
 class UIPickerTitleSearch {
 public:
     /// The title of a row, as the delegate gives it; nothing for none.

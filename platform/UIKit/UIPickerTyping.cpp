@@ -81,32 +81,39 @@ bool UIPickerTyping::endsColumn(char32_t character) {
     return separator && readableForm(*separator) == std::u32string(1, character);
 }
 
-void UIPickerTyping::setText_inComponent_atTime(std::u32string text, NSInteger component, NSTimeInterval time) {
-    text_ = std::move(text);
+void UIPickerTyping::goOnToComponent_atTime(NSInteger component, bool isFraction, NSTimeInterval time) {
+    clear();
     component_ = component;
-    latestComponent_ = component;
+    isFraction_ = isFraction;
     latest_ = time;
 }
 
-void UIPickerTyping::endTextInComponent_atTime(NSInteger component, NSTimeInterval time) {
-    clear();
-    latestComponent_ = component;
+void UIPickerTyping::beginInComponent_onRow(NSInteger component, NSInteger row) {
+    component_ = component;
+    rowBefore_ = row;
+}
+
+void UIPickerTyping::setText_atTime(std::u32string text, bool isWaiting, NSTimeInterval time) {
+    text_ = std::move(text);
+    isWaiting_ = isWaiting;
     latest_ = time;
 }
 
-void UIPickerTyping::goBeyondColumnsAtTime(NSTimeInterval time) {
+void UIPickerTyping::ignoreFromTime(NSTimeInterval time) {
     clear();
-    isBeyond_ = true;
+    isIgnoring_ = true;
     latest_ = time;
 }
 
 bool UIPickerTyping::isOverAt(NSTimeInterval time) const { return !(std::fabs(time - latest_) < longestPause); }
 
 void UIPickerTyping::clear() {
-    text_.clear();
     component_.reset();
-    latestComponent_.reset();
-    isBeyond_ = false;
+    rowBefore_.reset();
+    text_.clear();
+    isWaiting_ = false;
+    isFraction_ = false;
+    isIgnoring_ = false;
 }
 
 } // namespace gx

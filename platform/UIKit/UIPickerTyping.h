@@ -23,20 +23,29 @@ public:
     /// of times.
     static bool endsColumn(char32_t character);
 
-    /// The column that is typed at, or nothing.
-    std::optional<NSInteger> component() const { return component_; }
-    /// Empty while nobody types.
+    /// The column whose report waits, since its text may go on; or nothing.
+    std::optional<NSInteger> component() const { return isWaiting_ ? component_ : std::nullopt; }
+    /// Whether the column is the one that was typed at, or gone on to, last; its text may be complete.
+    bool isAtComponent(NSInteger component) const { return component_ == component; }
+    /// What was typed at that column so far.
     const std::u32string& text() const { return text_; }
-    /// The text so far, which `time` has made longer.
-    void setText_inComponent_atTime(std::u32string text, NSInteger component, NSTimeInterval time);
-    /// The text has become complete at `time`, with a character after which nothing could come.
-    void endTextInComponent_atTime(NSInteger component, NSTimeInterval time);
-    /// Whether the latest character was typed at the component, whether or not it has completed the text there.
-    bool hasTypedInComponent(NSInteger component) const { return latestComponent_ == component; }
-    /// Goes on beyond the last column: until a pause what is typed counts for nothing, as the seconds of 12:20:05 where there are hours and
-    /// minutes alone.
-    void goBeyondColumnsAtTime(NSTimeInterval time);
-    bool isBeyondColumns() const { return isBeyond_; }
+    /// Whether nothing can go on with that text.
+    bool isComplete() const { return !text_.empty() && !isWaiting_; }
+    /// Whether the column shows digits behind a decimal separator that was typed before.
+    bool isFraction() const { return isFraction_; }
+    /// The row that the column was on when its text began.
+    std::optional<NSInteger> rowBefore() const { return rowBefore_; }
+
+    /// What comes is meant for the column, which a separator or a complete fraction has led to.
+    void goOnToComponent_atTime(NSInteger component, bool isFraction, NSTimeInterval time);
+    /// A text begins at the column, while it is on the row or on its way there.
+    void beginInComponent_onRow(NSInteger component, NSInteger row);
+    /// The text so far, which `time` has made longer. `isWaiting`: it may go on.
+    void setText_atTime(std::u32string text, bool isWaiting, NSTimeInterval time);
+    /// Until a pause what is typed counts for nothing: it goes on beyond the last column, as the seconds of 12:20:05 where there are hours
+    /// and minutes alone, or belongs to a number that is not there.
+    void ignoreFromTime(NSTimeInterval time);
+    bool isIgnoring() const { return isIgnoring_; }
     /// Whether the text is complete by the time: a character then begins another one. A time that is no number completes it, and so does
     /// one that lies as long before the text, by another clock.
     bool isOverAt(NSTimeInterval time) const;
@@ -45,10 +54,12 @@ public:
 
 private:
     std::optional<NSInteger> component_;
+    std::optional<NSInteger> rowBefore_;
     std::u32string text_;
-    std::optional<NSInteger> latestComponent_;
     NSTimeInterval latest_ = 0;
-    bool isBeyond_ = false;
+    bool isWaiting_ = false;
+    bool isFraction_ = false;
+    bool isIgnoring_ = false;
 };
 
 } // namespace gx

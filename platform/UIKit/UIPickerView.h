@@ -30,10 +30,12 @@ class UIPickerColumn;
 /// band marks; columns of one row, and those that show nothing, are passed over. Up and down turn by a row, page keys by the rows in sight
 /// less one, home and end to the first and the last row. Keys count from the row that the column is on its way to, so none is lost.
 /// Characters turn to the row whose title they spell, in any script's digits and whatever the case of letters (`UIPickerTyping`,
-/// `UIPickerTitleSearch`); a decimal separator, or a colon, that no title here has at that place goes on to the next column; beyond
-/// the last one what is typed counts for nothing until a pause. The column turns while the user types, but tells of it once, when the text
-/// is complete: when no title goes on, a second has passed, or another key, a touch, a screen reader's order or another column comes. A
-/// character that spells nothing leaves the wheel where it is, and one that is held is typed once.
+/// `UIPickerTitleSearch`); those within a second belong together. A decimal separator, or a colon, that no title here has at that place
+/// goes on to the next column, and a digit behind a complete tenth to the column right behind it. The column turns while the user types,
+/// but tells of it once, when the text is complete: when no title goes on, a second has passed, or another key, a touch, a screen reader's
+/// order or another column comes. A text that no title spells takes the column back to the row that it was on. What follows such a text,
+/// or goes on beyond the last column, counts for nothing until a pause. A single character that spells nothing leaves the wheel where it
+/// is, and one that is held is typed once.
 ///
 /// Every eye. In a window that reduces motion a column that is let go, tapped, asked or turned by a notch or a key arrives with the next
 /// tick, without the way there, and reports as ever. At high contrast rows beside the band fade less, and the band has an outline.
@@ -156,6 +158,9 @@ private:
     void choose(NSInteger component);
     void turnByKey(UIKey::Code code, NSInteger component);
     void typeCharacter(char32_t character, NSTimeInterval time);
+    bool typeSeparator(char32_t separator, NSInteger component, NSTimeInterval time);
+    void typeText(char32_t character, NSInteger component, NSTimeInterval time);
+    bool typeBehindComplete(char32_t character, NSInteger component, NSTimeInterval time);
     UIPickerTitleSearch::Result rowsSpelled(const std::u32string& text, NSInteger component);
     void completeTyping();
     void arriveExcept(NSInteger component);

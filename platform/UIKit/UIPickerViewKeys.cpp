@@ -142,44 +142,78 @@ UIPickerTitleSearch::Result UIPickerView::rowsSpelled(const std::u32string& text
 
 void UIPickerView::typeCharacter(char32_t character, NSTimeInterval time) {
     if (typing_.isOverAt(time)) completeTyping();
-    const NSInteger present = componentOfKeys();
-    if (present < 0 || at(present).turn.isHeld()) return;
-    if (typing_.isBeyondColumns()) return typing_.goBeyondColumnsAtTime(time);
-    if (!typing_.hasTypedInComponent(present)) completeTyping();
-    const bool isSeparator = UIPickerTyping::endsColumn(character);
-    // A title may have one of its own, as 36.5 has after 36.
-    const bool isOfTitle = isSeparator && !typing_.text().empty() && rowsSpelled(typing_.text() + character, present).canGrow;
-    if (isSeparator && !isOfTitle) {
-        const NSInteger next = componentThatShowsAfter(present);
-        if (next >= 0) {
-            completeTyping();
-            choose(next); // Also a column of one row: what is typed next is meant for it.
-            return;
-        }
-        const bool isSpelled = rowsSpelled(std::u32string(1, character), present).canGrow; // As .5 begins, in a column of tenths.
-        if (typing_.hasTypedInComponent(present) && !isSpelled) {
-            completeTyping();
-            return typing_.goBeyondColumnsAtTime(time);
-        }
-    }
-    // A column may offer other rows once those beside it have told of their own: so they arrive first.
-    arriveExcept(present);
     const NSInteger component = componentOfKeys();
-    if (component < 0 || component != present) return;
+    if (component < 0 || at(component).turn.isHeld()) return;
+    if (typing_.isIgnoring()) return typing_.ignoreFromTime(time);
+    if (!typing_.isAtComponent(component)) completeTyping();
+    if (UIPickerTyping::endsColumn(character) && typeSeparator(character, component, time)) return;
+    typeText(character, component, time);
+}
+
+/// Answers whether the separator leads away from the column.
+bool UIPickerView::typeSeparator(char32_t separator, NSInteger component, NSTimeInterval time) {
+    const std::u32string text = typing_.text();
+    // A title may have one of its own, as 36.5 has after 36.
+    if (!text.empty() && rowsSpelled(text + separator, component).canGrow) return false;
+    const NSInteger next = componentThatShowsAfter(component);
+    const bool isOfNothing = !text.empty() && !rowsSpelled(text, component).row; // As the .5 of 3.5, where rows begin at 30.
+    if (next >= 0 && !isOfNothing) {
+        completeTyping();
+        choose(next); // Also a column of one row: what is typed next is meant for it.
+        typing_.goOnToComponent_atTime(next, separator != U':', time);
+        return true;
+    }
+    // A title may begin with one, as .5 does in a column of tenths.
+    if (text.empty() || (!isOfNothing && rowsSpelled(std::u32string(1, separator), component).canGrow)) return false;
+    completeTyping();
+    typing_.ignoreFromTime(time);
+    return true;
+}
+
+void UIPickerView::typeText(char32_t character, NSInteger component, NSTimeInterval time) {
+    // A column may offer other rows once those beside it have told of their own: so they arrive first.
+    arriveExcept(component);
+    if (componentOfKeys() != component) return;
+    if (typing_.isComplete() && typeBehindComplete(character, component, time)) return;
+    const UIPickerTurn& turn = at(component).turn;
+    if (typing_.text().empty()) typing_.beginInComponent_onRow(component, turn.landingRow());
     std::u32string text = typing_.text() + character;
-    UIPickerTitleSearch::Result found = rowsSpelled(text, component);
-    if (!found.row && !found.canGrow && text.size() > 1) {
-        text.assign(1, character);
-        found = rowsSpelled(text, component);
-    }
+    const UIPickerTitleSearch::Result found = rowsSpelled(text, component);
     if (!canTurn(component)) return; // Who was asked has changed the columns.
-    if (found.canGrow) {
-        typing_.setText_inComponent_atTime(std::move(text), component, time);
-    } else {
-        typing_.endTextInComponent_atTime(component, time);
+    if (found.row || found.canGrow) {
+        typing_.setText_atTime(std::move(text), found.canGrow, time);
+        if (found.row) at(component).turn.turnToRow(*found.row);
+    } else if (text.size() > 1) {
+        // Of a number that is not there no part counts: 300 is not 30.
+        if (const auto row = typing_.rowBefore()) at(component).turn.turnToRow(*row);
+        completeTyping();
+        typing_.ignoreFromTime(time);
     }
-    if (found.row) at(component).turn.turnToRow(*found.row);
     if (isMoving()) startMoving();
+}
+
+/// What follows a text that nothing can go on with. Digits of a fraction go on to the column behind, as hundredths do behind tenths, and
+/// count for nothing behind the last; so goes what follows a mark that ends a title, as the inches of 5'9. Answers whether that was it.
+bool UIPickerView::typeBehindComplete(char32_t character, NSInteger component, NSTimeInterval time) {
+    const bool isFraction = typing_.isFraction();
+    const char32_t last = typing_.text().back();
+    if (!isFraction && last >= U'0' && last <= U'9') return false;
+    const NSInteger next = componentThatShowsAfter(component);
+    if (next == component + 1) {
+        const UIPickerTitleSearch::Result found = rowsSpelled(std::u32string(1, character), next);
+        if (!canTurn(component)) return true;
+        if (found.row || found.canGrow) {
+            completeTyping();
+            choose(next);
+            typing_.goOnToComponent_atTime(next, isFraction, time);
+            typeText(character, next, time);
+            return true;
+        }
+    }
+    if (!isFraction) return false;
+    completeTyping();
+    typing_.ignoreFromTime(time);
+    return true;
 }
 
 void UIPickerView::arriveExcept(NSInteger component) {

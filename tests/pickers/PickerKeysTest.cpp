@@ -1,5 +1,6 @@
 // Pickers by the keyboard: what is typed becomes their value.
 
+#include "GXBpmPickerView.h"
 #include "GXDistancePickerView.h"
 #include "GXDurationPickerView.h"
 #include "GXHeartRatePickerView.h"
@@ -54,6 +55,75 @@ TEST(PickerKeys, a_decimal_separator_goes_on_to_the_tenths) {
     typed.window.press(Code::Left);
     typed.window.type("42,7");
     EXPECT_EQ(typed.told(), (Values{42500, 42700}));
+}
+
+TEST(PickerKeys, hundredths_follow_tenths) {
+    const auto picker = make<GXDistancePickerView>();
+    picker->setIsMetric(true);
+    picker->setNumberOfFractionUnits(2);
+    Typed typed(picker);
+    for (const auto& [text, metres] : {std::pair("5.25", 5250.0), {"5.05", 5050.0}, {"42.195", 42190.0}, {"7.3", 7390.0}}) {
+        typed.window.type(text);
+        EXPECT_EQ(typed.told().back(), metres) << text;
+        typed.window.press(Code::Left);
+        typed.window.press(Code::Left);
+    }
+}
+
+TEST(PickerKeys, a_number_that_is_not_there_leaves_the_value_as_it_was) {
+    const auto distance = make<GXDistancePickerView>();
+    distance->setIsMetric(true);
+    distance->setCurrentValue(NSNumber::numberWithDouble(12300));
+    Typed kilometres(distance);
+    kilometres.window.type("30000");
+    kilometres.told();
+    EXPECT_EQ(distance->currentValue().doubleValue(), 12300);
+    kilometres.window.type("42.195"); // One digit more than there is.
+    EXPECT_EQ(kilometres.told().back(), 42100);
+
+    const auto beats = make<GXBpmPickerView>();
+    beats->setCurrentValue(NSNumber::numberWithInteger(60));
+    Typed rate(beats);
+    for (const char* text : {"240", "300", "125"}) {
+        rate.window.type(text);
+        rate.told();
+        EXPECT_EQ(beats->currentValue().integerValue(), 60) << text;
+    }
+    rate.window.type("230");
+    EXPECT_EQ(rate.told(), Values{230});
+
+    const auto temperature = make<GXTemperaturePickerView>();
+    temperature->setIsMetric(true);
+    temperature->setStepSize(NSNumber::numberWithInteger(1));
+    Typed degrees(temperature);
+    for (const char* text : {"-25", "70"}) {
+        degrees.window.type(text);
+        degrees.told();
+        EXPECT_EQ(temperature->currentValue().doubleValue(), 20) << text;
+    }
+
+    const auto weight = make<GXWeightPickerView>();
+    weight->setCurrentValue(NSNumber::numberWithDouble(81.3));
+    Typed kilograms(weight);
+    kilograms.window.type("3.5"); // The lightest is heavier.
+    EXPECT_EQ(kilograms.told(), Values{});
+}
+
+TEST(PickerKeys, feet_and_inches_are_typed_with_any_mark_between_them) {
+    const auto picker = make<GXHeightPickerView>();
+    picker->setIsMetric(false);
+    picker->setHeightInCm(165);
+    TestWindow window(picker);
+    window.tick(0);
+    EXPECT_TRUE(window.press(Code::Tab));
+    using Rows = std::pair<NSInteger, NSInteger>; // Of the feet, which begin at 4, and of the inches.
+    for (const auto& [text, rows] : {std::pair("6'1", Rows{2, 1}), {"5.9", {1, 9}}, {"4:10", {0, 10}}, {"5'9\"", {1, 9}}}) {
+        window.press(Code::Left);
+        window.press(Code::Left);
+        window.type(text);
+        window.run(2);
+        EXPECT_EQ(Rows(picker->selectedRowInComponent(0), picker->selectedRowInComponent(1)), rows) << text;
+    }
 }
 
 TEST(PickerKeys, tenths_below_the_minimum_are_there_once_the_whole_unit_has_left_it) {

@@ -73,54 +73,75 @@ TEST(UIPickerTyping, so_does_the_separator_of_the_current_locale) {
     NSLocale::setCurrentLocale(nullptr);
 }
 
-TEST(UIPickerTyping, a_text_is_complete_a_second_after_its_last_character) {
+TEST(UIPickerTyping, a_text_is_over_a_second_after_its_last_character) {
     UIPickerTyping typing;
-    typing.setText_inComponent_atTime(U"4", 1, 10);
+    typing.beginInComponent_onRow(1, 7);
+    typing.setText_atTime(U"4", true, 10);
     EXPECT_EQ(typing.component(), 1);
     EXPECT_FALSE(typing.isOverAt(10.999));
     EXPECT_TRUE(typing.isOverAt(11));
-    typing.setText_inComponent_atTime(U"42", 1, 10.5);
+    typing.setText_atTime(U"42", true, 10.5);
     EXPECT_FALSE(typing.isOverAt(11));
     EXPECT_TRUE(typing.isOverAt(std::numeric_limits<double>::quiet_NaN()));
     typing.clear();
     EXPECT_EQ(typing.text(), U"");
     EXPECT_FALSE(typing.component());
+    EXPECT_FALSE(typing.rowBefore());
 }
 
-TEST(UIPickerTyping, a_character_told_by_another_clock_is_complete) {
+TEST(UIPickerTyping, a_character_told_by_another_clock_is_another_text) {
     UIPickerTyping typing;
-    typing.setText_inComponent_atTime(U"4", 1, 1e300);
+    typing.setText_atTime(U"4", true, 1e300);
     EXPECT_TRUE(typing.isOverAt(10));
-    typing.setText_inComponent_atTime(U"4", 1, 10.999);
+    typing.setText_atTime(U"4", true, 10.999);
     EXPECT_FALSE(typing.isOverAt(10));
 }
 
-TEST(UIPickerTyping, it_is_known_where_was_typed_last_also_when_that_is_complete) {
+TEST(UIPickerTyping, nothing_waits_for_a_text_that_is_complete_but_it_is_known) {
     UIPickerTyping typing;
-    EXPECT_FALSE(typing.hasTypedInComponent(0));
-    typing.setText_inComponent_atTime(U"1", 0, 10);
-    EXPECT_TRUE(typing.hasTypedInComponent(0));
-    EXPECT_FALSE(typing.hasTypedInComponent(1));
-    typing.endTextInComponent_atTime(0, 10.5);
-    EXPECT_FALSE(typing.component()) << "nothing waits";
-    EXPECT_EQ(typing.text(), U"");
-    EXPECT_TRUE(typing.hasTypedInComponent(0));
-    EXPECT_FALSE(typing.isOverAt(11.49));
-    EXPECT_TRUE(typing.isOverAt(11.5));
-    typing.clear();
-    EXPECT_FALSE(typing.hasTypedInComponent(0));
+    EXPECT_FALSE(typing.isAtComponent(0));
+    typing.beginInComponent_onRow(0, 7);
+    EXPECT_FALSE(typing.isComplete()) << "nothing has been typed";
+    typing.setText_atTime(U"1", true, 10);
+    EXPECT_FALSE(typing.isComplete());
+    typing.setText_atTime(U"12", false, 10);
+    EXPECT_TRUE(typing.isComplete());
+    EXPECT_FALSE(typing.component());
+    EXPECT_TRUE(typing.isAtComponent(0));
+    EXPECT_FALSE(typing.isAtComponent(1));
+    EXPECT_EQ(typing.text(), U"12");
+    EXPECT_EQ(typing.rowBefore(), 7);
 }
 
-TEST(UIPickerTyping, beyond_the_columns_it_is_at_none_of_them) {
+TEST(UIPickerTyping, at_the_next_column_another_text_begins) {
     UIPickerTyping typing;
-    EXPECT_FALSE(typing.isBeyondColumns());
-    typing.setText_inComponent_atTime(U"1", 0, 10);
-    typing.goBeyondColumnsAtTime(10.5);
-    EXPECT_TRUE(typing.isBeyondColumns());
+    typing.beginInComponent_onRow(0, 7);
+    typing.setText_atTime(U"12", true, 10);
+    typing.goOnToComponent_atTime(2, true, 10.5);
+    EXPECT_TRUE(typing.isAtComponent(2));
+    EXPECT_TRUE(typing.isFraction());
+    EXPECT_EQ(typing.text(), U"");
     EXPECT_FALSE(typing.component());
-    EXPECT_FALSE(typing.hasTypedInComponent(0));
+    EXPECT_FALSE(typing.rowBefore());
+    EXPECT_FALSE(typing.isOverAt(11.49));
+    typing.beginInComponent_onRow(2, 3);
+    EXPECT_TRUE(typing.isFraction());
+    typing.clear();
+    EXPECT_FALSE(typing.isFraction());
+    EXPECT_FALSE(typing.isAtComponent(2));
+}
+
+TEST(UIPickerTyping, what_is_ignored_is_ignored_until_a_pause) {
+    UIPickerTyping typing;
+    EXPECT_FALSE(typing.isIgnoring());
+    typing.beginInComponent_onRow(0, 7);
+    typing.setText_atTime(U"1", true, 10);
+    typing.ignoreFromTime(10.5);
+    EXPECT_TRUE(typing.isIgnoring());
+    EXPECT_FALSE(typing.component());
+    EXPECT_FALSE(typing.isAtComponent(0));
     EXPECT_FALSE(typing.isOverAt(11.49));
     EXPECT_TRUE(typing.isOverAt(11.5));
     typing.clear();
-    EXPECT_FALSE(typing.isBeyondColumns());
+    EXPECT_FALSE(typing.isIgnoring());
 }

@@ -343,9 +343,8 @@ TEST_F(Keys, a_number_that_no_title_goes_on_is_complete_at_once) {
 
 TEST_F(Keys, a_number_that_is_shown_already_is_no_turn) {
     stand(42);
-    window.type("7");
-    window.type("7");
-    window.runUntilStill();
+    window.type("77");
+    window.run(2);
     source->notices.clear();
     window.type("77");
     window.runUntilStill();
@@ -444,10 +443,54 @@ TEST_F(Keys, a_number_for_one_column_leaves_another_to_the_finger_on_it) {
     EXPECT_EQ(wheel->selectedRowInComponent(1), 1);
 }
 
-TEST_F(Keys, a_character_that_does_not_go_on_begins_anew) {
-    window.type("4x2");
+TEST_F(Keys, of_a_number_that_is_not_there_no_part_counts) {
+    stand(50);
+    for (const char* text : {"300", "4x2", "9999"}) {
+        source->notices.clear();
+        window.type(text);
+        window.run(0.5);
+        EXPECT_EQ(wheel->rowInBandOfComponent(0), 50) << text;
+        for (const WheelSource::Notice& notice : source->notices) EXPECT_EQ(notice, (WheelSource::Notice{50, 0})) << text;
+        window.run(1);
+    }
+    window.type("7");
     window.run(2);
-    EXPECT_EQ(source->notices, (Notices{{2, 0}}));
+    EXPECT_EQ(source->notices.back(), (WheelSource::Notice{7, 0})) << "after a pause another one begins";
+}
+
+TEST_F(Keys, a_digit_too_many_takes_a_number_back_that_was_told_already) {
+    stand(50);
+    window.type("99");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{99, 0}}));
+    window.type("5");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{99, 0}, {50, 0}}));
+}
+
+TEST_F(ThreeColumns, behind_a_separator_a_digit_too_many_counts_for_nothing) {
+    source->title = [](NSInteger row, NSInteger component) {
+        return component == 1 ? std::nullopt : std::optional(std::to_string(row)); // Between them stands a separator.
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.type("42.195");
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{42, 0}, {1, 2}}));
+    EXPECT_EQ(wheel->componentOfKeys(), 2);
+}
+
+TEST_F(ThreeColumns, what_stands_behind_the_separator_of_a_number_that_is_not_there_is_not_typed_either) {
+    source->title = [](NSInteger row, NSInteger component) -> std::optional<std::string> {
+        if (component == 1) return std::nullopt;
+        return std::to_string(component == 0 ? row + 30 : row);
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.type("3.5");
+    window.run(2);
+    EXPECT_EQ(source->notices, Notices{});
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
 }
 
 TEST_F(Keys, a_character_that_is_held_is_typed_once) {
@@ -514,6 +557,7 @@ TEST_F(Keys, a_separator_within_a_title_stays_in_its_column) {
     EXPECT_TRUE(window.type("36,5"));
     window.runUntilStill();
     EXPECT_EQ(source->notices, (Notices{{73, 0}}));
+    window.run(1);
     EXPECT_TRUE(window.type("4.5.7")) << "the second one goes on";
     window.runUntilStill();
     EXPECT_EQ(source->notices, (Notices{{73, 0}, {9, 0}, {7, 1}}));
@@ -699,9 +743,14 @@ TEST_F(Keys, a_title_may_begin_with_a_separator_also_in_the_last_column) {
     wheel->reloadAllComponents();
     window.tick(0);
     window.press(Code::Right);
-    window.type(".5.7");
-    window.runUntilStill();
-    EXPECT_EQ(source->notices, (Notices{{7, 1}}));
+    window.type(".5");
+    window.run(0.5);
+    window.type(".");
+    window.run(2);
+    EXPECT_EQ(source->notices, (Notices{{5, 1}, {0, 1}})) << "no title is .5., so it is taken back";
+    window.type(".7");
+    window.run(2);
+    EXPECT_EQ(source->notices.back(), (WheelSource::Notice{7, 1}));
 }
 
 TEST_F(Keys, a_separator_that_nothing_was_typed_before_is_passed_over) {
