@@ -197,8 +197,8 @@ constexpr GalleryTextTable::Row table[] = {
     // Weather.
     {"clear", {"klar", "dégagé", "despejado", "sereno", "céu limpo", "onbewolkt", "bezchmurnie", "ясно", "açık", "晴れ", "晴", "맑음"}},
     {"partly cloudy",
-     {"teils bewölkt", "éclaircies", "algo nuboso", "poco nuvoloso", "algo nuboso", "half bewolkt", "częściowo pochmurno", "малооблачно",
-      "parçalı bulutlu", "晴れ時々曇り", "局部多云", "구름 조금"}},
+     {"teils bewölkt", "éclaircies", "algo nuboso", "parzialmente nuvoloso", "parcialmente nublado", "half bewolkt", "częściowo pochmurno",
+      "переменная облачность", "parçalı bulutlu", "晴れ時々曇り", "局部多云", "구름 조금"}},
     {"cloudy",
      {"bewölkt", "nuageux", "nublado", "nuvoloso", "nublado", "bewolkt", "pochmurno", "облачно", "bulutlu", "曇り", "多云", "구름 많음"}},
     {"overcast",

@@ -74,7 +74,7 @@ static_assert(spoken::isComplete(turkishNames, turkishUnits, {GXPluralCategory::
 
 constexpr Name japaneseNames[] = {
     {GXSpokenName::Distance, "距離"},
-    {GXSpokenName::Duration, "時間"},
+    {GXSpokenName::Duration, "所要時間"},
     {GXSpokenName::Pace, "ペース"},
     {GXSpokenName::Speed, "速度"},
     {GXSpokenName::AverageHeartRate, "平均心拍数"},
@@ -192,7 +192,7 @@ static_assert(spoken::isComplete(simplifiedChineseNames, simplifiedChineseUnits,
 
 constexpr Name koreanNames[] = {
     {GXSpokenName::Distance, "거리"},
-    {GXSpokenName::Duration, "시간"},
+    {GXSpokenName::Duration, "소요 시간"},
     {GXSpokenName::Pace, "페이스"},
     {GXSpokenName::Speed, "속도"},
     {GXSpokenName::AverageHeartRate, "평균 심박수"},

@@ -39,7 +39,8 @@ public:
     /// Something on screen has changed: call `tick` soon, and again after each frame until it answers false.
     /// May be called at any time, also within `tick` and `draw`.
     virtual void windowNeedsFrame() = 0;
-    /// A row has passed a wheel's band during a turn by the user: the moment for a click or a slight vibration.
+    /// A row has passed a wheel's band during a turn by the user: the moment for a click or a slight vibration. Called for a hundred rows
+    /// of a wheel at most in a frame.
     virtual void wheelDidTick() {}
 };
 

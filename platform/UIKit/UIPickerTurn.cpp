@@ -205,16 +205,24 @@ bool UIPickerTurn::isOnItsWayTo(NSInteger row) const {
     return row == stepStart() && (state_ == State::AtRest || state_ == State::Gliding || state_ == State::Landed);
 }
 
-bool UIPickerTurn::scrollNotches(double notches) {
+NSTimeInterval UIPickerTurn::stepDuration() const {
+    const NSTimeInterval left = state_ == State::Gliding ? motion_.timeLeftAt(lastFrame_) : 0;
+    return std::max(UIScrollMotion::notchDuration, left);
+}
+
+bool UIPickerTurn::scrollNotches(double notches, NSTimeInterval time) {
     if (finger_ || count_ == 0 || !std::isfinite(notches)) return false;
-    notches_ += notches;
-    const double whole = std::trunc(notches_);
+    const bool isOnward = notches * notches_ >= 0 && time - lastNotch_ <= notchSuccession;
+    lastNotch_ = time;
+    notches_ = isOnward ? notches_ + notches : notches;
+    const double whole = std::trunc(notches_ + std::copysign(notchTolerance, notches_));
     if (whole == 0) return true;
     notches_ -= whole;
     const NSInteger row = rowAfter(truncateTo<NSInteger>(whole));
+    if (row == 0 || row == count_ - 1) notches_ = 0;
     if (isOnItsWayTo(row)) return true; // At the end there is nothing to turn.
     if (!isUsersTurn()) passed_ = rowInBand();
-    glideToRow(row, UIScrollMotion::notchDuration, std::nullopt);
+    glideToRow(row, stepDuration(), std::nullopt);
     return true;
 }
 
@@ -227,7 +235,7 @@ bool UIPickerTurn::turnToRow(NSInteger row) {
     const NSInteger from = stepStart();
     if (!isUsersTurn()) passed_ = rowInBand();
     const bool isStep = held - from >= -1 && held - from <= 1;
-    glideToRow(held, isStep ? UIScrollMotion::notchDuration : UIScrollMotion::requestDuration, std::nullopt);
+    glideToRow(held, isStep ? stepDuration() : UIScrollMotion::requestDuration, std::nullopt);
     return true;
 }
 
@@ -250,6 +258,7 @@ bool UIPickerTurn::scrollPoints(CGFloat points, NSTimeInterval time, bool isFini
 // Time
 
 bool UIPickerTurn::advanceToTime(NSTimeInterval time) {
+    lastFrame_ = time;
     if (state_ == State::Scrolled) {
         lastScroll_ = UIScrollMotion::startSeenAt(lastScroll_, time);
         if (time - lastScroll_ >= scrollIdle) snap(time);

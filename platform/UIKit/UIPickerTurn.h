@@ -36,6 +36,12 @@ public:
     static constexpr NSTimeInterval flingSuccession = 0.25;
     /// Up to where flings add up, in rows per second: such a fling runs 125 rows, and faster rows only flicker.
     static constexpr double fastestSuccession = 250;
+    /// How much parts of a notch may be short of a whole one that counts: far below the finest part that a mouse wheel tells (1/120), and
+    /// far above what rounding makes of their sum.
+    static constexpr double notchTolerance = 1e-6;
+    /// After a pause longer than this a part of a notch that has not made a row is forgotten. Chosen to be longer than the pauses within a
+    /// slow turn of the mouse wheel.
+    static constexpr NSTimeInterval notchSuccession = 1;
 
     State state() const { return state_; }
     /// Whether the position changes with time alone.
@@ -69,11 +75,13 @@ public:
     /// `tappedRow`: the row under the finger, if it lies on one.
     void touchEnded(CGFloat y, NSTimeInterval time, std::optional<NSInteger> tappedRow);
     void touchCancelled(NSTimeInterval time);
-    /// One notch is one row. Answers whether it turns anything; a finger on the column goes before.
-    bool scrollNotches(double notches);
+    /// One notch is one row, counted like `stepByRows`; parts of one add up, until the mouse wheel turns the other way, pauses, or the
+    /// column is sent to an end. Answers false only for what is no finite number, while a finger holds the column, and without rows.
+    bool scrollNotches(double notches, NSTimeInterval time);
     /// A user's turn by so many rows, counted from the row that the column is already on its way to: so keys in quick succession add up.
-    /// Held to the rows there are; where that leaves nothing to turn, nothing changes. Answers false only while a finger holds
-    /// the column, and without rows.
+    /// Held to the rows there are; where that leaves nothing to turn, nothing changes. A single row takes the time of a notch or, if the
+    /// column would have been on its way for longer, the time that it had left: a fling does not leap to its end. Answers false only while
+    /// a finger holds the column, and without rows.
     bool stepByRows(NSInteger rows);
     /// The same, to a row.
     bool turnToRow(NSInteger row);
@@ -104,6 +112,7 @@ private:
     NSInteger stepStart() const;
     NSInteger rowAfter(NSInteger rows) const;
     bool isOnItsWayTo(NSInteger row) const;
+    NSTimeInterval stepDuration() const;
     double releaseVelocityAt(NSTimeInterval time) const;
 
     NSInteger count_ = 0;
@@ -125,8 +134,10 @@ private:
     CGFloat lastTouch_ = 0;
     double raw_ = 0; // The offset that the finger asks for, ends or not.
     UIVelocityTracker velocity_;
-    double notches_ = 0; // Parts of a notch that have not made a row yet.
+    double notches_ = 0;           // Parts of a notch that have not made a row yet …
+    NSTimeInterval lastNotch_ = 0; // … and when the last of them came.
     NSTimeInterval lastScroll_ = 0;
+    NSTimeInterval lastFrame_ = 0;
 };
 
 } // namespace gx

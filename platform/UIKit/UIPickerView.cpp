@@ -78,7 +78,18 @@ void UIPickerView::refreshComponents() {
     const NSInteger answer = source ? source->numberOfComponentsInPickerView(self()) : 0;
     isCountAsked_ = false;
     count_ = std::clamp<NSInteger>(answer, 0, highestComponentCount);
-    while (static_cast<NSInteger>(components_.size()) < count_) components_.push_back(std::make_unique<Component>());
+    makeComponents(count_);
+}
+
+void UIPickerView::makeComponents(NSInteger count) {
+    for (auto i = static_cast<NSInteger>(components_.size()); i < count; ++i) components_.push_back(std::make_unique<Component>(i));
+}
+
+void UIPickerView::exchangeComponents(NSInteger one, NSInteger other) {
+    if (one < 0 || other < 0 || one >= highestComponentCount || other >= highestComponentCount) return;
+    makeComponents(std::max(one, other) + 1);
+    std::swap(at(one).part, at(other).part);
+    if (chosen_ == one || chosen_ == other) choose(chosen_ == one ? other : one);
 }
 
 bool UIPickerView::exists(NSInteger component) {

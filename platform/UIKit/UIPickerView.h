@@ -37,6 +37,9 @@ class UIPickerColumn;
 /// or goes on beyond the last column, counts for nothing until a pause. A single character that spells nothing leaves the wheel where it
 /// is, and one that is held is typed once.
 ///
+/// Ticks. The window's host hears of each row that passes the band in a turn by the user, of a hundred at most in a frame: faster than that
+/// nobody can tell ticks apart.
+///
 /// Every eye. In a window that reduces motion a column that is let go, tapped, asked or turned by a notch or a key arrives with the next
 /// tick, without the way there, and reports as ever. At high contrast rows beside the band fade less, and the band has an outline.
 ///
@@ -124,7 +127,14 @@ public:
     void focusDidChange() override;
     bool advanceToTime(NSTimeInterval time) override;
     /// One for each column that the user can turn, and nothing else in the wheel: labels beside its columns belong to what a column says.
+    /// An element follows a column that changes places (`exchangeComponents`).
     UIAccessibilityElements accessibilityElements() override;
+
+protected:
+    /// For a wheel whose columns change places, before it reloads: what is shown as one of the two will be shown as the other. The choice
+    /// of the keys and the elements of screen readers go along; rows and movements stay, and nothing is reported. Either may be a component
+    /// that does not exist yet, or not any more; ignored for one that cannot exist.
+    void exchangeComponents(NSInteger one, NSInteger other);
 
 private:
     struct Component;
@@ -136,6 +146,7 @@ private:
 
     void noteStale();
     void refreshComponents();
+    void makeComponents(NSInteger count);
     NSInteger refreshedRows(NSInteger component);
     void refreshSizes(NSInteger component);
     bool hasRow(NSInteger row, NSInteger component);
@@ -165,7 +176,7 @@ private:
     void completeTyping();
     void arriveExcept(NSInteger component);
     void drawFocus(UIGraphicsContext& context, CGRect band);
-    bool isAdjustable(NSInteger component);
+    NSInteger adjustableComponent(NSInteger part);
     std::optional<std::string> spokenRow(NSInteger row, NSInteger component);
     bool isMoving() const;
     bool arrivesAtOnce() const;

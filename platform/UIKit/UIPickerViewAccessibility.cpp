@@ -7,36 +7,40 @@ namespace gx {
 /// A column of a wheel. It turns as by a notch of a mouse wheel, so that several quick steps add up, and what it turns to is reported once.
 class UIPickerView::ColumnElement : public UIAccessibilityElement {
 public:
-    ColumnElement(const Ref<UIPickerView>& wheel, NSInteger component)
-        : UIAccessibilityElement(wheel, UIAccessibilityRole::Adjustable, component), wheel_(wheel) {}
+    ColumnElement(const Ref<UIPickerView>& wheel, NSInteger part)
+        : UIAccessibilityElement(wheel, UIAccessibilityRole::Adjustable, part), wheel_(wheel) {}
 
-    bool exists() const override { return UIAccessibilityElement::exists() && present() != nullptr; }
+    bool exists() const override { return UIAccessibilityElement::exists() && present().has_value(); }
 
     std::optional<std::string> label() const override {
-        const Ref<UIPickerView> wheel = present();
-        if (!wheel) return std::nullopt;
+        const std::optional<Column> column = present();
+        if (!column) return std::nullopt;
+        const auto& [wheel, component] = *column;
         const Ref<UIPickerViewDelegate> delegate = wheel->delegate_.lock();
-        std::optional<std::string> label = delegate ? delegate->pickerView_accessibilityLabelForComponent(wheel, part()) : std::nullopt;
+        std::optional<std::string> label = delegate ? delegate->pickerView_accessibilityLabelForComponent(wheel, component) : std::nullopt;
         return label ? label : wheel->accessibilityLabel();
     }
     std::optional<std::string> value() const override {
-        const Ref<UIPickerView> wheel = present();
-        return wheel ? wheel->spokenRow(wheel->selectedRowInComponent(part()), part()) : std::nullopt;
+        const std::optional<Column> column = present();
+        if (!column) return std::nullopt;
+        const auto& [wheel, component] = *column;
+        return wheel->spokenRow(wheel->selectedRowInComponent(component), component);
     }
     CGRect frame() const override {
-        const Ref<UIPickerView> wheel = present();
-        if (!wheel || !UIAccessibilityElement::exists()) return CGRectNull;
+        const std::optional<Column> column = present();
+        if (!column || !UIAccessibilityElement::exists()) return CGRectNull;
+        const auto& [wheel, component] = *column;
         const CGPoint origin = wheel->convertPointFromWindow({});
-        return CGRectOffset(wheel->at(part()).column->frame(), -origin.x, -origin.y);
+        return CGRectOffset(wheel->at(component).column->frame(), -origin.x, -origin.y);
     }
 
     std::optional<NSInteger> index() const override {
-        const Ref<UIPickerView> wheel = present();
-        return wheel ? std::optional(wheel->selectedRowInComponent(part())) : std::nullopt;
+        const std::optional<Column> column = present();
+        return column ? std::optional(column->wheel->selectedRowInComponent(column->component)) : std::nullopt;
     }
     NSInteger count() const override {
-        const Ref<UIPickerView> wheel = present();
-        return wheel ? wheel->numberOfRowsInComponent(part()) : 0;
+        const std::optional<Column> column = present();
+        return column ? column->wheel->numberOfRowsInComponent(column->component) : 0;
     }
 
     void increment() override { step(1); }
@@ -46,10 +50,16 @@ public:
     }
 
 private:
-    /// The wheel, while it has the column.
-    Ref<UIPickerView> present() const {
+    struct Column {
+        Ref<UIPickerView> wheel;
+        NSInteger component;
+    };
+
+    /// The wheel, while it has the column, and where.
+    std::optional<Column> present() const {
         const Ref<UIPickerView> wheel = wheel_.lock();
-        return wheel && wheel->isAdjustable(part()) ? wheel : nullptr;
+        const NSInteger component = wheel ? wheel->adjustableComponent(part()) : -1;
+        return component >= 0 ? std::optional(Column{wheel, component}) : std::nullopt;
     }
 
     void step(NSInteger rows) const {
@@ -57,20 +67,24 @@ private:
     }
     template <class Order>
     void turn(Order order) const {
-        if (const Ref<UIPickerView> wheel = isEnabled() ? present() : nullptr) wheel->completeTyping();
+        if (const std::optional<Column> column = isEnabled() ? present() : std::nullopt) column->wheel->completeTyping();
         // Who was told of a typed text may have changed the columns.
-        const Ref<UIPickerView> wheel = isEnabled() ? present() : nullptr;
-        if (wheel && order(wheel->at(part()).turn)) wheel->startMoving();
+        const std::optional<Column> column = isEnabled() ? present() : std::nullopt;
+        if (column && order(column->wheel->at(column->component).turn)) column->wheel->startMoving();
     }
 
     WeakRef<UIPickerView> wheel_;
 };
 
-bool UIPickerView::isAdjustable(NSInteger component) {
+/// Where the column is shown that screen readers know as this part; −1 while the user cannot turn it.
+NSInteger UIPickerView::adjustableComponent(NSInteger part) {
     const Ref<UIPickerView> keep = self();
-    if (CGRectIsEmpty(bounds())) return false;
+    if (CGRectIsEmpty(bounds())) return -1;
     layoutIfNeeded();
-    return canTurn(component) && at(component).rows > 1;
+    for (NSInteger i = 0; i < count_; ++i) {
+        if (at(i).part == part) return canBeChosen(i) ? i : -1;
+    }
+    return -1;
 }
 
 std::optional<std::string> UIPickerView::spokenRow(NSInteger row, NSInteger component) {
@@ -87,7 +101,8 @@ UIAccessibilityElements UIPickerView::accessibilityElements() {
     const Ref<UIPickerView> keep = self();
     UIAccessibilityElements elements;
     for (NSInteger i = 0; i < numberOfComponents(); ++i) {
-        if (isAdjustable(i)) elements.push_back(std::make_shared<ColumnElement>(keep, i));
+        const NSInteger part = at(i).part;
+        if (adjustableComponent(part) == i) elements.push_back(std::make_shared<ColumnElement>(keep, part));
     }
     return elements;
 }

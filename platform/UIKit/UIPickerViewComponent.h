@@ -9,6 +9,9 @@ namespace gx {
 
 /// What the wheel knows of one column. Held by pointer, so that it stays in place when a callback brings more columns.
 struct UIPickerView::Component {
+    explicit Component(NSInteger name) : part(name) {}
+
+    NSInteger part; // What screen readers know the column by, wherever it is shown.
     NSInteger requested = 0;
     NSInteger rows = 0;
     CGFloat width = automaticDimension; // As the delegate gave it.

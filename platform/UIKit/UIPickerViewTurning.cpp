@@ -45,7 +45,6 @@ void UIPickerView::startMoving() {
 }
 
 void UIPickerView::tellTicks(NSInteger rows) {
-    // Faster than a hundred rows a frame nobody can tell ticks apart.
     constexpr NSInteger highest = 100;
     for (NSInteger i = 0; i < std::min(rows, highest); ++i) {
         const Ref<UIWindow> window = this->window();
@@ -123,7 +122,7 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
     if (scroll.isSideways() || !canBeChosen(component)) return UIView::scrolled(scroll);
     typing_.clear();
     UIPickerTurn& turn = at(component).turn;
-    const bool isTaken = scroll.unit == UIScroll::Unit::Notches ? turn.scrollNotches(scroll.deltaY)
+    const bool isTaken = scroll.unit == UIScroll::Unit::Notches ? turn.scrollNotches(scroll.deltaY, scroll.timestamp)
                                                                 : turn.scrollPoints(scroll.deltaY, scroll.timestamp, scroll.isFinished);
     startMoving();
     return isTaken;

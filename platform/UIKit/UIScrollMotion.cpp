@@ -132,6 +132,11 @@ double UIScrollMotion::positionAt(NSTimeInterval time) const {
 
 bool UIScrollMotion::isOverAt(NSTimeInterval time) const { return start_ && time - *start_ >= duration_; }
 
+NSTimeInterval UIScrollMotion::timeLeftAt(NSTimeInterval time) const {
+    const NSTimeInterval elapsed = start_ ? std::max(time - *start_, 0.0) : 0;
+    return elapsed < duration_ ? duration_ - elapsed : 0;
+}
+
 double UIScrollMotion::flingVelocityAt(NSTimeInterval time) const {
     const NSTimeInterval elapsed = start_ ? time - *start_ : 0;
     if (!(elapsed >= 0) || isOverAt(time)) return 0;

@@ -42,6 +42,8 @@ public:
     void beginAt(NSTimeInterval time);
     double positionAt(NSTimeInterval time) const;
     bool isOverAt(NSTimeInterval time) const;
+    /// How long it goes on yet: the whole duration before the start, 0 once it is over and for a time that is no number.
+    NSTimeInterval timeLeftAt(NSTimeInterval time) const;
     /// How fast a fling still runs. 0 for an ease, for a fling that has met an end or is over, and before the start.
     double flingVelocityAt(NSTimeInterval time) const;
     double landing() const { return to_; }

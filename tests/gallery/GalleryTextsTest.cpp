@@ -115,10 +115,13 @@ TEST_F(GalleryTextsTest, SpeaksAsItsReadersDo) {
     EXPECT_EQ(textIn("fr", "Opened:"), "Ouvert\u00A0:");
     EXPECT_EQ(textIn("es", "Settings"), "Ajustes");
     EXPECT_EQ(textIn("it", "Weight"), "Peso");
+    EXPECT_EQ(textIn("it", "partly cloudy"), "parzialmente nuvoloso");
     EXPECT_EQ(textIn("pt", "Save"), "Salvar");
+    EXPECT_EQ(textIn("pt", "partly cloudy"), "parcialmente nublado");
     EXPECT_EQ(textIn("nl", "Language"), "Taal");
     EXPECT_EQ(textIn("pl", "Height"), "Wzrost");
     EXPECT_EQ(textIn("ru", "Weather"), "Погода");
+    EXPECT_EQ(textIn("ru", "partly cloudy"), "переменная облачность");
     EXPECT_EQ(textIn("tr", "Open"), "Aç");
     EXPECT_EQ(textIn("ja", "Heart rate"), "心拍数");
     EXPECT_EQ(textIn("zh-Hans", "Dark"), "深色");

@@ -8,6 +8,7 @@
 #include "GXTemperaturePickerView.h"
 #include "GXWeightPickerView.h"
 #include "NSLocale.h"
+#include "NSRunLoop.h"
 #include "PickerNotices.h"
 #include "TestWindow.h"
 
@@ -210,4 +211,44 @@ TEST(PickerKeys, a_height_of_centimetres_is_typed_though_it_titles_its_rows_in_c
     window.type("165");
     window.run(2);
     EXPECT_EQ(picker->heightInCm(), 165);
+}
+
+TEST(PickerKeys, the_unit_of_a_height_stays_chosen_while_feet_and_inches_come_and_go) {
+    const auto pass = [] { NSRunLoop::mainRunLoop()->runPass(); }; // Shows the unit on its new column.
+    const auto picker = make<GXHeightPickerView>();
+    picker->setIsMetric(true);
+    picker->setHeightInCm(165);
+    pass();
+    TestWindow window(picker);
+    window.press(Code::Tab);
+    window.press(Code::Right);
+    ASSERT_EQ(picker->componentOfKeys(), 1);
+    for (int times = 0; times < 2; ++times) {
+        window.press(Code::Down);
+        window.runUntilStill();
+        pass();
+        EXPECT_FALSE(picker->isMetric());
+        EXPECT_EQ(picker->componentOfKeys(), 2);
+        EXPECT_EQ(picker->selectedRowInComponent(1), 5) << "165 cm are 5 feet 4.96 inches";
+        window.press(Code::Up);
+        window.runUntilStill();
+        pass();
+        EXPECT_TRUE(picker->isMetric());
+        EXPECT_EQ(picker->componentOfKeys(), 1);
+        EXPECT_EQ(picker->heightInCm(), 165) << "5 feet 5 inches are 165.1 cm";
+    }
+}
+
+TEST(PickerKeys, the_inches_of_a_height_are_not_chosen_as_its_unit) {
+    const auto picker = make<GXHeightPickerView>();
+    picker->setHeightInCm(165);
+    TestWindow window(picker);
+    window.press(Code::Tab);
+    window.press(Code::Right);
+    ASSERT_EQ(picker->componentOfKeys(), 1);
+    picker->setIsMetric(true);
+    EXPECT_EQ(picker->componentOfKeys(), 0) << "there are no inches any more";
+    picker->setIsMetric(false);
+    EXPECT_EQ(picker->componentOfKeys(), 1);
+    NSRunLoop::mainRunLoop()->runPass();
 }

@@ -267,6 +267,35 @@ TEST_F(PickerSpeech, Height) {
     EXPECT_EQ(valueOf(picker), "5 Fuß 1 Zoll");
 }
 
+TEST_F(PickerSpeech, TheColumnsOfAHeightKeepTheirHandlesWhenTheUnitSwitches) {
+    const auto picker = create<GXHeightPickerView>(place);
+    picker->setIsMetric(true);
+    picker->setHeightInCm(165);
+    NSRunLoop::mainRunLoop()->runPass();
+    const auto unit = picker->accessibilityElements().at(1);
+    ASSERT_EQ(unit->label(), "Height, unit");
+    unit->increment(); // Without a window it arrives at once.
+    NSRunLoop::mainRunLoop()->runPass();
+    EXPECT_FALSE(picker->isMetric());
+    EXPECT_EQ(unit->label(), "Height, unit");
+    EXPECT_EQ(unit->index(), 1);
+    EXPECT_EQ(unit->count(), 2);
+    const auto columns = picker->accessibilityElements();
+    ASSERT_EQ(columns.size(), 3U);
+    EXPECT_TRUE(unit->isSameAs(*columns[2]));
+    EXPECT_EQ(unit->frame(), columns[2]->frame());
+    EXPECT_FALSE(unit->isSameAs(*columns[1]));
+    unit->decrement();
+    NSRunLoop::mainRunLoop()->runPass();
+    EXPECT_TRUE(picker->isMetric());
+    EXPECT_EQ(unit->label(), "Height, unit");
+    EXPECT_EQ(unit->index(), 0);
+    EXPECT_FALSE(columns[1]->exists()) << "the inches are gone, and did not become the unit";
+    columns[1]->increment();
+    EXPECT_TRUE(picker->isMetric());
+    EXPECT_EQ(picker->heightInCm(), 165);
+}
+
 TEST_F(PickerSpeech, Temperature) {
     const auto picker = metricPicker<GXTemperaturePickerView>(boxed(15));
     EXPECT_EQ(labelsOf(picker), Texts{"Temperature"});

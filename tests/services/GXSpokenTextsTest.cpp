@@ -25,6 +25,14 @@ TEST(GXSpokenTexts, ThereIsOneForEachLanguageOfTheTranslations) {
     EXPECT_EQ(GXSpokenTexts::textsForLanguage("sv").language(), "en");
 }
 
+TEST(GXSpokenTexts, ADurationIsCalledOtherwiseThanItsHoursInEveryLanguage) {
+    for (const GXSpokenTexts* texts : GXSpokenTexts::all()) {
+        EXPECT_NE(texts->textForName(GXSpokenName::Duration), texts->textForName(GXSpokenName::Hours)) << texts->language();
+    }
+    EXPECT_EQ(GXSpokenTexts::textsForLanguage("ja").textForName(GXSpokenName::Duration), "所要時間");
+    EXPECT_EQ(GXSpokenTexts::textsForLanguage("ko").textForName(GXSpokenName::Duration), "소요 시간");
+}
+
 TEST(GXSpokenTexts, KilometresInflectInEveryLanguage) {
     struct Case {
         const char* language;

@@ -280,6 +280,32 @@ TEST_F(WheelAccessibility, AColumnThatAReloadTakesAwayIsGoneUntilItComesBack) {
     EXPECT_EQ(second->count(), 7);
 }
 
+TEST(UIPickerViewAccessibility, AHandleFollowsItsColumnToAnotherPlace) {
+    struct Movable : UIPickerView {
+        using UIPickerView::exchangeComponents;
+    };
+    const auto source = create<WheelSource>();
+    source->rows = {100, 7};
+    const auto wheel = create<Movable>(CGRectMake(0, 0, 320, 216));
+    wheel->setDataSource(source);
+    wheel->setDelegate(source);
+    const auto last = wheel->accessibilityElements().at(1);
+    source->rows = {100, 30, 7};
+    wheel->exchangeComponents(1, 2);
+    wheel->reloadAllComponents();
+    EXPECT_EQ(last->count(), 7);
+    last->increment();
+    EXPECT_EQ(source->notices, (Notices{{1, 2}}));
+    constexpr NSInteger none = UIPickerView::highestComponentCount;
+    for (const NSInteger wrong : {NSInteger{-1}, none}) {
+        wheel->exchangeComponents(wrong, 0);
+        wheel->exchangeComponents(2, wrong);
+    }
+    EXPECT_EQ(last->count(), 7) << "of places that no column can have nothing is exchanged";
+    wheel->exchangeComponents(2, none - 1);
+    EXPECT_FALSE(last->exists()) << "there is no such column yet";
+}
+
 TEST_F(WheelAccessibility, AHiddenWheelsColumnsAreNowhere) {
     const auto column = element();
     wheel->setHidden(true);

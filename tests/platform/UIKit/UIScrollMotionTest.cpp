@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 using gx::UIScrollMotion;
 
@@ -124,6 +125,17 @@ TEST(UIScrollMotion, TheSpeedOfAFlingIsTheSlopeOfItsCurve) {
     }
     EXPECT_LT(back.flingVelocityAt(10.11), -39);
     EXPECT_NEAR(free.flingVelocityAt(11.5), (free.positionAt(11.5 + 1e-6) - free.positionAt(11.5)) / 1e-6, 1e-3);
+}
+
+TEST(UIScrollMotion, TheTimeLeftRunsFromItsDurationToNothing) {
+    const UIScrollMotion ease = UIScrollMotion::ease(0, 5, 0.5, 10);
+    EXPECT_EQ(ease.timeLeftAt(9), 0.5);
+    EXPECT_EQ(ease.timeLeftAt(10), 0.5);
+    EXPECT_EQ(ease.timeLeftAt(10.125), 0.375);
+    EXPECT_EQ(ease.timeLeftAt(10.5), 0);
+    EXPECT_EQ(ease.timeLeftAt(11), 0);
+    EXPECT_EQ(ease.timeLeftAt(std::numeric_limits<double>::quiet_NaN()), 0);
+    EXPECT_EQ(UIScrollMotion::ease(0, 5, 0.5, std::nullopt).timeLeftAt(11), 0.5) << "it has not begun";
 }
 
 TEST(UIScrollMotion, WhatIsNoFlingHasNoSpeedToKeep) {

@@ -78,6 +78,7 @@ void GXHeightPickerView::setHeightInCm(CGFloat height) {
 }
 
 void GXHeightPickerView::setIsMetric(bool isMetric) {
+    if (isMetric != isMetric_) exchangeComponents(metricUnitColumn, imperialUnitColumn);
     isMetric_ = isMetric;
     reload();
 }

@@ -14,7 +14,8 @@ namespace gx {
 /// then. Switching units is such a turn: 180 cm become 5 feet 11 inches and with that 180.34 cm. A fresh picker selects nothing until a
 /// height or a unit is set; then a height of 0 shows as 180 cm or 5 feet 10 inches, and stays 0 until the user turns.
 ///
-/// The unit column is set right by a later pass of the main run loop, once the wheel has taken the new columns.
+/// The unit column is set right by a later pass of the main run loop, once the wheel has taken the new columns. Keys and screen readers
+/// that turn it stay with it.
 class GXHeightPickerView : public UIPickerView, public UIPickerViewDataSource, public UIPickerViewDelegate {
 public:
     bool initWithFrame(CGRect frame) override;
