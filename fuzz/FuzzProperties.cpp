@@ -39,6 +39,14 @@ T* as(GXBasePickerView* picker) {
     return dynamic_cast<T*>(picker);
 }
 
+/// To make a picker calls the application's wheels, and these may drop the composite that it is for.
+template <class Outer, class Inner>
+void replaceInner(FuzzBytes& bytes, Outer* outer, void (Outer::*set)(Ref<Inner>)) {
+    const WeakRef<Outer> seen = refTo(outer);
+    const Ref<Inner> inner = bytes.flag() ? create<Inner>(bytes.rect()) : nullptr;
+    if (!seen.expired()) (outer->*set)(inner);
+}
+
 /// What only pickers of this kind have.
 void setOwnProperty(FuzzBytes& bytes, GXBasePickerView* picker) {
     const unsigned which = bytes.below(6);
@@ -71,13 +79,13 @@ void setOwnProperty(FuzzBytes& bytes, GXBasePickerView* picker) {
     } else if (auto* const icon = as<GXIconPickerView>(picker)) {
         icon->setIconImages(imagesOf(bytes));
     } else if (auto* const outdoors = as<GXWeatherAndTemperaturePickerView>(picker)) {
-        if (which == 0) outdoors->setWeatherPicker(bytes.flag() ? create<GXIconPickerView>(bytes.rect()) : nullptr);
-        if (which == 1) outdoors->setTemperaturePicker(bytes.flag() ? create<GXTemperaturePickerView>(bytes.rect()) : nullptr);
+        if (which == 0) replaceInner(bytes, outdoors, &GXWeatherAndTemperaturePickerView::setWeatherPicker);
+        if (which == 1) replaceInner(bytes, outdoors, &GXWeatherAndTemperaturePickerView::setTemperaturePicker);
         if (which > 3) setSomething(bytes, outdoors->weatherPicker().get());
         if (which == 2 || which == 3) setSomething(bytes, outdoors->temperaturePicker().get());
     } else if (auto* const course = as<GXDistanceAndDurationPicker>(picker)) {
-        if (which == 0) course->setDistancePicker(bytes.flag() ? create<GXDistancePickerView>(bytes.rect()) : nullptr);
-        if (which == 1) course->setDurationPicker(bytes.flag() ? create<GXDurationPickerView>(bytes.rect()) : nullptr);
+        if (which == 0) replaceInner(bytes, course, &GXDistanceAndDurationPicker::setDistancePicker);
+        if (which == 1) replaceInner(bytes, course, &GXDistanceAndDurationPicker::setDurationPicker);
         if (which > 3) setSomething(bytes, course->distancePicker().get());
         if (which == 2 || which == 3) setSomething(bytes, course->durationPicker().get());
     }
