@@ -151,6 +151,15 @@ TEST(UIPickerTitleSearch, nothing_is_found_without_a_text_titles_or_rows) {
     EXPECT_EQ(empty.questions, 0);
 }
 
+TEST(UIPickerTitleSearch, a_number_spells_a_title_with_something_else_behind_it) {
+    Search search({"5'", "6km", "7:30", "8.5", "90"});
+    EXPECT_EQ(search(U"5"), (Result{0, true}));
+    EXPECT_EQ(search(U"6"), (Result{1, true}));
+    EXPECT_EQ(search(U"7"), (Result{2, true}));
+    EXPECT_EQ(search(U"8"), (Result{std::nullopt, true})) << "another number";
+    EXPECT_EQ(search(U"9"), (Result{std::nullopt, true})) << "this too";
+}
+
 TEST(UIPickerTitleSearch, a_separator_alone_is_no_number_yet) {
     Search tenths(10, [](NSInteger row) { return "," + std::to_string(row); });
     EXPECT_EQ(tenths(U"."), (Result{std::nullopt, true}));

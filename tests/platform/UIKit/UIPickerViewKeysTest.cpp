@@ -480,6 +480,37 @@ TEST_F(ThreeColumns, behind_a_separator_a_digit_too_many_counts_for_nothing) {
     EXPECT_EQ(wheel->componentOfKeys(), 2);
 }
 
+TEST_F(Keys, a_column_beside_a_fraction_takes_only_what_it_has) {
+    source->rows = {100, 1, 10, 3};
+    source->title = [](NSInteger row, NSInteger component) -> std::optional<std::string> {
+        if (component == 1) return std::nullopt;
+        return component == 3 ? std::string(1, static_cast<char>('a' + row)) : std::to_string(row);
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.type("4.27");
+    window.run(2);
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {2, 2}})) << "7 is no letter";
+    EXPECT_EQ(wheel->componentOfKeys(), 2);
+    window.type("3b");
+    window.run(2);
+    EXPECT_EQ(source->notices.back(), (WheelSource::Notice{2, 2})) << "nor is 3b a digit, without a separator before it";
+}
+
+TEST_F(Keys, a_mark_that_ends_a_title_goes_on_only_to_what_the_next_column_has) {
+    source->rows = {5, 10};
+    source->title = [](NSInteger row, NSInteger component) { return std::to_string(row) + (component == 0 ? "'" : "in"); };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    window.type("3'x");
+    window.run(2);
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 0) << "3'x is not there";
+    window.type("3'7");
+    window.run(2);
+    EXPECT_EQ(source->notices.back(), (WheelSource::Notice{7, 1}));
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 3);
+}
+
 TEST_F(ThreeColumns, what_stands_behind_the_separator_of_a_number_that_is_not_there_is_not_typed_either) {
     source->title = [](NSInteger row, NSInteger component) -> std::optional<std::string> {
         if (component == 1) return std::nullopt;
