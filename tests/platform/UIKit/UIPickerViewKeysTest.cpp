@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "FocusableView.h"
 #include "RecordingCanvas.h"
 #include "TestWindow.h"
 #include "WheelSource.h"
@@ -298,11 +299,7 @@ TEST_F(Keys, the_chosen_column_is_marked_within_the_band_once_a_key_is_used) {
     wheel->reloadAllComponents();
     window.tick(0);
     EXPECT_NE(marks(), Calls{});
-    class Field : public UIView {
-    public:
-        bool canBecomeFirstResponder() override { return true; }
-    };
-    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    const auto field = create<FocusableView>(CGRectMake(0, 0, 10, 10));
     window->addSubview(field);
     field->becomeFirstResponder();
     EXPECT_TRUE(window->showsFocus());

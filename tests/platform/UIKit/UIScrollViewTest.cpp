@@ -3,6 +3,7 @@
 #include <functional>
 #include <limits>
 
+#include "FocusableView.h"
 #include "RecordingCanvas.h"
 #include "TestWindow.h"
 #include "UIPickerView.h"
@@ -502,11 +503,7 @@ TEST_F(Scrolling, who_is_around_it_shows_the_place_where_a_revealed_view_will_be
 }
 
 TEST_F(Scrolling, keys_that_nothing_inside_has_used_scroll) {
-    class Field : public UIView {
-    public:
-        bool canBecomeFirstResponder() override { return true; }
-    };
-    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    const auto field = create<FocusableView>(CGRectMake(0, 0, 10, 10));
     content->addSubview(field);
     ASSERT_TRUE(field->becomeFirstResponder());
     const auto offsetAfter = [this](UIKey::Code code) {
@@ -665,11 +662,7 @@ TEST_F(Scrolling, also_where_the_movement_is_told_only_with_the_release) {
 }
 
 TEST_F(Scrolling, under_a_finger_keys_are_of_use_but_move_nothing) {
-    class Field : public UIView {
-    public:
-        bool canBecomeFirstResponder() override { return true; }
-    };
-    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    const auto field = create<FocusableView>(CGRectMake(0, 0, 10, 10));
     content->addSubview(field);
     field->becomeFirstResponder();
     window.down(middle);

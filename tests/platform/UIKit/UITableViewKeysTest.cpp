@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "FocusableView.h"
 #include "NullCanvas.h"
 #include "RecordingCanvas.h"
 #include "TableSource.h"
@@ -385,11 +386,7 @@ TEST_F(TableKeys, the_row_is_marked_from_a_key_to_a_touch) {
 }
 
 TEST_F(TableKeys, only_where_the_keys_go_is_a_row_marked) {
-    class Field : public UIView {
-    public:
-        bool canBecomeFirstResponder() override { return true; }
-    };
-    const auto field = create<Field>(CGRectMake(0, 0, 10, 10));
+    const auto field = create<FocusableView>(CGRectMake(0, 0, 10, 10));
     const int plain = fills();
     window->addSubview(field);
     press(Code::Tab);
