@@ -1,24 +1,64 @@
-# gx_add_floor(<name> FOLDERS <folder>… DEPENDS <target>…)
+# gx_add_floor(<name> FOLDERS <folder>… PUBLIC_HEADERS <header>… DEPENDS <target>…)
 #
-# Makes the library gx_<name>, known as gx::<name>, of all sources in the folders. A header is included by its
-# name alone, as in #include "UIPickerView.h", wherever it lies.
+# Makes the library gx_<name>, known as gx::<name>, of all sources in the folders.
+#
+# A public header is included by everyone else as <GXUIPickers/Name.h>, wherever it lies; it is installed. Every other header
+# is internal: only the floor's own sources and its tests (through gx_<name>_internal) reach it, and it is not installed.
+# Inside floors 1 to 3, a header is included by its name alone.
+set(GX_PUBLIC_INCLUDE_FOLDER "${PROJECT_BINARY_DIR}/include")
+file(REMOVE_RECURSE "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
+file(MAKE_DIRECTORY "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
+# Lets sources of this project include a public header by its name alone.
+add_library(gx_names INTERFACE)
+target_include_directories(gx_names INTERFACE "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
+
 function(gx_add_floor name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;DEPENDS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;PUBLIC_HEADERS;DEPENDS")
   set(target "gx_${name}")
   add_library(${target} STATIC)
   add_library(gx::${name} ALIAS ${target})
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} POSITION_INDEPENDENT_CODE ON)
   target_compile_features(${target} PUBLIC cxx_std_20)
-  target_link_libraries(${target} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:gx_flags>)
+
+  add_library(${target}_internal INTERFACE)
+  set(public_headers ${arg_PUBLIC_HEADERS})
   foreach(folder IN LISTS arg_FOLDERS)
-    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp")
-    file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h")
+    set(path "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
+    file(GLOB sources CONFIGURE_DEPENDS "${path}/*.cpp")
+    file(GLOB headers CONFIGURE_DEPENDS "${path}/*.h")
     target_sources(${target} PRIVATE ${sources})
-    file(RELATIVE_PATH place "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
-    target_include_directories(${target} PUBLIC
-      "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/${folder}>"
-      "$<INSTALL_INTERFACE:include/GXUIPickers/${place}>")
-    install(FILES ${headers} DESTINATION "include/GXUIPickers/${place}")
+    target_include_directories(${target}_internal INTERFACE "${path}")
+    foreach(header IN LISTS headers)
+      cmake_path(GET header FILENAME file)
+      if(NOT file IN_LIST public_headers)
+        continue()
+      endif()
+      list(REMOVE_ITEM public_headers "${file}")
+      # Public headers lie side by side, as they will be installed, so that they find each other.
+      file(CREATE_LINK "${header}" "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/${file}" COPY_ON_ERROR SYMBOLIC)
+      install(FILES "${header}" DESTINATION include/GXUIPickers)
+    endforeach()
   endforeach()
+  if(public_headers)
+    message(FATAL_ERROR "gx::${name} has no header ${public_headers}")
+  endif()
+  set_property(GLOBAL APPEND PROPERTY GX_PUBLIC_HEADERS_OF_${name} ${arg_PUBLIC_HEADERS})
+
+  target_link_libraries(${target} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:gx_flags> $<BUILD_INTERFACE:${target}_internal>)
+  target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:gx_names>)
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${GX_PUBLIC_INCLUDE_FOLDER}>" $<INSTALL_INTERFACE:include>)
   install(TARGETS ${target} EXPORT GXUIPickersTargets)
+endfunction()
+
+# gx_add_umbrella_header(<floor>…): <GXUIPickers/GXUIPickers.h>, which includes every public header of these floors.
+function(gx_add_umbrella_header)
+  set(lines "#pragma once\n\n/// Everything: views, services and all pickers.\n\n")
+  foreach(name IN LISTS ARGN)
+    get_property(headers GLOBAL PROPERTY GX_PUBLIC_HEADERS_OF_${name})
+    foreach(header IN LISTS headers)
+      string(APPEND lines "#include <GXUIPickers/${header}>\n")
+    endforeach()
+  endforeach()
+  file(CONFIGURE OUTPUT "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" CONTENT "${lines}")
+  install(FILES "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" DESTINATION include/GXUIPickers)
 endfunction()

@@ -1,12 +1,12 @@
 #include <algorithm>
 
-#include "GXHeightPickerCell.h"
-#include "GXHeightPickerView.h"
-#include "GXStyleSheet.h"
-#include "GXWeightPickerCell.h"
-#include "GXWeightPickerView.h"
 #include "GalleryMeasurements.h"
 #include "GalleryWords.h"
+#include <GXUIPickers/GXHeightPickerCell.h>
+#include <GXUIPickers/GXHeightPickerView.h>
+#include <GXUIPickers/GXStyleSheet.h>
+#include <GXUIPickers/GXWeightPickerCell.h>
+#include <GXUIPickers/GXWeightPickerView.h>
 
 using namespace gx;
 

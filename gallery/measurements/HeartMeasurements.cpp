@@ -1,9 +1,9 @@
-#include "GXBpmPickerCell.h"
-#include "GXBpmPickerView.h"
-#include "GXHeartRatePickerCell.h"
-#include "GXHeartRatePickerView.h"
 #include "GalleryMeasurements.h"
 #include "GalleryWords.h"
+#include <GXUIPickers/GXBpmPickerCell.h>
+#include <GXUIPickers/GXBpmPickerView.h>
+#include <GXUIPickers/GXHeartRatePickerCell.h>
+#include <GXUIPickers/GXHeartRatePickerView.h>
 
 using namespace gx;
 

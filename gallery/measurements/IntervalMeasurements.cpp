@@ -1,11 +1,11 @@
-#include "GXDistancePickerCell.h"
-#include "GXDistancePickerView.h"
-#include "GXDurationPickerCell.h"
-#include "GXDurationPickerView.h"
-#include "GXPacePickerCell.h"
-#include "GXPacePickerView.h"
 #include "GalleryMeasurements.h"
 #include "GalleryWords.h"
+#include <GXUIPickers/GXDistancePickerCell.h>
+#include <GXUIPickers/GXDistancePickerView.h>
+#include <GXUIPickers/GXDurationPickerCell.h>
+#include <GXUIPickers/GXDurationPickerView.h>
+#include <GXUIPickers/GXPacePickerCell.h>
+#include <GXUIPickers/GXPacePickerView.h>
 
 using namespace gx;
 

@@ -1,11 +1,11 @@
-#include "GXTemperaturePickerCell.h"
-#include "GXTemperaturePickerView.h"
-#include "GXWeatherAndTemperaturePickerCell.h"
-#include "GXWeatherAndTemperaturePickerView.h"
 #include "GalleryMeasurements.h"
 #include "GalleryTexts.h"
 #include "GalleryWeatherIcons.h"
 #include "GalleryWords.h"
+#include <GXUIPickers/GXTemperaturePickerCell.h>
+#include <GXUIPickers/GXTemperaturePickerView.h>
+#include <GXUIPickers/GXWeatherAndTemperaturePickerCell.h>
+#include <GXUIPickers/GXWeatherAndTemperaturePickerView.h>
 
 using namespace gx;
 

@@ -1,11 +1,11 @@
-#include "GXCaloriesPickerCell.h"
-#include "GXCaloriesPickerView.h"
-#include "GXDistanceAndDurationCell.h"
-#include "GXDistanceAndDurationPicker.h"
-#include "GXSpeedPickerCell.h"
-#include "GXSpeedPickerView.h"
 #include "GalleryMeasurements.h"
 #include "GalleryWords.h"
+#include <GXUIPickers/GXCaloriesPickerCell.h>
+#include <GXUIPickers/GXCaloriesPickerView.h>
+#include <GXUIPickers/GXDistanceAndDurationCell.h>
+#include <GXUIPickers/GXDistanceAndDurationPicker.h>
+#include <GXUIPickers/GXSpeedPickerCell.h>
+#include <GXUIPickers/GXSpeedPickerView.h>
 
 using namespace gx;
 

@@ -1,8 +1,8 @@
 #include <array>
 
-#include "GXBpmPickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXBpmPickerView.h>
 
 using namespace gx;
 

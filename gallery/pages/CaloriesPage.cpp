@@ -1,8 +1,8 @@
 #include <array>
 
-#include "GXCaloriesPickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXCaloriesPickerView.h>
 
 using namespace gx;
 

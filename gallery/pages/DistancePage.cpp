@@ -1,6 +1,6 @@
-#include "GXDistancePickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXDistancePickerView.h>
 
 using namespace gx;
 

@@ -1,9 +1,9 @@
 #include <array>
 #include <memory>
 
-#include "GXDurationPickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXDurationPickerView.h>
 
 using namespace gx;
 

@@ -1,8 +1,8 @@
 #include <array>
 
-#include "GXHeartRatePickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXHeartRatePickerView.h>
 
 using namespace gx;
 

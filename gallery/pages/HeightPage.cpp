@@ -1,9 +1,9 @@
 #include <cmath>
 
-#include "GXHeightPickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
 #include "GalleryTheme.h"
+#include <GXUIPickers/GXHeightPickerView.h>
 
 using namespace gx;
 

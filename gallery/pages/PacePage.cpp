@@ -1,8 +1,8 @@
 #include <array>
 
-#include "GXPacePickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXPacePickerView.h>
 
 using namespace gx;
 

@@ -1,6 +1,6 @@
-#include "GXSpeedPickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXSpeedPickerView.h>
 
 using namespace gx;
 

@@ -1,9 +1,9 @@
 #include <array>
 
-#include "GXTemperaturePickerView.h"
-#include "GXUnitConverter.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXTemperaturePickerView.h>
+#include <GXUIPickers/GXUnitConverter.h>
 
 using namespace gx;
 

@@ -1,8 +1,8 @@
-#include "GXLocalization.h"
-#include "GXUnitConverter.h"
-#include "GXWeightPickerView.h"
 #include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include <GXUIPickers/GXLocalization.h>
+#include <GXUIPickers/GXUnitConverter.h>
+#include <GXUIPickers/GXWeightPickerView.h>
 
 using namespace gx;
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "UIViewWidget.h"
+#include <GXUIPickers/UIViewWidget.h>
 
 namespace gx::qt {
 

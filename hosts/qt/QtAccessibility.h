@@ -6,7 +6,7 @@
 #include <QAccessibleWidget>
 #include <QPointer>
 
-#include "UIAccessibility.h"
+#include <GXUIPickers/UIAccessibility.h>
 
 namespace gx::qt {
 

@@ -1,4 +1,4 @@
-#include "QtCanvas.h"
+#include <GXUIPickers/QtCanvas.h>
 
 #include <algorithm>
 #include <cmath>

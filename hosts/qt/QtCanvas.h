@@ -6,9 +6,9 @@
 #include <QRect>
 #include <QTransform>
 
-#include "QtImageCache.h"
-#include "QtTextImageCache.h"
-#include "UIGraphicsContext.h"
+#include <GXUIPickers/QtImageCache.h>
+#include <GXUIPickers/QtTextImageCache.h>
+#include <GXUIPickers/UIGraphicsContext.h>
 
 class QPainter;
 

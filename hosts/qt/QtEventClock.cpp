@@ -1,4 +1,4 @@
-#include "QtEventClock.h"
+#include <GXUIPickers/QtEventClock.h>
 
 #include <algorithm>
 #include <cmath>

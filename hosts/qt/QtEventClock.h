@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "NSObject.h"
+#include <GXUIPickers/NSObject.h>
 
 namespace gx::qt {
 

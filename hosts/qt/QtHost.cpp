@@ -1,4 +1,4 @@
-#include "QtHost.h"
+#include <GXUIPickers/QtHost.h>
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -6,9 +6,9 @@
 #include <QTimer>
 
 #include "QtAccessibility.h"
-#include "QtImageLoader.h"
-#include "QtTextEngine.h"
-#include "UIHost.h"
+#include <GXUIPickers/QtImageLoader.h>
+#include <GXUIPickers/QtTextEngine.h>
+#include <GXUIPickers/UIHost.h>
 
 namespace gx::qt {
 

@@ -6,7 +6,7 @@
 
 #include <QLocale>
 
-#include "NSLocale.h"
+#include <GXUIPickers/NSLocale.h>
 
 class QGuiApplication;
 

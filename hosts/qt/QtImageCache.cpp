@@ -1,4 +1,4 @@
-#include "QtImageCache.h"
+#include <GXUIPickers/QtImageCache.h>
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 
 #include <QImage>
 
-#include "UIImage.h"
+#include <GXUIPickers/UIImage.h>
 
 namespace gx::qt {
 

@@ -1,4 +1,4 @@
-#include "QtImageLoader.h"
+#include <GXUIPickers/QtImageLoader.h>
 
 #include <cstring>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UIImage.h"
+#include <GXUIPickers/UIImage.h>
 
 namespace gx::qt {
 

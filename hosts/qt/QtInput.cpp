@@ -9,7 +9,7 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
-#include "UIKey.h"
+#include <GXUIPickers/UIKey.h>
 
 namespace gx::qt {
 

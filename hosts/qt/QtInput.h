@@ -4,7 +4,7 @@
 
 #include <QPointF>
 
-#include "UIWindow.h"
+#include <GXUIPickers/UIWindow.h>
 
 class QKeyEvent;
 class QMouseEvent;

@@ -1,4 +1,4 @@
-#include "QtTextEngine.h"
+#include <GXUIPickers/QtTextEngine.h>
 
 #include <algorithm>
 

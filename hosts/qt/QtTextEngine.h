@@ -8,8 +8,8 @@
 #include <QFont>
 #include <QFontMetricsF>
 
-#include "QtTextCache.h"
-#include "UITextEngine.h"
+#include <GXUIPickers/QtTextCache.h>
+#include <GXUIPickers/UITextEngine.h>
 
 namespace gx::qt {
 

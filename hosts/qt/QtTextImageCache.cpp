@@ -1,4 +1,4 @@
-#include "QtTextImageCache.h"
+#include <GXUIPickers/QtTextImageCache.h>
 
 #include <cmath>
 #include <optional>

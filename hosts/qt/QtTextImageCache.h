@@ -5,8 +5,8 @@
 
 #include <QImage>
 
-#include "QtTextCache.h"
-#include "QtTextEngine.h"
+#include <GXUIPickers/QtTextCache.h>
+#include <GXUIPickers/QtTextEngine.h>
 
 namespace gx::qt {
 

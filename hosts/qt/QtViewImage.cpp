@@ -1,11 +1,11 @@
-#include "QtViewImage.h"
+#include <GXUIPickers/QtViewImage.h>
 
 #include <cmath>
 
 #include <QPainter>
 
-#include "QtCanvas.h"
-#include "UIWindow.h"
+#include <GXUIPickers/QtCanvas.h>
+#include <GXUIPickers/UIWindow.h>
 
 namespace gx::qt {
 

@@ -2,7 +2,7 @@
 
 #include <QImage>
 
-#include "UIView.h"
+#include <GXUIPickers/UIView.h>
 
 namespace gx::qt {
 

@@ -1,4 +1,4 @@
-#include "UIViewWidget.h"
+#include <GXUIPickers/UIViewWidget.h>
 
 #include <algorithm>
 #include <cmath>

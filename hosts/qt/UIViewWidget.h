@@ -8,9 +8,9 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "QtCanvas.h"
-#include "QtEventClock.h"
-#include "UIHost.h"
+#include <GXUIPickers/QtCanvas.h>
+#include <GXUIPickers/QtEventClock.h>
+#include <GXUIPickers/UIHost.h>
 
 class QInputEvent;
 

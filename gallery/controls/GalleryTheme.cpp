@@ -1,0 +1,104 @@
+#include "GalleryTheme.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <GXUIPickers/UIGraphicsContext.h>
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+UIColor lightDark(unsigned light, unsigned dark) {
+    return UIColor::colorWithLight_dark(UIColor::colorWithHex(light), UIColor::colorWithHex(dark));
+}
+
+/// The same, and others at high contrast.
+UIColor contrasting(const UIColor& normal, unsigned light, unsigned dark) {
+    return UIColor::colorWithNormal_highContrast(normal, lightDark(light, dark));
+}
+
+/// A font of the host's interface family, made once for each place of use.
+Ref<UIFont> font(CGFloat size, UIFontWeight weight) { return UIFont::systemFontOfSize_weight(size, weight); }
+
+} // namespace
+
+UIColor GalleryTheme::background() { return lightDark(0xF3F4F6, 0x0E1013); }
+UIColor GalleryTheme::sidebar() { return lightDark(0xFBFBFC, 0x15171B); }
+UIColor GalleryTheme::card() { return lightDark(0xFFFFFF, 0x1B1E23); }
+UIColor GalleryTheme::hairline() { return contrasting(lightDark(0xE6E8EC, 0x2A2E35), 0x6B727E, 0x8F97A3); }
+UIColor GalleryTheme::text() { return UIColor::labelColor(); }
+UIColor GalleryTheme::secondaryText() { return UIColor::secondaryLabelColor(); }
+UIColor GalleryTheme::accent() { return contrasting(lightDark(0x0B7269, 0x56CDBF), 0x00453F, 0x8FF0E4); }
+UIColor GalleryTheme::warning() { return contrasting(lightDark(0xB3261E, 0xFF8A80), 0x7A110B, 0xFFC1BB); }
+UIColor GalleryTheme::accentFill() {
+    return UIColor::colorWithLight_dark(UIColor::colorWithHex(0x0B7269, 0.10), UIColor::colorWithHex(0x56CDBF, 0.15));
+}
+UIColor GalleryTheme::track() { return contrasting(lightDark(0xEBEDF0, 0x272B32), 0xD3D7DD, 0x2C3038); }
+UIColor GalleryTheme::thumb() { return contrasting(lightDark(0xFFFFFF, 0x454B56), 0xFFFFFF, 0x0E1013); }
+UIColor GalleryTheme::pressed() {
+    return UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0, 0.06), UIColor::colorWithWhite_alpha(1, 0.08));
+}
+
+const Ref<UIFont>& GalleryTheme::titleFont() {
+    static const Ref<UIFont> shared = font(28, UIFontWeight::Bold);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::headingFont() {
+    static const Ref<UIFont> shared = font(17, UIFontWeight::Semibold);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::bodyFont() {
+    static const Ref<UIFont> shared = font(15, UIFontWeight::Regular);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::strongFont() {
+    static const Ref<UIFont> shared = font(15, UIFontWeight::Semibold);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::captionFont() {
+    static const Ref<UIFont> shared = font(13, UIFontWeight::Regular);
+    return shared;
+}
+const Ref<UIFont>& GalleryTheme::strongCaptionFont() {
+    static const Ref<UIFont> shared = font(13, UIFontWeight::Semibold);
+    return shared;
+}
+
+void GalleryTheme::drawOutline(UIGraphicsContext& context, CGRect rect, CGFloat cornerRadius) {
+    constexpr CGFloat width = 2;
+    constexpr double rightAngle = 1.5707963267948966;
+    // What lies within stays as it is: straight lines, and around each corner a row of dots close enough to look like one.
+    const CGFloat radius = std::clamp(cornerRadius, width, 0.5 * std::min(rect.size.width, rect.size.height));
+    const CGFloat right = CGRectGetMaxX(rect);
+    const CGFloat bottom = CGRectGetMaxY(rect);
+    for (const CGFloat y : {rect.origin.y, bottom - width}) {
+        context.fillRect(CGRectMake(rect.origin.x + radius, y, rect.size.width - 2 * radius, width), accent());
+    }
+    for (const CGFloat x : {rect.origin.x, right - width}) {
+        context.fillRect(CGRectMake(x, rect.origin.y + radius, width, rect.size.height - 2 * radius), accent());
+    }
+    constexpr int dots = 24;
+    const CGFloat reach = radius - 0.5 * width;
+    for (int i = 0; i <= dots; ++i) {
+        const double angle = i * rightAngle / dots;
+        const CGFloat dx = radius - reach * std::cos(angle) - 0.5 * width;
+        const CGFloat dy = radius - reach * std::sin(angle) - 0.5 * width;
+        for (const CGFloat x : {rect.origin.x + dx, right - dx - width}) {
+            for (const CGFloat y : {rect.origin.y + dy, bottom - dy - width}) {
+                context.fillRect(CGRectMake(x, y, width, width), accent(), 0.5 * width);
+            }
+        }
+    }
+}
+
+Ref<UIView> GalleryTheme::makeCard() {
+    auto view = create<UIView>(CGRectZero);
+    view->setBackgroundColor(card());
+    view->setCornerRadius(cardRadius);
+    return view;
+}
+
+} // namespace gallery

@@ -1,0 +1,124 @@
+#include "GallerySidebar.h"
+
+#include <algorithm>
+
+#include "GalleryTexts.h"
+#include "GalleryTheme.h"
+#include <GXUIPickers/UIGraphicsContext.h>
+#include <GXUIPickers/UIKey.h>
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+constexpr CGFloat inset = 12;
+
+/// Rows one below the other.
+class SidebarList : public UIView {
+public:
+    CGSize sizeThatFits(CGSize available) const override {
+        return {available.width, static_cast<CGFloat>(subviews().size()) * GalleryTheme::controlHeight + inset};
+    }
+    void layoutSubviews() override {
+        UIView::layoutSubviews();
+        const CGFloat width = std::max(0.0, bounds().size.width - 2 * inset);
+        CGFloat y = 0;
+        for (const Ref<UIView>& row : subviews()) {
+            row->setFrame(CGRectMake(inset, y, width, GalleryTheme::controlHeight));
+            y += GalleryTheme::controlHeight;
+        }
+    }
+    /// Up and down go from row to row, home and end to the first and the last.
+    bool keyPressed(const UIKey& key) override {
+        const auto focused =
+            std::find_if(subviews().begin(), subviews().end(), [](const Ref<UIView>& row) { return row->isFirstResponder(); });
+        if (focused == subviews().end() || key.isCommand()) return UIView::keyPressed(key);
+        Ref<UIView> next = *focused;
+        switch (key.code) {
+        case UIKey::Code::Up:
+            if (focused != subviews().begin()) next = *(focused - 1);
+            break;
+        case UIKey::Code::Down:
+            if (focused + 1 != subviews().end()) next = *(focused + 1);
+            break;
+        case UIKey::Code::Home:
+            next = subviews().front();
+            break;
+        case UIKey::Code::End:
+            next = subviews().back();
+            break;
+        default:
+            return UIView::keyPressed(key);
+        }
+        next->becomeFirstResponder();
+        next->revealDescendant(next->bounds());
+        return true;
+    }
+};
+
+} // namespace
+
+Ref<GallerySidebar> GallerySidebar::sidebarWithPages_show(const std::vector<std::string>& names,
+                                                          const std::function<void(std::size_t page)>& show) {
+    auto sidebar = create<GallerySidebar>(CGRectZero);
+    sidebar->names_ = names;
+    const auto list = create<SidebarList>(CGRectZero);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto row = GalleryButton::buttonWithTitle_style(GalleryTexts::text(names[i]), GalleryButton::Style::Row);
+        row->setAction([show, i] { show(i); });
+        sidebar->rows_.push_back(row);
+        list->addSubview(row);
+    }
+    sidebar->list_->setContent(list);
+    return sidebar;
+}
+
+bool GallerySidebar::initWithFrame(CGRect frame) {
+    if (!UIView::initWithFrame(frame)) return false;
+    setBackgroundColor(GalleryTheme::sidebar());
+    title_ = create<UILabel>(CGRectZero);
+    title_->setText("GXUIPickers");
+    title_->setFont(GalleryTheme::headingFont());
+    list_ = create<GalleryScroll>(CGRectZero);
+    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, list_}) addSubview(view);
+    return true;
+}
+
+void GallerySidebar::setShowsTitle(bool shows) {
+    if (shows == !title_->isHidden()) return;
+    title_->setHidden(!shows);
+    setNeedsLayout();
+}
+
+void GallerySidebar::setChosenPage(std::size_t page) {
+    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setChosen(i == page);
+    chosen_ = page;
+    setNeedsLayout();
+}
+
+void GallerySidebar::showNames() {
+    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(GalleryTexts::text(names_[i]));
+}
+
+void GallerySidebar::layoutSubviews() {
+    UIView::layoutSubviews();
+    const CGSize size = bounds().size;
+    title_->setFrame(CGRectMake(2 * inset, 0, std::max(0.0, size.width - 4 * inset), GalleryTheme::barHeight));
+    const CGFloat listY = title_->isHidden() ? inset : GalleryTheme::barHeight;
+    list_->setFrame(CGRectMake(0, listY, size.width, std::max(0.0, size.height - listY)));
+    list_->layoutIfNeeded();
+    // The chosen row stays in sight.
+    if (chosen_ >= rows_.size()) return;
+    const CGFloat top = static_cast<CGFloat>(chosen_) * GalleryTheme::controlHeight;
+    const CGFloat lowest = top + GalleryTheme::controlHeight - list_->bounds().size.height;
+    if (list_->offset() < lowest) list_->setOffset(lowest);
+    if (list_->offset() > top) list_->setOffset(top);
+}
+
+void GallerySidebar::drawRect(UIGraphicsContext& context, CGRect rect) {
+    context.fillRect(CGRectMake(CGRectGetMaxX(rect) - 1, 0, 1, rect.size.height), GalleryTheme::hairline());
+}
+
+} // namespace gallery

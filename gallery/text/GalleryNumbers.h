@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <GXUIPickers/NSNumber.h>
+
+namespace gallery {
+
+/// Numbers as a person reads them, and as the program holds them.
+class GalleryNumbers {
+public:
+    GalleryNumbers() = delete;
+
+    /// Rounded to `digits` decimals (0 to 6), halves away from zero, with the decimal separator of the current locale: "5.3" or "5,3". What
+    /// is no finite number, and what is too large to count, is "–".
+    static std::string decimal(double value, int digits);
+    /// Minutes and seconds, "5:07".
+    static std::string minutes(std::int64_t seconds);
+    /// Hours and minutes, "1:05".
+    static std::string hours(std::int64_t minutes);
+    /// "1:20:07".
+    static std::string clock(std::int64_t seconds);
+    /// What is in the box: integers as they are, others with a point and one to four decimals.
+    static std::string boxed(const gx::NSNumber& number);
+};
+
+} // namespace gallery
