@@ -233,7 +233,7 @@ void setWindowProperty(FuzzBytes& bytes, const Ref<UIWindow>& window) {
     case 4:
         return window->setTicksEnabled(bytes.flag());
     case 5:
-        return window->settle();
+        return window->finishAnimations();
     default:
         return window->setReducesMotion(bytes.flag());
     }

@@ -93,7 +93,7 @@ void FuzzStage::end() {
     for (std::size_t i = 0; i < windows_.size(); ++i) {
         hand_.goTo(windows_[i]);
         hand_.waitUntilStill();
-        windows_[i]->settle();
+        windows_[i]->finishAnimations();
     }
     draw();
 }

@@ -21,7 +21,7 @@ public:
         react(16);
     }
     void didMoveToWindow() override { react(8); }
-    void didDisappear() override { react(8); }
+    void finishAnimations() override { react(8); }
     void touchCancelled(const gx::UITouch& touch) override {
         gx::UITableViewCell::touchCancelled(touch);
         react(4);

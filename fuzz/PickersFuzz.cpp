@@ -33,9 +33,9 @@ public:
         react(8);
         GXMultiValuePickerView::didMoveToWindow();
     }
-    void didDisappear() override {
+    void finishAnimations() override {
         react(8);
-        GXMultiValuePickerView::didDisappear();
+        GXMultiValuePickerView::finishAnimations();
     }
     void touchCancelled(const UITouch& touch) override {
         GXMultiValuePickerView::touchCancelled(touch);
@@ -181,7 +181,7 @@ private:
         case 1:
             return wheel->turnToRow_inComponent(row, component);
         case 2:
-            return wheel->settle();
+            return wheel->finishAnimations();
         default:
             wheel->layoutIfNeeded();
         }

@@ -28,12 +28,6 @@ constexpr double fewestRowsOfWheel = 3;
 // Of the table's height: the row that it belongs to stays in sight.
 constexpr double highestShareOfPicker = 0.75;
 
-void settleWheelsIn(const Ref<UIView>& view) {
-    if (const auto wheel = std::dynamic_pointer_cast<UIPickerView>(view)) return wheel->settle();
-    const std::vector<Ref<UIView>> below = view->subviews(); // A report may change the tree.
-    for (const Ref<UIView>& subview : below) settleWheelsIn(subview);
-}
-
 } // namespace
 
 bool GalleryEntry::initWithFrame(CGRect frame) {
@@ -184,7 +178,7 @@ void GalleryEntry::fillRow(GalleryRowCell& cell, std::size_t measurement) {
 }
 
 void GalleryEntry::settleWheels() {
-    if (table_) settleWheelsIn(table_);
+    if (table_) table_->finishAnimationsInTree();
 }
 
 // The table's questions

@@ -177,7 +177,7 @@ void UIViewWidget::hideEvent(QHideEvent* event) {
     const Ref<UIWindow> window = window_;
     QWidget::hideEvent(event);
     input->cancelAll(now());
-    window->settle();
+    window->finishAnimations();
 }
 
 // The keyboard

@@ -35,7 +35,7 @@ Costs costsOf(NSInteger rows) {
         });
     };
     spin(); // Buffers and views grow to what a moving wheel needs.
-    wheel->settle();
+    wheel->finishAnimations();
     window.tick(0);
     const std::size_t reload = allocationsOf([&] {
         wheel->reloadAllComponents();

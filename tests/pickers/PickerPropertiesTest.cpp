@@ -144,7 +144,7 @@ void exercise(const Option<Picker>& option) {
             if (testing::Test::HasFatalFailure()) return;
         }
         window.runUntilStill();
-        picker->pickerView()->settle();
+        picker->pickerView()->finishAnimations();
     }
 }
 

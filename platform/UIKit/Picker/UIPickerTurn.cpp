@@ -266,11 +266,11 @@ bool UIPickerTurn::advanceToTime(NSTimeInterval time) {
     if (state_ != State::Gliding && state_ != State::Requested) return isMoving();
     motion_.beginAt(time);
     offset_ = motion_.positionAt(time);
-    if (motion_.isOverAt(time)) settle();
+    if (motion_.isOverAt(time)) finish();
     return isMoving();
 }
 
-void UIPickerTurn::settle() {
+void UIPickerTurn::finish() {
     const bool turnedNothing = state_ == State::Touched && !stoppedMotion_;
     const bool isReported = isUsersTurn() && !turnedNothing;
     standOnRow(landingRow());
@@ -281,7 +281,7 @@ void UIPickerTurn::settle() {
 
 bool UIPickerTurn::arrive() {
     if (state_ != State::Gliding && state_ != State::Requested) return false;
-    settle();
+    finish();
     return true;
 }
 

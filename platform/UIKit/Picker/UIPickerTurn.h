@@ -91,7 +91,7 @@ public:
     /// Moves to where the column is at `time`. Answers whether it moves on.
     bool advanceToTime(NSTimeInterval time);
     /// Ends the movement at once, a user's turn on its landing row.
-    void settle();
+    void finish();
     /// The same for a column that goes by itself; others, such as one under a finger, go on. Answers whether it has arrived so.
     bool arrive();
     /// How many rows have passed the band in a user's turn since the last call.

@@ -43,7 +43,7 @@ class UIPickerColumn;
 /// Every eye. In a window that reduces motion a column that is let go, tapped, asked or turned by a notch or a key arrives with the next
 /// tick, without the way there, and reports as ever. At high contrast rows beside the band fade less, and the band has an outline.
 ///
-/// No turn is lost: a wheel that leaves its window, is hidden, or whose window settles, arrives at once and reports.
+/// No turn is lost: a wheel that leaves its window, is hidden, or whose window ends its movements, arrives at once and reports.
 ///
 /// The wheel owns neither its data source nor its delegate. Both may do anything while they are asked.
 class UIPickerView : public UIView {
@@ -106,8 +106,6 @@ public:
     /// What every turn by the user ends in: stands on the row, requests it and tells the delegate. The row is held to the rows there are,
     /// and is 0 without any (where no user can turn, but a program may say so). Ignored for a component that does not exist.
     virtual void turnToRow_inComponent(NSInteger row, NSInteger component);
-    /// Ends every movement at once, the user's turns on the rows they were heading for, and reports those.
-    void settle();
 
     bool initWithFrame(CGRect frame) override;
     bool initWithCoder(const Ref<NSCoder>& coder) override;
@@ -115,7 +113,8 @@ public:
     void setBounds(CGRect bounds) override;
     void layoutSubviews() override;
     void didMoveToWindow() override;
-    void didDisappear() override;
+    /// Ends every movement at once, the user's turns on the rows they were heading for, and reports those.
+    void finishAnimations() override;
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
     void touchBegan(const UITouch& touch) override;
     void touchMoved(const UITouch& touch) override;

@@ -220,7 +220,7 @@ void UIPickerView::arriveExcept(NSInteger component) {
     for (NSInteger i = 0; i < count_; ++i) {
         UIPickerTurn& turn = at(i).turn;
         if (i == component || !turn.isUsersTurn() || turn.isHeld()) continue;
-        turn.settle();
+        turn.finish();
         scrollColumn(i);
     }
     reportLandings();

@@ -40,7 +40,7 @@ void UIPickerView::startMoving() {
     if (const Ref<UIWindow> window = this->window()) {
         window->animateView(refTo<UIView>(this));
     } else if (isMoving()) {
-        settle();
+        finishAnimations();
     }
 }
 
@@ -159,11 +159,12 @@ bool UIPickerView::advanceToTime(NSTimeInterval time) {
     return isMoving();
 }
 
-void UIPickerView::settle() {
+void UIPickerView::finishAnimations() {
+    if (!isTurning()) return;
     const Ref<UIPickerView> keep = self();
     typing_.clear();
     for (NSInteger i = 0; i < count_; ++i) {
-        at(i).turn.settle();
+        at(i).turn.finish();
         scrollColumn(i);
     }
     setNeedsLayout(); // For the rows that have come into sight: of a request nothing is reported that would lay out.
@@ -182,12 +183,7 @@ void UIPickerView::reportLandings() {
 void UIPickerView::didMoveToWindow() {
     UIView::didMoveToWindow();
     // Without a window no time passes: what moves arrives.
-    if (isTurning() && !window()) settle();
-}
-
-void UIPickerView::didDisappear() {
-    UIView::didDisappear();
-    if (isTurning()) settle();
+    if (!window()) finishAnimations();
 }
 
 } // namespace gx

@@ -109,15 +109,10 @@ void UIScrollView::setBounds(CGRect newBounds) {
 void UIScrollView::didMoveToWindow() {
     UIView::didMoveToWindow();
     // Without a window no time passes and no finger comes: what moves arrives.
-    if (!window()) settle();
+    if (!window()) finishAnimations();
 }
 
-void UIScrollView::didDisappear() {
-    UIView::didDisappear();
-    settle();
-}
-
-void UIScrollView::settle() {
+void UIScrollView::finishAnimations() {
     const Ref<UIView> keep = refTo<UIView>(this);
     const bool isUnderway = UIScrollView::isMoving();
     const CGFloat target = target_;

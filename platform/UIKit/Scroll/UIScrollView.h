@@ -44,10 +44,6 @@ public:
     /// The offset that shows the content's end; 0 if all of it fits.
     CGFloat highestOffset() const;
 
-    /// Ends every movement at once, where it was heading for, and forgets the finger; what that has pulled beyond an end is back there. A
-    /// view that leaves its window, is hidden, or whose window settles, does so.
-    virtual void settle();
-
     /// Whether a finger moves the content.
     bool isDragging() const { return state_ == State::Dragged; }
     /// Whether the content moves on by itself after a finger has let go.
@@ -57,7 +53,9 @@ public:
     /// Its origin is the content's offset.
     void setBounds(CGRect bounds) override;
     void didMoveToWindow() override;
-    void didDisappear() override;
+    /// Ends every movement at once, where it was heading for, and forgets the finger; what that has pulled beyond an end is back there. A
+    /// view that leaves its window does so too.
+    void finishAnimations() override;
     void touchBegan(const UITouch& touch) override;
     void touchMoved(const UITouch& touch) override;
     void touchEnded(const UITouch& touch) override;

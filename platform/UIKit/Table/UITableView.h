@@ -115,7 +115,7 @@ public:
     std::vector<Ref<UIView>> subviewsInReadingOrder() const override;
     void layoutSubviews() override;
     /// Also forgets the row that is lit, and draws rows that came or went where they belong.
-    void settle() override;
+    void finishAnimations() override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
     bool keyPressed(const UIKey& key) override;

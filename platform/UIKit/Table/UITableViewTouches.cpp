@@ -97,9 +97,9 @@ bool UITableView::advanceToTime(NSTimeInterval time) {
     return isMoving();
 }
 
-void UITableView::settle() {
+void UITableView::finishAnimations() {
     const Ref<UITableView> keep = self();
-    UIScrollView::settle();
+    UIScrollView::finishAnimations();
     forgetPress();
     finishChange();
 }

@@ -14,7 +14,7 @@
 /// - fingers, the mouse with its button held, and scrolling (`touchBegan_at_time` … `scroll`);
 /// - keys (`keyDown`), each with what it types, and held ones again and again; Tab too, which goes on to what lies around the window where
 ///   the answer is false; and whether the keys come to this window at all (`setReceivesKeys`);
-/// - that the window closes or is hidden, with `settle`, so that no turn is lost;
+/// - that the window closes or is hidden, with `finishAnimations`, so that no turn is lost;
 /// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when tick says so.
 ///
 /// The library asks of a host, through the window: frames and, unless the window's `setTicksEnabled` turns them off, ticks

@@ -106,7 +106,7 @@ public:
     double alpha() const { return alpha_; }
     void setAlpha(double alpha);
     bool isHidden() const { return isHidden_; }
-    /// Hiding takes away the focus of the view and of those below, and tells all of them (`didDisappear`).
+    /// Hiding takes away the focus of the view and of those below, and ends their movements (`finishAnimationsInTree`).
     virtual void setHidden(bool hidden);
     bool clipsToBounds() const { return clipsToBounds_; }
     void setClipsToBounds(bool clips);
@@ -171,9 +171,13 @@ public:
 
     // Time
 
-    /// Called when nobody sees the view any more, though it stays where it is: it, or a view above it, was hidden, or its window settles.
-    /// What is on its way arrives.
-    virtual void didDisappear();
+    /// Ends the view's own movements at once: what is on its way arrives, and a user's turn is reported. Here nothing moves.
+    ///
+    /// Called on the view and all views below when nobody sees them any more: the view, or one above it, was hidden, or the
+    /// window's `finishAnimations` was called. May be called at any time.
+    virtual void finishAnimations();
+    /// Calls `finishAnimations` on this view and on those below it.
+    void finishAnimationsInTree();
     /// Called by the window before each frame, for views that asked with `UIWindow::animateView`. Answers
     /// whether the view goes on moving.
     virtual bool advanceToTime(NSTimeInterval time);
@@ -197,8 +201,6 @@ protected:
     static void drawView(UIView& view, UIGraphicsContext& context);
     /// A window answers itself.
     virtual UIWindow* asWindow() { return nullptr; }
-    /// Tells this view and those below that they have disappeared.
-    void notifyDisappearance();
     /// The views from here down that take the focus, in the order of the tree.
     void collectFocusable(std::vector<Ref<UIView>>& found);
 

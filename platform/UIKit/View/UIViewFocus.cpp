@@ -59,16 +59,16 @@ void UIView::collectFocusable(std::vector<Ref<UIView>>& found) {
 
 // Out of sight
 
-void UIView::didDisappear() {}
+void UIView::finishAnimations() {}
 
-void UIView::notifyDisappearance() {
+void UIView::finishAnimationsInTree() {
     const Ref<UIView> keep = refTo(this);
-    didDisappear();
+    finishAnimations();
     // Without a copy of the list, since rows that scroll are hidden in passing; who is told may change it.
     std::size_t i = 0;
     for (std::size_t steps = subviews_.size(); steps > 0 && i < subviews_.size(); --steps) {
         const Ref<UIView> view = subviews_[i];
-        view->notifyDisappearance();
+        view->finishAnimationsInTree();
         if (i < subviews_.size() && subviews_[i] == view) ++i;
     }
 }
@@ -80,7 +80,7 @@ void UIView::setHidden(bool hidden) {
     if (!hidden) return;
     const Ref<UIView> keep = refTo(this);
     if (const Ref<UIWindow> window = this->window()) window->resignFirstResponderWithin(keep);
-    notifyDisappearance();
+    finishAnimationsInTree();
 }
 
 } // namespace gx

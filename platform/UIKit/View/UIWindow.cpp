@@ -175,7 +175,13 @@ void UIWindow::setReceivesKeys(bool receives) {
 
 // Time
 
-void UIWindow::settle() { notifyDisappearance(); }
+void UIWindow::finishAnimations() {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    const std::vector<Ref<UIView>> below = subviews(); // A report may change the list.
+    for (const Ref<UIView>& view : below) {
+        if (view->superview() == keep) view->finishAnimationsInTree();
+    }
+}
 
 bool UIWindow::tick(NSTimeInterval time) {
     if (isTicking_) return true; // A callback may not turn time within a turn.

@@ -57,7 +57,7 @@ public:
 
     /// Ends every movement in the window at once: wheels report the rows that they were turned to, what scrolls is where it was heading
     /// for. For a window that closes or is hidden, so that no turn is lost.
-    void settle();
+    void finishAnimations() override;
 
     /// Moves everything to `time`, lays out, and answers whether to draw (again). While something moves, the
     /// answer is true at every call; otherwise once after each change.

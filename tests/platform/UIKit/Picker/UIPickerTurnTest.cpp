@@ -97,10 +97,10 @@ TEST_F(UIPickerTurnSteps, without_rows_there_is_no_step) {
 
 TEST_F(UIPickerTurnSteps, a_landing_that_nobody_has_taken_is_turned_on) {
     turn.stepByRows(1);
-    turn.settle();
+    turn.finish();
     EXPECT_EQ(turn.state(), State::Landed);
     turn.stepByRows(1);
-    turn.settle();
+    turn.finish();
     EXPECT_EQ(turn.takeLanding(), 52);
     EXPECT_EQ(turn.takeLanding(), std::nullopt);
 }
@@ -141,7 +141,7 @@ TEST_F(UIPickerTurnSteps, a_step_takes_over_from_a_request_and_from_a_trackpad) 
     turn.goToRow(60);
     EXPECT_TRUE(turn.turnToRow(50)) << "where it stands: it has not left yet";
     EXPECT_TRUE(turn.isUsersTurn());
-    turn.settle();
+    turn.finish();
     EXPECT_EQ(turn.takeLanding(), 50);
     turn.scrollPoints(40, 10, false);
     EXPECT_TRUE(turn.turnToRow(51)) << "the row that the trackpad has come to";
@@ -220,14 +220,14 @@ TEST_F(UIPickerTurnSteps, a_part_of_a_notch_is_forgotten_when_the_wheel_turns_th
 TEST_F(UIPickerTurnSteps, a_part_of_a_notch_is_forgotten_at_an_end) {
     turn.scrollNotches(60.5, 10);
     EXPECT_EQ(turn.landingRow(), 99);
-    turn.settle();
+    turn.finish();
     EXPECT_EQ(turn.takeLanding(), 99);
     turn.setRows_height_extent(200, 40, 216, 99);
     turn.scrollNotches(0.5, 10);
     EXPECT_EQ(turn.state(), State::AtRest);
     turn.standOnRow(1);
     turn.scrollNotches(-1.5, 10);
-    turn.settle();
+    turn.finish();
     turn.standOnRow(50);
     turn.scrollNotches(-0.5, 10);
     EXPECT_EQ(turn.state(), State::AtRest);
@@ -292,7 +292,7 @@ TEST_F(UIPickerTurnSteps, a_movement_that_is_told_only_with_the_release_turns) {
     turn.touchEnded(53, 12, std::nullopt); // 47 points less the slop of 6, long after it came down: no speed.
     EXPECT_EQ(turn.state(), State::Gliding);
     EXPECT_EQ(turn.landingRow(), 51);
-    turn.settle();
+    turn.finish();
     turn.takeLanding();
     turn.touchBegan(1, 100, 20);
     turn.touchEnded(94, 22, std::nullopt);
@@ -301,7 +301,7 @@ TEST_F(UIPickerTurnSteps, a_movement_that_is_told_only_with_the_release_turns) {
 
 TEST_F(UIPickerTurnSteps, settling_under_a_finger_that_turned_nothing_reports_nothing) {
     turn.touchBegan(1, 100, 10);
-    turn.settle();
+    turn.finish();
     EXPECT_EQ(turn.state(), State::AtRest);
     EXPECT_EQ(turn.takeLanding(), std::nullopt);
     turn.turnToRow(60);
@@ -309,6 +309,6 @@ TEST_F(UIPickerTurnSteps, settling_under_a_finger_that_turned_nothing_reports_no
     turn.advanceToTime(20.15);
     // Half the time leaves an eighth of the way: 1.25 rows before row 60.
     turn.touchBegan(1, 100, 20.15);
-    turn.settle();
+    turn.finish();
     EXPECT_EQ(turn.takeLanding(), 59) << "one that stopped a turn reports where it stopped it";
 }

@@ -455,10 +455,10 @@ TEST_F(Turning, ATouchThatTurnedNothingLeavesTheColumnOnTheRowItReportsThen) {
 TEST_F(Turning, SettlingEndsATurnAtOnceOnItsLandingRowAndReportsIt) {
     window.fling(centre, {160, 8}, 10);
     window.run(0.1);
-    wheel->settle();
+    wheel->finishAnimations();
     EXPECT_EQ(source->notices, (Notices{{10, 0}}));
     EXPECT_DOUBLE_EQ(rowsFrom(10), 0);
-    wheel->settle();
+    wheel->finishAnimations();
     EXPECT_EQ(source->notices.size(), 1U) << "at rest there is nothing to report";
 }
 
@@ -520,16 +520,16 @@ TEST_F(Turning, AWheelHiddenUnderAFingerReportsWhereItStands) {
 TEST_F(Turning, AWindowThatSettlesSettlesItsWheels) {
     window.fling(centre, {160, 8}, 10);
     window.run(0.1);
-    window->settle();
+    window->finishAnimations();
     EXPECT_EQ(source->notices, (Notices{{10, 0}}));
-    window->settle();
+    window->finishAnimations();
     EXPECT_EQ(source->notices.size(), 1U);
 }
 
 TEST_F(TurningTwo, ATypedNumberIsNotLostWhenTheWheelGoes) {
     wheel->becomeFirstResponder();
     window.type("4");
-    window->settle();
+    window->finishAnimations();
     EXPECT_EQ(source->notices, (Notices{{4, 0}}));
     window.type("5");
     window.run(0.5);

@@ -552,7 +552,7 @@ TEST_F(Scrolling, what_springs_back_is_there_at_once_when_a_view_above_is_hidden
 TEST_F(Scrolling, in_a_window_that_settles_a_request_arrives) {
     scroll->setContentOffset_animated({0, 333}, true);
     window.tick(TestWindow::frame);
-    window->settle();
+    window->finishAnimations();
     EXPECT_EQ(offset(), 333);
     window.tick(TestWindow::frame);
     EXPECT_FALSE(window.tick(TestWindow::frame));

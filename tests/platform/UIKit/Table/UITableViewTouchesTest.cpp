@@ -148,7 +148,7 @@ TEST_F(TableTouches, a_table_that_disappears_is_dark_and_still_when_it_comes_bac
 
     window.tap(rowTwo);
     ASSERT_TRUE(isLit(2));
-    window->settle();
+    window->finishAnimations();
     EXPECT_FALSE(isLit(2));
     window.tick(0);
     EXPECT_FALSE(window.tick(0));

@@ -317,7 +317,7 @@ TEST_F(Tree, WhoIsToldThatItDisappearsMayLeaveAndTakeOthersAlong) {
     struct Vanishing : UIView {
         int times = 0;
         std::function<void()> whenGone;
-        void didDisappear() override {
+        void finishAnimations() override {
             ++times;
             if (whenGone) whenGone();
         }
