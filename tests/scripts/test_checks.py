@@ -1,0 +1,169 @@
+"""Plants one violation at a time into a small tree and expects the checks of scripts/ to find that and nothing else."""
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+
+CLEAN = {
+    "platform/CMakeLists.txt": "gx_add_floor(platform\n  FOLDERS Low High\n  PUBLIC_HEADERS A.h B.h)\n",
+    "services/CMakeLists.txt": "gx_add_floor(services\n  FOLDERS Units # one room\n  PUBLIC_HEADERS S.h\n  DEPENDS gx_platform)\n",
+    "pickers/CMakeLists.txt": "gx_add_floor(pickers\n  FOLDERS Classes\n  PUBLIC_HEADERS P.h\n  DEPENDS gx_services)\n",
+    "hosts/qt/CMakeLists.txt": "gx_add_floor(qt\n  FOLDERS .\n  PUBLIC_HEADERS Q.h\n  DEPENDS gx_platform)\n",
+    "gallery/CMakeLists.txt": "set(ROOMS app)\n",
+    "platform/Low/A.h": "#pragma once\n#include <vector>\nclass A {\npublic:\n    void one();\n\nprivate:\n    int two_ = 0;\n};\n",
+    "platform/Low/A.cpp": '#include "A.h"\nvoid A::one() {}\n',
+    "platform/Low/I.h": "#pragma once\nstruct I {};\n",
+    "platform/High/B.h": '#pragma once\n#include "A.h"\nclass B : public A {};\n',
+    "platform/High/B.cpp": '#include "B.h"\n#include "I.h"\n',
+    "services/Units/S.h": '#pragma once\n#include "B.h"\nstruct S {};\n',
+    "services/Units/S.cpp": '#include "S.h"\n',
+    "pickers/Classes/P.h": '#pragma once\n#include "S.h"\nstruct P {};\n',
+    "hosts/qt/Q.h": "#pragma once\n#include <QObject>\n#include <GXUIPickers/A.h>\nstruct Q {};\n",
+    "gallery/app/main.cpp": "#include <GXUIPickers/P.h>\n#include <GXUIPickers/Q.h>\nint main() {}\n",
+    "tests/ATest.cpp": '#include "A.h"\n// A comment.\nTEST(A, DoesOneThing) {}\n',
+    "README.md": "# Title\n\nShort words.\n",
+}
+
+
+def run(script, files):
+    """Exit code and findings, one a line."""
+    with tempfile.TemporaryDirectory() as root:
+        for name, text in files.items():
+            path = os.path.join(root, name)
+            os.makedirs(os.path.dirname(path), exist_ok=True)
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(text)
+        subprocess.run(["git", "init", "-q", root], check=True)
+        command = [sys.executable, os.path.join(ROOT, "scripts", script), "--root", root]
+        done = subprocess.run(command, capture_output=True, text=True)
+        if done.returncode not in (0, 1) or "Traceback" in done.stderr:
+            raise AssertionError(done.stderr)
+        return done.returncode, done.stdout.splitlines()
+
+
+class CheckTest(unittest.TestCase):
+    script = ""
+
+    def expect(self, changes, *findings):
+        """The clean tree with these changes (None takes a file away) has exactly these findings."""
+        files = {name: text for name, text in {**CLEAN, **changes}.items() if text is not None}
+        code, lines = run(self.script, files)
+        self.assertEqual(code, 1 if findings else 0, lines)
+        self.assertEqual(len(lines), len(findings), lines)
+        for finding in findings:
+            self.assertTrue(any(finding in line for line in lines), (finding, lines))
+
+
+class StructureTest(CheckTest):
+    script = "check-structure"
+
+    def test_a_clean_tree_has_no_findings(self):
+        self.expect({})
+
+    def test_finds_an_arrow_to_a_higher_room(self):
+        self.expect({"platform/Low/I.h": '#pragma once\n#include "C.h"\n', "platform/High/C.h": "#pragma once\nstruct C {};\n"},
+                    "platform/Low/I.h:2: includes C of platform/High, a higher room", "circle of rooms: platform/High, platform/Low")
+
+    def test_finds_an_arrow_to_a_higher_floor(self):
+        self.expect({"services/Units/S.cpp": '#include "P.h"\n'}, "services/Units/S.cpp:1: includes P of pickers/Classes, a floor",
+                    "circle: P → S; S → P", "circle of rooms")
+
+    def test_finds_a_host_that_uses_a_service(self):
+        self.expect({"hosts/qt/Q.cpp": '#include "Q.h"\n#include <GXUIPickers/S.h>\n'}, "hosts/qt/Q.cpp:2: includes S of services/Units, a floor")
+
+    def test_finds_a_circle_of_pairs_through_a_source_file(self):
+        self.expect({"platform/Low/A.cpp": '#include "A.h"\n#include "D.h"\n', "platform/Low/D.h": '#pragma once\n#include "A.h"\n'},
+                    "platform/Low/A.cpp:2: circle: A → D; D → A")
+
+    def test_finds_a_circle_that_a_declaration_hides(self):
+        self.expect({"platform/Low/I.h": "#pragma once\nclass A;\nstruct I {};\n", "platform/Low/A.cpp": '#include "A.h"\n#include "I.h"\n'},
+                    "circle hidden by a declaration: A → I; I → A")
+
+    def test_finds_a_declaration_of_something_higher(self):
+        self.expect({"platform/Low/I.h": "#pragma once\nclass B;\nstruct I {};\n"},
+                    "platform/Low/I.h:2: declares B of platform/High, a higher room", "circle hidden by a declaration")
+
+    def test_finds_a_public_header_that_includes_an_internal_one(self):
+        self.expect({"platform/High/B.h": '#pragma once\n#include "I.h"\nclass B {};\n'},
+                    "platform/High/B.h:2: is public and includes the internal header I.h")
+
+    def test_finds_an_internal_header_included_from_another_floor(self):
+        self.expect({"services/Units/S.cpp": '#include "I.h"\n'}, "services/Units/S.cpp:1: includes the internal header I.h of platform")
+
+    def test_finds_a_foreign_header_on_a_portable_floor(self):
+        self.expect({"services/Units/S.cpp": "#include <QObject>\n"}, "services/Units/S.cpp:1: includes QObject, which is no header")
+        self.expect({"services/Units/S.cpp": "#include <unistd.h>\n"}, "services/Units/S.cpp:1: includes unistd.h, which is no header")
+
+    def test_finds_a_class_that_goes_on_elsewhere(self):
+        self.expect({"platform/Low/ATouches.cpp": '#include "A.h"\nvoid A::one() {}\n'},
+                    "platform/Low/ATouches.cpp:1: has no header of its name", "platform/Low/ATouches.cpp:2: continues A, which is declared in")
+
+    def test_finds_a_room_that_stands_nowhere(self):
+        self.expect({"platform/New/N.h": "#pragma once\n"}, "does not say where the room platform/New stands")
+
+    def test_finds_a_full_room(self):
+        twelve = {f"services/Units/T{number}.h": "#pragma once\n" for number in range(10)}
+        self.expect(twelve)
+        self.expect({**twelve, "services/Units/T10.h": "#pragma once\n"}, "services/Units: 13 files in a room, at most 12")
+
+    def test_finds_a_floor_of_too_many_rooms(self):
+        def rooms(count):
+            names = [f"R{number}" for number in range(count)]
+            return {"gallery/CMakeLists.txt": f"set(ROOMS app {' '.join(names)})\n",
+                    **{f"gallery/{name}/{name}.h": "#pragma once\n" for name in names}}
+        self.expect(rooms(7))
+        self.expect(rooms(8), "gallery: 9 rooms on a floor, at most 8")
+
+    def test_finds_a_long_file(self):
+        self.expect({"platform/Low/I.h": "\n" * 300})
+        self.expect({"platform/Low/I.h": "\n" * 301}, "platform/Low/I.h:301: 301 lines, at most 300")
+        self.expect({"tests/ATest.cpp": "\n" * 400})
+        self.expect({"tests/ATest.cpp": "\n" * 401}, "tests/ATest.cpp:401: 401 lines, at most 400")
+
+    def test_finds_a_class_of_too_many_private_operations(self):
+        def class_of(count):
+            operations = "".join(f"    virtual std::vector<int> op{number}(int a = f(1)) const;\n" for number in range(count - 2))
+            return {"platform/Low/I.h": "#pragma once\nclass I final : public A {\npublic:\n    int open();\n    int seen() { return 1; }\n"
+                    "\nprivate:\n    struct Part {\n        void own();\n    };\n    enum class E { one };\n"
+                    "    I(int a) : value_(a) {}\n    bool operator==(const I& other) const { if (value_) { return f(); } return true; }\n"
+                    + operations + "    std::function<void(int)> handler_;\n    int value_ = f(1);\n    int list_[2] = {1, 2}; // g();\n};\n"}
+        self.expect(class_of(25))
+        self.expect(class_of(26), "platform/Low/I.h:2: I has 26 private operations, at most 25")
+
+
+class CommentsTest(CheckTest):
+    script = "check-comments"
+
+    def test_a_clean_tree_has_no_findings(self):
+        self.expect({})
+
+    def test_finds_a_comment_beyond_100_columns(self):
+        self.expect({"platform/Low/I.h": "// " + "é" * 97 + "\n"})
+        self.expect({"platform/Low/I.h": "// " + "é" * 98 + "\n"}, "platform/Low/I.h:1: 101 columns, at most 100")
+        self.expect({"platform/Low/I.h": "int a = 0; // " + "x" * 87 + "\n"}, "platform/Low/I.h:1: 101 columns")
+        self.expect({"platform/Low/I.h": "int a = " + "1 + " * 30 + "1;\n"})
+        self.expect({"platform/Low/I.h": 'auto a = "https://' + "x" * 100 + '";\n'})
+
+    def test_finds_a_document_beyond_100_columns(self):
+        self.expect({"README.md": "x" * 101 + "\n"}, "README.md:1: 101 columns")
+        self.expect({"README.md": "| " + "x" * 101 + " |\n\n```\n" + "x" * 101 + "\n```\n"})
+
+    def test_finds_a_paragraph_of_more_than_60_words(self):
+        words = "// a b c d e f g h i j\n" * 6
+        self.expect({"platform/Low/I.h": words})
+        self.expect({"platform/Low/I.h": words + "// k\n"}, "platform/Low/I.h:1: 61 words in a paragraph")
+        self.expect({"platform/Low/I.h": words + "//\n// k\n"})
+        self.expect({"platform/Low/I.h": words + "// - k\n"})
+
+    def test_finds_private_words(self):
+        self.expect({"platform/Low/I.h": "// Asked for anew.\n"}, 'platform/Low/I.h:1: "anew": say again')
+        self.expect({"README.md": "It is held\nto the range.\n"}, 'README.md:1: "held to": say clamped to')
+        self.expect({"README.md": "The rubber band, `band`, a `whoever()` call.\n"})
+        self.expect({"tests/ATest.cpp": "TEST(A, AnswersOnce) {}\n"}, 'tests/ATest.cpp:1: "answers" in the name of a test: say returns')
+
+
+if __name__ == "__main__":
+    unittest.main()
