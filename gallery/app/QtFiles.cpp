@@ -5,14 +5,14 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "GalleryTexts.h"
 #include "GalleryWorkoutFile.h"
+#include "Translations.h"
 
 namespace gallery {
 
 namespace {
 
-QString title(const char* english) { return QString::fromStdString(GalleryTexts::text(english)); }
+QString title(const char* english) { return QString::fromStdString(Translations::text(english)); }
 
 QString filter() { return title("Workouts") + QStringLiteral(" (*.json)"); }
 
@@ -28,7 +28,7 @@ QtFiles::Dialogs systemDialogs() {
 }
 
 GalleryFiles::Outcome failure(const char* english, const QString& path, const QString& reason) {
-    const std::string sentence = GalleryTexts::text(english) + " " + reason.toStdString();
+    const std::string sentence = Translations::text(english) + " " + reason.toStdString();
     return {QFileInfo(path).fileName().toStdString(), "", sentence};
 }
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "GalleryMeasurements.h"
-#include "GalleryWords.h"
+#include "WheelReading.h"
 #include <GXUIPickers/GXHeightPickerCell.h>
 #include <GXUIPickers/GXHeightPickerView.h>
 #include <GXUIPickers/GXStyleSheet.h>
@@ -27,7 +27,7 @@ void takeWeight(GalleryWorkout& workout, const GXWeightPickerView&, const Ref<GX
     workout.weight = value.doubleValue();
 }
 
-std::string weightInWords(const Ref<GXWeightPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+std::string weightInWords(const Ref<GXWeightPickerView>& picker) { return WheelReading::amountOnWheel(picker); }
 
 /// The height picker is a wheel itself, with a delegate of its own kind, and so is its row. The user may also choose the unit on it.
 class HeightMeasurement : public GalleryMeasurement, public GXHeightPickerViewDelegate {

@@ -1,5 +1,5 @@
 #include "GalleryMeasurements.h"
-#include "GalleryWords.h"
+#include "WheelReading.h"
 #include <GXUIPickers/GXBpmPickerCell.h>
 #include <GXUIPickers/GXBpmPickerView.h>
 #include <GXUIPickers/GXHeartRatePickerCell.h>
@@ -40,7 +40,7 @@ void preparePulse(GXBpmPickerView& picker, const GallerySettings&) {
     if (picker.stepSize().integerValue() != 1) picker.setStepSize(NSNumber::numberWithInt(1));
 }
 
-std::string pulseInWords(const Ref<GXBpmPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+std::string pulseInWords(const Ref<GXBpmPickerView>& picker) { return WheelReading::amountOnWheel(picker); }
 
 } // namespace
 

@@ -1,5 +1,5 @@
 #include "GalleryMeasurements.h"
-#include "GalleryWords.h"
+#include "WheelReading.h"
 #include <GXUIPickers/GXDistancePickerCell.h>
 #include <GXUIPickers/GXDistancePickerView.h>
 #include <GXUIPickers/GXDurationPickerCell.h>
@@ -22,7 +22,7 @@ void prepareDistance(GXDistancePickerView& picker, const GallerySettings& settin
     picker.setNumberOfFractionUnits(2);
 }
 
-std::string distanceInWords(const Ref<GXDistancePickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+std::string distanceInWords(const Ref<GXDistancePickerView>& picker) { return WheelReading::amountOnWheel(picker); }
 
 void prepareDuration(GXDurationPickerView& picker, const GallerySettings&) {
     picker.setType(GXDurationTypeHoursMinutesSeconds);
@@ -30,14 +30,14 @@ void prepareDuration(GXDurationPickerView& picker, const GallerySettings&) {
 }
 
 /// Without the layout's name: hours, minutes and seconds are known by their colons.
-std::string durationInWords(const Ref<GXDurationPickerView>& picker) { return GalleryWords::clockOnWheel(picker); }
+std::string durationInWords(const Ref<GXDurationPickerView>& picker) { return WheelReading::clockOnWheel(picker); }
 
 void preparePace(GXPacePickerView& picker, const GallerySettings& settings) {
     picker.setIsMetric(settings.isMetric);
     picker.setSecondsStepSize(1);
 }
 
-std::string paceInWords(const Ref<GXPacePickerView>& picker) { return GalleryWords::clockOnWheel(picker) + " " + unitBesideWheel(picker); }
+std::string paceInWords(const Ref<GXPacePickerView>& picker) { return WheelReading::clockOnWheel(picker) + " " + unitBesideWheel(picker); }
 
 } // namespace
 

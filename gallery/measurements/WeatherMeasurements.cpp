@@ -1,7 +1,7 @@
 #include "GalleryMeasurements.h"
-#include "GalleryTexts.h"
 #include "GalleryWeatherIcons.h"
-#include "GalleryWords.h"
+#include "Translations.h"
+#include "WheelReading.h"
 #include <GXUIPickers/GXTemperaturePickerCell.h>
 #include <GXUIPickers/GXTemperaturePickerView.h>
 #include <GXUIPickers/GXWeatherAndTemperaturePickerCell.h>
@@ -23,9 +23,9 @@ void prepareTemperature(GXTemperaturePickerView& picker, const GallerySettings& 
 
 void configureWeather(GXWeatherAndTemperaturePickerView& picker, const GalleryWorkout& workout, const GallerySettings& settings) {
     picker.setIsMetric(settings.isMetric);
-    picker.weatherPicker()->setAccessibilityLabel(GalleryTexts::text("Weather"));
+    picker.weatherPicker()->setAccessibilityLabel(Translations::text("Weather"));
     const auto images = GalleryWeatherIcons::images();
-    for (std::size_t i = 0; i < images->size(); ++i) (*images)[i]->setAccessibilityLabel(GalleryTexts::text(GalleryWeatherIcons::name(i)));
+    for (std::size_t i = 0; i < images->size(); ++i) (*images)[i]->setAccessibilityLabel(Translations::text(GalleryWeatherIcons::name(i)));
     picker.weatherPicker()->setIconImages(images);
     picker.weatherPicker()->setCurrentValue(NSNumber::numberWithInteger(static_cast<NSInteger>(workout.weather)));
     prepareTemperature(*picker.temperaturePicker(), settings);
@@ -41,10 +41,10 @@ void takeWeather(GalleryWorkout& workout, const GXWeatherAndTemperaturePickerVie
 
 std::string weatherInWords(const Ref<GXWeatherAndTemperaturePickerView>& picker) {
     const auto index = static_cast<std::size_t>(picker->weatherPicker()->currentValue().integerValue());
-    return GalleryTexts::text(GalleryWeatherIcons::name(index)) + ", " + GalleryWords::amountOnWheel(picker->temperaturePicker());
+    return Translations::text(GalleryWeatherIcons::name(index)) + ", " + WheelReading::amountOnWheel(picker->temperaturePicker());
 }
 
-std::string waterInWords(const Ref<GXTemperaturePickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+std::string waterInWords(const Ref<GXTemperaturePickerView>& picker) { return WheelReading::amountOnWheel(picker); }
 
 } // namespace
 

@@ -1,5 +1,5 @@
 #include "GalleryMeasurements.h"
-#include "GalleryWords.h"
+#include "WheelReading.h"
 #include <GXUIPickers/GXCaloriesPickerCell.h>
 #include <GXUIPickers/GXCaloriesPickerView.h>
 #include <GXUIPickers/GXDistanceAndDurationCell.h>
@@ -31,14 +31,14 @@ void takeEither(GalleryWorkout& workout, const GXDistanceAndDurationPicker& pick
 }
 
 std::string bothInWords(const Ref<GXDistanceAndDurationPicker>& picker) {
-    return GalleryWords::amountOnWheel(picker->distancePicker()) + ", " + GalleryWords::clockOnWheel(picker->durationPicker()) + " h";
+    return WheelReading::amountOnWheel(picker->distancePicker()) + ", " + WheelReading::clockOnWheel(picker->durationPicker()) + " h";
 }
 
 void prepareSpeed(GXSpeedPickerView& picker, const GallerySettings& settings) { picker.setIsMetric(settings.isMetric); }
 
-std::string speedInWords(const Ref<GXSpeedPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+std::string speedInWords(const Ref<GXSpeedPickerView>& picker) { return WheelReading::amountOnWheel(picker); }
 
-std::string caloriesInWords(const Ref<GXCaloriesPickerView>& picker) { return GalleryWords::amountOnWheel(picker); }
+std::string caloriesInWords(const Ref<GXCaloriesPickerView>& picker) { return WheelReading::amountOnWheel(picker); }
 
 } // namespace
 

@@ -5,9 +5,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "GalleryNumbers.h"
-#include "GalleryTexts.h"
 #include "GalleryWeatherIcons.h"
+#include "NumberFormat.h"
+#include "Translations.h"
 
 namespace gallery {
 
@@ -28,10 +28,10 @@ Json numberOf(double value) {
 /// Says nothing if the member is there and a number within its range.
 std::string complaintAbout(const Json& values, const GalleryWorkout::Number& number) {
     const auto found = values.find(number.name);
-    if (found == values.end() || !found->is_number()) return GalleryTexts::text("The file has no number for:") + " " + number.name + ".";
+    if (found == values.end() || !found->is_number()) return Translations::text("The file has no number for:") + " " + number.name + ".";
     const auto value = found->get<double>();
     if (value >= number.lowest && value <= number.highest) return "";
-    return GalleryTexts::text("A number in the file is out of range:") + " " + number.name + ".";
+    return Translations::text("A number in the file is out of range:") + " " + number.name + ".";
 }
 
 } // namespace
@@ -49,16 +49,16 @@ std::optional<GalleryWorkout> GalleryWorkoutFile::workoutOfText(const std::strin
         error = reason;
         return std::nullopt;
     };
-    if (text.size() > longest) return refuse(GalleryTexts::text("This file is no workout."));
+    if (text.size() > longest) return refuse(Translations::text("This file is no workout."));
     const Json whole = Json::parse(text, nullptr, false);
-    if (whole.is_discarded()) return refuse(GalleryTexts::text("This file is damaged, or no workout."));
+    if (whole.is_discarded()) return refuse(Translations::text("This file is damaged, or no workout."));
     const auto kind = whole.is_object() ? whole.find("format") : whole.end();
-    if (kind == whole.end() || *kind != format) return refuse(GalleryTexts::text("This file is no workout."));
+    if (kind == whole.end() || *kind != format) return refuse(Translations::text("This file is no workout."));
     const auto made = whole.find("version");
-    if (made == whole.end() || !made->is_number_integer() || *made < 1) return refuse(GalleryTexts::text("This file is damaged."));
-    if (*made > version) return refuse(GalleryTexts::text("This workout was saved by a newer version of this application."));
+    if (made == whole.end() || !made->is_number_integer() || *made < 1) return refuse(Translations::text("This file is damaged."));
+    if (*made > version) return refuse(Translations::text("This workout was saved by a newer version of this application."));
     const auto values = whole.find("workout");
-    if (values == whole.end() || !values->is_object()) return refuse(GalleryTexts::text("This file is damaged."));
+    if (values == whole.end() || !values->is_object()) return refuse(Translations::text("This file is damaged."));
 
     GalleryWorkout workout;
     for (const GalleryWorkout::Number& number : GalleryWorkout::numbers()) {
@@ -70,7 +70,7 @@ std::optional<GalleryWorkout> GalleryWorkoutFile::workoutOfText(const std::strin
     const auto index = weather != values->end() && weather->is_string()
                            ? GalleryWeatherIcons::indexOfIdentifier(weather->get<std::string>())
                            : std::nullopt;
-    if (!index) return refuse(GalleryTexts::text("The file names no weather that this application knows."));
+    if (!index) return refuse(Translations::text("The file names no weather that this application knows."));
     workout.weather = *index;
     return workout;
 }

@@ -1,7 +1,7 @@
 #include <array>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXBpmPickerView.h>
 
 using namespace gx;
@@ -14,7 +14,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
     const auto picker = create<GXBpmPickerView>(CGRectZero);
 
     GalleryExhibit exhibit = exhibitOf(picker, report, "bpm", [picker](const NSNumber& rate, NSInteger) {
-        return GalleryNumbers::decimal(rate.doubleValue(), 0) + " " + unitBesideWheel(picker);
+        return NumberFormat::decimal(rate.doubleValue(), 0) + " " + unitBesideWheel(picker);
     });
     exhibit.options = {
         {"Step",

@@ -1,7 +1,7 @@
 #include <array>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXCaloriesPickerView.h>
 
 using namespace gx;
@@ -15,7 +15,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
     picker->setCurrentValue(NSNumber::numberWithInt(450));
 
     GalleryExhibit exhibit = exhibitOf(picker, report, "kcal", [picker](const NSNumber& calories, NSInteger) {
-        return GalleryNumbers::decimal(calories.doubleValue(), 0) + " " + unitBesideWheel(picker);
+        return NumberFormat::decimal(calories.doubleValue(), 0) + " " + unitBesideWheel(picker);
     });
     exhibit.options = {
         {"Step",

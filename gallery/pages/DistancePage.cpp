@@ -1,5 +1,5 @@
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXDistancePickerView.h>
 
 using namespace gx;
@@ -14,7 +14,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
 
     GalleryExhibit exhibit = exhibitOf(picker, report, "m", [picker](const NSNumber& meters, NSInteger) {
         const double shown = picker->isMetric() ? meters.doubleValue() / 1000 : picker->meterToMiles(meters.doubleValue());
-        return GalleryNumbers::decimal(shown, picker->numberOfFractionUnits()) + " " + unitBesideWheel(picker);
+        return NumberFormat::decimal(shown, picker->numberOfFractionUnits()) + " " + unitBesideWheel(picker);
     });
     exhibit.options = {
         {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},

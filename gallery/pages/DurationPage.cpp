@@ -1,8 +1,8 @@
 #include <array>
 #include <memory>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXDurationPickerView.h>
 
 using namespace gx;
@@ -17,9 +17,9 @@ constexpr std::int32_t hour = 60 * minute;
 
 std::string inWords(NSInteger type, const NSNumber& milliseconds) {
     const NSInteger seconds = milliseconds.integerValue() / second;
-    if (type == GXDurationTypeHoursMinutes) return GalleryNumbers::hours(seconds / 60) + " h";
-    if (type == GXDurationTypeMinutesSeconds) return GalleryNumbers::minutes(seconds) + " min";
-    return GalleryNumbers::clock(seconds);
+    if (type == GXDurationTypeHoursMinutes) return NumberFormat::hours(seconds / 60) + " h";
+    if (type == GXDurationTypeMinutesSeconds) return NumberFormat::minutes(seconds) + " min";
+    return NumberFormat::clock(seconds);
 }
 
 /// The maximum is exclusive. Minutes and seconds alone cannot show an hour.

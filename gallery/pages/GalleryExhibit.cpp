@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "GalleryDelegate.h"
-#include "GalleryNumbers.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXStyleSheet.h>
 #include <GXUIPickers/UITextEngine.h>
 
@@ -114,7 +114,7 @@ GalleryExhibit exhibitOf(const Ref<GXBasePickerView>& picker, const GalleryRepor
                          std::function<std::string(const NSNumber&, NSInteger)> inWords) {
     const auto delegate = create<GalleryDelegate>();
     delegate->setHandler([report, unit, inWords = std::move(inWords)](const NSNumber& value, NSInteger component) {
-        const std::string facts = GalleryNumbers::boxed(value) + " " + unit + " (component " + std::to_string(component) + ")";
+        const std::string facts = NumberFormat::boxed(value) + " " + unit + " (component " + std::to_string(component) + ")";
         report({inWords(value, component), facts});
     });
     picker->setDelegate(delegate);

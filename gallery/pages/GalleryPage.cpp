@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GalleryTexts.h"
 #include "GalleryTheme.h"
+#include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
 
 using namespace gx;
@@ -47,7 +47,7 @@ Ref<GalleryPage> GalleryPage::pageWithDescription(GalleryPageDescription descrip
 
 void GalleryPage::setUp(GalleryPageDescription description) {
     description_ = std::move(description);
-    title_->setText(GalleryTexts::text(description_.name));
+    title_->setText(Translations::text(description_.name));
     purpose_->setText(description_.purpose);
     exhibit_ = makeExhibit();
     pickerCard_->addSubview(exhibit_.picker);
@@ -116,7 +116,7 @@ void GalleryPage::choose(std::size_t option, std::size_t choice) {
 }
 
 void GalleryPage::renewPicker() {
-    title_->setText(GalleryTexts::text(description_.name)); // The language may be another one.
+    title_->setText(Translations::text(description_.name)); // The language may be another one.
     const GalleryExhibit before = std::move(exhibit_);
     exhibit_ = makeExhibit();
     for (std::size_t i = 0; i < exhibit_.options.size(); ++i) choose(i, before.options[i].chosen);

@@ -1,7 +1,7 @@
 #include <array>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXHeartRatePickerView.h>
 
 using namespace gx;
@@ -17,7 +17,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
     GalleryExhibit exhibit = exhibitOf(picker, report, "bpm", [picker](const NSNumber& rate, NSInteger component) {
         const auto& wheel = picker->pickerView();
         const std::string name = (component == 0 ? wheel->leftLabelText() : wheel->rightLabelText()).value_or("");
-        return name + " " + (rate.integerValue() == 0 ? "–" : GalleryNumbers::decimal(rate.doubleValue(), 0));
+        return name + " " + (rate.integerValue() == 0 ? "–" : NumberFormat::decimal(rate.doubleValue(), 0));
     });
     exhibit.options = {
         {"Row for no value",

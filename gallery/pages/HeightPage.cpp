@@ -1,8 +1,8 @@
 #include <cmath>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
 #include "GalleryTheme.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXHeightPickerView.h>
 
 using namespace gx;
@@ -12,7 +12,7 @@ namespace gallery {
 namespace {
 
 std::string inWords(CGFloat centimetres, bool isMetric) {
-    if (isMetric) return GalleryNumbers::decimal(centimetres, 0) + " cm";
+    if (isMetric) return NumberFormat::decimal(centimetres, 0) + " cm";
     constexpr CGFloat centimetresInInch = 2.54;
     const auto inches = static_cast<NSInteger>(std::round(centimetres / centimetresInInch));
     return std::to_string(inches / 12) + "′ " + std::to_string(inches % 12) + "″";
@@ -25,7 +25,7 @@ public:
 
     void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat height, bool metric) override {
         const std::string facts =
-            GalleryNumbers::boxed(NSNumber::numberWithDouble(height)) + " cm (" + (metric ? "metric" : "imperial") + ")";
+            NumberFormat::boxed(NSNumber::numberWithDouble(height)) + " cm (" + (metric ? "metric" : "imperial") + ")";
         report_({inWords(height, metric), facts});
     }
 

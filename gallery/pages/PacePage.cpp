@@ -1,7 +1,7 @@
 #include <array>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXPacePickerView.h>
 
 using namespace gx;
@@ -20,7 +20,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
     GalleryExhibit exhibit = exhibitOf(picker, report, "m/s", [picker](const NSNumber& speed, NSInteger) {
         const auto pace = picker->componentsFromValue(speed);
         const NSInteger seconds = pace ? pace->minutes.integerValue() * 60 + pace->seconds.integerValue() : 0;
-        return GalleryNumbers::minutes(seconds) + " " + unitBesideWheel(picker);
+        return NumberFormat::minutes(seconds) + " " + unitBesideWheel(picker);
     });
     exhibit.options = {
         {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},

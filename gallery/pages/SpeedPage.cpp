@@ -1,5 +1,5 @@
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXSpeedPickerView.h>
 
 using namespace gx;
@@ -14,7 +14,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
 
     GalleryExhibit exhibit = exhibitOf(picker, report, "m/s", [picker](const NSNumber& speed, NSInteger) {
         const double shown = picker->isMetric() ? picker->mpsToKph(speed.doubleValue()) : picker->mpsToMph(speed.doubleValue());
-        return GalleryNumbers::decimal(shown, 1) + " " + unitBesideWheel(picker);
+        return NumberFormat::decimal(shown, 1) + " " + unitBesideWheel(picker);
     });
     exhibit.options = {
         {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},

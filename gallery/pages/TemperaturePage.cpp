@@ -1,7 +1,7 @@
 #include <array>
 
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXTemperaturePickerView.h>
 #include <GXUIPickers/GXUnitConverter.h>
 
@@ -16,7 +16,7 @@ GalleryExhibit makeExhibit(const GalleryReport& report) {
 
     GalleryExhibit exhibit = exhibitOf(picker, report, "°C", [picker](const NSNumber& celsius, NSInteger) {
         const float shown = picker->isMetric() ? celsius.floatValue() : GXUnitConverter::temperatureCtoF(celsius.floatValue());
-        return GalleryNumbers::decimal(static_cast<double>(shown), 0) + " " + unitBesideWheel(picker);
+        return NumberFormat::decimal(static_cast<double>(shown), 0) + " " + unitBesideWheel(picker);
     });
     exhibit.options = {
         {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},

@@ -1,5 +1,5 @@
-#include "GalleryNumbers.h"
 #include "GalleryPages.h"
+#include "NumberFormat.h"
 #include <GXUIPickers/GXLocalization.h>
 #include <GXUIPickers/GXUnitConverter.h>
 #include <GXUIPickers/GXWeightPickerView.h>
@@ -13,7 +13,7 @@ namespace {
 std::string inWords(GXWeightUnit unit, const NSNumber& kilograms) {
     const auto words = [](double weight, const char* key) {
         const auto name = GXLocalization::sharedLocalization()->localizedStringWithKey_comment(key, "unit of a weight");
-        return GalleryNumbers::decimal(weight, 1) + " " + name.value_or("");
+        return NumberFormat::decimal(weight, 1) + " " + name.value_or("");
     };
     if (unit == GXWeightUnitPound) return words(static_cast<double>(GXUnitConverter::kgToLb(kilograms.floatValue())), "lb");
     if (unit == GXWeightUnitStone) return words(static_cast<double>(GXUnitConverter::kgToSt(kilograms.floatValue())), "st");

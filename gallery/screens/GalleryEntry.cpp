@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "GalleryRowCell.h"
-#include "GalleryTexts.h"
 #include "GalleryTheme.h"
 #include "GalleryWorkoutFile.h"
+#include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
 #include <GXUIPickers/UIKey.h>
 #include <GXUIPickers/UIPickerView.h>
@@ -59,15 +59,15 @@ void GalleryEntry::makeRows() {
     const CGPoint place = table_ ? table_->contentOffset() : CGPoint{};
     if (table_) table_->removeFromSuperview();
 
-    title_->setText(GalleryTexts::text("Add workout"));
-    openButton_->setTitle(GalleryTexts::text("Open"));
-    saveButton_->setTitle(GalleryTexts::text("Save"));
+    title_->setText(Translations::text("Add workout"));
+    openButton_->setTitle(Translations::text("Open"));
+    saveButton_->setTitle(Translations::text("Save"));
     groups_ = galleryMeasurements(workout_, settings_);
     table_ = create<UITableView>(CGRectZero);
     table_->setBackgroundColor(UIColor::clearColor());
     texts_.clear();
     for (std::size_t i = 0; i < measurementCount(); ++i) {
-        texts_.push_back({GalleryTexts::text(measurement(i)->name()), measurement(i)->valueInWords()});
+        texts_.push_back({Translations::text(measurement(i)->name()), measurement(i)->valueInWords()});
         // There are few rows: each keeps a cell of its own, so that scrolling sets no text twice.
         table_->registerClass_forCellReuseIdentifier<GalleryRowCell>(measurement(i)->name());
         measurement(i)->registerCellInTable(*table_);
@@ -191,7 +191,7 @@ NSInteger GalleryEntry::tableView_numberOfRowsInSection(const Ref<UITableView>&,
 }
 
 std::optional<std::string> GalleryEntry::tableView_titleForHeaderInSection(const Ref<UITableView>&, NSInteger section) {
-    return GalleryTexts::text(groups_[static_cast<std::size_t>(section)].heading);
+    return Translations::text(groups_[static_cast<std::size_t>(section)].heading);
 }
 
 Ref<UITableViewCell> GalleryEntry::tableView_cellForRowAtIndexPath(const Ref<UITableView>& table, NSIndexPath path) {
@@ -267,7 +267,7 @@ void GalleryEntry::save() {
                              const auto entry = weak.lock();
                              if (!entry) return;
                              const bool isError = !outcome.error.empty();
-                             entry->tell(isError ? outcome.error : GalleryTexts::text("Saved:") + " " + outcome.name, isError);
+                             entry->tell(isError ? outcome.error : Translations::text("Saved:") + " " + outcome.name, isError);
                          });
 }
 
@@ -285,7 +285,7 @@ void GalleryEntry::open() {
             return;
         }
         entry->setWorkout(*workout);
-        entry->tell(GalleryTexts::text("Opened:") + " " + outcome.name, false);
+        entry->tell(Translations::text("Opened:") + " " + outcome.name, false);
     });
 }
 

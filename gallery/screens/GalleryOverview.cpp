@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GalleryTexts.h"
 #include "GalleryTheme.h"
+#include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
 
 using namespace gx;
@@ -52,7 +52,7 @@ Ref<GalleryOverview> GalleryOverview::overviewOfPages_open(std::vector<GalleryPa
     for (std::size_t i = 0; i < pages.size(); ++i) {
         Card card = {std::move(pages[i]), {}, GalleryTheme::makeCard(), nullptr};
         card.exhibit = makeExhibit(card.page);
-        card.heading = GalleryButton::buttonWithTitle_style(GalleryTexts::text(card.page.name), GalleryButton::Style::Heading);
+        card.heading = GalleryButton::buttonWithTitle_style(Translations::text(card.page.name), GalleryButton::Style::Heading);
         card.heading->setAction([open, i] { open(i); });
         card.card->addSubview(card.heading);
         card.card->addSubview(card.exhibit.picker);
@@ -70,7 +70,7 @@ GalleryExhibit GalleryOverview::makeExhibit(const GalleryPageDescription& page) 
 
 void GalleryOverview::renewPickers() {
     for (Card& card : cards_) {
-        card.heading->setTitle(GalleryTexts::text(card.page.name)); // The language may be another one.
+        card.heading->setTitle(Translations::text(card.page.name)); // The language may be another one.
         const GalleryExhibit before = std::move(card.exhibit);
         card.exhibit = makeExhibit(card.page);
         card.exhibit.setValues(before.values());

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "GalleryPages.h"
-#include "GalleryTexts.h"
 #include "GalleryTheme.h"
+#include "Translations.h"
 #include <GXUIPickers/UIKey.h>
 #include <GXUIPickers/UIWindow.h>
 
@@ -35,11 +35,11 @@ bool GalleryScreen::initWithFrame(CGRect frame) {
     barTitle_ = create<UILabel>(CGRectZero);
     barTitle_->setFont(GalleryTheme::headingFont());
     barTitle_->setTextAlignment(NSTextAlignmentCenter);
-    menuButton_ = GalleryButton::buttonWithTitle_sign(GalleryTexts::text("All pages"), GalleryButton::Sign::Menu);
+    menuButton_ = GalleryButton::buttonWithTitle_sign(Translations::text("All pages"), GalleryButton::Sign::Menu);
     menuButton_->setAction([weak] {
         if (const auto screen = weak.lock()) screen->setMenuShown(!screen->isMenuShown());
     });
-    styleButton_ = GalleryButton::buttonWithTitle_sign(GalleryTexts::text("Light or dark"), GalleryButton::Sign::Look);
+    styleButton_ = GalleryButton::buttonWithTitle_sign(Translations::text("Light or dark"), GalleryButton::Sign::Look);
     styleButton_->setAction([weak] {
         const auto screen = weak.lock();
         if (!screen) return;
@@ -106,7 +106,7 @@ std::optional<std::size_t> GalleryScreen::indexOfPage(const std::string& name) c
 Ref<GalleryPage> GalleryScreen::page() const { return index_ < firstPickerPage ? nullptr : pages_[index_ - firstPickerPage]; }
 
 void GalleryScreen::showTitles() {
-    barTitle_->setText(isMenuShown_ ? "GXUIPickers" : GalleryTexts::text(names_[index_]));
+    barTitle_->setText(isMenuShown_ ? "GXUIPickers" : Translations::text(names_[index_]));
     sidebar_->setShowsTitle(hasSidebar());
     entry_->setShowsTitle(hasSidebar());
     if (settingsPage_) settingsPage_->setShowsTitle(hasSidebar());
@@ -135,8 +135,8 @@ void GalleryScreen::setSettings(const GallerySettings& settings) {
         if (overview_) overview_->renewPickers();
     }
     sidebar_->showNames();
-    menuButton_->setTitle(GalleryTexts::text("All pages"));
-    styleButton_->setTitle(GalleryTexts::text("Light or dark"));
+    menuButton_->setTitle(Translations::text("All pages"));
+    styleButton_->setTitle(Translations::text("Light or dark"));
     showTitles();
     setNeedsLayout();
 }

@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "GalleryTexts.h"
 #include "GalleryTheme.h"
+#include "Translations.h"
 #include <GXUIPickers/GXLocalization.h>
 
 using namespace gx;
@@ -117,7 +117,7 @@ void GallerySettingsPage::makeControls() {
     for (const Language& language : languages_) language.button->removeFromSuperview();
     languages_.clear();
 
-    const auto text = [](const char* english) { return GalleryTexts::text(english); };
+    const auto text = [](const char* english) { return Translations::text(english); };
     title_->setText(text("Settings"));
     languageTitle_->setText(text("Language"));
     addChoice("Units", {text("Metric"), text("Imperial")}, settings_.isMetric ? 0 : 1,
@@ -152,7 +152,7 @@ void GallerySettingsPage::makeControls() {
 void GallerySettingsPage::addChoice(const std::string& name, std::vector<std::string> choices, std::size_t chosen,
                                     std::function<void(GallerySettings&, std::size_t)> take) {
     const auto title = create<UILabel>(CGRectZero);
-    title->setText(GalleryTexts::text(name));
+    title->setText(Translations::text(name));
     title->setFont(GalleryTheme::strongCaptionFont());
     title->setTextColor(GalleryTheme::secondaryText());
     const auto control = GallerySegments::segmentsWithChoices(std::move(choices), chosen);

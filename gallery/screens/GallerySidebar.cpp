@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "GalleryTexts.h"
 #include "GalleryTheme.h"
+#include "Translations.h"
 #include <GXUIPickers/UIGraphicsContext.h>
 #include <GXUIPickers/UIKey.h>
 
@@ -66,7 +66,7 @@ Ref<GallerySidebar> GallerySidebar::sidebarWithPages_show(const std::vector<std:
     sidebar->names_ = names;
     const auto list = create<SidebarList>(CGRectZero);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const auto row = GalleryButton::buttonWithTitle_style(GalleryTexts::text(names[i]), GalleryButton::Style::Row);
+        const auto row = GalleryButton::buttonWithTitle_style(Translations::text(names[i]), GalleryButton::Style::Row);
         row->setAction([show, i] { show(i); });
         sidebar->rows_.push_back(row);
         list->addSubview(row);
@@ -99,7 +99,7 @@ void GallerySidebar::setChosenPage(std::size_t page) {
 }
 
 void GallerySidebar::showNames() {
-    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(GalleryTexts::text(names_[i]));
+    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(Translations::text(names_[i]));
 }
 
 void GallerySidebar::layoutSubviews() {

@@ -1,4 +1,4 @@
-#include "GalleryTexts.h"
+#include "Translations.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "GXLocalization.h"
-#include "GalleryTextTable.h"
 
 using namespace gallery;
 using gx::GXLocalization;
@@ -43,13 +42,13 @@ constexpr std::array<std::string_view, 11> messages = {"Opened:",
                                                        "This workout was saved by a newer version of this application."};
 
 /// Leaves English to the next test.
-class GalleryTextsTest : public testing::Test {
+class TranslationsTest : public testing::Test {
 protected:
     void TearDown() override { GXLocalization::setSharedLocalization(nullptr); }
 
     static std::string textIn(const std::string& language, std::string_view english) {
         GXLocalization::sharedLocalization()->setLanguage(language);
-        return GalleryTexts::text(std::string(english));
+        return Translations::text(std::string(english));
     }
 };
 
@@ -82,33 +81,33 @@ bool isBlank(char32_t point) {
 }
 
 bool hasRow(std::string_view english) {
-    const auto rows = GalleryTextTable::rows();
-    return std::any_of(rows.begin(), rows.end(), [english](const GalleryTextTable::Row& row) { return row.english == english; });
+    const auto rows = Translations::rows();
+    return std::any_of(rows.begin(), rows.end(), [english](const Translations::Row& row) { return row.english == english; });
 }
 
 } // namespace
 
-TEST_F(GalleryTextsTest, EnglishTextsAreThemselves) {
-    for (const auto& row : GalleryTextTable::rows()) {
-        EXPECT_EQ(GalleryTexts::text(std::string(row.english)), row.english);
+TEST_F(TranslationsTest, EnglishTextsAreThemselves) {
+    for (const auto& row : Translations::rows()) {
+        EXPECT_EQ(Translations::text(std::string(row.english)), row.english);
         EXPECT_EQ(textIn("en_GB", row.english), row.english);
     }
 }
 
-TEST_F(GalleryTextsTest, SpeaksTheLanguagesOfThePickers) {
+TEST_F(TranslationsTest, SpeaksTheLanguagesOfThePickers) {
     std::vector<std::string> languages = {"en"};
-    languages.insert(languages.end(), GalleryTextTable::languages.begin(), GalleryTextTable::languages.end());
+    languages.insert(languages.end(), Translations::languages.begin(), Translations::languages.end());
     EXPECT_EQ(languages, GXLocalization::availableLanguages());
 }
 
-TEST_F(GalleryTextsTest, HasEveryTextOfTheScreens) {
+TEST_F(TranslationsTest, HasEveryTextOfTheScreens) {
     for (const auto english : choices) EXPECT_TRUE(hasRow(english)) << english;
     for (const auto english : names) EXPECT_TRUE(hasRow(english)) << english;
     for (const auto english : weathers) EXPECT_TRUE(hasRow(english)) << english;
     for (const auto english : messages) EXPECT_TRUE(hasRow(english)) << english;
 }
 
-TEST_F(GalleryTextsTest, SpeaksAsItsReadersDo) {
+TEST_F(TranslationsTest, SpeaksAsItsReadersDo) {
     EXPECT_EQ(textIn("de", "Save"), "Speichern");
     EXPECT_EQ(textIn("de", "thunderstorm"), "Gewitter");
     EXPECT_EQ(textIn("fr", "Height"), "Taille");
@@ -129,7 +128,7 @@ TEST_F(GalleryTextsTest, SpeaksAsItsReadersDo) {
     EXPECT_EQ(textIn("ko", "This file is damaged."), "이 파일은 손상되었습니다.");
 }
 
-TEST_F(GalleryTextsTest, FollowsTheLanguageOfThePickers) {
+TEST_F(TranslationsTest, FollowsTheLanguageOfThePickers) {
     EXPECT_EQ(textIn("zh_CN", "Light"), "浅色");
     EXPECT_EQ(textIn("zh_TW", "Light"), "浅色");
     EXPECT_EQ(textIn("pt_BR.UTF-8", "rain"), "chuva");
@@ -137,19 +136,19 @@ TEST_F(GalleryTextsTest, FollowsTheLanguageOfThePickers) {
     const auto own = gx::create<GXLocalization>();
     own->setLanguage("fr");
     GXLocalization::setSharedLocalization(own);
-    EXPECT_EQ(GalleryTexts::text("rain"), "pluie");
+    EXPECT_EQ(Translations::text("rain"), "pluie");
     GXLocalization::setSharedLocalization(nullptr);
-    EXPECT_EQ(GalleryTexts::text("rain"), "rain");
+    EXPECT_EQ(Translations::text("rain"), "rain");
 }
 
-TEST_F(GalleryTextsTest, AnUnknownLanguageSpeaksEnglish) {
+TEST_F(TranslationsTest, AnUnknownLanguageSpeaksEnglish) {
     for (const char* language : {"sv_SE", "xx", "", "C"}) EXPECT_EQ(textIn(language, "Save"), "Save") << language;
-    EXPECT_EQ(GalleryTextTable::textInLanguage("Save", "sv"), "Save");
-    EXPECT_EQ(GalleryTextTable::textInLanguage("Save", "de_DE"), "Save"); // Only the localiser takes identifiers to pieces.
+    EXPECT_EQ(Translations::textInLanguage("Save", "sv"), "Save");
+    EXPECT_EQ(Translations::textInLanguage("Save", "de_DE"), "Save"); // Only the localiser takes identifiers to pieces.
 }
 
-TEST_F(GalleryTextsTest, ATextThatIsNotInTheTableIsItself) {
-    for (const auto language : GalleryTextTable::languages) {
+TEST_F(TranslationsTest, ATextThatIsNotInTheTableIsItself) {
+    for (const auto language : Translations::languages) {
         EXPECT_EQ(textIn(std::string(language), "Furlongs"), "Furlongs");
         EXPECT_EQ(textIn(std::string(language), "save"), "save");
         EXPECT_EQ(textIn(std::string(language), "Save "), "Save ");
@@ -157,8 +156,8 @@ TEST_F(GalleryTextsTest, ATextThatIsNotInTheTableIsItself) {
     }
 }
 
-TEST_F(GalleryTextsTest, EveryTextIsWellFormed) {
-    for (const auto& row : GalleryTextTable::rows()) {
+TEST_F(TranslationsTest, EveryTextIsWellFormed) {
+    for (const auto& row : Translations::rows()) {
         for (const auto text : row.texts) {
             const auto points = codePoints(text);
             ASSERT_TRUE(points) << row.english << ": " << text;
@@ -169,7 +168,7 @@ TEST_F(GalleryTextsTest, EveryTextIsWellFormed) {
     }
 }
 
-TEST_F(GalleryTextsTest, EveryTextEndsAsItsEnglishOneDoes) {
+TEST_F(TranslationsTest, EveryTextEndsAsItsEnglishOneDoes) {
     const auto kindOfEnd = [](std::string_view text) {
         const char32_t last = codePoints(text).value().back();
         if (last == U':' || last == U'：') return ':';
@@ -177,15 +176,15 @@ TEST_F(GalleryTextsTest, EveryTextEndsAsItsEnglishOneDoes) {
         const bool isSentence = length(text) > 5 && (last == U'.' || last == U'。');
         return isSentence ? '.' : ' ';
     };
-    for (const auto& row : GalleryTextTable::rows()) {
+    for (const auto& row : Translations::rows()) {
         for (const auto text : row.texts) EXPECT_EQ(kindOfEnd(text), kindOfEnd(row.english)) << row.english << ": " << text;
     }
 }
 
-TEST_F(GalleryTextsTest, ButtonsAndNamesAreShort) {
-    for (const auto language : GalleryTextTable::languages) {
-        for (const auto english : choices) EXPECT_LE(length(GalleryTextTable::textInLanguage(english, language)), 15U) << english;
-        for (const auto english : names) EXPECT_LE(length(GalleryTextTable::textInLanguage(english, language)), 22U) << english;
-        for (const auto english : weathers) EXPECT_LE(length(GalleryTextTable::textInLanguage(english, language)), 22U) << english;
+TEST_F(TranslationsTest, ButtonsAndNamesAreShort) {
+    for (const auto language : Translations::languages) {
+        for (const auto english : choices) EXPECT_LE(length(Translations::textInLanguage(english, language)), 15U) << english;
+        for (const auto english : names) EXPECT_LE(length(Translations::textInLanguage(english, language)), 22U) << english;
+        for (const auto english : weathers) EXPECT_LE(length(Translations::textInLanguage(english, language)), 22U) << english;
     }
 }

@@ -1,4 +1,4 @@
-#include "GalleryNumbers.h"
+#include "NumberFormat.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,17 +32,17 @@ std::string decimalWithSeparator(double value, int digits, const std::string& se
 
 } // namespace
 
-std::string GalleryNumbers::decimal(double value, int digits) {
+std::string NumberFormat::decimal(double value, int digits) {
     return decimalWithSeparator(value, digits, NSLocale::currentLocale()->objectForKey(NSLocaleDecimalSeparator).value_or("."));
 }
 
-std::string GalleryNumbers::minutes(std::int64_t seconds) { return std::to_string(seconds / 60) + ":" + twoDigits(seconds % 60); }
+std::string NumberFormat::minutes(std::int64_t seconds) { return std::to_string(seconds / 60) + ":" + twoDigits(seconds % 60); }
 
-std::string GalleryNumbers::hours(std::int64_t minutes) { return std::to_string(minutes / 60) + ":" + twoDigits(minutes % 60); }
+std::string NumberFormat::hours(std::int64_t minutes) { return std::to_string(minutes / 60) + ":" + twoDigits(minutes % 60); }
 
-std::string GalleryNumbers::clock(std::int64_t seconds) { return hours(seconds / 60) + ":" + twoDigits(seconds % 60); }
+std::string NumberFormat::clock(std::int64_t seconds) { return hours(seconds / 60) + ":" + twoDigits(seconds % 60); }
 
-std::string GalleryNumbers::boxed(const NSNumber& number) {
+std::string NumberFormat::boxed(const NSNumber& number) {
     if (number.type() != NSNumber::Type::Float && number.type() != NSNumber::Type::Double) return std::to_string(number.integerValue());
     std::string text = decimalWithSeparator(number.doubleValue(), 4, ".");
     const std::size_t point = text.find('.');

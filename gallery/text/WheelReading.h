@@ -7,9 +7,9 @@
 namespace gallery {
 
 /// What a wheel shows, as a person writes it.
-class GalleryWords {
+class WheelReading {
 public:
-    GalleryWords() = delete;
+    WheelReading() = delete;
 
     /// The rows that are selected with the separators between them: "5.3", "00:27:30". A column that shows nothing adds nothing.
     static std::string numberOnWheel(const gx::Ref<gx::GXBasePickerView>& picker);

@@ -1,4 +1,4 @@
-#include "GalleryWords.h"
+#include "WheelReading.h"
 
 #include <GXUIPickers/UILabel.h>
 
@@ -6,7 +6,7 @@ using namespace gx;
 
 namespace gallery {
 
-std::string GalleryWords::numberOnWheel(const Ref<GXBasePickerView>& picker) {
+std::string WheelReading::numberOnWheel(const Ref<GXBasePickerView>& picker) {
     const auto wheel = picker ? picker->pickerView() : nullptr;
     if (!wheel) return "";
     std::string words;
@@ -20,13 +20,13 @@ std::string GalleryWords::numberOnWheel(const Ref<GXBasePickerView>& picker) {
     return words;
 }
 
-std::string GalleryWords::clockOnWheel(const Ref<GXBasePickerView>& picker) {
+std::string WheelReading::clockOnWheel(const Ref<GXBasePickerView>& picker) {
     const std::string clock = numberOnWheel(picker);
     const bool hasZero = clock.size() > 1 && clock[0] == '0' && clock[1] != ':';
     return hasZero ? clock.substr(1) : clock;
 }
 
-std::string GalleryWords::amountOnWheel(const Ref<GXBasePickerView>& picker) {
+std::string WheelReading::amountOnWheel(const Ref<GXBasePickerView>& picker) {
     const auto wheel = picker ? picker->pickerView() : nullptr;
     const std::string unit = wheel ? wheel->rightLabelText().value_or("") : "";
     const std::string number = numberOnWheel(picker);

@@ -1,8 +1,10 @@
-#include "GalleryTextTable.h"
+#include "Translations.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+
+#include <GXUIPickers/GXLocalization.h>
 
 namespace gallery {
 
@@ -11,7 +13,7 @@ namespace {
 // Wording. "Pt" is Brazilian, as the pickers' own texts are. Choices agree with the name of what they choose: "Metric" with "Units", "Full"
 // with "Motion", "High" with "Contrast", "Light" with "Look". "Height" and "Weight" are a body's. Weather is written as within a sentence.
 // What ends in a colon is followed by a name; French sets a space before the colon, at which no line may break.
-constexpr GalleryTextTable::Row table[] = {
+constexpr Translations::Row table[] = {
     // Pages, sections and rows.
     {"Add workout",
      {"Training hinzufügen", "Nouvel entraînement", "Añadir entrenamiento", "Aggiungi allenamento", "Adicionar treino",
@@ -220,22 +222,26 @@ constexpr GalleryTextTable::Row table[] = {
     {"wind", {"Wind", "vent", "viento", "vento", "vento", "wind", "wiatr", "ветер", "rüzgâr", "風", "大风", "바람"}},
 };
 
-constexpr bool isComplete(const GalleryTextTable::Row& row) {
+constexpr bool isComplete(const Translations::Row& row) {
     return !row.english.empty() && std::none_of(row.texts.begin(), row.texts.end(), [](std::string_view text) { return text.empty(); });
 }
 static_assert(std::all_of(std::begin(table), std::end(table), isComplete), "a text for each language");
 
-constexpr bool isOnlyOne(const GalleryTextTable::Row& row) {
+constexpr bool isOnlyOne(const Translations::Row& row) {
     return std::count_if(std::begin(table), std::end(table),
-                         [&row](const GalleryTextTable::Row& other) { return other.english == row.english; }) == 1;
+                         [&row](const Translations::Row& other) { return other.english == row.english; }) == 1;
 }
 static_assert(std::all_of(std::begin(table), std::end(table), isOnlyOne), "each English text once");
 
 } // namespace
 
-std::span<const GalleryTextTable::Row> GalleryTextTable::rows() { return table; }
+std::span<const Translations::Row> Translations::rows() { return table; }
 
-std::string_view GalleryTextTable::textInLanguage(std::string_view english, std::string_view language) {
+std::string Translations::text(const std::string& english) {
+    return std::string(textInLanguage(english, gx::GXLocalization::sharedLocalization()->translationLanguage()));
+}
+
+std::string_view Translations::textInLanguage(std::string_view english, std::string_view language) {
     const auto column = std::find(languages.begin(), languages.end(), language);
     const auto row =
         std::find_if(std::begin(table), std::end(table), [english](const Row& candidate) { return candidate.english == english; });

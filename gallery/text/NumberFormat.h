@@ -8,9 +8,9 @@
 namespace gallery {
 
 /// Numbers as a person reads them, and as the program holds them.
-class GalleryNumbers {
+class NumberFormat {
 public:
-    GalleryNumbers() = delete;
+    NumberFormat() = delete;
 
     /// Rounded to `digits` decimals (0 to 6), halves away from zero, with the decimal separator of the current locale: "5.3" or "5,3". What
     /// is no finite number, and what is too large to count, is "–".
