@@ -14,7 +14,8 @@ void FuzzHand::touch() {
     const NSTimeInterval when = time();
     switch (bytes_.below(5)) {
     case 0:
-        return window_->touchBegan_at_time(finger, point, when);
+        window_->touchBegan_at_time(finger, point, when);
+        return;
     case 1:
     case 2:
         return window_->touchMoved_at_time(finger, point, when);

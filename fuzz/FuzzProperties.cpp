@@ -231,7 +231,7 @@ void setWindowProperty(FuzzBytes& bytes, const Ref<UIWindow>& window) {
     case 3:
         return window->setAccessibilityContrast(bytes.flag() ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal);
     case 4:
-        return window->setTicksEnabled(bytes.flag());
+        return window->setFeedbackEnabled(bytes.flag());
     case 5:
         return window->finishAnimations();
     default:

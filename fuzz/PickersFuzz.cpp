@@ -83,7 +83,7 @@ public:
     }
 
     void windowNeedsFrame() override {}
-    void wheelDidTick() override { react(8); }
+    void giveFeedback(UIFeedback) override { react(8); }
 
 private:
     Ref<FuzzListener> newListener() {

@@ -20,12 +20,13 @@ bool GalleryControl::isNearStart(const UITouch& touch) const {
     return std::hypot(touch.locationInWindow.x - start_.x, touch.locationInWindow.y - start_.y) <= slop;
 }
 
-void GalleryControl::touchBegan(const UITouch& touch) {
+bool GalleryControl::touchBegan(const UITouch& touch) {
     if (!finger_) {
         start_ = touch.locationInWindow;
         setFinger(touch.identifier);
     }
     UIView::touchBegan(touch);
+    return true;
 }
 
 void GalleryControl::touchMoved(const UITouch& touch) {

@@ -20,7 +20,7 @@ public:
 
     bool isHighlighted() const { return finger_.has_value(); }
 
-    void touchBegan(const gx::UITouch& touch) override;
+    bool touchBegan(const gx::UITouch& touch) override;
     void touchMoved(const gx::UITouch& touch) override;
     void touchEnded(const gx::UITouch& touch) override;
     void touchCancelled(const gx::UITouch& touch) override;

@@ -89,12 +89,12 @@ UIKey keyOf(const QKeyEvent& event, NSTimeInterval time) {
 bool QtInput::isDown(std::int64_t finger) const { return std::find(down_.begin(), down_.end(), finger) != down_.end(); }
 
 bool QtInput::begin(std::int64_t finger, QPointF place, NSTimeInterval time) {
-    window_->layoutIfNeeded();
-    const Ref<UIView> hit = window_->hitTest(pointOf(place));
-    if (!hit || hit == window_) return false; // Nothing but the window lies there.
+    // Noted before views hear of it, since they may hide the widget, which cancels what is down.
     if (!isDown(finger)) down_.push_back(finger);
-    window_->touchBegan_at_time(finger, pointOf(place), time);
-    return true;
+    if (window_->touchBegan_at_time(finger, pointOf(place), time)) return true;
+    std::erase(down_, finger);
+    window_->touchCancelled_at_time(finger, time); // Qt sends the rest of the touch to whoever lies around.
+    return false;
 }
 
 bool QtInput::move(std::int64_t finger, QPointF place, NSTimeInterval time) {

@@ -143,7 +143,8 @@ bool UIViewWidget::stepFrame() {
     return draws;
 }
 
-void UIViewWidget::wheelDidTick() {
+void UIViewWidget::giveFeedback(UIFeedback feedback) {
+    if (feedback != UIFeedback::SelectionChanged) return;
     const std::function<void()> handler = wheelTickHandler_; // The handler may be replaced while it runs.
     if (handler) handler();
 }

@@ -93,7 +93,7 @@ protected:
 
 private:
     void windowNeedsFrame() override;
-    void wheelDidTick() override;
+    void giveFeedback(UIFeedback feedback) override;
 
     double timeOf(const QInputEvent& event);
     void scheduleTick();

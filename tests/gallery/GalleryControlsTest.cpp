@@ -32,7 +32,7 @@ protected:
 } // namespace
 
 TEST_F(GalleryControlsTest, AButtonIsTappedWhereTheFingerCameDown) {
-    window->down({150, 50});
+    EXPECT_TRUE(window->down({150, 50}));
     EXPECT_TRUE(button->isHighlighted());
     window->move({150, 58}); // trembling
     EXPECT_TRUE(button->isHighlighted());
@@ -57,7 +57,7 @@ TEST_F(GalleryControlsTest, AFingerThatWandersOffOrIsTakenAwayTapsNothing) {
 
 TEST_F(GalleryControlsTest, OnlyTheFirstFingerTaps) {
     window->down({150, 50}, 1);
-    window->down({160, 50}, 2);
+    EXPECT_TRUE(window->down({160, 50}, 2));
     window->up({160, 50}, 2);
     EXPECT_EQ(taps, 0);
     window->up({150, 50}, 1);

@@ -44,7 +44,7 @@ public:
         return now - start;
     }
 
-    void down(gx::CGPoint point, int finger = 1) { window_->touchBegan_at_time(finger, point, now); }
+    bool down(gx::CGPoint point, int finger = 1) { return window_->touchBegan_at_time(finger, point, now); }
     void move(gx::CGPoint point, int finger = 1) { window_->touchMoved_at_time(finger, point, now); }
     void up(gx::CGPoint point, int finger = 1) { window_->touchEnded_at_time(finger, point, now); }
     void tap(gx::CGPoint point) {

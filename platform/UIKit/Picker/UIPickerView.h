@@ -116,7 +116,7 @@ public:
     /// Ends every movement at once, the user's turns on the rows they were heading for, and reports those.
     void finishAnimations() override;
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
-    void touchBegan(const UITouch& touch) override;
+    bool touchBegan(const UITouch& touch) override;
     void touchMoved(const UITouch& touch) override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;

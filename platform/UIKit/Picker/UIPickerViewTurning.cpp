@@ -48,25 +48,24 @@ void UIPickerView::tellTicks(NSInteger rows) {
     constexpr NSInteger highest = 100;
     for (NSInteger i = 0; i < std::min(rows, highest); ++i) {
         const Ref<UIWindow> window = this->window();
-        if (!window || !window->host() || !window->areTicksEnabled()) return;
-        window->host()->wheelDidTick();
+        if (!window) return;
+        window->giveFeedback(UIFeedback::SelectionChanged);
     }
 }
 
-void UIPickerView::touchBegan(const UITouch& touch) {
+bool UIPickerView::touchBegan(const UITouch& touch) {
     const Ref<UIPickerView> keep = self();
     layoutIfNeeded();
     const CGPoint point = convertPointFromWindow(touch.locationInWindow);
     const NSInteger component = componentAt(point);
-    if (!canTurn(component)) {
-        UIView::touchBegan(touch);
-        return;
-    }
+    if (!canTurn(component)) return UIView::touchBegan(touch);
     // What was typed is complete; its report waits for the finger, which may turn on.
     typing_.clear();
     at(component).turn.touchBegan(touch.identifier, point.y, touch.timestamp);
+    const bool isTaken = at(component).turn.hasFinger(touch.identifier);
     if (canBeChosen(component)) choose(component);
     becomeFirstResponder();
+    return isTaken;
 }
 
 void UIPickerView::touchMoved(const UITouch& touch) {

@@ -56,7 +56,7 @@ public:
     /// Ends every movement at once, where it was heading for, and forgets the finger; what that has pulled beyond an end is back there. A
     /// view that leaves its window does so too.
     void finishAnimations() override;
-    void touchBegan(const UITouch& touch) override;
+    bool touchBegan(const UITouch& touch) override;
     void touchMoved(const UITouch& touch) override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;

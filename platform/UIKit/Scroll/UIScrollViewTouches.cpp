@@ -33,10 +33,10 @@ CGFloat UIScrollView::rawOffset(CGFloat displayed) const {
     return displayed;
 }
 
-void UIScrollView::touchBegan(const UITouch& touch) {
+bool UIScrollView::touchBegan(const UITouch& touch) {
     const CGPoint point = convertPointFromWindow(touch.locationInWindow);
     const bool isSecond = finger_ && *finger_ != touch.identifier;
-    if (isSecond || !std::isfinite(touch.locationInWindow.y)) return;
+    if (isSecond || !std::isfinite(touch.locationInWindow.y)) return true; // Nobody else's either.
     const Ref<UIView> keep = refTo<UIView>(this);
     endPress(false, touch.timestamp); // The same finger anew: how it ended before, nobody told.
     const bool stopsMotion = UIScrollView::isMoving();
@@ -48,6 +48,7 @@ void UIScrollView::touchBegan(const UITouch& touch) {
     velocity_.add(touch.timestamp, touchStart_);
     isPressed_ = !stopsMotion;
     if (isPressed_) pressBegan(point, touch.timestamp);
+    return true;
 }
 
 void UIScrollView::touchMoved(const UITouch& touch) {

@@ -17,9 +17,9 @@
 /// - that the window closes or is hidden, with `finishAnimations`, so that no turn is lost;
 /// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when tick says so.
 ///
-/// The library asks of a host, through the window: frames and, unless the window's `setTicksEnabled` turns them off, ticks
-/// (`UIWindowHost`). Touches, scrolling and keys that no view made use of are the host's own, as their answers tell. All of it happens on
-/// one thread. Nothing else is needed: without a host everything works headless.
+/// The library asks of a host, through the window: frames and, unless the window's `setFeedbackEnabled` turns it off,
+/// feedback (`UIWindowHost`). Touches, scrolling and keys that no view made use of are the host's own, as their answers tell. All of it
+/// happens on one thread. Nothing else is needed: without a host everything works headless.
 
 #include "NSLocale.h"
 #include "NSRunLoop.h"
@@ -31,7 +31,12 @@
 
 namespace gx {
 
-/// The window's questions to its host.
+/// What a user shall feel or hear.
+enum class UIFeedback {
+    SelectionChanged ///< the selection goes on by one: a click or a slight vibration
+};
+
+/// What a window asks of its host.
 class UIWindowHost {
 public:
     virtual ~UIWindowHost() = default;
@@ -39,9 +44,11 @@ public:
     /// Something on screen has changed: call `tick` soon, and again after each frame until it answers false.
     /// May be called at any time, also within `tick` and `draw`.
     virtual void windowNeedsFrame() = 0;
-    /// A row has passed a wheel's band during a turn by the user: the moment for a click or a slight vibration. Called for a hundred rows
-    /// of a wheel at most in a frame.
-    virtual void wheelDidTick() {}
+    /// The moment for a click or a vibration. Here ignored.
+    ///
+    /// A wheel asks for `SelectionChanged` with each row that passes its selection indicator in a spin by the user: for a hundred rows
+    /// at most in a frame, and for several rows that it skips at once a single time.
+    virtual void giveFeedback(UIFeedback /*feedback*/) {}
 };
 
 } // namespace gx

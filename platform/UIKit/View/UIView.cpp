@@ -209,8 +209,9 @@ void UIView::drawSubviews(UIGraphicsContext& context) {
 
 // Events
 
-void UIView::touchBegan(const UITouch& touch) {
-    if (const Ref<UIView> above = superview()) above->touchBegan(touch);
+bool UIView::touchBegan(const UITouch& touch) {
+    const Ref<UIView> above = superview();
+    return above && above->touchBegan(touch);
 }
 void UIView::touchMoved(const UITouch& touch) {
     if (const Ref<UIView> above = superview()) above->touchMoved(touch);

@@ -142,8 +142,11 @@ public:
     /// The topmost view that takes touches at a point of this view's coordinates; nothing outside the bounds.
     Ref<UIView> hitTest(CGPoint point);
 
-    /// A touch is sent to the view it began on until it ends; here it is handed to the superview.
-    virtual void touchBegan(const UITouch& touch);
+    /// Sent to the topmost view below the finger; here handed to the superview. Returns whether a view took the touch.
+    ///
+    /// The view that it began on gets the rest of the touch either way. What a touch that nobody took does is the host's.
+    virtual bool touchBegan(const UITouch& touch);
+    /// Sent to the view that the touch began on; here handed to the superview, as are the next two.
     virtual void touchMoved(const UITouch& touch);
     virtual void touchEnded(const UITouch& touch);
     virtual void touchCancelled(const UITouch& touch);

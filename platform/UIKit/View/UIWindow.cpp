@@ -58,7 +58,7 @@ void UIWindow::cancelTouchesWithin(const Ref<UIView>& view) {
     }
 }
 
-void UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
+bool UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
     time = heldTime(time);
     touchCancelled_at_time(identifier, time);
@@ -66,9 +66,9 @@ void UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NST
     layoutIfNeeded(); // The finger aims at what the next frame would show.
     const UITouch touch = {identifier, time, location};
     const Ref<UIView> view = hitTest(location);
-    if (!view) return;
+    if (!view) return false;
     touches_.push_back({touch, view});
-    view->touchBegan(touch);
+    return view->touchBegan(touch);
 }
 
 void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
@@ -217,6 +217,10 @@ void UIWindow::animateView(const Ref<UIView>& view) {
     if (!view || std::any_of(moving_.begin(), moving_.end(), isView)) return;
     moving_.push_back(view);
     requestFrame();
+}
+
+void UIWindow::giveFeedback(UIFeedback feedback) {
+    if (host_ && isFeedbackEnabled_) host_->giveFeedback(feedback);
 }
 
 void UIWindow::requestFrame() {

@@ -7,6 +7,7 @@
 namespace gx {
 
 class UIWindowHost;
+enum class UIFeedback;
 
 /// The root of the views that one host shows: it takes size, touches, scrolling and keys from the host,
 /// hands them to views, runs what moves and draws a frame. `UIHost.h` tells the whole protocol.
@@ -36,8 +37,8 @@ public:
     // number counts as the latest that was. What began more than a second after the frame that shows it, by another clock, begins with
     // that frame.
 
-    /// A finger comes down. An identifier that is still down is cancelled first.
-    void touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
+    /// A finger comes down. An identifier that is still down is cancelled first. Returns whether a view took the touch.
+    bool touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
     /// Unknown identifiers are ignored, here and in the next two.
     void touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
     void touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
@@ -65,9 +66,9 @@ public:
     /// Draws the frame. The canvas is the host's.
     void draw(UIGraphicsContext& context);
 
-    /// Whether wheels tell the host of each row that passes; of a row that a wheel arrives on at once it tells once. Default true.
-    bool areTicksEnabled() const { return areTicksEnabled_; }
-    void setTicksEnabled(bool enabled) { areTicksEnabled_ = enabled; }
+    /// Whether `giveFeedback` reaches the host. Default true.
+    bool isFeedbackEnabled() const { return isFeedbackEnabled_; }
+    void setFeedbackEnabled(bool enabled) { isFeedbackEnabled_ = enabled; }
 
     // The focus
 
@@ -86,6 +87,8 @@ public:
     void resignFirstResponderWithin(const Ref<UIView>& view);
     /// Calls the view's `advanceToTime` before each frame, until that answers false.
     void animateView(const Ref<UIView>& view);
+    /// The user shall feel or hear something: the host is asked for it, if feedback is enabled.
+    void giveFeedback(UIFeedback feedback);
     /// Something has changed on screen: the host is asked for a frame, once until the next tick.
     void requestFrame();
 
@@ -112,7 +115,7 @@ private:
     WeakRef<UIView> firstResponder_;
     bool isFocusShown_ = false;
     bool receivesKeys_ = true;
-    bool areTicksEnabled_ = true;
+    bool isFeedbackEnabled_ = true;
     NSTimeInterval latestTime_ = 0;
     bool needsFrame_ = true;
     bool isTicking_ = false;

@@ -257,6 +257,34 @@ TEST_F(UIViewWidgetInput, PressesWithoutAViewAreIgnored) {
     EXPECT_FALSE(press.isAccepted());
 }
 
+TEST_F(UIViewWidgetInput, PressesThatNoViewTakesAreIgnored) {
+    const auto isAcceptedAt = [this](QPoint place) {
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(place), widget.mapToGlobal(QPointF(place)), Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(&widget, &press);
+        return press.isAccepted();
+    };
+    EXPECT_FALSE(isAcceptedAt({20, 100})) << "beside the columns";
+    EXPECT_TRUE(isAcceptedAt(firstColumn));
+}
+
+TEST_F(UIViewWidgetInput, AViewThatTakesNoTouchLosesItAtOnce) {
+    struct Passing : UIView {
+        std::string log;
+        bool touchBegan(const UITouch&) override {
+            log += "began ";
+            return false;
+        }
+        void touchMoved(const UITouch&) override { log += "moved "; }
+        void touchCancelled(const UITouch&) override { log += "cancelled "; }
+    };
+    const auto passing = create<Passing>(CGRectMake(0, 0, 320, 216));
+    widget.setRootView(passing);
+    QTest::mousePress(&widget, Qt::LeftButton, {}, {20, 100});
+    QTest::mouseMove(&widget, {20, 120});
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, {20, 120});
+    EXPECT_EQ(passing->log, "began cancelled ");
+}
+
 TEST_F(UIViewWidgetInput, APressTakesTheFocus) {
     EXPECT_EQ(widget.focusPolicy(), Qt::StrongFocus);
     widget.clearFocus();

@@ -155,7 +155,7 @@ TEST_F(Keys, keys_of_commands_and_unknown_keys_are_left_to_others) {
 TEST_F(Keys, keys_tick_for_each_row) {
     struct Host : UIWindowHost {
         void windowNeedsFrame() override {}
-        void wheelDidTick() override { ++ticks; }
+        void giveFeedback(UIFeedback) override { ++ticks; }
         int ticks = 0;
     } host;
     window->setHost(&host);
@@ -172,7 +172,7 @@ TEST_F(Keys, a_host_may_take_the_wheel_away_with_a_tick) {
     struct Host : UIWindowHost {
         explicit Host(Ref<UIPickerView> wheel) : wheel_(std::move(wheel)) {}
         void windowNeedsFrame() override {}
-        void wheelDidTick() override {
+        void giveFeedback(UIFeedback) override {
             ++ticks;
             wheel_->removeFromSuperview();
         }

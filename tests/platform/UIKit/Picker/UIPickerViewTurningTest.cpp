@@ -590,7 +590,7 @@ TEST_F(Turning, ADelegateThatDiedHearsNothing) {
 TEST_F(Turning, TheHostHearsOneTickForEachRowThatPassesInATurnByTheUser) {
     struct Host : UIWindowHost {
         void windowNeedsFrame() override {}
-        void wheelDidTick() override { ++ticks; }
+        void giveFeedback(UIFeedback) override { ++ticks; }
         int ticks = 0;
     } host;
     window->setHost(&host);
@@ -600,15 +600,24 @@ TEST_F(Turning, TheHostHearsOneTickForEachRowThatPassesInATurnByTheUser) {
     wheel->selectRow_inComponent_animated(50, 0, true);
     window.runUntilStill();
     EXPECT_EQ(host.ticks, 10) << "none for a request";
-    window->setTicksEnabled(false);
+    window->setFeedbackEnabled(false);
     window.scrollNotches(centre, 1);
     window.runUntilStill();
     EXPECT_EQ(host.ticks, 10) << "none for who wants none";
-    window->setTicksEnabled(true);
+    window->setFeedbackEnabled(true);
     window.scrollNotches(centre, 1);
     window.runUntilStill();
     EXPECT_EQ(host.ticks, 11);
     window->setHost(nullptr);
+}
+
+TEST_F(Turning, ReturnsWhetherItTookTheFinger) {
+    EXPECT_TRUE(window.down(centre));
+    EXPECT_FALSE(window.down({160, 120}, 2)) << "one finger turns a column";
+    EXPECT_FALSE(window.down({5, 108}, 3)) << "beside the columns";
+    source->rows = {0};
+    wheel->reloadAllComponents();
+    EXPECT_FALSE(window.down(centre, 4)) << "without rows nothing turns";
 }
 
 TEST_F(Turning, WildTimesAndPlacesEndOnARow) {
@@ -636,7 +645,7 @@ TEST(UIPickerView, hands_up_a_cancelled_touch_that_turns_no_column) {
     class Noting : public UIView {
     public:
         int cancelled = 0;
-        void touchBegan(const UITouch&) override {}
+        bool touchBegan(const UITouch&) override { return true; }
         void touchCancelled(const UITouch&) override { ++cancelled; }
     };
     const auto source = create<WheelSource>();

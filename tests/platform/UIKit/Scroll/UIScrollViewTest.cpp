@@ -676,9 +676,10 @@ TEST_F(Scrolling, under_a_finger_keys_are_of_use_but_move_nothing) {
 
 TEST_F(Scrolling, a_finger_that_comes_down_anew_has_ended_its_press_without_a_tap) {
     // As from a view that hands touches up by itself; a window would have cancelled the first one.
-    scroll->touchBegan({1, window.now, middle});
-    scroll->touchBegan({1, window.now, middle});
-    scroll->touchBegan({1, window.now, {150, notANumber}});
+    EXPECT_TRUE(scroll->touchBegan({1, window.now, middle}));
+    EXPECT_TRUE(scroll->touchBegan({1, window.now, middle}));
+    EXPECT_TRUE(scroll->touchBegan({1, window.now, {150, notANumber}}));
+    EXPECT_TRUE(scroll->touchBegan({2, window.now, middle})) << "a second finger is nobody else's";
     EXPECT_EQ(scroll->presses, 2);
     EXPECT_EQ(scroll->taps, std::vector<bool>{false});
 }

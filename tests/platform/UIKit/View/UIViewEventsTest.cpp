@@ -20,9 +20,9 @@ struct Taker : UIView {
     std::int64_t finger = 0;
     bool handsOn = false;
 
-    void touchBegan(const UITouch& touch) override {
+    bool touchBegan(const UITouch& touch) override {
         note("began ", touch);
-        if (handsOn) UIView::touchBegan(touch);
+        return handsOn ? UIView::touchBegan(touch) : true;
     }
     void touchMoved(const UITouch& touch) override {
         note("moved ", touch);
@@ -128,7 +128,7 @@ TEST_F(Events, TouchesGoUpUntilAViewKeepsThem) {
     top->addSubview(keeper);
     const auto plain = viewIn(keeper, CGRectMake(0, 0, 10, 10));
     const UITouch touch = {7, 1.5, {3, 4}};
-    plain->touchBegan(touch);
+    EXPECT_TRUE(plain->touchBegan(touch));
     plain->touchMoved(touch);
     plain->touchEnded(touch);
     plain->touchCancelled(touch);
@@ -136,7 +136,7 @@ TEST_F(Events, TouchesGoUpUntilAViewKeepsThem) {
     EXPECT_EQ(keeper->finger, 7);
     EXPECT_EQ(top->log, "");
     keeper->handsOn = true;
-    plain->touchBegan(touch);
+    EXPECT_TRUE(plain->touchBegan(touch));
     plain->touchMoved(touch);
     plain->touchEnded(touch);
     plain->touchCancelled(touch);
@@ -156,7 +156,8 @@ TEST_F(Events, ScrollingGoesUpUntilSomeoneMakesUseOfIt) {
 TEST_F(Events, ATouchThatNobodyKeepsGoesNowhere) {
     const auto plain = create<Taker>();
     plain->handsOn = true;
-    plain->touchBegan({});
+    EXPECT_FALSE(plain->touchBegan({}));
+    EXPECT_FALSE(root->touchBegan({})) << "a plain view takes none";
     EXPECT_EQ(plain->log, "began ");
 }
 

@@ -11,7 +11,7 @@ namespace {
 
 struct TickingHost : UIWindowHost {
     void windowNeedsFrame() override {}
-    void wheelDidTick() override { ++ticks; }
+    void giveFeedback(UIFeedback) override { ++ticks; }
     int ticks = 0;
 };
 

@@ -21,12 +21,16 @@ struct Actor : UIView {
     std::string log;
     UITouch last;
     UIScroll lastScroll;
+    bool takesTouches = true;
     bool usesScrolls = true;
     std::vector<NSTimeInterval> times;
     bool movesOn = false;
     std::function<void()> whenBegan, whenCancelled, whenEnded, whenScrolled, whenAdvanced, whenLaidOut;
 
-    void touchBegan(const UITouch& touch) override { note("began ", touch, whenBegan); }
+    bool touchBegan(const UITouch& touch) override {
+        note("began ", touch, whenBegan);
+        return takesTouches;
+    }
     void touchMoved(const UITouch& touch) override { note("moved ", touch, nullptr); }
     void touchEnded(const UITouch& touch) override { note("ended ", touch, whenEnded); }
     void touchCancelled(const UITouch& touch) override { note("cancelled ", touch, whenCancelled); }
@@ -87,6 +91,43 @@ TEST_F(Window, ATouchGoesToTheViewItBeganOnUntilItEnds) {
     EXPECT_EQ(other->log, "");
     window->touchMoved_at_time(3, {20, 20}, 4);
     EXPECT_EQ(actor->log, "began 3 moved 3 ended 3 ") << "it has ended";
+}
+
+TEST_F(Window, ReturnsWhetherAViewTookTheTouch) {
+    EXPECT_TRUE(window->touchBegan_at_time(1, {20, 20}, 1));
+    EXPECT_FALSE(window->touchBegan_at_time(2, {5, 5}, 1)) << "only the window lies there";
+    EXPECT_FALSE(window->touchBegan_at_time(3, {205, 20}, 1)) << "nothing lies there";
+    actor->takesTouches = false;
+    EXPECT_FALSE(window->touchBegan_at_time(4, {20, 20}, 1));
+}
+
+TEST_F(Window, SendsTheRestOfATouchThatNoViewTook) {
+    actor->takesTouches = false;
+    window->touchBegan_at_time(1, {20, 20}, 1);
+    window->touchMoved_at_time(1, {30, 30}, 2);
+    window->touchEnded_at_time(1, {30, 30}, 3);
+    EXPECT_EQ(actor->log, "began 1 moved 1 ended 1 ");
+}
+
+TEST_F(Window, GivesFeedbackThroughItsHost) {
+    window->giveFeedback(UIFeedback::SelectionChanged); // Without a host nothing happens.
+    struct FeedbackHost : UIWindowHost {
+        void windowNeedsFrame() override {}
+        void giveFeedback(UIFeedback feedback) override { given.push_back(feedback); }
+        std::vector<UIFeedback> given;
+    } host;
+    window->setHost(&host);
+    EXPECT_TRUE(window->isFeedbackEnabled());
+    window->giveFeedback(UIFeedback::SelectionChanged);
+    EXPECT_EQ(host.given, std::vector{UIFeedback::SelectionChanged});
+    window->setFeedbackEnabled(false);
+    EXPECT_FALSE(window->isFeedbackEnabled());
+    window->giveFeedback(UIFeedback::SelectionChanged);
+    EXPECT_EQ(host.given.size(), 1U);
+    window->setFeedbackEnabled(true);
+    window->giveFeedback(UIFeedback::SelectionChanged);
+    EXPECT_EQ(host.given.size(), 2U);
+    window->setHost(nullptr);
 }
 
 TEST_F(Window, SeveralFingersGoTheirOwnWays) {
