@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "GXFontFitting.h"
 #include "GXStyleSheet.h"
+#include "GXValueText.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 #include "NSLayoutConstraint.h"
@@ -113,6 +115,45 @@ void GXBasePickerView::informDelegateOfValueChange() {
         const NSNumber value = currentValue_; // The delegate may set another one while it reads this.
         delegate->pickerView_didChangeCurrentValue_forComponent(keep, value, 0);
     }
+}
+
+// The present value as a text, and fonts with which the wheel shows all of it
+
+std::string GXBasePickerView::currentValueText() {
+    const Ref<GXBasePickerView> keep = self();
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView_) {
+        return joinedBySpace(textOfSelectedRows(wheel, *this), wheel->rightLabelText().value_or(std::string()));
+    }
+    std::string text;
+    for (const Ref<GXBasePickerView>& picker : innerPickers()) {
+        const std::string part = picker->currentValueText();
+        if (!text.empty() && !part.empty()) text += ", ";
+        text += part;
+    }
+    return text;
+}
+
+void GXBasePickerView::addPickersToFit(std::vector<Ref<GXBasePickerView>>& found) {
+    if (CGRectIsEmpty(bounds())) return;
+    if (pickerView_) found.push_back(self());
+    for (const Ref<GXBasePickerView>& picker : innerPickers()) picker->addPickersToFit(found);
+}
+
+void GXBasePickerView::sizeFontsToFit() {
+    const Ref<GXBasePickerView> keep = self();
+    std::vector<Ref<GXBasePickerView>> pickers;
+    addPickersToFit(pickers);
+    std::vector<Ref<GXMultiValuePickerView>> wheels;
+    for (const Ref<GXBasePickerView>& picker : pickers) {
+        picker->layoutIfNeeded();
+        if (picker->pickerView_) wheels.push_back(picker->pickerView_);
+    }
+    chooseLargestFonts(wheels, [&pickers](const Ref<GXStyleSheetFont>& valueFont, const Ref<GXStyleSheetFont>& labelFont) {
+        for (const Ref<GXBasePickerView>& picker : pickers) {
+            picker->setCustomValueFont(valueFont);
+            picker->setCustomLabelFont(labelFont);
+        }
+    });
 }
 
 // Answers to the wheel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "GXBasePickerViewDelegate.h"
 #include "GXMultiValuePickerView.h"
 #include "GXSpeech.h"
@@ -60,6 +62,23 @@ public:
     WeakRef<GXBasePickerViewDelegate> delegate() const { return delegate_; }
     virtual void setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) { delegate_ = std::move(delegate); }
 
+    /// The value as the wheel shows it, such as "5.3 km": the titles of the selected rows, the
+    /// separators between them, and the unit beside the wheel.
+    ///
+    /// - It needs no window: a picker that is on no screen has the same text.
+    /// - A composite puts the texts of its inner pickers together, as in "5.3 km, 0:27 h".
+    /// - A picker without a wheel has an empty text.
+    virtual std::string currentValueText();
+    /// Gives the picker the largest fonts, up to the style sheet's, with which every title fits into
+    /// its column and every label stands within the selection indicator; 13 points at least.
+    ///
+    /// - Call it when the picker has its frame, and again after a new frame, unit or style. It
+    ///   replaces both custom fonts.
+    /// - Values and labels keep one size, and with that one baseline. All pickers of a composite get
+    ///   the same fonts.
+    /// - Without a wheel, or in an empty frame, nothing happens.
+    virtual void sizeFontsToFit();
+
     /// Turns the wheel to the current value, without animation; a value below the minimum leaves it where it is.
     virtual void selectCurrentValue();
     /// Tells the delegate the current value, for component 0.
@@ -97,6 +116,9 @@ protected:
     /// Gives the defaults and makes the wheel. A composite overrides it to have neither.
     virtual void initGXBasePickerView();
     Ref<GXBasePickerView> self() { return refTo(this); }
+    /// The pickers that a composite is made of, from the left; none may be absent. Here there are
+    /// none.
+    virtual std::vector<Ref<GXBasePickerView>> innerPickers() const { return {}; }
     /// What the picker measures, and what a column of it stands for. Here nothing: any number, and a single column.
     virtual std::optional<GXSpokenName> spokenMeasurement() const { return std::nullopt; }
     virtual std::optional<GXSpokenName> spokenPartOfComponent(NSInteger /*component*/) { return std::nullopt; }
@@ -115,6 +137,7 @@ protected:
 private:
     void storeBound(NSNumber& bound, NSNumber value);
     NSInteger valueOfRow(NSInteger row) const;
+    void addPickersToFit(std::vector<Ref<GXBasePickerView>>& found);
 
     float rowHeight_ = 0;
     bool isMetric_ = false;

@@ -34,6 +34,12 @@ Ref<UIImage> GXIconPickerView::imageOfRow(NSInteger row) const {
     return (*iconImages_)[static_cast<std::size_t>(index)];
 }
 
+std::string GXIconPickerView::currentValueText() {
+    const Ref<GXBasePickerView> keep = self();
+    const NSInteger row = selectedRowInComponent(pickerView(), 0);
+    return pickerView_accessibilityValueForRow_forComponent(pickerView(), row, 0).value_or(std::string());
+}
+
 // Answers to the wheel
 
 NSInteger GXIconPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }

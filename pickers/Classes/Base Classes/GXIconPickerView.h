@@ -25,6 +25,9 @@ public:
     const Ref<const Images>& iconImages() const { return iconImages_; }
     virtual void setIconImages(Ref<const Images> images);
 
+    /// What the chosen image's own label says; empty for one without.
+    std::string currentValueText() override;
+
     // Answers to the wheel
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;

@@ -49,6 +49,13 @@ void GXDistanceAndDurationPicker::drawRect(UIGraphicsContext& context, CGRect re
     if (band.size.height > 0) UIPickerView::drawSelectionIndicator(context, band);
 }
 
+std::vector<Ref<GXBasePickerView>> GXDistanceAndDurationPicker::innerPickers() const {
+    std::vector<Ref<GXBasePickerView>> pickers;
+    if (distancePicker_) pickers.push_back(distancePicker_);
+    if (durationPicker_) pickers.push_back(durationPicker_);
+    return pickers;
+}
+
 CGRect GXDistanceAndDurationPicker::distanceFrame() const {
     return CGRectMake(0, 0, CGRectGetMidX(bounds()) + distanceBeyondMiddle, CGRectGetHeight(bounds()));
 }

@@ -51,6 +51,7 @@ public:
 protected:
     /// Does nothing, so that there is neither a wheel nor a range.
     void initGXBasePickerView() override;
+    std::vector<Ref<GXBasePickerView>> innerPickers() const override;
 
 private:
     void initGXDistanceAndDurationPicker();

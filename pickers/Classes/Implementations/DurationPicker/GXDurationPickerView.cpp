@@ -5,6 +5,7 @@
 
 #include "GXLocalization.h"
 #include "GXTitleReading.h"
+#include "GXValueText.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 
@@ -100,6 +101,14 @@ void GXDurationPickerView::setMinutesStepSize(std::int32_t step) { storeStep(min
 void GXDurationPickerView::setSecondsStepSize(std::int32_t step) { storeStep(secondsStepSize_, step); }
 
 std::int32_t GXDurationPickerView::checkStepSize(std::int32_t step) const { return std::max(step, 1); }
+
+std::string GXDurationPickerView::currentValueText() {
+    const Ref<GXBasePickerView> keep = self();
+    const std::string time = withoutLeadingZero(textOfSelectedRows(pickerView(), *this));
+    if (time.empty()) return time;
+    if (type_ == GXDurationTypeHoursMinutes) return joinedBySpace(time, "h");
+    return type_ == GXDurationTypeMinutesSeconds ? joinedBySpace(time, "min") : time;
+}
 
 // Units
 

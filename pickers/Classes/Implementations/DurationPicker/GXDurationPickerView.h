@@ -64,6 +64,9 @@ public:
 
     /// Holds the value to the range first: `setCurrentValue` is called with the bound.
     void selectCurrentValue() override;
+    /// "0:27 h", "0:27:30" or "27:30 min", by the type, and without a zero before the first number.
+    /// The units are those of the international system, which are alike in all languages.
+    std::string currentValueText() override;
 
     // Answers to the wheel. Components 0, 2 and, with seconds below minutes below hours, 4 hold values; any other one is a row without a
     // title, between them a separator of 5 points.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "GXLocalization.h"
+#include "GXValueText.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 
@@ -20,6 +21,8 @@ constexpr NSInteger reportedAverage = 0;
 // A moderate effort, and what a wheel shows that is set to nothing.
 constexpr NSInteger defaultAverage = 120;
 constexpr NSInteger defaultMaximum = 160;
+/// Of the row that picks 0.
+constexpr const char* noValueTitle = "-";
 /// Just enough to keep two columns of digits apart.
 constexpr CGFloat spacerWidth = 5;
 
@@ -94,6 +97,20 @@ void GXHeartRatePickerView::selectCurrentValue() {
     selectRow_inComponent(pickerView(), quotient(currentValue().integerValue(), stepSize().integerValue()), averageColumn);
 }
 
+std::string GXHeartRatePickerView::textOfRate(const std::optional<std::string>& label, NSInteger component) {
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
+    const NSInteger row = selectedRowInComponent(wheel, component);
+    const std::string title = pickerView_titleForRow_forComponent(wheel, row, component).value_or(std::string());
+    return joinedBySpace(label.value_or(std::string()), title == noValueTitle ? "–" : title);
+}
+
+std::string GXHeartRatePickerView::currentValueText() {
+    const Ref<GXBasePickerView> keep = self();
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
+    if (!wheel) return {};
+    return textOfRate(wheel->leftLabelText(), averageColumn) + ", " + textOfRate(wheel->rightLabelText(), maximumColumn);
+}
+
 // Answers to the wheel
 
 NSInteger GXHeartRatePickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 3; }
@@ -106,7 +123,7 @@ NSInteger GXHeartRatePickerView::pickerView_numberOfRowsInComponent(const Ref<UI
 std::optional<std::string> GXHeartRatePickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                       NSInteger component) {
     if (component == spacerColumn) return std::nullopt;
-    if (row == 0 && shouldShowNullValue_) return "-";
+    if (row == 0 && shouldShowNullValue_) return noValueTitle;
     return std::to_string(narrowTo32Bits(valueOfRow(row)));
 }
 

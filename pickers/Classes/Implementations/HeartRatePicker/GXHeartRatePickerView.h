@@ -40,6 +40,8 @@ public:
 
     /// Turns the average wheel to the row `currentValue` / `stepSize`, which is the first unless an application sets a current value.
     void selectCurrentValue() override;
+    /// Both rates after the labels beside their columns, "AVG 142, MAX 171"; a dash for no value.
+    std::string currentValueText() override;
 
     // Answers to the wheel: average, spacer, maximum
 
@@ -63,6 +65,7 @@ private:
     void initGXHeartRatePickerView();
     NSNumber storedRate(NSNumber rate, NSInteger component);
     NSInteger valueOfRow(NSInteger row) const;
+    std::string textOfRate(const std::optional<std::string>& label, NSInteger component);
     void makeRoomAboveAverage();
     void makeRoomBelowMaximum();
     void informDelegateOfRate(const NSNumber& rate, NSInteger reportedComponent);

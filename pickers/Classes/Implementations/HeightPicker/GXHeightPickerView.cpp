@@ -4,6 +4,7 @@
 
 #include "GXLocalization.h"
 #include "GXSpeech.h"
+#include "GXValueText.h"
 #include "NSArithmetic.h"
 
 namespace gx {
@@ -144,6 +145,16 @@ void GXHeightPickerView::recalculateHeight() {
 Ref<NSAttributedString> GXHeightPickerView::styleString(std::optional<std::string> text) const {
     if (!text) return nullptr;
     return NSAttributedString::attributedStringWithString_attributes(*std::move(text), {nullptr, tintColor()});
+}
+
+std::string GXHeightPickerView::currentValueText() {
+    const Ref<GXHeightPickerView> keep = refTo(this);
+    const auto titleOf = [this](NSInteger component) {
+        return titleOfRow(selectedRowInComponent(component), columnOf(component)).value_or(std::string());
+    };
+    if (!isMetric_) return joinedBySpace(titleOf(0), titleOf(1));
+    // The row of the unit follows only in a later pass of the run loop.
+    return joinedBySpace(titleOf(0), titleOfRow(unitRowMetric, Column::Unit).value_or(std::string()));
 }
 
 // Answers to the wheel

@@ -34,6 +34,11 @@ public:
     WeakRef<GXHeightPickerViewDelegate> heightDelegate() const { return heightDelegate_; }
     virtual void setHeightDelegate(WeakRef<GXHeightPickerViewDelegate> delegate) { heightDelegate_ = std::move(delegate); }
 
+    /// The height as the wheel shows it: "176 cm", or "5' 9\"". It needs no window.
+    ///
+    /// Its columns are made for the wheel's own font, so there are no fonts to fit.
+    virtual std::string currentValueText();
+
     /// Makes the picker its own data source and delegate, and its rows black. Selects nothing.
     virtual void setupSelf();
     /// Selects the rows of the height, reloads the wheel and leaves the unit's row to the next pass of the run loop.

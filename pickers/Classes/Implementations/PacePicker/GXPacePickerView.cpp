@@ -6,6 +6,7 @@
 
 #include "GXLocalization.h"
 #include "GXTitleReading.h"
+#include "GXValueText.h"
 #include "GXWheelOrders.h"
 #include "NSArithmetic.h"
 
@@ -207,6 +208,13 @@ void GXPacePickerView::selectCurrentValue() {
     const std::int32_t firstSecond = current.minutes == minimum.minutes ? minimum.seconds : 0;
     const std::int32_t secondsRow = quotient(wrappingSubtract(current.seconds, firstSecond), secondsStepSize_);
     selectRow_inComponent(pickerView(), std::max(secondsRow, 0), secondsComponent);
+}
+
+std::string GXPacePickerView::currentValueText() {
+    const Ref<GXBasePickerView> keep = self();
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
+    if (!wheel) return {};
+    return joinedBySpace(withoutLeadingZero(textOfSelectedRows(wheel, *this)), wheel->rightLabelText().value_or(std::string()));
 }
 
 // Answers to a screen reader

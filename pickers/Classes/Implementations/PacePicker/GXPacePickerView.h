@@ -56,6 +56,8 @@ public:
     virtual std::optional<Components> components(const NSNumber& secondsPerMeter) const;
 
     void selectCurrentValue() override;
+    /// "4:45 min/km", without a zero before the minutes.
+    std::string currentValueText() override;
 
     // Answers to the wheel. Components: minutes, separator, seconds; any other one is like the separator.
 

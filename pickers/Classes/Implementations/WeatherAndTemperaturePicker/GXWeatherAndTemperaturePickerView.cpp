@@ -41,6 +41,13 @@ void GXWeatherAndTemperaturePickerView::initGXWeatherAndTemperaturePickerViewWit
     addSubview(temperaturePicker_);
 }
 
+std::vector<Ref<GXBasePickerView>> GXWeatherAndTemperaturePickerView::innerPickers() const {
+    std::vector<Ref<GXBasePickerView>> pickers;
+    if (weatherPicker_) pickers.push_back(weatherPicker_);
+    if (temperaturePicker_) pickers.push_back(temperaturePicker_);
+    return pickers;
+}
+
 CGRect GXWeatherAndTemperaturePickerView::weatherFrame() const {
     return CGRectMake(0, 0, CGRectGetMidX(bounds()) - seamBeforeMiddle, CGRectGetHeight(bounds()));
 }

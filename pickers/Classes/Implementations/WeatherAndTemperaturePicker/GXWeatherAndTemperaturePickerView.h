@@ -40,6 +40,7 @@ public:
 protected:
     /// Does nothing, so that there is neither a wheel nor a range.
     void initGXBasePickerView() override;
+    std::vector<Ref<GXBasePickerView>> innerPickers() const override;
 
 private:
     void initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight);
