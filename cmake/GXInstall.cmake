@@ -1,7 +1,7 @@
 # find_package(GXUIPickers) after `cmake --install`.
 include(CMakePackageConfigHelpers)
 
-set(package_folder "lib/cmake/GXUIPickers")
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/GXUIPickers")
 install(EXPORT GXUIPickersTargets NAMESPACE gx:: DESTINATION "${package_folder}")
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/GXUIPickersConfig.cmake.in"
   "${PROJECT_BINARY_DIR}/GXUIPickersConfig.cmake" INSTALL_DESTINATION "${package_folder}")

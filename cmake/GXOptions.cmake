@@ -3,7 +3,13 @@ option(GX_BUILD_QT "Build the Qt host (needs Qt 6.4)" ${PROJECT_IS_TOP_LEVEL})
 option(GX_BUILD_GALLERY "Build the demo application (without the Qt host, its screens alone)" ${GX_BUILD_QT})
 option(GX_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
 option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
-option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" ${PROJECT_IS_TOP_LEVEL})
+option(BUILD_SHARED_LIBS "Build shared libraries instead of static ones" OFF)
+option(GX_BARE "Build without RTTI and exceptions; code that uses the library is compiled so too" OFF)
+
+# For those who work on the library. The presets dev, sanitize, ci and fuzz turn them on; a plain build never does.
+option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" OFF)
+option(GX_PRECOMPILE_HEADERS "Precompile what most sources include" OFF)
+option(GX_ROOMS_AS_UNITS "Compile each folder of floors 1 to 3 as one unit" OFF)
 option(GX_SANITIZE "Check addresses and undefined behaviour at run time" OFF)
 option(GX_BUILD_FUZZERS "Build everything for libFuzzer, with checks, and the fuzz targets (needs clang)" OFF)
 
@@ -28,7 +34,8 @@ if(GX_WARNINGS_AS_ERRORS)
   target_compile_options(gx_flags INTERFACE -Werror)
 endif()
 if(GX_SANITIZE)
-  target_compile_options(gx_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(gx_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(gx_flags INTERFACE -fsanitize=address,undefined)
 endif()
 if(GX_BUILD_FUZZERS)
@@ -37,6 +44,7 @@ if(GX_BUILD_FUZZERS)
   endif()
   # Numbers from outside end in conversions to integers, which "undefined" alone leaves unchecked.
   set(checks address,undefined,float-cast-overflow)
-  target_compile_options(gx_flags INTERFACE -fsanitize=fuzzer-no-link,${checks} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(gx_flags INTERFACE
+    -fsanitize=fuzzer-no-link,${checks} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(gx_flags INTERFACE -fsanitize=${checks})
 endif()

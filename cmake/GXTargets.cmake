@@ -2,9 +2,12 @@
 #
 # Makes the library gx_<name>, known as gx::<name>, of all sources in the folders.
 #
-# A public header is included by everyone else as <GXUIPickers/Name.h>, wherever it lies; it is installed. Every other header
-# is internal: only the floor's own sources and its tests (through gx_<name>_internal) reach it, and it is not installed.
-# Inside floors 1 to 3, a header is included by its name alone.
+# - The library is static or shared, as BUILD_SHARED_LIBS says, and exports what GX_EXPORT marks.
+# - A public header is included by other code as <GXUIPickers/Name.h>, wherever it lies; it is installed.
+# - Every other header is internal: only the floor's own sources and its tests (through gx_<name>_internal) reach it,
+#   and it is not installed.
+# - Inside floors 1 to 3, a header is included by its name alone.
+include(GNUInstallDirs)
 set(GX_PUBLIC_INCLUDE_FOLDER "${PROJECT_BINARY_DIR}/include")
 file(REMOVE_RECURSE "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
 file(MAKE_DIRECTORY "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
@@ -15,10 +18,21 @@ target_include_directories(gx_names INTERFACE "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIP
 function(gx_add_floor name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;PUBLIC_HEADERS;DEPENDS")
   set(target "gx_${name}")
-  add_library(${target} STATIC)
+  add_library(${target})
   add_library(gx::${name} ALIAS ${target})
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} POSITION_INDEPENDENT_CODE ON)
+  # Before 1.0 each minor version may change the binary interface, so it is a part of the SONAME.
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} POSITION_INDEPENDENT_CODE ON
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} INSTALL_RPATH "$ORIGIN")
   target_compile_features(${target} PUBLIC cxx_std_20)
+  # Lets an application's linker leave out what it does not use (-Wl,--gc-sections).
+  target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections)
+  if(GX_BARE)
+    target_compile_options(${target} PUBLIC -fno-rtti -fno-exceptions)
+  endif()
+  if(GX_PRECOMPILE_HEADERS)
+    target_precompile_headers(${target} PRIVATE <algorithm> <cmath> <functional> <map> <memory> <optional> <string> <vector>)
+  endif()
 
   add_library(${target}_internal INTERFACE)
   set(public_headers ${arg_PUBLIC_HEADERS})
@@ -27,27 +41,42 @@ function(gx_add_floor name)
     file(GLOB sources CONFIGURE_DEPENDS "${path}/*.cpp")
     file(GLOB headers CONFIGURE_DEPENDS "${path}/*.h")
     target_sources(${target} PRIVATE ${sources})
+    if(GX_ROOMS_AS_UNITS AND NOT folder STREQUAL ".")
+      set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+      string(MAKE_C_IDENTIFIER "${folder}" unit)
+      set_source_files_properties(${sources} PROPERTIES UNITY_GROUP ${unit})
+    endif()
     target_include_directories(${target}_internal INTERFACE "${path}")
     foreach(header IN LISTS headers)
       cmake_path(GET header FILENAME file)
       if(NOT file IN_LIST public_headers)
+        set_property(GLOBAL APPEND PROPERTY GX_INTERNAL_HEADERS ${file})
         continue()
       endif()
       list(REMOVE_ITEM public_headers "${file}")
       # Public headers lie side by side, as they will be installed, so that they find each other.
       file(CREATE_LINK "${header}" "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/${file}" COPY_ON_ERROR SYMBOLIC)
-      install(FILES "${header}" DESTINATION include/GXUIPickers)
+      install(FILES "${header}" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GXUIPickers)
     endforeach()
   endforeach()
   if(public_headers)
     message(FATAL_ERROR "gx::${name} has no header ${public_headers}")
   endif()
   set_property(GLOBAL APPEND PROPERTY GX_PUBLIC_HEADERS_OF_${name} ${arg_PUBLIC_HEADERS})
+  set_property(GLOBAL APPEND PROPERTY GX_PUBLIC_HEADERS ${arg_PUBLIC_HEADERS})
 
   target_link_libraries(${target} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:gx_flags> $<BUILD_INTERFACE:${target}_internal>)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:gx_names>)
-  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${GX_PUBLIC_INCLUDE_FOLDER}>" $<INSTALL_INTERFACE:include>)
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${GX_PUBLIC_INCLUDE_FOLDER}>" "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
   install(TARGETS ${target} EXPORT GXUIPickersTargets)
+
+  if(BUILD_SHARED_LIBS AND GX_BUILD_TESTS)
+    # Internal classes are not exported: their tests link the same objects as a static library.
+    add_library(${target}_static STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${target}>)
+    list(TRANSFORM arg_DEPENDS APPEND _static REGEX "^gx_")
+    target_link_libraries(${target}_static PUBLIC ${arg_DEPENDS})
+    target_include_directories(${target}_static PUBLIC "${GX_PUBLIC_INCLUDE_FOLDER}")
+  endif()
 endfunction()
 
 # gx_add_umbrella_header(<floor>…): <GXUIPickers/GXUIPickers.h>, which includes every public header of these floors.
@@ -60,5 +89,6 @@ function(gx_add_umbrella_header)
     endforeach()
   endforeach()
   file(CONFIGURE OUTPUT "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" CONTENT "${lines}")
-  install(FILES "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" DESTINATION include/GXUIPickers)
+  set_property(GLOBAL APPEND PROPERTY GX_PUBLIC_HEADERS GXUIPickers.h)
+  install(FILES "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GXUIPickers)
 endfunction()

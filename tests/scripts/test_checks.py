@@ -101,6 +101,14 @@ class StructureTest(CheckTest):
         self.expect({"platform/Low/ATouches.cpp": '#include "A.h"\nvoid A::one() {}\n'},
                     "platform/Low/ATouches.cpp:1: has no header of its name", "platform/Low/ATouches.cpp:2: continues A, which is declared in")
 
+    def test_finds_an_included_source_and_a_using_declaration_without_use(self):
+        self.expect({"platform/Low/A.cpp": '#include "A.h"\nusing std::vector;\nstatic vector<int> one;\n'})
+        self.expect({"platform/Low/A.cpp": '#include "A.h"\nusing std::vector;\nstatic std::vector<int> one;\n'},
+                    "platform/Low/A.cpp:2: vector is not used")
+        self.expect({"platform/High/B.cpp": '#include "../Low/A.cpp"\n'},
+                    "platform/High/B.cpp:1: includes ../Low/A.cpp, which is no header",
+                    "platform/High/B.cpp:1: includes ../Low/A.cpp, which is no header of the standard library")
+
     def test_finds_a_room_that_stands_nowhere(self):
         self.expect({"platform/New/N.h": "#pragma once\n"}, "does not say where the room platform/New stands")
 
