@@ -1,8 +1,9 @@
-// The entry screen of the gallery: to open it, to open each of its pickers, and to scroll it. Beside the pickers alone, so that the ratio
-// says what table and cells cost on top.
+// The entry screen of the gallery: opening it, opening each of its pickers, and scrolling it.
+// The pickers alone show by comparison what the table and the cells cost.
 
 #include <benchmark/benchmark.h>
 
+#include "EntryScreen.h"
 #include "GXBpmPickerView.h"
 #include "GXCaloriesPickerView.h"
 #include "GXDistanceAndDurationPicker.h"
@@ -12,7 +13,6 @@
 #include "GXSpeedPickerView.h"
 #include "GXWeatherAndTemperaturePickerView.h"
 #include "GXWeightPickerView.h"
-#include "GalleryEntry.h"
 #include "NSRunLoop.h"
 #include "NullCanvas.h"
 #include "UIWindow.h"
@@ -36,7 +36,7 @@ struct Screen {
     }
 
     Ref<UIWindow> window = create<UIWindow>(phone);
-    Ref<GalleryEntry> entry = create<GalleryEntry>(phone);
+    Ref<EntryScreen> entry = create<EntryScreen>(phone);
     NullCanvas canvas;
     double now = 0;
 };

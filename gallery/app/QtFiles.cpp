@@ -5,8 +5,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include "GalleryWorkoutFile.h"
 #include "Translations.h"
+#include "WorkoutFile.h"
 
 namespace gallery {
 
@@ -27,7 +27,7 @@ QtFiles::Dialogs systemDialogs() {
             [](QWidget* parent) { return QFileDialog::getOpenFileName(parent, title("Open"), QString(), filter()); }};
 }
 
-GalleryFiles::Outcome failure(const char* english, const QString& path, const QString& reason) {
+UserFiles::Outcome failure(const char* english, const QString& path, const QString& reason) {
     const std::string sentence = Translations::text(english) + " " + reason.toStdString();
     return {QFileInfo(path).fileName().toStdString(), "", sentence};
 }
@@ -41,7 +41,7 @@ QtFiles::QtFiles(QWidget* parent, Dialogs dialogs) : parent_(parent), dialogs_(s
 void QtFiles::saveText_name(const std::string& text, const std::string& suggestedName, const Done& done) {
     const QString path = dialogs_.pathToSave(parent_, QString::fromStdString(suggestedName));
     if (path.isEmpty()) return;
-    // Written beside the file and put in its place only when it is whole.
+    // Written beside the file and moved into its place only when it is complete.
     QSaveFile file(path);
     const QByteArray bytes = QByteArray::fromStdString(text);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
@@ -54,8 +54,8 @@ void QtFiles::openText(const Done& done) {
     if (path.isEmpty()) return;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return done(failure("The file could not be read:", path, file.errorString()));
-    // One byte more than a workout may have tells a file that is too long.
-    const QByteArray bytes = file.read(static_cast<qint64>(GalleryWorkoutFile::longest) + 1);
+    // One byte more than a workout may have shows that a file is too long.
+    const QByteArray bytes = file.read(static_cast<qint64>(WorkoutFile::longest) + 1);
     if (file.error() != QFileDevice::NoError) return done(failure("The file could not be read:", path, file.errorString()));
     done({QFileInfo(path).fileName().toStdString(), bytes.toStdString(), ""});
 }

@@ -3,20 +3,21 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "GalleryFiles.h"
+#include "UserFiles.h"
 
 namespace gallery {
 
 /// The user's files through the dialogs of the system.
-class QtFiles : public GalleryFiles {
+class QtFiles : public UserFiles {
 public:
-    /// How the user chooses a file: answers its path, or nothing if the user thinks better of it.
+    /// How the user chooses a file. Each returns the path, or nothing if the user dismisses the
+    /// dialog.
     struct Dialogs {
         std::function<QString(QWidget* parent, const QString& suggestedName)> pathToSave;
         std::function<QString(QWidget* parent)> pathToOpen;
     };
 
-    /// `parent` is what the dialogs stand over; it may be absent.
+    /// The dialogs open over `parent`, which may be absent.
     explicit QtFiles(QWidget* parent);
     QtFiles(QWidget* parent, Dialogs dialogs);
 

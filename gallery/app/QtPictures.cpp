@@ -31,12 +31,12 @@ std::string fileName(std::string name) {
 /// Draws one picture after the other into a folder, until one cannot be written.
 class Album {
 public:
-    Album(const Ref<GalleryScreen>& screen, std::filesystem::path folder, double scale)
+    Album(const Ref<MainScreen>& screen, std::filesystem::path folder, double scale)
         : screen_(screen), folder_(std::move(folder)), scale_(scale) {}
 
     void addPicture(const std::string& name, CGSize size, UIUserInterfaceStyle style) {
         if (problem_) return;
-        GallerySettings settings = screen_->settings();
+        Settings settings = screen_->settings();
         settings.style = style;
         screen_->setSettings(settings);
         const QImage image = qt::imageOfView(screen_, size, scale_, style);
@@ -51,26 +51,26 @@ public:
     const std::optional<std::string>& problem() const { return problem_; }
 
 private:
-    Ref<GalleryScreen> screen_;
+    Ref<MainScreen> screen_;
     std::filesystem::path folder_;
     double scale_;
     std::optional<std::string> problem_;
 };
 
-void layOut(const Ref<GalleryScreen>& screen, CGSize size) {
+void layOut(const Ref<MainScreen>& screen, CGSize size) {
     screen->setFrame({{}, size});
     screen->layoutIfNeeded();
 }
 
 /// The table as it opens, and with each of its pickers.
-void addEntry(Album& album, const Ref<GalleryScreen>& screen, const std::optional<CGSize>& asked) {
+void addEntry(Album& album, const Ref<MainScreen>& screen, const std::optional<CGSize>& asked) {
     const auto& entry = screen->entry();
     entry->setFiles(std::make_shared<QtFiles>(nullptr)); // For its buttons.
     layOut(screen, asked.value_or(phoneSize));
     album.addBothLooks("add-workout", asked.value_or(phoneSize));
     for (std::size_t i = 0; i < entry->measurementCount(); ++i) {
         entry->openMeasurement_animated(i, false);
-        NSRunLoop::mainRunLoop()->runPass(); // What pickers do a moment after they were made.
+        NSRunLoop::mainRunLoop()->runPass(); // Pickers finish their set-up in a later pass.
         album.addBothLooks("add-workout-" + fileName(entry->measurement(i)->name()), asked.value_or(phoneSize));
     }
     entry->openMeasurement_animated(0, false);
@@ -80,8 +80,9 @@ void addEntry(Album& album, const Ref<GalleryScreen>& screen, const std::optiona
     entry->setFiles(nullptr);
 }
 
-void addPickerPage(Album& album, const Ref<GalleryScreen>& screen, const std::optional<CGSize>& asked) {
-    // Laid out as wide as it will be drawn before it is turned: without rows in sight there is nothing to turn.
+void addPickerPage(Album& album, const Ref<MainScreen>& screen, const std::optional<CGSize>& asked) {
+    // Laid out as wide as it will be drawn, since a wheel needs visible rows before it can be
+    // turned.
     layOut(screen, asked.value_or(phoneSize));
     constexpr int turns = 3;
     for (int turn = 0; turn < turns; ++turn) {
@@ -93,7 +94,7 @@ void addPickerPage(Album& album, const Ref<GalleryScreen>& screen, const std::op
 
 } // namespace
 
-std::optional<std::string> writePictures(const Ref<GalleryScreen>& screen, const GalleryArguments& arguments) {
+std::optional<std::string> writePictures(const Ref<MainScreen>& screen, const CommandLineArguments& arguments) {
     const std::filesystem::path folder = *arguments.pictureFolder;
     std::error_code error;
     std::filesystem::create_directories(folder, error);
@@ -104,12 +105,12 @@ std::optional<std::string> writePictures(const Ref<GalleryScreen>& screen, const
     for (std::size_t i = 0; i < screen->pageNames().size(); ++i) {
         if (only && *only != i) continue;
         screen->showPage(i);
-        if (i == GalleryScreen::entryPage) {
+        if (i == MainScreen::entryPage) {
             addEntry(album, screen, arguments.size);
-        } else if (i == GalleryScreen::settingsPage) {
+        } else if (i == MainScreen::settingsPage) {
             layOut(screen, arguments.size.value_or(phoneSize));
             album.addBothLooks("settings", arguments.size.value_or(screen->sizeThatFits({phoneSize.width, 0})));
-        } else if (i == GalleryScreen::overviewPage) {
+        } else if (i == MainScreen::overviewPage) {
             layOut(screen, arguments.size.value_or(desktopSize));
             NSRunLoop::mainRunLoop()->runPass();
             album.addPicture("gallery", arguments.size.value_or(desktopSize), UIUserInterfaceStyle::Light);

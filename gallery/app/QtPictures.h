@@ -1,14 +1,17 @@
 #pragma once
 
-#include "GalleryArguments.h"
-#include "GalleryScreen.h"
+#include "CommandLineArguments.h"
+#include "MainScreen.h"
 
 namespace gallery {
 
-/// Writes a picture of each page, light and dark, and one of all pickers in a window of a desktop, into the folder that the arguments
-/// name. A wheel of each page was turned a little, so that there is something to read. Needs a Qt application and its fonts.
+/// Writes a picture of each page, light and dark, and one of all pickers in a window of a desktop.
 ///
-/// Answers what went wrong, or nothing.
-std::optional<std::string> writePictures(const gx::Ref<GalleryScreen>& screen, const GalleryArguments& arguments);
+/// - The arguments name the folder.
+/// - The wheels of each page are turned a little, so that the log has entries.
+/// - It needs a Qt application and its fonts.
+///
+/// Returns the error message, or nothing if all went well.
+std::optional<std::string> writePictures(const gx::Ref<MainScreen>& screen, const CommandLineArguments& arguments);
 
 } // namespace gallery

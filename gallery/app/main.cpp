@@ -1,12 +1,12 @@
-// The gallery as an application of Qt: everything that it shows is in GalleryScreen, which knows no toolkit.
+// The gallery as a Qt application. All that it shows is in MainScreen, which knows no toolkit.
 
 #include <iostream>
 #include <span>
 
 #include <QApplication>
 
-#include "GalleryArguments.h"
-#include "GalleryScreen.h"
+#include "CommandLineArguments.h"
+#include "MainScreen.h"
 #include "QtFiles.h"
 #include "QtPictures.h"
 #include <GXUIPickers/GXLocalization.h>
@@ -23,7 +23,7 @@ enum ExitCode { Done = 0, CannotWrite = 1, CannotStart = 2, NoDisplay = 3 };
 constexpr const char* fontPackage = "fonts-inter";
 constexpr const char* fontFolder = "/usr/share/fonts/opentype/inter/";
 
-/// Where the window would open. Elsewhere than on X11 and Wayland there always is a display.
+/// Whether a window can open. Only X11 and Wayland may lack a display.
 bool hasDisplay() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
@@ -51,7 +51,7 @@ void setLocale(const std::optional<std::string>& name) {
     GXLocalization::sharedLocalization()->setLanguage(identifier.value_or("en"));
 }
 
-int showWindow(const Ref<GalleryScreen>& screen, const GalleryArguments& arguments) {
+int showWindow(const Ref<MainScreen>& screen, const CommandLineArguments& arguments) {
     constexpr CGSize usualSize = {900, 640};
     const CGSize size = arguments.size.value_or(usualSize);
     qt::UIViewWidget widget;
@@ -73,13 +73,13 @@ int showWindow(const Ref<GalleryScreen>& screen, const GalleryArguments& argumen
 int main(int argc, char** argv) {
     std::string error;
     const auto words = std::span(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
-    const auto arguments = GalleryArguments::parse({words.begin(), words.end()}, error);
+    const auto arguments = CommandLineArguments::parse({words.begin(), words.end()}, error);
     if (!arguments) {
-        std::cerr << "gallery: " << error << "\n\n" << GalleryArguments::usage();
+        std::cerr << "gallery: " << error << "\n\n" << CommandLineArguments::usage();
         return CannotStart;
     }
     if (arguments->showsHelp) {
-        std::cout << GalleryArguments::usage();
+        std::cout << CommandLineArguments::usage();
         return Done;
     }
     if (arguments->pictureFolder) {
@@ -95,8 +95,8 @@ int main(int argc, char** argv) {
     if (!loadFonts()) return CannotStart;
     setLocale(arguments->locale);
 
-    const auto screen = create<GalleryScreen>(CGRectZero);
-    GallerySettings settings = screen->settings();
+    const auto screen = create<MainScreen>(CGRectZero);
+    Settings settings = screen->settings();
     settings.textScale = arguments->textScale;
     settings.contrast = arguments->isContrastHigh ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal;
     screen->setSettings(settings);

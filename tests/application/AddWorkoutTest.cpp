@@ -80,13 +80,14 @@ TEST_F(AddWorkoutTest, EachRowOpensEachWheelTurnsAndWhatIsSavedIsWhatWasShown) {
     EXPECT_NEAR(saved.at("speed"), 13.6 / 3.6, 1e-8);
     EXPECT_NEAR(saved.at("intervalPace"), 1000.0 / 346, 1e-9);
 
-    // In a new window, with the usual settings again.
+    // In a new window, with the default settings.
     start();
     EXPECT_NE(shown(), expected);
     click(middleOf(entry()->openButton()));
     EXPECT_EQ(entry()->message(), "Opened: workout.json");
     Rows reopened = shown();
-    EXPECT_EQ(reopened.back().second, "177 cm"); // The unit belongs to the wheel and not to the workout.
+    // The unit belongs to the wheel and not to the workout.
+    EXPECT_EQ(reopened.back().second, "177 cm");
     reopened.back() = expected.back();
     EXPECT_EQ(reopened, expected);
     goTo("Settings");
@@ -96,7 +97,7 @@ TEST_F(AddWorkoutTest, EachRowOpensEachWheelTurnsAndWhatIsSavedIsWhatWasShown) {
     EXPECT_EQ(shown(), imperial);
 }
 
-TEST_F(AddWorkoutTest, AWheelInARowTurnsByTheMouseWheelAndTheTableDoesNot) {
+TEST_F(AddWorkoutTest, TheMouseWheelSpinsAWheelInARowAndNotTheTable) {
     click(middleOf(row("Calories")));
     const auto wheel = openWheels().at(0);
     const CGFloat place = entry()->table()->contentOffset().y;
@@ -111,7 +112,7 @@ TEST_F(AddWorkoutTest, AWheelInARowTurnsByTheMouseWheelAndTheTableDoesNot) {
     EXPECT_EQ(entry()->table()->contentOffset().y, place);
 }
 
-TEST_F(AddWorkoutTest, ADamagedFileIsRefusedAndStaysAsItIs) {
+TEST_F(AddWorkoutTest, ADamagedFileIsRejectedAndStaysAsItIs) {
     write("{ \"format\": \"GXUIPickers workout\", ");
     const Rows before = shown();
     click(middleOf(entry()->openButton()));
@@ -120,14 +121,14 @@ TEST_F(AddWorkoutTest, ADamagedFileIsRefusedAndStaysAsItIs) {
     EXPECT_EQ(fileText(), "{ \"format\": \"GXUIPickers workout\", ");
 }
 
-TEST_F(AddWorkoutTest, AFileThatIsNotThereAndAFolderThatIsNotThereAreSaid) {
+TEST_F(AddWorkoutTest, AMissingFileAndAMissingFolderAreReported) {
     chosenPath = folder.filePath("none/workout.json");
     click(middleOf(entry()->openButton()));
     EXPECT_TRUE(entry()->message().starts_with("workout.json: The file could not be read:")) << entry()->message();
     click(middleOf(entry()->saveButton()));
     EXPECT_TRUE(entry()->message().starts_with("The file could not be written:")) << entry()->message();
     chosenPath = "";
-    click(middleOf(entry()->saveButton())); // The user thinks better of it.
+    click(middleOf(entry()->saveButton())); // The user dismisses the dialog.
     EXPECT_TRUE(entry()->message().starts_with("The file could not be written:"));
 }
 

@@ -14,20 +14,20 @@
 
 #include "GXLocalization.h"
 #include "GXStyleSheet.h"
-#include "GalleryRowCell.h"
-#include "GalleryScreen.h"
+#include "MainScreen.h"
+#include "MeasurementCell.h"
 #include "NSRunLoop.h"
 #include "QtFiles.h"
 #include "UIPickerView.h"
 #include "UIViewWidget.h"
 
-/// The gallery in a window of Qt, used with the mouse alone: every step is an event that a person's hand would cause. The clock is turned
-/// by hand; files are chosen as if in the system's dialog.
+/// The gallery in a window of Qt, used with the mouse alone: every step is an event that a person's
+/// hand would cause. The clock is turned by hand; files are chosen as if in the system's dialog.
 class ApplicationTest : public testing::Test {
 protected:
     QTemporaryDir folder;
     std::unique_ptr<gx::qt::UIViewWidget> widget;
-    gx::Ref<gallery::GalleryScreen> screen;
+    gx::Ref<gallery::MainScreen> screen;
     double now = 1000;
     QString chosenPath = folder.filePath("workout.json");
 
@@ -40,10 +40,10 @@ protected:
         gx::NSLocale::setCurrentLocale(nullptr);
     }
 
-    /// As after the program was started anew.
+    /// Opens a new window, as after a start of the program.
     void start(int width = 390, int height = 700) {
         widget = nullptr;
-        screen = gx::create<gallery::GalleryScreen>(gx::CGRectZero);
+        screen = gx::create<gallery::MainScreen>(gx::CGRectZero);
         widget = std::make_unique<gx::qt::UIViewWidget>();
         widget->setClock([this] { return now; });
         widget->setRootView(screen);
@@ -85,7 +85,7 @@ protected:
             step(0.016);
             QTest::mouseMove(widget.get(), {from.x(), from.y() + way * i / steps});
         }
-        step(0.3); // A hand that rests before it lets go.
+        step(0.3); // At rest before the button is released, so that it is no fling.
         QTest::mouseRelease(widget.get(), Qt::LeftButton, {}, {from.x(), from.y() + way});
         settle();
     }
@@ -108,7 +108,7 @@ protected:
 
     // The entry screen
 
-    const gx::Ref<gallery::GalleryEntry>& entry() { return screen->entry(); }
+    const gx::Ref<gallery::EntryScreen>& entry() { return screen->entry(); }
     std::size_t indexOf(const std::string& name) {
         for (std::size_t i = 0; i < entry()->measurementCount(); ++i) {
             if (entry()->measurement(i)->name() == name) return i;
@@ -116,12 +116,12 @@ protected:
         ADD_FAILURE() << name;
         return 0;
     }
-    gx::Ref<gallery::GalleryRowCell> row(const std::string& name) {
+    gx::Ref<gallery::MeasurementCell> row(const std::string& name) {
         const gx::NSIndexPath path = entry()->pathOfMeasurement(indexOf(name));
         bringIntoSight(entry()->table(), [&] { return entry()->table()->rectForRowAtIndexPath(path); });
-        return std::dynamic_pointer_cast<gallery::GalleryRowCell>(entry()->table()->cellForRowAtIndexPath(path));
+        return std::dynamic_pointer_cast<gallery::MeasurementCell>(entry()->table()->cellForRowAtIndexPath(path));
     }
-    /// What stands on the screen: names and values of all rows.
+    /// The names and values of all rows.
     std::vector<std::pair<std::string, std::string>> shown() {
         std::vector<std::pair<std::string, std::string>> rows;
         for (std::size_t i = 0; i < entry()->measurementCount(); ++i) {
@@ -136,7 +136,8 @@ protected:
         addWheels(entry()->table()->cellForRowAtIndexPath({path.section, path.row + 1}), found);
         return found;
     }
-    /// Turns every column of the open picker that has more than one row, each by its own number of rows, and answers how many turned.
+    /// Turns every column of the open picker that has more than one row, each by its own number of
+    /// rows, and returns how many turned.
     int turnEachColumn() {
         int turned = 0;
         for (const auto& wheel : openWheels()) {

@@ -15,7 +15,7 @@ protected:
         settle();
     }
     Ref<UIView> focus() { return widget->uiWindow()->firstResponder(); }
-    /// With Tab, or Shift and Tab, as often as it takes.
+    /// Presses Tab, or Shift and Tab, until the view has the focus.
     void tabTo(const Ref<UIView>& view, bool isBackward = false) {
         constexpr int enough = 60;
         for (int i = 0; i < enough && focus() != view; ++i) {
@@ -34,10 +34,10 @@ protected:
         press(Qt::Key_Return);
         ASSERT_EQ(screen->pageIndex(), index);
     }
-    /// The value as the screen shows it, without a hand on the mouse.
+    /// The value as the screen shows it, without scrolling to it.
     std::string value(const std::string& name) {
         const NSIndexPath path = entry()->pathOfMeasurement(indexOf(name));
-        const auto cell = std::dynamic_pointer_cast<GalleryRowCell>(entry()->table()->cellForRowAtIndexPath(path));
+        const auto cell = std::dynamic_pointer_cast<MeasurementCell>(entry()->table()->cellForRowAtIndexPath(path));
         return cell ? cell->value() : "not in sight";
     }
     void enterSaveAndSwitchUnits() {
@@ -87,7 +87,7 @@ TEST_F(KeyboardTest, AWorkoutIsEnteredAndSavedAndUnitsAreSwitchedOnAPhone) {
 TEST_F(KeyboardTest, AWorkoutIsEnteredAndSavedAndUnitsAreSwitchedOnADesktop) {
     start(1200, 800);
     enterSaveAndSwitchUnits();
-    EXPECT_EQ(focus(), screen->sidebar()->rows()[GalleryScreen::entryPage]);
+    EXPECT_EQ(focus(), screen->sidebar()->rows()[MainScreen::entryPage]);
 }
 
 TEST_F(KeyboardTest, EveryPickerOpensTakesKeysAndCloses) {
@@ -95,16 +95,16 @@ TEST_F(KeyboardTest, EveryPickerOpensTakesKeysAndCloses) {
     for (std::size_t i = 0; i < entry()->measurementCount(); ++i) {
         const std::string name = entry()->measurement(i)->name();
         SCOPED_TRACE(name);
-        const std::string before = entry()->measurement(i)->valueInWords();
+        const std::string before = entry()->measurement(i)->valueText();
         press(Qt::Key_Space);
         ASSERT_EQ(entry()->openMeasurement(), i);
         press(Qt::Key_Tab);
         ASSERT_EQ(focus(), openWheels().at(0));
         press(Qt::Key_Down);
-        EXPECT_NE(entry()->measurement(i)->valueInWords(), before);
+        EXPECT_NE(entry()->measurement(i)->valueText(), before);
         press(Qt::Key_Escape);
         ASSERT_EQ(focus(), entry()->table());
-        EXPECT_EQ(value(name), entry()->measurement(i)->valueInWords()) << "and the row is in sight";
+        EXPECT_EQ(value(name), entry()->measurement(i)->valueText()) << "and the row is in sight";
         press(Qt::Key_Down);
     }
 }
@@ -125,7 +125,7 @@ TEST_F(KeyboardTest, EscapeClosesTheMenu) {
     press(Qt::Key_Escape);
     EXPECT_FALSE(screen->isMenuShown());
     EXPECT_EQ(focus(), screen->menuButton());
-    EXPECT_EQ(screen->pageIndex(), GalleryScreen::entryPage);
+    EXPECT_EQ(screen->pageIndex(), MainScreen::entryPage);
 }
 
 TEST_F(KeyboardTest, ALanguageIsChosenAndItsButtonKeepsTheFocus) {

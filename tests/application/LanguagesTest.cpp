@@ -9,7 +9,7 @@ namespace {
 
 class LanguagesTest : public ApplicationTest {
 protected:
-    /// Of the view and all below it, but for what is hidden.
+    /// The texts that are cut in a view and its visible subviews.
     static std::vector<std::string> cutTexts(const Ref<UIView>& view) {
         std::vector<std::string> cut;
         addCutTexts(view, cut);
@@ -32,10 +32,10 @@ TEST_F(LanguagesTest, NoTextIsCutOnASmallPhone) {
     start(320, 568);
     for (const std::string& language : GXLocalization::availableLanguages()) {
         SCOPED_TRACE(language);
-        GallerySettings settings = screen->settings();
+        Settings settings = screen->settings();
         settings.language = language;
         screen->setSettings(settings);
-        for (std::size_t page = 0; page < GalleryScreen::firstPickerPage; ++page) {
+        for (std::size_t page = 0; page < MainScreen::firstPickerPage; ++page) {
             screen->showPage(page);
             settle();
             EXPECT_EQ(cutTexts(screen), std::vector<std::string>()) << "on page " << page;

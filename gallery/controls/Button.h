@@ -1,0 +1,58 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "Control.h"
+#include <GXUIPickers/UILabel.h>
+
+namespace gallery {
+
+/// A button with a title, or with a sign drawn instead of it.
+class Button : public Control {
+public:
+    enum class Style {
+        Plain,  ///< the title in the middle, in the accent colour
+        Row,    ///< a row of a list: the title at the left; highlighted when chosen
+        Heading ///< a heading that leads somewhere: the title at the left, an arrow at the right
+    };
+    enum class Sign { None, Menu, Look };
+
+    static gx::Ref<Button> buttonWithTitle_style(std::string title, Style style);
+    /// The title remains the button's accessibility label.
+    static gx::Ref<Button> buttonWithTitle_sign(std::string title, Sign sign);
+
+    bool initWithFrame(gx::CGRect frame) override;
+
+    const std::string& title() const { return title_; }
+    void setTitle(std::string title);
+    bool isChosen() const { return isChosen_; }
+    void setChosen(bool chosen);
+    /// Called for a tap; may do anything, remove the button included.
+    void setAction(std::function<void()> action) { action_ = std::move(action); }
+
+    /// High enough for a finger, and as wide as the title.
+    gx::CGSize sizeThatFits(gx::CGSize available) const override;
+    void layoutSubviews() override;
+    void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
+    /// The title, also where a sign is drawn.
+    std::optional<std::string> accessibilityLabel() const override;
+    gx::UIAccessibilityElements accessibilityElements() override;
+
+protected:
+    void tapped(gx::CGPoint point) override;
+
+private:
+    void setStyle(Style style);
+    void showTitle();
+
+    std::string title_;
+    Style style_ = Style::Plain;
+    Sign sign_ = Sign::None;
+    bool isChosen_ = false;
+    std::function<void()> action_;
+    gx::Ref<gx::UILabel> label_;
+    gx::Ref<gx::UILabel> arrow_;
+};
+
+} // namespace gallery

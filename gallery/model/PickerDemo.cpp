@@ -1,0 +1,48 @@
+#include "PickerDemo.h"
+
+#include <utility>
+
+#include "NumberFormat.h"
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+/// Hands what a picker tells its delegate to a function.
+class FunctionDelegate : public NSObject, public GXBasePickerViewDelegate {
+public:
+    std::function<void(const NSNumber& value, NSInteger component)> handler;
+
+    void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber& value, NSInteger component) override {
+        if (handler) handler(value, component);
+    }
+};
+
+} // namespace
+
+PickerDemo pickerDemo(const Ref<GXBasePickerView>& picker, const NoticeHandler& report, const std::string& unit,
+                      std::function<std::string(const NSNumber&, NSInteger)> inWords) {
+    const auto delegate = create<FunctionDelegate>();
+    delegate->handler = [report, unit, inWords = std::move(inWords)](const NSNumber& value, NSInteger component) {
+        const std::string facts = NumberFormat::boxed(value) + " " + unit + " (component " + std::to_string(component) + ")";
+        report({inWords(value, component), facts});
+    };
+    picker->setDelegate(delegate);
+
+    PickerDemo demo;
+    demo.picker = picker;
+    demo.wheel = picker->pickerView();
+    demo.textPicker = picker;
+    demo.delegate = delegate;
+    demo.values = [picker] { return std::vector<NSNumber>{picker->currentValue()}; };
+    demo.setValues = [picker](const std::vector<NSNumber>& values) {
+        if (!values.empty()) picker->setCurrentValue(values.front());
+    };
+    return demo;
+}
+
+std::string unitBesideWheel(const Ref<GXBasePickerView>& picker) { return picker->pickerView()->rightLabelText().value_or(""); }
+
+} // namespace gallery

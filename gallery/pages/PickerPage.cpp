@@ -1,0 +1,196 @@
+#include "PickerPage.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Theme.h"
+#include "Translations.h"
+#include <GXUIPickers/GXStyleSheet.h>
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+constexpr CGFloat titleHeight = 40;
+// Five rows of a wheel and the ends of two more. Of large rows at least three have to be whole.
+constexpr CGFloat usualWheelHeight = 216;
+constexpr double fewestRowsOfWheel = 3;
+// With it the card of the wheel is as high as the log, which may be beside it.
+constexpr CGFloat wheelPadding = 14;
+// Wider cards look empty. Chosen by eye.
+constexpr CGFloat widestContent = 920;
+// A phone in landscape has two columns, each nearly as wide as a small phone upright.
+constexpr CGFloat twoColumnWidth = 540;
+constexpr CGFloat optionTitleHeight = 24;
+constexpr CGFloat optionGap = 14;
+
+CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
+
+} // namespace
+
+struct PickerPage::Frames {
+    CGRect title;
+    CGRect purpose;
+    CGRect picker;
+    CGRect log;
+    CGRect options;
+    CGFloat height = 0;
+};
+
+Ref<PickerPage> PickerPage::pageWithDescription(PickerPageDescription description) {
+    auto page = create<PickerPage>(CGRectZero);
+    page->setUp(std::move(description));
+    return page;
+}
+
+void PickerPage::setUp(PickerPageDescription description) {
+    description_ = std::move(description);
+    title_->setText(Translations::text(description_.name));
+    purpose_->setText(description_.purpose);
+    demo_ = makeDemo();
+    pickerCard_->addSubview(demo_.picker);
+    for (std::size_t i = 0; i < demo_.options.size(); ++i) {
+        const DemoOption& option = demo_.options[i];
+        const auto title = create<UILabel>(CGRectZero);
+        title->setText(option.title);
+        title->setFont(Theme::strongCaptionFont());
+        title->setTextColor(Theme::secondaryText());
+        optionTitles_.push_back(title);
+        optionsCard_->addSubview(title);
+
+        const auto segments = SegmentedControl::segmentsWithChoices(option.choices, option.chosen);
+        segments->setAccessibilityLabel(option.title);
+        segments->setAction([weak = WeakRef<PickerPage>(refTo(this)), i](std::size_t choice) {
+            if (const Ref<PickerPage> page = weak.lock()) page->choose(i, choice);
+        });
+        optionControls_.push_back(segments);
+        optionsCard_->addSubview(segments);
+        choose(i, option.chosen);
+    }
+    optionsCard_->setHidden(demo_.options.empty());
+}
+
+bool PickerPage::initWithFrame(CGRect frame) {
+    if (!UIView::initWithFrame(frame)) return false;
+    title_ = create<UILabel>(CGRectZero);
+    title_->setFont(Theme::titleFont());
+    title_->setTextColor(Theme::text());
+    purpose_ = create<Paragraph>(CGRectZero);
+    pickerCard_ = Theme::makeCard();
+    log_ = create<NoticeLog>(CGRectZero);
+    optionsCard_ = Theme::makeCard();
+    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, purpose_, pickerCard_, log_, optionsCard_}) addSubview(view);
+    return true;
+}
+
+void PickerPage::setShowsTitle(bool shows) {
+    if (shows == showsTitle_) return;
+    showsTitle_ = shows;
+    title_->setHidden(!shows);
+    setNeedsLayout();
+}
+
+PickerDemo PickerPage::makeDemo() {
+    return description_.makeDemo([weak = WeakRef<PickerPage>(refTo(this))](const DelegateNotice& notice) {
+        if (const Ref<PickerPage> page = weak.lock()) page->noteNotice(notice);
+    });
+}
+
+void PickerPage::noteNotice(const DelegateNotice& notice) {
+    log_->addNotice(notice);
+    for (std::size_t i = 0; i < demo_.options.size(); ++i) {
+        DemoOption& option = demo_.options[i];
+        if (!option.current) continue;
+        option.chosen = option.current();
+        optionControls_[i]->setChosen(option.chosen);
+    }
+}
+
+void PickerPage::choose(std::size_t option, std::size_t choice) {
+    DemoOption& chosen = demo_.options[option];
+    chosen.chosen = choice;
+    chosen.choose(choice);
+    setNeedsLayout(); // Another unit may need smaller fonts.
+}
+
+void PickerPage::renewPicker() {
+    title_->setText(Translations::text(description_.name)); // The language may be another one.
+    const PickerDemo before = std::move(demo_);
+    demo_ = makeDemo();
+    for (std::size_t i = 0; i < demo_.options.size(); ++i) choose(i, before.options[i].chosen);
+    demo_.setValues(before.values());
+    before.picker->removeFromSuperview();
+    pickerCard_->addSubview(demo_.picker);
+    setNeedsLayout();
+}
+
+void PickerPage::turnForPicture() {
+    layoutIfNeeded();
+    const Ref<UIPickerView> wheel = demo_.wheel;
+    for (NSInteger component = 0; component < wheel->numberOfComponents(); ++component) {
+        // No unit has more than three names; a separator has one row.
+        if (wheel->numberOfRowsInComponent(component) <= 3) continue;
+        wheel->turnToRow_inComponent(wheel->selectedRowInComponent(component) + 1, component);
+    }
+}
+
+// Layout
+
+CGFloat PickerPage::optionsHeight() const {
+    const auto count = static_cast<CGFloat>(optionControls_.size());
+    return 2 * Theme::cardPadding + count * (optionTitleHeight + Theme::controlHeight + optionGap) - optionGap;
+}
+
+PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
+    const CGFloat margin = Theme::marginForWidth(width);
+    const CGFloat content = std::clamp(width - 2 * margin, 0.0, widestContent);
+    const bool hasTwoColumns = content >= twoColumnWidth;
+    const CGFloat column = hasTwoColumns ? std::floor(0.5 * (content - Theme::gap)) : content;
+
+    Frames frames;
+    CGFloat y = showsTitle_ ? margin : 12;
+    if (showsTitle_) {
+        frames.title = CGRectMake(margin, y, content, titleHeight);
+        y += titleHeight;
+    }
+    frames.purpose = CGRectMake(margin, y, content, purpose_->sizeThatFits({content, 0}).height);
+    y = CGRectGetMaxY(frames.purpose) + Theme::gap;
+    frames.picker = CGRectMake(margin, y, column, wheelHeight() + 2 * wheelPadding);
+    // The log is visible while the wheel spins: beside it, or right below.
+    const CGFloat below = CGRectGetMaxY(frames.picker) + Theme::gap;
+    const CGFloat logX = hasTwoColumns ? margin + column + Theme::gap : margin;
+    frames.log = CGRectMake(logX, hasTwoColumns ? y : below, column, log_->sizeThatFits({column, 0}).height);
+    const CGFloat optionsY = hasTwoColumns ? below : CGRectGetMaxY(frames.log) + Theme::gap;
+    frames.options = CGRectMake(margin, optionsY, column, optionControls_.empty() ? 0 : optionsHeight());
+    y = std::max(CGRectGetMaxY(frames.log), optionControls_.empty() ? 0 : CGRectGetMaxY(frames.options));
+    frames.height = y + margin;
+    return frames;
+}
+
+CGSize PickerPage::sizeThatFits(CGSize available) const { return {available.width, framesForWidth(available.width).height}; }
+
+void PickerPage::layoutSubviews() {
+    UIView::layoutSubviews();
+    const Frames frames = framesForWidth(bounds().size.width);
+    title_->setFrame(frames.title);
+    purpose_->setFrame(frames.purpose);
+    pickerCard_->setFrame(frames.picker);
+    log_->setFrame(frames.log);
+    optionsCard_->setFrame(frames.options);
+    demo_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, wheelHeight()));
+    if (demo_.textPicker) demo_.textPicker->sizeFontsToFit();
+
+    const CGFloat padding = Theme::cardPadding;
+    const CGFloat width = std::max(0.0, frames.options.size.width - 2 * padding);
+    CGFloat y = padding;
+    for (std::size_t i = 0; i < optionControls_.size(); ++i) {
+        optionTitles_[i]->setFrame(CGRectMake(padding, y, width, 20));
+        y += optionTitleHeight;
+        optionControls_[i]->setFrame(CGRectMake(padding, y, width, Theme::controlHeight));
+        y += Theme::controlHeight + optionGap;
+    }
+}
+
+} // namespace gallery

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <string>
+
+#include "NoticeLog.h"
+#include "Paragraph.h"
+#include "PickerDemo.h"
+#include "SegmentedControl.h"
+
+namespace gallery {
+
+/// What a page shows of a picker.
+struct PickerPageDescription {
+    std::string name;
+    /// In one line: what the user picks, and the base unit of the value.
+    std::string purpose;
+    /// Makes the picker as an application would. Every call of its delegate goes to `report`.
+    std::function<PickerDemo(const NoticeHandler& report)> makeDemo;
+};
+
+/// The page of one picker: a card with the picker, the log of its delegate, and its options.
+class PickerPage : public gx::UIView {
+public:
+    static gx::Ref<PickerPage> pageWithDescription(PickerPageDescription description);
+
+    bool initWithFrame(gx::CGRect frame) override;
+
+    const std::string& name() const { return description_.name; }
+    /// False where a bar above the page has the title.
+    void setShowsTitle(bool shows);
+
+    const PickerDemo& demo() const { return demo_; }
+    const gx::Ref<gx::UIView>& pickerCard() const { return pickerCard_; }
+    const gx::Ref<NoticeLog>& log() const { return log_; }
+    const gx::Ref<gx::UIView>& optionsCard() const { return optionsCard_; }
+    /// In the order of the demo's options.
+    const std::vector<gx::Ref<SegmentedControl>>& optionControls() const { return optionControls_; }
+
+    /// Replaces the picker by a new one with the same options and values, for properties that a
+    /// picker reads only when it is made.
+    void renewPicker();
+    /// Turns each column by a row, as a user would, so that a picture has something to show.
+    /// Columns of units stay as they are.
+    void turnForPicture();
+
+    gx::CGSize sizeThatFits(gx::CGSize available) const override;
+    void layoutSubviews() override;
+
+private:
+    struct Frames;
+    Frames framesForWidth(gx::CGFloat width) const;
+    gx::CGFloat optionsHeight() const;
+    PickerDemo makeDemo();
+    void setUp(PickerPageDescription description);
+    void noteNotice(const DelegateNotice& notice);
+    void choose(std::size_t option, std::size_t choice);
+
+    PickerPageDescription description_;
+    PickerDemo demo_;
+    bool showsTitle_ = true;
+    gx::Ref<gx::UILabel> title_;
+    gx::Ref<Paragraph> purpose_;
+    gx::Ref<gx::UIView> pickerCard_;
+    gx::Ref<NoticeLog> log_;
+    gx::Ref<gx::UIView> optionsCard_;
+    std::vector<gx::Ref<gx::UILabel>> optionTitles_;
+    std::vector<gx::Ref<SegmentedControl>> optionControls_;
+};
+
+} // namespace gallery

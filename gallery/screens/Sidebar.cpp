@@ -1,0 +1,123 @@
+#include "Sidebar.h"
+
+#include <algorithm>
+
+#include "Theme.h"
+#include "Translations.h"
+#include <GXUIPickers/UIGraphicsContext.h>
+#include <GXUIPickers/UIKey.h>
+
+using namespace gx;
+
+namespace gallery {
+
+namespace {
+
+constexpr CGFloat inset = 12;
+
+/// Rows one below the other.
+class SidebarList : public UIView {
+public:
+    CGSize sizeThatFits(CGSize available) const override {
+        return {available.width, static_cast<CGFloat>(subviews().size()) * Theme::controlHeight + inset};
+    }
+    void layoutSubviews() override {
+        UIView::layoutSubviews();
+        const CGFloat width = std::max(0.0, bounds().size.width - 2 * inset);
+        CGFloat y = 0;
+        for (const Ref<UIView>& row : subviews()) {
+            row->setFrame(CGRectMake(inset, y, width, Theme::controlHeight));
+            y += Theme::controlHeight;
+        }
+    }
+    /// Up and down go from row to row, home and end to the first and the last.
+    bool keyPressed(const UIKey& key) override {
+        const auto focused =
+            std::find_if(subviews().begin(), subviews().end(), [](const Ref<UIView>& row) { return row->isFirstResponder(); });
+        if (focused == subviews().end() || key.isCommand()) return UIView::keyPressed(key);
+        Ref<UIView> next = *focused;
+        switch (key.code) {
+        case UIKey::Code::Up:
+            if (focused != subviews().begin()) next = *(focused - 1);
+            break;
+        case UIKey::Code::Down:
+            if (focused + 1 != subviews().end()) next = *(focused + 1);
+            break;
+        case UIKey::Code::Home:
+            next = subviews().front();
+            break;
+        case UIKey::Code::End:
+            next = subviews().back();
+            break;
+        default:
+            return UIView::keyPressed(key);
+        }
+        next->becomeFirstResponder();
+        next->revealDescendant(next->bounds());
+        return true;
+    }
+};
+
+} // namespace
+
+Ref<Sidebar> Sidebar::sidebarWithPages_show(const std::vector<std::string>& names, const std::function<void(std::size_t page)>& show) {
+    auto sidebar = create<Sidebar>(CGRectZero);
+    sidebar->names_ = names;
+    const auto list = create<SidebarList>(CGRectZero);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto row = Button::buttonWithTitle_style(Translations::text(names[i]), Button::Style::Row);
+        row->setAction([show, i] { show(i); });
+        sidebar->rows_.push_back(row);
+        list->addSubview(row);
+    }
+    sidebar->list_->setContent(list);
+    return sidebar;
+}
+
+bool Sidebar::initWithFrame(CGRect frame) {
+    if (!UIView::initWithFrame(frame)) return false;
+    setBackgroundColor(Theme::sidebar());
+    title_ = create<UILabel>(CGRectZero);
+    title_->setText("GXUIPickers");
+    title_->setFont(Theme::headingFont());
+    list_ = create<ContentScrollView>(CGRectZero);
+    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, list_}) addSubview(view);
+    return true;
+}
+
+void Sidebar::setShowsTitle(bool shows) {
+    if (shows == !title_->isHidden()) return;
+    title_->setHidden(!shows);
+    setNeedsLayout();
+}
+
+void Sidebar::setChosenPage(std::size_t page) {
+    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setChosen(i == page);
+    chosen_ = page;
+    setNeedsLayout();
+}
+
+void Sidebar::showNames() {
+    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(Translations::text(names_[i]));
+}
+
+void Sidebar::layoutSubviews() {
+    UIView::layoutSubviews();
+    const CGSize size = bounds().size;
+    title_->setFrame(CGRectMake(2 * inset, 0, std::max(0.0, size.width - 4 * inset), Theme::barHeight));
+    const CGFloat listY = title_->isHidden() ? inset : Theme::barHeight;
+    list_->setFrame(CGRectMake(0, listY, size.width, std::max(0.0, size.height - listY)));
+    list_->layoutIfNeeded();
+    // The chosen row stays visible.
+    if (chosen_ >= rows_.size()) return;
+    const CGFloat top = static_cast<CGFloat>(chosen_) * Theme::controlHeight;
+    const CGFloat lowest = top + Theme::controlHeight - list_->bounds().size.height;
+    if (list_->offset() < lowest) list_->setOffset(lowest);
+    if (list_->offset() > top) list_->setOffset(top);
+}
+
+void Sidebar::drawRect(UIGraphicsContext& context, CGRect rect) {
+    context.fillRect(CGRectMake(CGRectGetMaxX(rect) - 1, 0, 1, rect.size.height), Theme::hairline());
+}
+
+} // namespace gallery
