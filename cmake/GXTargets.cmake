@@ -1,3 +1,12 @@
+# gx_compile_as_unit(<target> <room> <source>…): with GX_ROOMS_AS_UNITS, the sources of a room are one unit.
+function(gx_compile_as_unit target room)
+  if(GX_ROOMS_AS_UNITS)
+    string(MAKE_C_IDENTIFIER "room ${room}" unit)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    set_source_files_properties(${ARGN} PROPERTIES UNITY_GROUP ${unit})
+  endif()
+endfunction()
+
 # gx_add_floor(<name> FOLDERS <folder>… PUBLIC_HEADERS <header>… DEPENDS <target>…)
 #
 # Makes the library gx_<name>, known as gx::<name>, of all sources in the folders.
@@ -41,11 +50,7 @@ function(gx_add_floor name)
     file(GLOB sources CONFIGURE_DEPENDS "${path}/*.cpp")
     file(GLOB headers CONFIGURE_DEPENDS "${path}/*.h")
     target_sources(${target} PRIVATE ${sources})
-    if(GX_ROOMS_AS_UNITS AND NOT folder STREQUAL ".")
-      set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
-      string(MAKE_C_IDENTIFIER "${folder}" unit)
-      set_source_files_properties(${sources} PROPERTIES UNITY_GROUP ${unit})
-    endif()
+    gx_compile_as_unit(${target} "${folder}" ${sources})
     target_include_directories(${target}_internal INTERFACE "${path}")
     foreach(header IN LISTS headers)
       cmake_path(GET header FILENAME file)

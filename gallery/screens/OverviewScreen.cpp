@@ -15,12 +15,12 @@ namespace {
 
 constexpr CGFloat usualWheelHeight = 176;
 // At least so many rows are visible as a whole.
-constexpr double fewestRowsOfWheel = 3;
+constexpr double fewestWholeRows = 3;
 // The least width for three columns with a unit beside them. Chosen by eye.
 constexpr CGFloat narrowestCard = 272;
 constexpr CGFloat headingHeight = 44;
 
-CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
+CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestWholeRows * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
 CGFloat cardHeight() { return headingHeight + wheelHeight() + 12; }
 
 /// Equal cards in rows, as many side by side as a width has room for.
