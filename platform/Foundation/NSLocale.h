@@ -44,4 +44,7 @@ private:
     NSLocaleLanguageDirection direction_ = NSLocaleLanguageDirection::LeftToRight;
 };
 
+/// How `create` makes a locale: `(identifier)`.
+inline bool initialise(NSLocale& locale, const std::string& identifier) { return locale.initWithLocaleIdentifier(identifier); }
+
 } // namespace gx

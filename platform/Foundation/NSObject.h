@@ -1,10 +1,12 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace gx {
 
@@ -19,6 +21,29 @@ using Ref = std::shared_ptr<T>;
 /// A reference that does not own: how delegates and data sources are held. Lock it once for each call out.
 template <class T>
 using WeakRef = std::weak_ptr<T>;
+
+/// Blocks that wait until the present call has returned: what a run loop runs.
+///
+/// It is part of no run loop, so that objects can queue calls without knowing one. Applications use
+/// `NSRunLoop`, which has the rules.
+class NSBlockQueue {
+public:
+    /// What `NSRunLoop::mainRunLoop()` runs.
+    static const Ref<NSBlockQueue>& mainQueue();
+
+    void performBlock(std::function<void()> block);
+    void runPass();
+    bool hasWork() const;
+    void setWakeHandler(std::function<void()> handler);
+
+private:
+    void wake() const;
+
+    std::vector<std::function<void()>> queue_;
+    std::vector<std::function<void()>> running_;
+    std::size_t next_ = 0;
+    std::function<void()> wakeHandler_;
+};
 
 /// The root of everything that is shared by reference.
 ///
@@ -35,7 +60,7 @@ public:
     NSObject& operator=(const NSObject&) = delete;
     virtual ~NSObject();
 
-    /// Answers false to refuse construction; `create` then answers nothing.
+    /// Returns false to refuse construction; `create` then returns nothing.
     virtual bool init();
 
     /// Calls `selector` on a later pass of the main run loop or, with `waitUntilDone`, at once. The object
@@ -47,13 +72,10 @@ public:
             (static_cast<T*>(this)->*selector)();
             return;
         }
-        queueOnMainRunLoop([target = weak_from_this(), selector] {
+        NSBlockQueue::mainQueue()->performBlock([target = weak_from_this(), selector] {
             if (const std::shared_ptr<NSObject> object = target.lock()) (static_cast<T*>(object.get())->*selector)();
         });
     }
-
-private:
-    static void queueOnMainRunLoop(std::function<void()> block);
 };
 
 /// A reference to an object from inside it; empty while the object is being torn down or if it was not made by `create`.
@@ -63,41 +85,38 @@ Ref<T> refTo(T* object) {
     return owner ? Ref<T>(owner, object) : nullptr;
 }
 
-namespace detail {
+/// How an object without arguments is made. Classes that take arguments have overloads beside them.
+inline bool initialise(NSObject& object) { return object.init(); }
 
+/// Whether `create<T>` takes these arguments: an overload of `initialise` fits them.
 template <class T, class... Arguments>
-bool initialise(T& object, const Arguments&... arguments) {
-    if constexpr (sizeof...(Arguments) == 0) {
-        return object.init();
-    } else if constexpr (requires { object.initWithFrame(arguments...); }) {
-        return object.initWithFrame(arguments...);
-    } else if constexpr (requires { object.initWithCoder(arguments...); }) {
-        return object.initWithCoder(arguments...);
-    } else if constexpr (requires { object.initWithFrame_rowHeight(arguments...); }) {
-        return object.initWithFrame_rowHeight(arguments...);
-    } else if constexpr (requires { object.initWithStyle_reuseIdentifier(arguments...); }) {
-        return object.initWithStyle_reuseIdentifier(arguments...);
-    } else if constexpr (requires { object.initWithStyle_isMetric_usingUnit(arguments...); }) {
-        return object.initWithStyle_isMetric_usingUnit(arguments...);
-    } else {
-        static_assert(
-            requires { object.initWithLocaleIdentifier(arguments...); }, "T has no initialiser that takes these arguments");
-        return object.initWithLocaleIdentifier(arguments...);
-    }
-}
+concept Creatable = requires(T& object, const Arguments&... arguments) {
+    { initialise(object, arguments...) } -> std::same_as<bool>;
+};
 
-} // namespace detail
-
-/// Makes a T and runs, through the object, the initialiser that fits the arguments:
-///   `()` init, `(frame)` initWithFrame, `(coder)` initWithCoder, `(frame, rowHeight)` initWithFrame_rowHeight,
-///   `(style, identifier)` initWithStyle_reuseIdentifier, `(style, isMetric, usingUnit)`
-///   initWithStyle_isMetric_usingUnit, `(identifier)` initWithLocaleIdentifier.
-/// Answers nothing if the initialiser refused.
+/// Makes a T and runs, through the object, the initialiser that fits the arguments.
+///
+/// Which one that is stands beside the class that has it, as an overload of `initialise` in the
+/// namespace of that class. It serves all subclasses, also those that hide the initialiser's name:
+///
+///     class Gauge : public gx::UIView {
+///     public:
+///         virtual bool initWithRange(double lowest, double highest);
+///     };
+///     inline bool initialise(Gauge& gauge, double lowest, double highest) { return gauge.initWithRange(lowest, highest); }
+///
+///     const gx::Ref<Gauge> gauge = gx::create<Gauge>(0.0, 10.0);
+///
+/// Returns nothing if the initialiser refused.
 template <class T, class... Arguments>
 Ref<T> create(const Arguments&... arguments) {
-    static_assert(std::is_base_of_v<NSObject, T>);
+    static_assert(std::is_base_of_v<NSObject, T>, "create<T> makes objects: T derives from gx::NSObject");
+    static_assert(Creatable<T, Arguments...>,
+                  "T has no initialiser for these arguments: there is no initialise(T&, arguments...) beside it");
     auto object = std::make_shared<T>();
-    if (!detail::initialise(*object, arguments...)) return nullptr;
+    if constexpr (Creatable<T, Arguments...>) {
+        if (!initialise(*object, arguments...)) return nullptr;
+    }
     return object;
 }
 

@@ -3,41 +3,20 @@
 namespace gx {
 
 const Ref<NSRunLoop>& NSRunLoop::mainRunLoop() {
-    static const Ref<NSRunLoop> loop = create<NSRunLoop>();
+    static const Ref<NSRunLoop> loop = [] {
+        auto made = create<NSRunLoop>();
+        made->queue_ = NSBlockQueue::mainQueue();
+        return made;
+    }();
     return loop;
 }
 
-void NSRunLoop::performBlock(std::function<void()> block) {
-    if (!block) return;
-    const bool wasEmpty = !hasWork();
-    queue_.push_back(std::move(block));
-    if (wasEmpty) wake();
-}
+void NSRunLoop::performBlock(std::function<void()> block) { queue_->performBlock(std::move(block)); }
 
-void NSRunLoop::runPass() {
-    if (next_ == running_.size()) {
-        running_.clear();
-        running_.swap(queue_);
-        next_ = 0;
-    }
-    while (next_ < running_.size()) {
-        const std::function<void()> block = std::move(running_[next_]);
-        ++next_;
-        block();
-    }
-    if (!queue_.empty()) wake();
-}
+void NSRunLoop::runPass() { queue_->runPass(); }
 
-bool NSRunLoop::hasWork() const { return !queue_.empty() || next_ < running_.size(); }
+bool NSRunLoop::hasWork() const { return queue_->hasWork(); }
 
-void NSRunLoop::setWakeHandler(std::function<void()> handler) {
-    wakeHandler_ = std::move(handler);
-    if (hasWork()) wake();
-}
-
-void NSRunLoop::wake() const {
-    const std::function<void()> handler = wakeHandler_; // The handler may be replaced while it runs.
-    if (handler) handler();
-}
+void NSRunLoop::setWakeHandler(std::function<void()> handler) { queue_->setWakeHandler(std::move(handler)); }
 
 } // namespace gx

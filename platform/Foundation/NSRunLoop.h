@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "NSObject.h"
 
@@ -9,8 +8,8 @@ namespace gx {
 
 /// The queue of the interface thread: work that has to wait until the present call has returned.
 ///
-/// A host pumps it with `runPass`, once for each turn of its own event loop. Without a host, a test or an
-/// application calls `runPass` itself.
+/// A host pumps it with `runPass`, once for each round of its own event loop. Without a host, a test or
+/// an application calls `runPass` itself.
 class NSRunLoop : public NSObject {
 public:
     /// The one queue of the interface thread; never empty.
@@ -18,9 +17,10 @@ public:
 
     /// Queues `block` for the next pass. An empty block is ignored.
     void performBlock(std::function<void()> block);
-    /// Runs, in order, what was queued before the call. What the blocks queue themselves waits for the next call. A
-    /// block may call `runPass` itself, as a nested event loop does: that takes over what is still to run or, after the
-    /// last block, runs what came since.
+    /// Runs, in order, what was queued before the call. What the blocks queue waits for the next call.
+    ///
+    /// A block may call `runPass` itself, as a nested event loop does: that takes over what is still
+    /// to run or, after the last block, runs what came since.
     void runPass();
     /// Whether a pass would do anything.
     bool hasWork() const;
@@ -29,12 +29,7 @@ public:
     void setWakeHandler(std::function<void()> handler);
 
 private:
-    void wake() const;
-
-    std::vector<std::function<void()>> queue_;
-    std::vector<std::function<void()>> running_;
-    std::size_t next_ = 0;
-    std::function<void()> wakeHandler_;
+    Ref<NSBlockQueue> queue_ = std::make_shared<NSBlockQueue>();
 };
 
 } // namespace gx

@@ -38,4 +38,9 @@ private:
     bool usingUnit_ = true;
 };
 
+/// How `create` makes a formatter: `(style, isMetric, usingUnit)`.
+inline bool initialise(GXUnitFormatter& formatter, NSInteger style, bool isMetric, bool usingUnit) {
+    return formatter.initWithStyle_isMetric_usingUnit(style, isMetric, usingUnit);
+}
+
 } // namespace gx

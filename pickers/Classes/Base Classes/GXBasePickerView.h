@@ -1,5 +1,6 @@
 #pragma once
 
+#include <type_traits>
 #include <vector>
 
 #include "GXBasePickerViewDelegate.h"
@@ -150,5 +151,12 @@ private:
     Ref<GXStyleSheetFont> customLabelFont_;
     WeakRef<GXBasePickerViewDelegate> delegate_;
 };
+
+/// How `create` makes a picker, besides `(frame)` and `(coder)`: `(frame, rowHeight)`, with any number as row height.
+template <class Number>
+requires std::is_arithmetic_v<Number>
+bool initialise(GXBasePickerView& picker, CGRect frame, Number rowHeight) {
+    return picker.initWithFrame_rowHeight(frame, static_cast<float>(rowHeight));
+}
 
 } // namespace gx

@@ -75,4 +75,9 @@ private:
     bool isSelected_ = false;
 };
 
+/// How `create` makes a cell: `(style, reuseIdentifier)`.
+inline bool initialise(UITableViewCell& cell, UITableViewCellStyle style, const std::optional<std::string>& reuseIdentifier) {
+    return cell.initWithStyle_reuseIdentifier(style, reuseIdentifier);
+}
+
 } // namespace gx

@@ -240,4 +240,8 @@ private:
     bool isLayingOut_ = false;
 };
 
+/// How `create` makes a view: `(frame)` and `(coder)`.
+inline bool initialise(UIView& view, CGRect frame) { return view.initWithFrame(frame); }
+inline bool initialise(UIView& view, const Ref<NSCoder>& coder) { return view.initWithCoder(coder); }
+
 } // namespace gx

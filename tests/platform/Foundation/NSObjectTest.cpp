@@ -46,6 +46,18 @@ struct Everything : NSObject {
     }
 };
 
+// How they are made stands beside them.
+bool initialise(Everything& object, CGRect frame) { return object.initWithFrame(frame); }
+bool initialise(Everything& object, CGRect frame, CGFloat height) { return object.initWithFrame_rowHeight(frame, height); }
+bool initialise(Everything& object, const Ref<NSCoder>& coder) { return object.initWithCoder(coder); }
+bool initialise(Everything& object, NSInteger style, const std::string& identifier) {
+    return object.initWithStyle_reuseIdentifier(style, identifier);
+}
+bool initialise(Everything& object, NSInteger style, bool isMetric, bool usesUnit) {
+    return object.initWithStyle_isMetric_usingUnit(style, isMetric, usesUnit);
+}
+bool initialise(Everything& object, const std::string& identifier) { return object.initWithLocaleIdentifier(identifier); }
+
 /// Its set-up calls an operation that its subclass overrides.
 struct Base : NSObject {
     std::string name;
@@ -70,6 +82,8 @@ struct Choosy : NSObject {
     virtual bool initWithFrame(CGRect frame) { return frame.size.width >= 10; }
 };
 
+bool initialise(Choosy& object, CGRect frame) { return object.initWithFrame(frame); }
+
 struct Counter : NSObject {
     int count = 0;
     Ref<Counter> seen;
@@ -79,6 +93,65 @@ struct Counter : NSObject {
 struct SubCounter : Counter {};
 
 } // namespace
+
+namespace application {
+
+/// As an application has it: a class of its own namespace with an initialiser of its own.
+struct Gauge : NSObject {
+    double lowest = 0, highest = 0;
+    virtual bool initWithRange(double low, double high) {
+        lowest = low;
+        highest = high;
+        return low <= high;
+    }
+};
+bool initialise(Gauge& gauge, double lowest, double highest) { return gauge.initWithRange(lowest, highest); }
+
+/// Hides the initialiser's name, and has another one beside it.
+struct HidingGauge : Gauge {
+    std::string initWithRange;
+};
+bool initialise(HidingGauge& gauge, const std::string& range) {
+    gauge.initWithRange = range;
+    return gauge.init();
+}
+
+/// Overrides it, without an overload beside it.
+struct WideGauge : Gauge {
+    bool initWithRange(double low, double high) override { return Gauge::initWithRange(low - 1, high + 1); }
+};
+
+} // namespace application
+
+TEST(NSObject, CreateRunsAnInitialiserOfTheApplication) {
+    using namespace application;
+    const Ref<Gauge> gauge = create<Gauge>(2, 5.5);
+    ASSERT_TRUE(gauge);
+    EXPECT_EQ(gauge->lowest, 2);
+    EXPECT_EQ(gauge->highest, 5.5);
+    EXPECT_FALSE(create<Gauge>(3, 2)) << "refused";
+    EXPECT_EQ(create<WideGauge>(2, 5)->lowest, 1) << "through the object";
+}
+
+TEST(NSObject, AHiddenInitialiserIsStillFound) {
+    using namespace application;
+    const Ref<HidingGauge> gauge = create<HidingGauge>(2, 5);
+    ASSERT_TRUE(gauge);
+    EXPECT_EQ(gauge->highest, 5);
+    EXPECT_EQ(gauge->initWithRange, "");
+    EXPECT_EQ(create<HidingGauge>("2 to 5")->initWithRange, "2 to 5");
+}
+
+TEST(NSObject, OnlyArgumentsThatAnInitialiserTakesCreateAnObject) {
+    using application::Gauge;
+    static_assert(Creatable<Gauge>);
+    static_assert(Creatable<Gauge, int, double>);
+    static_assert(!Creatable<Gauge, int>);
+    static_assert(!Creatable<Gauge, double, double, double>);
+    static_assert(!Creatable<Gauge, const char*, double>);
+    static_assert(!Creatable<Counter, CGRect>);
+    EXPECT_TRUE(create<Gauge>()) << "init is everybody's";
+}
 
 TEST(NSObject, CreateRunsTheInitialiserThatFitsTheArguments) {
     EXPECT_EQ(create<Everything>()->ran, "init");
@@ -96,7 +169,7 @@ TEST(NSObject, CreateRunsTheInitialiserThatFitsTheArguments) {
 
 TEST(NSObject, AnInitialiserRunsThroughTheFinishedObject) { EXPECT_EQ(create<Derived>()->name, "base derived"); }
 
-TEST(NSObject, CreateAnswersNothingIfTheInitialiserRefused) {
+TEST(NSObject, CreateReturnsNothingIfTheInitialiserRefused) {
     Choosy::destroyed = 0;
     EXPECT_FALSE(create<Choosy>(CGRectMake(0, 0, 9, 9)));
     EXPECT_EQ(Choosy::destroyed, 1);
