@@ -22,7 +22,7 @@ public:
     bool isSameAs(const UIAccessibilityElement& element) const { return element_->isSameAs(element); }
 
     bool isValid() const override {
-        const Ref<UIView> view = element_->view();
+        const Ref<UIViewNode> view = element_->view();
         return !widget_.isNull() && view && view->window() == widget_->uiWindow() && element_->exists();
     }
     QObject* object() const override { return nullptr; }

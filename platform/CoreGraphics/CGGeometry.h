@@ -17,8 +17,9 @@ struct CGSize {
     friend bool operator==(const CGSize&, const CGSize&) = default;
 };
 
-/// A rectangle, y growing downward. A negative width or height is allowed: every `CGRectGet…` answers for
-/// the rectangle it spans, with its corners put in order.
+/// A rectangle, y growing downward. A negative width or height is allowed.
+///
+/// Every `CGRectGet…` returns values of the area it spans, with its corners put in order.
 struct CGRect {
     CGPoint origin;
     CGSize size;
@@ -27,8 +28,8 @@ struct CGRect {
 
 /// The rectangle at (0, 0) without size.
 extern const CGRect CGRectZero;
-/// "No rectangle": it lies at infinity, is empty, and intersects nothing. A view made with it as its frame
-/// shows nothing until it is given a real frame.
+/// "No rectangle": it lies at infinity, is empty, and intersects nothing. A view made with it as
+/// its frame shows nothing until it is given a real frame.
 extern const CGRect CGRectNull;
 
 constexpr CGPoint CGPointMake(CGFloat x, CGFloat y) { return {x, y}; }
@@ -47,13 +48,15 @@ CGFloat CGRectGetHeight(CGRect rect);
 /// The same area with a width and height that are not negative.
 CGRect CGRectStandardize(CGRect rect);
 bool CGRectIsNull(CGRect rect);
-/// True for the null rectangle and for one without area. A rectangle with a coordinate that is no number is empty.
+/// True for the null rectangle and for one without area. A rectangle with a coordinate that is no
+/// number is empty.
 bool CGRectIsEmpty(CGRect rect);
 bool CGRectEqualToRect(CGRect first, CGRect second);
 /// The left and top edges belong to the rectangle, the right and bottom edges do not.
 bool CGRectContainsPoint(CGRect rect, CGPoint point);
 CGRect CGRectOffset(CGRect rect, CGFloat dx, CGFloat dy);
-/// Shrinks by dx at the left and right and by dy at the top and bottom. One shrunk beyond nothing is the null rectangle.
+/// Shrinks by dx at the left and right and by dy at the top and bottom. One shrunk beyond nothing
+/// is the null rectangle.
 CGRect CGRectInset(CGRect rect, CGFloat dx, CGFloat dy);
 /// The null rectangle where the two share no point.
 CGRect CGRectIntersection(CGRect first, CGRect second);

@@ -44,7 +44,7 @@ constexpr Integer remainder(Integer dividend, Integer divisor) {
     return dividend % divisor;
 }
 
-/// The integer part of a floating-point number, held to the range of the target; a NaN gives 0.
+/// The integer part of a floating-point number, clamped to the range of the target; a NaN gives 0.
 template <class Integer, class Floating>
 Integer truncateTo(Floating value) {
     static_assert(std::is_integral_v<Integer> && std::is_floating_point_v<Floating>);

@@ -11,11 +11,14 @@
 
 namespace gx {
 
-/// A set of values under keys, from which a view restores its frame and properties (`initWithCoder`).
+/// A set of values under keys, from which a view restores its frame and properties
+/// (`initWithCoder`).
 ///
 /// An application fills one from its interface file with the `encode…` operations and hands it to
-/// `create<T>(coder)`. Reading never fails: a key that is missing, or whose value is of another kind,
-/// reads as 0, false or nothing; numbers convert among each other as `NSNumber` does.
+/// `create<T>(coder)`.
+///
+/// Invariant: reading never fails. A key that is missing, or whose value is of another kind, reads
+/// as 0, false or nothing; numbers convert among each other as `NSNumber` does.
 class NSCoder : public NSObject {
 public:
     void encodeBool_forKey(bool value, std::string key);

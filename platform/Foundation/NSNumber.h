@@ -7,15 +7,17 @@
 
 namespace gx {
 
-/// A handle to an immutable boxed number. Copying copies the handle, so two handles may share one box.
+/// A handle to an immutable boxed number. Copying copies the handle, so two handles may share one
+/// box.
 ///
 /// The box remembers the type that it was made with and converts on reading, in one rounding:
 /// - fractions truncate toward zero;
 /// - an integer box narrows modulo the width of the target;
-/// - a floating-point box outside the range of an integer saturates, and NaN reads as integer 0; a double
-///   beyond the range of a float reads as infinity.
+/// - a floating-point box outside the range of an integer saturates, and NaN reads as integer 0; a
+///   double beyond the range of a float reads as infinity.
 ///
-/// An empty handle (`NSNumber()`) answers 0 to every question and false to `bool`.
+/// An empty handle (`NSNumber()`) returns 0 from every getter, and is false as `bool`. Use one for
+/// "not set".
 class NSNumber {
 public:
     enum class Type { None, Bool, Int, Integer, Float, Double };
@@ -39,8 +41,8 @@ public:
 
     /// The type that the box was made with; `None` for an empty handle.
     Type type() const;
-    /// Whether both handles hold the same box (equal numbers in two boxes are not identical). Two empty
-    /// handles are identical.
+    /// Whether both handles hold the same box. Equal numbers in two boxes are not identical, two
+    /// empty handles are.
     bool isIdenticalTo(const NSNumber& other) const { return box_ == other.box_; }
     /// Whether the handle holds a box, whatever its value.
     explicit operator bool() const { return box_ != nullptr; }

@@ -40,7 +40,7 @@ void NSBlockQueue::setWakeHandler(std::function<void()> handler) {
 }
 
 void NSBlockQueue::wake() const {
-    const std::function<void()> handler = wakeHandler_; // The handler may be replaced while it runs.
+    const std::function<void()> handler = wakeHandler_; // It may be replaced while it runs.
     if (handler) handler();
 }
 

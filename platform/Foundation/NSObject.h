@@ -15,10 +15,11 @@ using NSUInteger = std::uint64_t;
 /// Seconds.
 using NSTimeInterval = double;
 
-/// A shared, owning reference: how views, cells, formatters and services are held. May be empty.
+/// A shared, owning reference. Views, cells, formatters and services are held so. May be empty.
 template <class T>
 using Ref = std::shared_ptr<T>;
-/// A reference that does not own: how delegates and data sources are held. Lock it once for each call out.
+/// A reference that does not own. Delegates and data sources are held so. Lock it once for each
+/// call.
 template <class T>
 using WeakRef = std::weak_ptr<T>;
 
@@ -47,12 +48,12 @@ private:
 
 /// The root of everything that is shared by reference.
 ///
-/// Construction has two phases, because a class's set-up calls operations that its subclasses override:
-/// the C++ constructor only gives members their defaults, then an initialiser (`init…`) runs through the
-/// finished object. Make objects with `create<T>(…)`, which does both.
+/// Construction has two phases, because the set-up of a class calls operations that its subclasses
+/// override: the C++ constructor only gives members their defaults, then an initialiser (`init…`)
+/// runs through the finished object. Make objects with `create<T>(…)`, which does both.
 ///
-/// Protocols (delegates, data sources) are plain abstract classes and do not derive from this one, so a
-/// class may adopt any number of them.
+/// Protocols (delegates, data sources) are plain abstract classes and do not derive from this one,
+/// so a class may adopt any number of them.
 class NSObject : public std::enable_shared_from_this<NSObject> {
 public:
     NSObject() = default;
@@ -63,8 +64,9 @@ public:
     /// Returns false to refuse construction; `create` then returns nothing.
     virtual bool init();
 
-    /// Calls `selector` on a later pass of the main run loop or, with `waitUntilDone`, at once. The object
-    /// is held weakly until then: if it is gone by the time, nothing happens.
+    /// Calls `selector` in the next pass of the main run loop or, with `waitUntilDone`, at once.
+    ///
+    /// The object is held weakly until then: if it is gone by the time, nothing happens.
     template <class T>
     void performSelectorOnMainThread_waitUntilDone(void (T::*selector)(), bool waitUntilDone) {
         static_assert(std::is_base_of_v<NSObject, T>);
@@ -78,7 +80,9 @@ public:
     }
 };
 
-/// A reference to an object from inside it; empty while the object is being torn down or if it was not made by `create`.
+/// A reference to an object from inside it.
+///
+/// Empty while the object is being torn down, or if it was not made by `create`.
 template <class T>
 Ref<T> refTo(T* object) {
     const Ref<NSObject> owner = object ? object->weak_from_this().lock() : nullptr;
@@ -103,7 +107,9 @@ concept Creatable = requires(T& object, const Arguments&... arguments) {
 ///     public:
 ///         virtual bool initWithRange(double lowest, double highest);
 ///     };
-///     inline bool initialise(Gauge& gauge, double lowest, double highest) { return gauge.initWithRange(lowest, highest); }
+///     inline bool initialise(Gauge& gauge, double lowest, double highest) {
+///         return gauge.initWithRange(lowest, highest);
+///     }
 ///
 ///     const gx::Ref<Gauge> gauge = gx::create<Gauge>(0.0, 10.0);
 ///

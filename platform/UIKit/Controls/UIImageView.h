@@ -12,7 +12,8 @@ enum UIViewContentMode {
     UIViewContentModeCenter = 4           ///< in its own size, in the middle
 };
 
-/// Shows one image in its bounds. Takes no touches.
+/// Shows one image in its bounds. Takes no touches; for a picture to tap, put it into a view of
+/// your own.
 class UIImageView : public UIView {
 public:
     bool initWithFrame(CGRect frame) override;
@@ -31,7 +32,8 @@ public:
 
     /// The image's, unless a label was set.
     std::optional<std::string> accessibilityLabel() const override;
-    /// Itself as an image, if it has a label, then what its subviews offer. A picture without one adorns only.
+    /// Itself as an image, if it has a label, then what its subviews offer. A picture without one
+    /// is decoration.
     UIAccessibilityElements accessibilityElements() override;
 
 private:

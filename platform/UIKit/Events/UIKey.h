@@ -10,7 +10,7 @@ namespace gx {
 /// A key that goes down, or that is held and repeats.
 struct UIKey {
     enum class Code {
-        None,      ///< one that no view here knows
+        None,      ///< any other key
         Character, ///< it types `characters`
         Left,
         Right,
@@ -33,13 +33,13 @@ struct UIKey {
     /// What it types, in UTF-8: usually one character; an input method may type several at once.
     std::string characters;
     unsigned modifiers = 0;
-    /// The key is held, and this is one more of it.
+    /// The key is held, and this is a repetition.
     bool isRepeat = false;
     /// In seconds, on the clock of `UIWindow::tick`.
     NSTimeInterval timestamp = 0;
 
-    /// Keys held with Control, Alternate or Command are commands of the application. (A host that types with them, as AltGr does, leaves
-    /// them out.)
+    /// Keys held with Control, Alternate or Command are commands of the application. A host that
+    /// types with them, as AltGr does, leaves them out.
     bool isCommand() const { return (modifiers & (Control | Alternate | Command)) != 0; }
 };
 

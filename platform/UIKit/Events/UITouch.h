@@ -18,7 +18,8 @@ struct UITouch {
     CGPoint locationInWindow;
 };
 
-/// A turn of the mouse wheel or a stroke on a trackpad. Positive deltas move toward later rows: right and down.
+/// A step of the mouse wheel or a stroke on a trackpad. Positive deltas move toward later rows:
+/// right and down.
 struct UIScroll {
     enum class Unit {
         Notches, ///< clicks of a mouse wheel, also fractions of one
@@ -29,10 +30,11 @@ struct UIScroll {
     CGFloat deltaY = 0;
     NSTimeInterval timestamp = 0;
     CGPoint locationInWindow;
-    /// The fingers have left the trackpad and it glides no more: nothing else is coming.
+    /// The last one of a stroke: the fingers have left the trackpad, and its glide has ended.
     bool isFinished = false;
 
-    /// It goes more to the side than up or down. Nothing here moves sideways, so it is left to what lies around.
+    /// Whether it goes more to the side than up or down. Views here leave it to what lies around,
+    /// since nothing moves sideways.
     bool isSideways() const { return std::max(deltaX, -deltaX) > std::max(deltaY, -deltaY); }
 };
 

@@ -9,7 +9,7 @@
 
 namespace gx {
 
-/// How text is drawn. What is absent is left to whoever draws it.
+/// How text is drawn. For absent attributes a view uses its own.
 struct NSTextAttributes {
     Ref<UIFont> font;
     std::optional<UIColor> foregroundColor;
@@ -28,7 +28,8 @@ private:
     NSTextAttributes attributes_;
 };
 
-/// The size of one line of text in the font of the attributes, or in the system font if they name none.
+/// The size of one line of text in the font of the attributes, or in the system font if they name
+/// none.
 CGSize sizeWithAttributes(std::string_view text, const NSTextAttributes& attributes);
 
 } // namespace gx

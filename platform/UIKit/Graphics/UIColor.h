@@ -5,7 +5,8 @@ namespace gx {
 /// The look that colours are shown in; a property of the window.
 enum class UIUserInterfaceStyle { Light, Dark };
 
-/// How far colours keep apart from each other; a property of the window. High is for eyes that see faint differences badly.
+/// How far colours keep apart from each other; a property of the window. High is for users who see
+/// faint differences badly.
 enum class UIAccessibilityContrast { Normal, High };
 
 /// A colour as it is drawn: red, green, blue and alpha from 0 to 1, sRGB, not premultiplied.
@@ -17,38 +18,46 @@ struct UIColorComponents {
     friend bool operator==(const UIColorComponents&, const UIColorComponents&) = default;
 };
 
-/// A colour with a value for each look, at either contrast. It is resolved when it is drawn, so a window that changes from light
-/// to dark, or its contrast, only has to draw again.
+/// A colour with a value for each look, at either contrast.
+///
+/// It is resolved when it is drawn, so a window that changes its look or its contrast only has to
+/// draw again.
+///
+/// Invariant: all components are from 0 to 1.
 class UIColor {
 public:
     /// The clear colour.
     UIColor() = default;
 
-    /// Components from 0 to 1; others, and NaN, are held to that range.
+    /// Components from 0 to 1; others are clamped, and NaN becomes 0.
     static UIColor colorWithRed_green_blue_alpha(double red, double green, double blue, double alpha);
     static UIColor colorWithWhite_alpha(double white, double alpha);
     /// `rgb` as 0xRRGGBB.
     static UIColor colorWithHex(unsigned rgb, double alpha = 1);
     /// The light value of `light` in the light look, the dark value of `dark` in the dark one.
     static UIColor colorWithLight_dark(const UIColor& light, const UIColor& dark);
-    /// The values of `normal` at normal contrast, those of `high` at high contrast, each in both looks.
+    /// The values of `normal` at normal contrast, those of `high` at high contrast, each in both
+    /// looks.
     static UIColor colorWithNormal_highContrast(const UIColor& normal, const UIColor& high);
 
     static UIColor clearColor();
     static UIColor blackColor();
     static UIColor whiteColor();
-    // At high contrast the texts and the tint have a contrast of 7 to 1 and more to white in the light look and to the style sheet's
-    // background in the dark one, also on the fill below.
 
-    /// Text: near black in the light look, near white in the dark one; black and white at high contrast.
+    // At high contrast the texts and the tint have a contrast of 7 to 1 and more to what lies
+    // behind them, also on the fill below: to white in the light look, to the style sheet's
+    // background in the dark one.
+
+    /// Text: near black in the light look, near white in the dark one; black and white at high
+    /// contrast.
     static UIColor labelColor();
     static UIColor secondaryLabelColor();
-    /// The tint that a view has when nobody above it sets one.
+    /// The tint of a view where no view above it sets one.
     static UIColor systemBlueColor();
-    /// A faint grey that lets what lies behind it through; less faint at high contrast.
+    /// A faint, translucent grey; less faint at high contrast.
     static UIColor tertiarySystemFillColor();
 
-    /// This colour in both looks and at either contrast with another alpha, held to 0 to 1.
+    /// This colour in both looks and at either contrast with another alpha, clamped to 0 … 1.
     UIColor colorWithAlphaComponent(double alpha) const;
     const UIColorComponents& resolved(UIUserInterfaceStyle style, UIAccessibilityContrast contrast = UIAccessibilityContrast::Normal) const;
 

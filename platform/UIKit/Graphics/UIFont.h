@@ -12,10 +12,11 @@ enum class UIFontWeight { Regular, Medium, Semibold, Bold };
 /// A font: family, size in points and weight. Immutable, so it can be shared and compared.
 class UIFont : public NSObject {
 public:
-    /// The size of text that nobody chose a font for.
+    /// The size of text without a font of its own. The phone's platform prescribes it.
     static constexpr CGFloat labelFontSize = 17;
 
-    /// The host's own interface family. A size that is not above 0, or no number, becomes `labelFontSize`.
+    /// The host's own interface family. A size that is not above 0, or no number, becomes
+    /// `labelFontSize`.
     static Ref<UIFont> systemFontOfSize_weight(CGFloat size, UIFontWeight weight = UIFontWeight::Regular);
     static Ref<UIFont> fontWithName_size_weight(std::string family, CGFloat size, UIFontWeight weight);
 

@@ -9,11 +9,11 @@
 
 namespace gx {
 
-/// The canvas that a host gives to a window for one frame. It starts with the origin at the window's top left,
-/// y growing downward, one unit a point.
+/// The canvas that a host gives to a window for one frame.
 ///
-/// Views draw with the operations here; a host implements the protected ones. Colours and images
-/// arrive there resolved for the look and the contrast of the frame.
+/// It starts with the origin at the window's top left, y growing downward, one unit a point. Views
+/// draw with the public operations; a host implements the protected ones. Colours and images arrive
+/// there resolved for the look and the contrast of the frame.
 class UIGraphicsContext {
 public:
     virtual ~UIGraphicsContext() = default;
@@ -21,19 +21,20 @@ public:
     /// The look that colours and images are resolved for; the window sets it before it draws.
     UIUserInterfaceStyle userInterfaceStyle() const { return style_; }
     void setUserInterfaceStyle(UIUserInterfaceStyle style) { style_ = style; }
-    /// The contrast that colours are resolved for, and views draw with more or fewer edges; set likewise.
+    /// The contrast that colours are resolved for; set likewise. Views may draw more edges at high
+    /// contrast.
     UIAccessibilityContrast accessibilityContrast() const { return contrast_; }
     void setAccessibilityContrast(UIAccessibilityContrast contrast) { contrast_ = contrast; }
 
     /// Keep and restore transform, clip and alpha. Calls nest and come in pairs.
     virtual void saveState() = 0;
     virtual void restoreState() = 0;
-    /// Move and scale what follows, on top of what is in force.
+    /// Move and scale what follows, on top of the present transform.
     virtual void translate(CGFloat x, CGFloat y) = 0;
     virtual void scale(CGFloat x, CGFloat y) = 0;
-    /// Confines what follows to the rectangle, within what it is confined to already.
+    /// Clips what follows to the rectangle, within the present clip.
     virtual void clipToRect(CGRect rect) = 0;
-    /// Makes what follows fainter: the factor, from 0 to 1, multiplies with the one in force.
+    /// Multiplies the alpha of what follows by a factor from 0 to 1.
     virtual void multiplyAlpha(double alpha) = 0;
 
     /// Fills a rectangle, its corners rounded by `cornerRadius` points.

@@ -11,25 +11,34 @@
 
 namespace gx {
 
-/// A picture as pixels, or as a pair of pictures, one for each look. Immutable, so hosts may keep what they make of it for as long as it
-/// lives.
+/// A picture as pixels, or as a pair of pictures, one for each look.
+///
+/// Invariant: the pixels never change, so hosts may cache what they make of an image for as long as
+/// it lives.
 class UIImage : public NSObject {
 public:
-    /// `pixels` are rows from the top, four bytes a pixel: red, green, blue and alpha, not premultiplied.
-    /// `scale` is pixels for a point. Answers nothing if the sizes do not fit each other or are not above 0.
+    /// An image of pixels. Returns nothing if the sizes do not fit each other or are not above 0.
+    ///
+    /// - `pixels` are rows from the top, four bytes a pixel: red, green, blue and alpha, not
+    ///   premultiplied.
+    /// - `scale` is pixels for a point.
     static Ref<UIImage> imageWithPixels_width_height_scale(std::vector<std::uint8_t> pixels, int width, int height, double scale);
     /// Reads a picture with the host's loader; nothing without a host, or if it cannot be read.
     static Ref<UIImage> imageWithContentsOfFile(const std::string& path);
 
-    /// Drawn as the light picture of `light` in the light look, as the dark picture of `dark` in the dark one, so a window that changes
-    /// from light to dark only has to draw again. Holds both; they may be of different scales. It begins with the label of `light`.
-    /// Answers nothing if either is absent or if their sizes in points differ.
+    /// The light picture of `light` in the light look, the dark picture of `dark` in the dark one.
+    ///
+    /// A window that changes its look only has to draw again. The image holds both, which may be of
+    /// different scales, and begins with the accessibility label of `light`.
+    ///
+    /// Returns nothing if either is absent or if their sizes in points differ.
     static Ref<UIImage> imageWithLight_dark(Ref<UIImage> light, Ref<UIImage> dark);
 
-    /// The picture to draw in the look: one of the pair, else this image itself. Lives as long as this image.
+    /// The picture to draw in the look: one of the pair, else this image itself. Lives as long as
+    /// this image.
     const UIImage& resolved(UIUserInterfaceStyle style) const;
 
-    // Of the two pictures of a pair, what follows tells the light one's.
+    // For a pair, these are the light picture's.
 
     /// In points.
     CGSize size() const { return {width_ / scale_, height_ / scale_}; }
@@ -38,7 +47,7 @@ public:
     double scale() const { return scale_; }
     const std::vector<std::uint8_t>& pixels() const { return light_ ? light_->pixels_ : pixels_; }
 
-    /// What the picture shows, as a screen reader says it.
+    /// The accessibility text: what the picture shows.
     const std::optional<std::string>& accessibilityLabel() const { return accessibilityLabel_; }
     void setAccessibilityLabel(std::optional<std::string> label) { accessibilityLabel_ = std::move(label); }
 

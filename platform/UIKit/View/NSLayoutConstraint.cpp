@@ -9,12 +9,11 @@
 #include <cstdio>
 #endif
 
-#include "UIView.h"
-
 namespace gx {
 
 namespace {
 
+// Prescribed by the phone's platform.
 constexpr CGFloat standardDistance = 8;
 
 /// What one format says: a direction, a view's name, and the pins on either side of it.
@@ -40,7 +39,7 @@ private:
     }
 
     std::string readName() {
-        // Not by the C library, whose answer depends on the C locale.
+        // Not by the C library, whose result depends on the C locale.
         const auto isPart = [](char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_'; };
         const auto end = std::find_if_not(rest_.begin(), rest_.end(), isPart);
         const auto length = static_cast<std::size_t>(end - rest_.begin());
@@ -49,7 +48,8 @@ private:
         return name;
     }
 
-    /// Digits with an optional fraction, read without the C locale; at most 9 digits on either side.
+    /// Digits with an optional fraction, read without the C locale; at most 9 digits on either
+    /// side.
     std::optional<CGFloat> readNumber() {
         CGFloat number = 0;
         const auto readDigits = [this](CGFloat& value) {
@@ -160,6 +160,21 @@ void NSLayoutPins::add(const NSLayoutConstraint& constraint) {
         bottom = constraint.constant();
         break;
     }
+}
+
+std::vector<NSLayoutPins> NSLayoutPins::pinsOfConstraints(const std::vector<Ref<NSLayoutConstraint>>& constraints) {
+    std::vector<NSLayoutPins> all;
+    for (const Ref<NSLayoutConstraint>& constraint : constraints) {
+        const Ref<NSObject> item = constraint->firstItem();
+        if (!item) continue;
+        auto pins = std::find_if(all.begin(), all.end(), [&item](const NSLayoutPins& known) { return known.item.lock() == item; });
+        if (pins == all.end()) {
+            pins = all.insert(all.end(), NSLayoutPins());
+            pins->item = item;
+        }
+        pins->add(*constraint);
+    }
+    return all;
 }
 
 namespace {

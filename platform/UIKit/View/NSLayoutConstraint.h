@@ -10,37 +10,42 @@
 
 namespace gx {
 
-class UIView;
-
 enum class NSLayoutAttribute { Left, Right, Top, Bottom };
 
-/// Pins one edge of a view to the same edge of the view that holds the constraint, at a distance inward.
+/// Pins one edge of a view to the same edge of its superview, at a distance inward.
 ///
-/// This is all the layout that the pickers need. Add constraints to the superview with
-/// `UIView::addConstraints`; they move the view, through its `setFrame`, in the superview's layout.
+/// Add constraints to the superview with `UIView::addConstraints`; they move the view, through its
+/// `setFrame`, in the superview's layout. For any other layout override `UIView::layoutSubviews`.
+///
+/// Invariant: a constraint never changes once it is made.
 class NSLayoutConstraint : public NSObject {
 public:
     /// Distances and views under the names that a format uses for them.
     using Metrics = std::map<std::string, CGFloat>;
-    using Views = std::map<std::string, Ref<UIView>>;
+    using Views = std::map<std::string, Ref<NSObject>>;
 
-    /// Reads formats of the form `H:|[name]|`, `V:|-8-[name]-(12)-|` or `H:[name]-gap-|`: the direction (H if
-    /// none is given), and on either side a pin with an optional distance, in points or by the name of a
-    /// metric; `-` alone is the standard distance of 8 points. `options` are for alignments, which these
-    /// formats have none of. Any other format, an unknown name or a missing view gives no constraints, and
-    /// says so in debug builds.
+    /// The constraints that a format describes, such as `H:|[name]|`, `V:|-8-[name]-(12)-|` or
+    /// `H:[name]-gap-|`.
+    ///
+    /// - The direction is H if none is given.
+    /// - On either side may be a pin with a distance, in points or by the name of a metric. Without
+    ///   a distance it is 0; `-` alone is the standard distance of 8 points.
+    /// - `options` are for alignments, which these formats do not have.
+    ///
+    /// Any other format, an unknown name or a missing view gives no constraints, and a message in
+    /// debug builds.
     static std::vector<Ref<NSLayoutConstraint>> constraintsWithVisualFormat_options_metrics_views(const std::string& format,
                                                                                                   NSUInteger options,
                                                                                                   const Metrics& metrics,
                                                                                                   const Views& views);
 
     /// The view that is pinned, held weakly.
-    Ref<UIView> firstItem() const { return item_.lock(); }
+    Ref<NSObject> firstItem() const { return item_.lock(); }
     NSLayoutAttribute attribute() const { return attribute_; }
     CGFloat constant() const { return constant_; }
 
 private:
-    WeakRef<UIView> item_;
+    WeakRef<NSObject> item_;
     NSLayoutAttribute attribute_ = NSLayoutAttribute::Left;
     CGFloat constant_ = 0;
 };
@@ -48,6 +53,11 @@ private:
 /// All pins of one view together.
 struct NSLayoutPins {
     std::optional<CGFloat> left, right, top, bottom;
+    /// The view. May be gone.
+    WeakRef<NSObject> item;
+
+    /// The pins of each view that is left, in the order in which the views come first.
+    static std::vector<NSLayoutPins> pinsOfConstraints(const std::vector<Ref<NSLayoutConstraint>>& constraints);
 
     /// A later pin of the same edge wins.
     void add(const NSLayoutConstraint& constraint);

@@ -1,60 +1,121 @@
 #include "UIView.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "NSLayoutConstraint.h"
 #include "UIGraphicsContext.h"
-#include "UIWindow.h"
 
 namespace gx {
 
 UIView::~UIView() {
-    for (const Ref<UIView>& view : subviews_) view->superview_ = nullptr;
+    for (const Ref<UIView>& view : subviews_) view->setNodeAbove(nullptr);
 }
 
-bool UIView::init() { return initWithFrame(CGRectZero); }
+// The tree
 
-bool UIView::initWithFrame(CGRect frame) {
-    if (!NSObject::init()) return false;
-    frame_ = frame;
-    return true;
-}
+// Only views are set as nodes above views.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast)
+UIView* UIView::above() const { return static_cast<UIView*>(nodeAbove()); }
 
-bool UIView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!NSObject::init()) return false;
-    if (!coder) return true;
-    frame_ = coder->decodeCGRectForKey("frame");
-    if (coder->containsValueForKey("bounds")) {
-        const CGRect bounds = coder->decodeCGRectForKey("bounds");
-        boundsOrigin_ = bounds.origin;
-        if (!coder->containsValueForKey("frame")) frame_ = {{}, bounds.size};
+Ref<UIView> UIView::superview() const { return refTo(above()); }
+
+void UIView::addSubview(const Ref<UIView>& view) { insertSubview_atIndex(view, static_cast<NSInteger>(subviews_.size())); }
+
+void UIView::insertSubview_atIndex(const Ref<UIView>& view, NSInteger index) {
+    if (!view || view->contains(*this)) return;
+    const Ref<UIView> keep = refTo(this);
+    // The argument may be an entry of a list that changes here.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const Ref<UIView> added = view;
+    const bool isNew = added->above() != this;
+    if (isNew) {
+        added->removeFromSuperview();
+        // A callback of that may have put the view elsewhere, or this one below it.
+        if (added->above() || added->contains(*this)) return;
+    } else {
+        subviews_.erase(std::find(subviews_.begin(), subviews_.end(), added));
     }
-    isHidden_ = coder->decodeBoolForKey("hidden");
-    clipsToBounds_ = coder->decodeBoolForKey("clipsToBounds");
-    tag_ = coder->decodeIntegerForKey("tag");
-    if (coder->containsValueForKey("alpha")) setAlpha(coder->decodeDoubleForKey("alpha"));
-    if (coder->containsValueForKey("userInteractionEnabled")) {
-        isInteractive_ = coder->decodeBoolForKey("userInteractionEnabled");
-    }
-    const auto colorForKey = [&coder](const char* key) -> std::optional<UIColor> {
-        if (!coder->containsValueForKey(key)) return std::nullopt;
-        return UIColor::colorWithHex(static_cast<unsigned>(coder->decodeIntegerForKey(key)));
-    };
-    backgroundColor_ = colorForKey("backgroundColor");
-    tintColor_ = colorForKey("tintColor");
-    return true;
+    const UIColor tintBefore = added->tintColor();
+    const auto size = static_cast<NSInteger>(subviews_.size());
+    subviews_.insert(subviews_.begin() + std::clamp<NSInteger>(index, 0, size), added);
+    added->setNodeAbove(this);
+    if (added->needsLayout_ || added->needsLayoutBelow_) added->setNeedsLayout();
+    setNeedsLayout();
+    setNeedsDisplay();
+    if (isNew) added->noteTreeChange(tintBefore, nullptr);
 }
 
-void UIView::awakeFromNib() {}
+void UIView::removeFromSuperview() {
+    if (!above()) return;
+    const Ref<UIView> keep = refTo(this);
+    // While the views above still get it, since they may have been handed the finger.
+    if (UIViewRoot* const root = rawViewRoot()) root->cancelTouchesWithin(keep);
+    if (!above()) return;
+    UIView& holder = *above();
+    const auto entry =
+        std::find_if(holder.subviews_.begin(), holder.subviews_.end(), [this](const Ref<UIView>& view) { return view.get() == this; });
+    const UIColor tintBefore = tintColor();
+    // Kept during the callbacks. A window that is being torn down cannot be kept, and outlasts
+    // this.
+    UIViewRoot* const rootBefore = rawViewRoot();
+    const Ref<UIViewRoot> keepRoot = viewRoot();
+    holder.setNeedsDisplay();
+    holder.subviews_.erase(entry);
+    const auto isOnThis = [&keep](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == keep; };
+    holder.constraints_.erase(std::remove_if(holder.constraints_.begin(), holder.constraints_.end(), isOnThis), holder.constraints_.end());
+    setNodeAbove(nullptr);
+    if (rootBefore) rootBefore->resignFirstResponderWithin(keep);
+    if (above()) return; // A callback has put the view elsewhere, which has notified of it.
+    noteTreeChange(tintBefore, rootBefore);
+}
+
+void UIView::noteTreeChange(const UIColor& tintBefore, const UIViewRoot* rootBefore) {
+    if (tintColor() != tintBefore) notifyTint();
+    if (rawViewRoot() != rootBefore) notifyWindow();
+}
+
+// In both walks down the tree, callbacks may change the list of subviews. Views that come or go
+// meanwhile are notified by that.
+
+void UIView::notifyTint() {
+    const Ref<UIView> keep = refTo(this);
+    const std::vector<Ref<UIView>> below = subviews_;
+    UIViewNode::notifyTint();
+    for (const Ref<UIView>& view : below) {
+        if (view->above() == this && !view->hasOwnTint()) view->notifyTint();
+    }
+}
+
+void UIView::notifyWindow() {
+    const Ref<UIView> keep = refTo(this);
+    const std::vector<Ref<UIView>> below = subviews_;
+    didMoveToWindow();
+    for (const Ref<UIView>& view : below) {
+        if (view->above() == this) view->notifyWindow();
+    }
+}
+
+void UIView::didMoveToWindow() {}
+
+/// Calls with each subview, while the calls may change the list: no more often than there were
+/// subviews at first. Without a copy of the list, since scrolling rows are laid out and hidden in
+/// every frame.
+template <class Call>
+void UIView::callOnSubviews(Call call) {
+    std::size_t i = 0;
+    for (std::size_t steps = subviews_.size(); steps > 0 && i < subviews_.size(); --steps) {
+        const Ref<UIView> view = subviews_[i];
+        call(*view);
+        if (i < subviews_.size() && subviews_[i] == view) ++i;
+    }
+}
 
 // Layout
 
+void UIView::boundsSizeDidChange() { setNeedsLayout(); }
+
 void UIView::setNeedsLayout() {
     needsLayout_ = true;
-    for (UIView* above = superview_; above && !above->isLayoutDueBelow_; above = above->superview_) {
-        above->isLayoutDueBelow_ = true;
-    }
+    for (UIView* view = above(); view && !view->needsLayoutBelow_; view = view->above()) view->needsLayoutBelow_ = true;
     setNeedsDisplay();
 }
 
@@ -67,42 +128,29 @@ void UIView::layoutIfNeeded() {
         layoutSubviews();
         isLayingOut_ = false;
     }
-    if (!isLayoutDueBelow_) return;
-    isLayoutDueBelow_ = false;
-    // Without a copy of the list, since rows that scroll are laid out in every frame. Whom a change of the list hides from this walk, as
-    // a view that asks again, or is in the middle of its own layout, waits for the next pass.
-    std::size_t i = 0;
-    for (std::size_t steps = subviews_.size(); steps > 0 && i < subviews_.size(); --steps) {
-        const Ref<UIView> view = subviews_[i];
-        view->layoutIfNeeded();
-        if (i < subviews_.size() && subviews_[i] == view) ++i;
-    }
-    isLayoutDueBelow_ = std::any_of(subviews_.begin(), subviews_.end(),
-                                    [](const Ref<UIView>& view) { return view->needsLayout_ || view->isLayoutDueBelow_; });
+    if (!needsLayoutBelow_) return;
+    needsLayoutBelow_ = false;
+    callOnSubviews([](UIView& view) { view.layoutIfNeeded(); });
+    // A view that the walk missed, that invalidates again, or that is in the middle of its own
+    // layout, waits for the next pass.
+    needsLayoutBelow_ = std::any_of(subviews_.begin(), subviews_.end(),
+                                    [](const Ref<UIView>& view) { return view->needsLayout_ || view->needsLayoutBelow_; });
 }
 
 void UIView::layoutSubviews() {
-    // Each pinned view is placed once, by all its pins together, when its first pin is met. Being placed, it may change
-    // the list.
-    const std::vector<Ref<NSLayoutConstraint>> constraints = constraints_;
-    for (std::size_t i = 0; i < constraints.size(); ++i) {
-        const Ref<UIView> item = constraints[i]->firstItem();
-        if (!item || item->superview_ != this) continue;
-        const auto isForItem = [&item](const Ref<NSLayoutConstraint>& constraint) { return constraint->firstItem() == item; };
-        const auto present = constraints.begin() + static_cast<std::ptrdiff_t>(i);
-        if (std::any_of(constraints.begin(), present, isForItem)) continue;
-        NSLayoutPins pins;
-        std::for_each(present, constraints.end(), [&](const Ref<NSLayoutConstraint>& constraint) {
-            if (isForItem(constraint)) pins.add(*constraint);
-        });
-        item->setFrame(pins.frameInBounds_from(bounds(), item->frame()));
+    for (const NSLayoutPins& pins : NSLayoutPins::pinsOfConstraints(constraints_)) {
+        // Placing a view may change the list.
+        const auto item = std::find(subviews_.begin(), subviews_.end(), pins.item.lock());
+        if (item == subviews_.end()) continue;
+        const Ref<UIView> view = *item;
+        view->setFrame(pins.frameInBounds_from(bounds(), view->frame()));
     }
 }
 
 CGSize UIView::sizeThatFits(CGSize) const { return bounds().size; }
 
 void UIView::sizeToFit() {
-    const CGPoint origin = CGRectIsNull(frame_) ? CGPoint{} : frame_.origin;
+    const CGPoint origin = CGRectIsNull(frame()) ? CGPoint{} : frame().origin;
     setFrame({origin, sizeThatFits(bounds().size)});
 }
 
@@ -113,64 +161,7 @@ void UIView::addConstraints(const std::vector<Ref<NSLayoutConstraint>>& constrai
     setNeedsLayout();
 }
 
-// Appearance
-
-void UIView::setBackgroundColor(std::optional<UIColor> color) {
-    if (color == backgroundColor_) return;
-    backgroundColor_ = color;
-    setNeedsDisplay();
-}
-
-void UIView::setAlpha(double alpha) {
-    const double held = std::isnan(alpha) ? 0 : std::clamp(alpha, 0.0, 1.0);
-    if (held == alpha_) return;
-    alpha_ = held;
-    setNeedsDisplay();
-}
-
-void UIView::setClipsToBounds(bool clips) {
-    if (clips == clipsToBounds_) return;
-    clipsToBounds_ = clips;
-    setNeedsDisplay();
-}
-
-void UIView::setCornerRadius(CGFloat radius) {
-    const CGFloat held = radius > 0 ? radius : 0;
-    if (held == cornerRadius_) return;
-    cornerRadius_ = held;
-    setNeedsDisplay();
-}
-
-UIColor UIView::tintColor() const {
-    for (const UIView* view = this; view; view = view->superview_) {
-        if (view->tintColor_) return *view->tintColor_;
-    }
-    return UIColor::systemBlueColor();
-}
-
-void UIView::setTintColor(std::optional<UIColor> color) {
-    const UIColor before = tintColor();
-    tintColor_ = color;
-    if (tintColor() != before) notifyTint();
-}
-
-void UIView::notifyTint() {
-    const Ref<UIView> keep = refTo(this);
-    const std::vector<Ref<UIView>> below = subviews_;
-    tintColorDidChange();
-    setNeedsDisplay();
-    for (const Ref<UIView>& view : below) {
-        if (view->superview_ == this && !view->tintColor_) view->notifyTint();
-    }
-}
-
-void UIView::tintColorDidChange() {}
-
 // Drawing
-
-void UIView::setNeedsDisplay() {
-    if (UIWindow* window = root()->asWindow()) window->requestFrame();
-}
 
 void UIView::renderInContext(UIGraphicsContext& context) {
     context.saveState();
@@ -179,19 +170,20 @@ void UIView::renderInContext(UIGraphicsContext& context) {
 }
 
 void UIView::drawView(UIView& view, UIGraphicsContext& context) {
-    if (view.isHidden_ || view.alpha_ == 0 || CGRectIsEmpty(view.frame_)) return;
+    if (view.isHidden() || view.alpha() == 0 || CGRectIsEmpty(view.frame())) return;
     context.saveState();
-    context.translate(CGRectGetMinX(view.frame_), CGRectGetMinY(view.frame_));
-    if (view.alpha_ < 1) context.multiplyAlpha(view.alpha_);
+    context.translate(CGRectGetMinX(view.frame()), CGRectGetMinY(view.frame()));
+    if (view.alpha() < 1) context.multiplyAlpha(view.alpha());
     view.drawContent(context);
     context.restoreState();
 }
 
 void UIView::drawContent(UIGraphicsContext& context) {
     const CGRect area = {{}, bounds().size};
-    if (clipsToBounds_) context.clipToRect(area);
-    if (backgroundColor_) context.fillRect(area, *backgroundColor_, cornerRadius_);
-    if (boundsOrigin_ != CGPoint{}) context.translate(-boundsOrigin_.x, -boundsOrigin_.y);
+    const CGPoint origin = bounds().origin;
+    if (clipsToBounds()) context.clipToRect(area);
+    if (const std::optional<UIColor> color = backgroundColor()) context.fillRect(area, *color, cornerRadius());
+    if (origin != CGPoint{}) context.translate(-origin.x, -origin.y);
     drawRect(context, bounds());
     drawSubviews(context);
 }
@@ -207,24 +199,32 @@ void UIView::drawSubviews(UIGraphicsContext& context) {
     }
 }
 
-// Events
+// Input and time
 
-bool UIView::touchBegan(const UITouch& touch) {
-    const Ref<UIView> above = superview();
-    return above && above->touchBegan(touch);
+Ref<UIView> UIView::hitTest(CGPoint point) {
+    if (!takesInputItself() || !CGRectContainsPoint(bounds(), point)) return nullptr;
+    for (auto entry = subviews_.rbegin(); entry != subviews_.rend(); ++entry) {
+        UIView& view = **entry;
+        const CGPoint origin = view.bounds().origin;
+        const CGPoint inside = {point.x - CGRectGetMinX(view.frame()) + origin.x, point.y - CGRectGetMinY(view.frame()) + origin.y};
+        if (Ref<UIView> hit = view.hitTest(inside)) return hit;
+    }
+    return refTo(this);
 }
-void UIView::touchMoved(const UITouch& touch) {
-    if (const Ref<UIView> above = superview()) above->touchMoved(touch);
+
+void UIView::collectFocusable(std::vector<Ref<UIView>>& found) {
+    if (!takesInputItself()) return;
+    if (const Ref<UIView> self = refTo(this); self && canBecomeFirstResponder()) found.push_back(self);
+    const std::vector<Ref<UIView>> below = subviewsInReadingOrder();
+    for (const Ref<UIView>& view : below) {
+        if (view->above() == this) view->collectFocusable(found);
+    }
 }
-void UIView::touchEnded(const UITouch& touch) {
-    if (const Ref<UIView> above = superview()) above->touchEnded(touch);
-}
-void UIView::touchCancelled(const UITouch& touch) {
-    if (const Ref<UIView> above = superview()) above->touchCancelled(touch);
-}
-bool UIView::scrolled(const UIScroll& scroll) {
-    const Ref<UIView> above = superview();
-    return above && above->scrolled(scroll);
+
+void UIView::finishAnimationsInTree() {
+    const Ref<UIView> keep = refTo(this);
+    finishAnimations();
+    callOnSubviews([](UIView& view) { view.finishAnimationsInTree(); });
 }
 
 bool UIView::advanceToTime(NSTimeInterval) { return false; }
@@ -232,5 +232,24 @@ bool UIView::advanceToTime(NSTimeInterval) { return false; }
 // Accessibility
 
 UIAccessibilityElements UIView::accessibilityElements() { return accessibilityElementsOfSubviews(refTo(this)); }
+
+UIAccessibilityElements accessibilityElementsOfSubviews(const Ref<UIView>& view) {
+    UIAccessibilityElements elements;
+    if (!view) return elements;
+    const std::vector<Ref<UIView>> below = view->subviewsInReadingOrder();
+    for (const Ref<UIView>& subview : below) {
+        if (subview->isHidden() || subview->alpha() == 0 || CGRectIsEmpty(subview->frame())) continue;
+        const UIAccessibilityElements more = subview->accessibilityElements();
+        elements.insert(elements.end(), more.begin(), more.end());
+    }
+    return elements;
+}
+
+UIAccessibilityElements accessibilityElementAndSubviews(const Ref<UIView>& view, UIAccessibilityRole role) {
+    UIAccessibilityElements elements = wholeAccessibilityElement(view, role);
+    const UIAccessibilityElements below = accessibilityElementsOfSubviews(view);
+    elements.insert(elements.end(), below.begin(), below.end());
+    return elements;
+}
 
 } // namespace gx

@@ -2,14 +2,21 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
-#include "UIHost.h"
-#include "UIKey.h"
+#include "UIGraphicsContext.h"
 
 namespace gx {
 
+namespace {
+
+// Unlike any finger that a host counts.
+constexpr std::int64_t accessibilityFinger = std::numeric_limits<std::int64_t>::min();
+
+} // namespace
+
 UIWindow::~UIWindow() {
-    // Views that outlive the window learn that they have left it, and may settle.
+    // Views that outlive the window are notified that they have left it, and end their movements.
     while (!subviews().empty()) {
         const Ref<UIView> view = subviews().back();
         view->removeFromSuperview();
@@ -38,19 +45,20 @@ std::vector<UIWindow::Touch>::iterator UIWindow::findTouch(std::int64_t identifi
                         [identifier](const Touch& entry) { return entry.touch.identifier == identifier; });
 }
 
-NSTimeInterval UIWindow::heldTime(NSTimeInterval time) {
+NSTimeInterval UIWindow::finiteTime(NSTimeInterval time) {
     // A movement that began at no time would never end.
     if (std::isfinite(time)) latestTime_ = time;
     return latestTime_;
 }
 
-void UIWindow::cancelTouchesWithin(const Ref<UIView>& view) {
+void UIWindow::cancelTouchesWithin(const Ref<UIViewNode>& view) {
     const Ref<UIView> keep = refTo<UIView>(this);
-    const auto isWithin = [view](const Touch& entry) { // A copy: who hears of one may forget the view.
+    const auto isWithin = [view](const Touch& entry) { // A copy: a callback may clear the argument.
         const Ref<UIView> touched = entry.view.lock();
         return touched && touched->isDescendantOfView(view);
     };
-    // Who hears of one may change the list; each round takes one away, and nobody brings a finger down meanwhile for ever.
+    // Callbacks may modify touches_. The number of rounds is bounded, in case they bring fingers
+    // down again.
     for (std::size_t rounds = touches_.size(); rounds > 0; --rounds) {
         const auto entry = std::find_if(touches_.begin(), touches_.end(), isWithin);
         if (entry == touches_.end()) return;
@@ -60,10 +68,10 @@ void UIWindow::cancelTouchesWithin(const Ref<UIView>& view) {
 
 bool UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
-    time = heldTime(time);
+    time = finiteTime(time);
     touchCancelled_at_time(identifier, time);
     showFocus(false);
-    layoutIfNeeded(); // The finger aims at what the next frame would show.
+    layoutIfNeeded(); // The finger is meant for what the next frame would show.
     const UITouch touch = {identifier, time, location};
     const Ref<UIView> view = hitTest(location);
     if (!view) return false;
@@ -75,7 +83,7 @@ void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NST
     const auto entry = findTouch(identifier);
     if (entry == touches_.end()) return;
     entry->touch.locationInWindow = location;
-    entry->touch.timestamp = heldTime(time);
+    entry->touch.timestamp = finiteTime(time);
     const UITouch touch = entry->touch;
     if (const Ref<UIView> view = entry->view.lock()) view->touchMoved(touch);
 }
@@ -83,7 +91,7 @@ void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NST
 void UIWindow::touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
     const auto entry = findTouch(identifier);
     if (entry == touches_.end()) return;
-    const UITouch touch = {identifier, heldTime(time), location};
+    const UITouch touch = {identifier, finiteTime(time), location};
     const Ref<UIView> view = entry->view.lock();
     touches_.erase(entry);
     if (view) view->touchEnded(touch);
@@ -93,7 +101,7 @@ void UIWindow::touchCancelled_at_time(std::int64_t identifier, NSTimeInterval ti
     const auto entry = findTouch(identifier);
     if (entry == touches_.end()) return;
     UITouch touch = entry->touch;
-    touch.timestamp = heldTime(time);
+    touch.timestamp = finiteTime(time);
     const Ref<UIView> view = entry->view.lock();
     touches_.erase(entry);
     if (view) view->touchCancelled(touch);
@@ -104,7 +112,7 @@ bool UIWindow::scroll(const UIScroll& scroll) {
     layoutIfNeeded();
     const Ref<UIView> view = hitTest(scroll.locationInWindow);
     UIScroll timed = scroll;
-    timed.timestamp = heldTime(scroll.timestamp);
+    timed.timestamp = finiteTime(scroll.timestamp);
     return view && view->scrolled(timed);
 }
 
@@ -146,31 +154,33 @@ void UIWindow::setFirstResponder(const Ref<UIView>& view) {
     const Ref<UIView> before = firstResponder();
     if (view == before) return;
     const Ref<UIView> keep = refTo<UIView>(this);
-    const Ref<UIView> after = view; // The argument may be this window's own entry. NOLINT(performance-unnecessary-copy-initialization)
+    // The argument may be this window's own entry.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const Ref<UIView> after = view;
     firstResponder_ = after;
     if (before) before->focusDidChange();
     if (after && firstResponder() == after) after->focusDidChange();
 }
 
-void UIWindow::resignFirstResponderWithin(const Ref<UIView>& view) {
+void UIWindow::resignFirstResponderWithin(const Ref<UIViewNode>& view) {
     const Ref<UIView> first = firstResponder();
     if (first && first->isDescendantOfView(view)) setFirstResponder(nullptr);
 }
 
-void UIWindow::tellOfFocus() const {
+void UIWindow::notifyFocus() const {
     if (const Ref<UIView> first = firstResponder()) first->focusDidChange();
 }
 
 void UIWindow::showFocus(bool shows) {
     if (shows == isFocusShown_) return;
     isFocusShown_ = shows;
-    tellOfFocus();
+    notifyFocus();
 }
 
 void UIWindow::setReceivesKeys(bool receives) {
     if (receives == receivesKeys_) return;
     receivesKeys_ = receives;
-    tellOfFocus();
+    notifyFocus();
 }
 
 // Time
@@ -184,11 +194,12 @@ void UIWindow::finishAnimations() {
 }
 
 bool UIWindow::tick(NSTimeInterval time) {
-    if (isTicking_) return true; // A callback may not turn time within a turn.
+    if (isTicking_) return true; // A tick within a tick is a no-op.
     const Ref<UIView> keep = refTo<UIView>(this);
-    time = heldTime(time);
+    time = finiteTime(time);
     isTicking_ = true;
-    // Views may start or stop to move while others advance; those that start now join in the next frame.
+    // Views may start or stop moving while others advance; those that start now advance in the next
+    // frame.
     const std::size_t count = moving_.size();
     for (std::size_t i = 0; i < count; ++i) {
         const Ref<UIView> view = moving_[i].lock();
@@ -218,6 +229,19 @@ void UIWindow::animateView(const Ref<UIView>& view) {
     moving_.push_back(view);
     requestFrame();
 }
+
+bool UIWindow::isFocusedOn(const UIViewNode& view) const { return firstResponder().get() == &view; }
+
+void UIWindow::moveFocusTo(const Ref<UIViewNode>& view) { setFirstResponder(std::static_pointer_cast<UIView>(view)); }
+
+void UIWindow::tapView_atPoint_time(const Ref<UIViewNode>& view, CGPoint point, NSTimeInterval time) {
+    const Ref<UIView> pressed = hitTest(point);
+    if (!pressed || !pressed->isDescendantOfView(view)) return;
+    touchBegan_at_time(accessibilityFinger, point, time);
+    touchEnded_at_time(accessibilityFinger, point, time);
+}
+
+Ref<UIWindow> windowOf(const UIViewNode& view) { return std::static_pointer_cast<UIWindow>(view.viewRoot()); }
 
 void UIWindow::giveFeedback(UIFeedback feedback) {
     if (host_ && isFeedbackEnabled_) host_->giveFeedback(feedback);

@@ -28,12 +28,12 @@ struct Placed : UIView {
     }
 };
 
-struct Constraints : testing::Test {
+struct NSLayoutConstraintTest : testing::Test {
     Ref<UIView> holder = create<UIView>(CGRectMake(0, 0, 200, 100));
     Ref<Placed> view = create<Placed>(CGRectMake(1, 2, 30, 40));
     NSLayoutConstraint::Metrics metrics = {{"gap", 12.5}, {"gap_2", 3}, {"inset", -4}};
 
-    Constraints() { holder->addSubview(view); }
+    NSLayoutConstraintTest() { holder->addSubview(view); }
 
     std::vector<Ref<NSLayoutConstraint>> constraints(const std::string& format) const {
         return NSLayoutConstraint::constraintsWithVisualFormat_options_metrics_views(format, 0, metrics,
@@ -55,7 +55,7 @@ struct Constraints : testing::Test {
 
 // Formats
 
-TEST_F(Constraints, AFormatPinsTheSidesThatItNames) {
+TEST_F(NSLayoutConstraintTest, AFormatPinsTheSidesThatItNames) {
     EXPECT_EQ(pins("H:|[view]|"), (std::vector<Pin>{{left, 0}, {right, 0}}));
     EXPECT_EQ(pins("V:|[view]|"), (std::vector<Pin>{{top, 0}, {bottom, 0}}));
     EXPECT_EQ(pins("H:|[view]"), (std::vector<Pin>{{left, 0}}));
@@ -63,26 +63,28 @@ TEST_F(Constraints, AFormatPinsTheSidesThatItNames) {
     EXPECT_EQ(pins("H:[view]"), std::vector<Pin>{});
 }
 
-TEST_F(Constraints, AFormatWithoutADirectionIsHorizontal) { EXPECT_EQ(pins("|[view]|"), (std::vector<Pin>{{left, 0}, {right, 0}})); }
+TEST_F(NSLayoutConstraintTest, AFormatWithoutADirectionIsHorizontal) {
+    EXPECT_EQ(pins("|[view]|"), (std::vector<Pin>{{left, 0}, {right, 0}}));
+}
 
-TEST_F(Constraints, ADashAloneIsTheStandardDistance) {
+TEST_F(NSLayoutConstraintTest, ADashAloneIsTheStandardDistance) {
     EXPECT_EQ(pins("H:|-[view]-|"), (std::vector<Pin>{{left, 8}, {right, 8}}));
     EXPECT_EQ(pins("V:|-[view]|"), (std::vector<Pin>{{top, 8}, {bottom, 0}}));
 }
 
-TEST_F(Constraints, DistancesAreNumbersWithOrWithoutBrackets) {
+TEST_F(NSLayoutConstraintTest, DistancesAreNumbersWithOrWithoutBrackets) {
     EXPECT_EQ(pins("H:|-5-[view]-(12)-|"), (std::vector<Pin>{{left, 5}, {right, 12}}));
     EXPECT_EQ(pins("V:|-(0)-[view]-2.25-|"), (std::vector<Pin>{{top, 0}, {bottom, 2.25}}));
     EXPECT_EQ(pins("H:|-0.1-[view]"), (std::vector<Pin>{{left, 0.1}}));
     EXPECT_EQ(pins("H:|-999999999-[view]"), (std::vector<Pin>{{left, 999999999}}));
 }
 
-TEST_F(Constraints, DistancesMayBeNamesOfMetrics) {
+TEST_F(NSLayoutConstraintTest, DistancesMayBeNamesOfMetrics) {
     EXPECT_EQ(pins("H:|-gap-[view]-(gap_2)-|"), (std::vector<Pin>{{left, 12.5}, {right, 3}}));
     EXPECT_EQ(pins("H:|-inset-[view]"), (std::vector<Pin>{{left, -4}})) << "outside the holder";
 }
 
-TEST_F(Constraints, AConstraintNamesItsViewAndHoldsItWeakly) {
+TEST_F(NSLayoutConstraintTest, AConstraintNamesItsViewAndHoldsItWeakly) {
     auto made = constraints("H:|[view]");
     ASSERT_EQ(made.size(), 1U);
     EXPECT_EQ(made[0]->firstItem(), view);
@@ -91,7 +93,7 @@ TEST_F(Constraints, AConstraintNamesItsViewAndHoldsItWeakly) {
     EXPECT_FALSE(made[0]->firstItem());
 }
 
-TEST_F(Constraints, AnyOtherFormatGivesNoConstraints) {
+TEST_F(NSLayoutConstraintTest, AnyOtherFormatGivesNoConstraints) {
     for (const char* format : {"",
                                "|",
                                "H:",
@@ -100,6 +102,13 @@ TEST_F(Constraints, AnyOtherFormatGivesNoConstraints) {
                                "H:|view|",
                                "H:|[view",
                                "H:|view]|",
+                               "H:view]",
+                               "H:view]|",
+                               "V:view]-|",
+                               "view]|",
+                               "H:|-view]|",
+                               "H:|-5-view]|",
+                               "H:[view]-5|",
                                "H:|[]|",
                                "H:|[view]||",
                                "H:|[view]| ",
@@ -136,30 +145,30 @@ TEST_F(Constraints, AnyOtherFormatGivesNoConstraints) {
 
 // Placing
 
-TEST_F(Constraints, TwoOppositePinsGivePlaceAndSize) {
+TEST_F(NSLayoutConstraintTest, TwoOppositePinsGivePlaceAndSize) {
     EXPECT_EQ(frameAfter({"H:|-10-[view]-20-|", "V:|[view]|"}), CGRectMake(10, 0, 170, 100));
 }
 
-TEST_F(Constraints, OnePinMovesTheViewAndKeepsItsSize) {
+TEST_F(NSLayoutConstraintTest, OnePinMovesTheViewAndKeepsItsSize) {
     EXPECT_EQ(frameAfter({"H:[view]-20-|", "V:|-5-[view]"}), CGRectMake(150, 5, 30, 40));
 }
 
-TEST_F(Constraints, ADirectionWithoutPinsIsLeftAlone) { EXPECT_EQ(frameAfter({"H:|[view]|"}), CGRectMake(0, 2, 200, 40)); }
+TEST_F(NSLayoutConstraintTest, ADirectionWithoutPinsIsLeftAlone) { EXPECT_EQ(frameAfter({"H:|[view]|"}), CGRectMake(0, 2, 200, 40)); }
 
-TEST_F(Constraints, ALaterPinOfTheSameEdgeWins) {
+TEST_F(NSLayoutConstraintTest, ALaterPinOfTheSameEdgeWins) {
     EXPECT_EQ(frameAfter({"H:|-10-[view]-10-|", "H:|-30-[view]"}), CGRectMake(30, 2, 160, 40));
 }
 
-TEST_F(Constraints, PinsFurtherApartThanTheHolderGiveNoNegativeSize) {
+TEST_F(NSLayoutConstraintTest, PinsFurtherApartThanTheHolderGiveNoNegativeSize) {
     EXPECT_EQ(frameAfter({"H:|-150-[view]-150-|"}), CGRectMake(150, 2, 0, 40));
 }
 
-TEST_F(Constraints, AViewWithoutAPlaceIsPlacedByItsPins) {
+TEST_F(NSLayoutConstraintTest, AViewWithoutAPlaceIsPlacedByItsPins) {
     view->setFrame(CGRectNull);
     EXPECT_EQ(frameAfter({"H:|[view]|", "V:|[view]|"}), CGRectMake(0, 0, 200, 100));
 }
 
-TEST_F(Constraints, PinsFollowTheSizeAndTheOriginOfTheHoldersBounds) {
+TEST_F(NSLayoutConstraintTest, PinsFollowTheSizeAndTheOriginOfTheHoldersBounds) {
     EXPECT_EQ(frameAfter({"H:|[view]|", "V:[view]-10-|"}), CGRectMake(0, 50, 200, 40));
     holder->setFrame(CGRectMake(0, 0, 300, 200));
     holder->layoutIfNeeded();
@@ -169,13 +178,13 @@ TEST_F(Constraints, PinsFollowTheSizeAndTheOriginOfTheHoldersBounds) {
     EXPECT_EQ(view->frame(), CGRectMake(7, 59, 100, 40));
 }
 
-TEST_F(Constraints, AllPinsOfAViewPlaceItOnceThroughItsSetFrame) {
+TEST_F(NSLayoutConstraintTest, AllPinsOfAViewPlaceItOnceThroughItsSetFrame) {
     view->frames = 0;
     frameAfter({"H:|[view]|", "V:|[view]|"});
     EXPECT_EQ(view->frames, 1);
 }
 
-TEST_F(Constraints, AddingConstraintsMakesALayoutDueAndSkipsEmptyOnes) {
+TEST_F(NSLayoutConstraintTest, AddingConstraintsInvalidatesTheLayoutAndSkipsEmptyOnes) {
     holder->layoutIfNeeded();
     auto made = constraints("H:|[view]|");
     made.insert(made.begin(), nullptr);
@@ -186,12 +195,12 @@ TEST_F(Constraints, AddingConstraintsMakesALayoutDueAndSkipsEmptyOnes) {
     EXPECT_EQ(view->frame(), CGRectMake(0, 2, 200, 40));
 }
 
-TEST_F(Constraints, ConstraintsMoveAViewWhateverItsMaskSays) {
+TEST_F(NSLayoutConstraintTest, ConstraintsMoveAViewWhateverItsMaskSays) {
     view->setTranslatesAutoresizingMaskIntoConstraints(true);
     EXPECT_EQ(frameAfter({"H:|[view]|"}), CGRectMake(0, 2, 200, 40));
 }
 
-TEST_F(Constraints, ARemovedViewTakesItsConstraintsWithIt) {
+TEST_F(NSLayoutConstraintTest, ARemovedViewTakesItsConstraintsWithIt) {
     const auto other = create<UIView>();
     holder->addSubview(other);
     holder->addConstraints(constraints("H:|[view]|"));
@@ -204,7 +213,7 @@ TEST_F(Constraints, ARemovedViewTakesItsConstraintsWithIt) {
     EXPECT_EQ(view->frame(), CGRectMake(1, 2, 30, 40));
 }
 
-TEST_F(Constraints, AConstraintOnAViewThatIsGoneMovesNothing) {
+TEST_F(NSLayoutConstraintTest, AConstraintOnAViewThatIsGoneMovesNothing) {
     auto stranger = create<UIView>(CGRectMake(0, 0, 50, 50));
     holder->addConstraints(
         NSLayoutConstraint::constraintsWithVisualFormat_options_metrics_views("H:|[view]|", 0, {}, {{"view", stranger}}));
@@ -213,14 +222,14 @@ TEST_F(Constraints, AConstraintOnAViewThatIsGoneMovesNothing) {
     EXPECT_EQ(frameAfter({"H:|-5-[view]"}), CGRectMake(5, 2, 30, 40));
 }
 
-TEST_F(Constraints, AConstraintOnAViewFurtherDownMovesNothing) {
+TEST_F(NSLayoutConstraintTest, AConstraintOnAViewFurtherDownMovesNothing) {
     const auto middle = create<UIView>(CGRectMake(0, 0, 50, 50));
     holder->addSubview(middle);
     middle->addSubview(view);
     EXPECT_EQ(frameAfter({"H:|[view]|"}), CGRectMake(1, 2, 30, 40));
 }
 
-TEST_F(Constraints, AViewThatLeavesWhenItIsPlacedLeavesTheOthersTheirPlaces) {
+TEST_F(NSLayoutConstraintTest, AViewThatLeavesWhenItIsPlacedLeavesTheOthersTheirPlaces) {
     const auto other = create<UIView>();
     holder->addSubview(other);
     holder->addConstraints(constraints("H:|[view]|"));

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "NSObject.h"
+#include "UIKey.h"
+#include "UITouch.h"
+
+namespace gx {
+
+/// Takes touches, scrolling and keys. The base of all views.
+///
+/// Events go along a chain of responders: what one does not override goes on to its
+/// `nextResponder`, for a view its superview. An override that leaves an event alone calls the
+/// superclass's.
+class UIResponder : public NSObject {
+public:
+    /// Who gets the events that this one leaves alone. Here nobody.
+    virtual Ref<UIResponder> nextResponder() const;
+
+    // Touches
+
+    /// Sent to the topmost view below the finger; here handed on. Returns whether a view took the
+    /// touch.
+    ///
+    /// The view that it began on gets the rest of the touch either way. What a touch that nobody
+    /// took does is the host's.
+    virtual bool touchBegan(const UITouch& touch);
+    /// Sent to the view that the touch began on; here handed on, as are the next two.
+    virtual void touchMoved(const UITouch& touch);
+    virtual void touchEnded(const UITouch& touch);
+    virtual void touchCancelled(const UITouch& touch);
+
+    /// Sent to the topmost view below the pointer; here handed on. Returns whether a view used it.
+    virtual bool scrolled(const UIScroll& scroll);
+
+    // Keys
+
+    /// Sent to the first responder; here handed on. Returns whether a view used the key.
+    virtual bool keyPressed(const UIKey& key);
+    /// Whether it takes the focus when Tab comes to it. Here false.
+    virtual bool canBecomeFirstResponder();
+    /// Called after it got the focus or lost it, and when the mark of its focus appears or goes
+    /// (`UIWindow::showsFocus`). Here nothing happens; a view is drawn again.
+    virtual void focusDidChange();
+};
+
+} // namespace gx

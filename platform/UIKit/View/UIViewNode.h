@@ -1,0 +1,213 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "CGGeometry.h"
+#include "NSCoder.h"
+#include "UIColor.h"
+#include "UIResponder.h"
+
+namespace gx {
+
+class UIViewNode;
+
+/// What a view asks of the window at the top of its tree. `UIWindow` alone implements it.
+class UIViewRoot {
+public:
+    /// Something has changed on screen: a frame is needed.
+    virtual void requestFrame() = 0;
+    /// Takes the fingers from the view and from those below it, as if the system had.
+    virtual void cancelTouchesWithin(const Ref<UIViewNode>& view) = 0;
+    /// Takes the focus from the view and from those below it.
+    virtual void resignFirstResponderWithin(const Ref<UIViewNode>& view) = 0;
+    virtual bool isFocusedOn(const UIViewNode& view) const = 0;
+    /// Gives the focus to a view, or to nobody.
+    virtual void moveFocusTo(const Ref<UIViewNode>& view) = 0;
+    /// A tap at a point of the window, if what lies topmost there is the view or one below it.
+    virtual void tapView_atPoint_time(const Ref<UIViewNode>& view, CGPoint point, NSTimeInterval time) = 0;
+
+protected:
+    ~UIViewRoot() = default;
+};
+
+/// One view without its subviews: its place, its looks, and what it has from the views above it.
+///
+/// Everything here looks upward only: coordinates, visibility, tint, input, focus. `UIView` adds
+/// the subviews and is what applications derive from.
+///
+/// Invariant: the size of `bounds` is always the size of `frame`.
+class UIViewNode : public UIResponder {
+public:
+    /// The zero rectangle as frame.
+    bool init() override;
+    virtual bool initWithFrame(CGRect frame);
+    /// Restores what the coder has; an empty coder gives the defaults.
+    ///
+    /// - "frame", "bounds" (its size counts only without a frame)
+    /// - "hidden", "alpha", "userInteractionEnabled", "clipsToBounds", "tag"
+    /// - "backgroundColor" and "tintColor", as 0xRRGGBB
+    virtual bool initWithCoder(const Ref<NSCoder>& coder);
+    /// To be called on every view of an interface file once all are connected; `create` does not
+    /// call it.
+    virtual void awakeFromNib();
+
+    // Geometry
+
+    /// The view's rectangle in its superview's coordinates.
+    CGRect frame() const { return frame_; }
+    /// A new size invalidates the layout. The null rectangle is kept as it is and gives empty
+    /// bounds.
+    virtual void setFrame(CGRect frame);
+    /// The view's rectangle in its own coordinates; its origin says which point lies at the top
+    /// left.
+    CGRect bounds() const;
+    /// A new size keeps the centre of the frame where it is.
+    virtual void setBounds(CGRect bounds);
+    CGPoint center() const;
+    /// Moves the view, through `setFrame`.
+    void setCenter(CGPoint center);
+
+    /// Conversions go by way of the nearest common view; roots of separate trees count as one
+    /// place. From and to an absent view, a rectangle is the zero rectangle and a point (0, 0).
+    CGRect convertRect_fromView(CGRect rect, const Ref<UIViewNode>& view) const;
+    CGRect convertRect_toView(CGRect rect, const Ref<UIViewNode>& view) const;
+    CGPoint convertPoint_fromView(CGPoint point, const Ref<UIViewNode>& view) const;
+    CGPoint convertPoint_toView(CGPoint point, const Ref<UIViewNode>& view) const;
+    /// From the coordinates of the window, or of the topmost view if there is none.
+    CGPoint convertPointFromWindow(CGPoint point) const;
+
+    // Views above
+
+    /// True for the view itself and for every view above it.
+    bool isDescendantOfView(const Ref<UIViewNode>& view) const;
+    /// The window at the top of the tree, as views know it. Empty without one.
+    Ref<UIViewRoot> viewRoot() const;
+    /// The window at the top of the tree, a `Ref<UIWindow>`. Empty without one. Include UIWindow.h
+    /// to call it.
+    template <class Node = UIViewNode>
+    auto window() const {
+        return windowOf(static_cast<const Node&>(*this));
+    }
+    /// Whether neither this view nor one above it is hidden or fully transparent.
+    bool isShown() const;
+    /// Whether this view and all above it take touches, shown or not.
+    bool isInteractive() const;
+    /// What the views above that clip leave of a rectangle of the window's coordinates.
+    CGRect clippedByViewsAbove(CGRect rectInWindow) const;
+
+    // Appearance
+
+    std::optional<UIColor> backgroundColor() const { return backgroundColor_; }
+    void setBackgroundColor(std::optional<UIColor> color);
+    /// Clamped to 0 … 1.
+    double alpha() const { return alpha_; }
+    void setAlpha(double alpha);
+    bool isHidden() const { return isHidden_; }
+    /// Hiding takes the focus from the view and those below, and calls `finishAnimationsInTree`.
+    virtual void setHidden(bool hidden);
+    bool clipsToBounds() const { return clipsToBounds_; }
+    void setClipsToBounds(bool clips);
+    /// The corners of the background, in points.
+    CGFloat cornerRadius() const { return cornerRadius_; }
+    void setCornerRadius(CGFloat radius);
+    /// The view's own tint, or that of the nearest view above with one, or the system's blue.
+    UIColor tintColor() const;
+    /// Nothing inherits the superview's again.
+    void setTintColor(std::optional<UIColor> color);
+    /// Called when the tint in force has changed, here or above.
+    virtual void tintColorDidChange();
+    NSInteger tag() const { return tag_; }
+    void setTag(NSInteger tag) { tag_ = tag; }
+    /// Requests a new frame from the window's host.
+    void setNeedsDisplay();
+
+    // Input and focus
+
+    Ref<UIResponder> nextResponder() const override;
+    bool isUserInteractionEnabled() const { return isInteractive_; }
+    void setUserInteractionEnabled(bool enabled) { isInteractive_ = enabled; }
+    /// Whether neither this view nor one above it is hidden, nearly transparent or disabled.
+    bool takesInput() const;
+
+    /// Takes the focus: keys go here until another view takes it.
+    ///
+    /// Returns false, and changes nothing, for a view in no window, out of sight, without input
+    /// (also by a view above), or that cannot become first responder.
+    bool becomeFirstResponder();
+    /// Gives the focus up, to nobody. Returns false for a view that does not have it.
+    bool resignFirstResponder();
+    bool isFirstResponder() const;
+    /// Here the view is drawn again.
+    void focusDidChange() override;
+    /// Asks for a rectangle of this view's coordinates to come into sight, as for the view that Tab
+    /// goes to.
+    ///
+    /// Here it is handed to the superview; a view that scrolls brings it into its own bounds first.
+    virtual void revealDescendant(CGRect rect);
+
+    // Time
+
+    /// Ends the view's own movements at once: what moves arrives, and a user's spin is reported.
+    /// Here nothing moves.
+    ///
+    /// Called on the view and all views below when nobody sees them any more: the view, or one
+    /// above it, was hidden, or the window's `finishAnimations` was called. May be called at any
+    /// time.
+    virtual void finishAnimations();
+    /// Calls `finishAnimations` on this view and on those below it.
+    virtual void finishAnimationsInTree();
+
+    // Accessibility
+
+    /// What a screen reader calls the view: the label that was set or, without one, what the view
+    /// itself knows to say. Here nothing.
+    virtual std::optional<std::string> accessibilityLabel() const { return accessibilityLabel_; }
+    /// Nothing leaves it to the view again.
+    void setAccessibilityLabel(std::optional<std::string> label) { accessibilityLabel_ = std::move(label); }
+
+protected:
+    UIViewNode* nodeAbove() const { return above_; }
+    void setNodeAbove(UIViewNode* above) { above_ = above; }
+    bool contains(const UIViewNode& view) const;
+    bool hasOwnTint() const { return tintColor_.has_value(); }
+    /// `takesInput` without the views above.
+    bool takesInputItself() const;
+
+    /// As `viewRoot`, without keeping it alive; also while the window is torn down.
+    UIViewRoot* rawViewRoot() const;
+    /// A window returns itself.
+    virtual UIViewRoot* asViewRoot() { return nullptr; }
+    /// Called after the size of the bounds has changed.
+    virtual void boundsSizeDidChange() = 0;
+    /// Tells this view of another tint in force, and those below that inherit it.
+    virtual void notifyTint();
+
+private:
+    /// Views below this alpha get no input. The phone's platform prescribes it.
+    static constexpr double lowestTouchableAlpha = 0.01;
+
+    UIViewNode* top() const;
+    CGPoint originIn(const UIViewNode* above) const;
+    CGPoint originSeenFrom(const UIViewNode& view) const;
+
+    CGRect frame_;
+    CGPoint boundsOrigin_;
+    UIViewNode* above_ = nullptr; // Cleared by the superview before it goes.
+    std::optional<UIColor> backgroundColor_;
+    std::optional<UIColor> tintColor_;
+    std::optional<std::string> accessibilityLabel_;
+    double alpha_ = 1;
+    CGFloat cornerRadius_ = 0;
+    NSInteger tag_ = 0;
+    bool isHidden_ = false;
+    bool clipsToBounds_ = false;
+    bool isInteractive_ = true;
+};
+
+/// How `create` makes a view: `(frame)` and `(coder)`.
+inline bool initialise(UIViewNode& view, CGRect frame) { return view.initWithFrame(frame); }
+inline bool initialise(UIViewNode& view, const Ref<NSCoder>& coder) { return view.initWithCoder(coder); }
+
+} // namespace gx
