@@ -11,9 +11,10 @@ const Ref<UIFont>& defaultFont() {
     static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(UIFont::labelFontSize);
     return font;
 }
+bool startsCodePoint(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 constexpr std::string_view ellipsis = "\u2026";
 
-/// Which share of the room that is left lies before the text.
+/// Which share of the free room lies before the text.
 CGFloat shareBeforeText(NSTextAlignment alignment) {
     switch (alignment) {
     case NSTextAlignmentLeft:
@@ -91,9 +92,9 @@ void UILabel::setTextAlignment(NSTextAlignment alignment) {
     setNeedsDisplay();
 }
 
-const UIFont& UILabel::drawnFont() const {
-    if (attributedText_ && attributedText_->attributes().font) return *attributedText_->attributes().font;
-    return font_ ? *font_ : *defaultFont();
+Ref<UIFont> UILabel::drawnFont() const {
+    if (attributedText_ && attributedText_->attributes().font) return attributedText_->attributes().font;
+    return font_ ? font_ : defaultFont();
 }
 
 const UIColor& UILabel::drawnColor() const {
@@ -103,26 +104,41 @@ const UIColor& UILabel::drawnColor() const {
 
 CGSize UILabel::sizeThatFits(CGSize) const {
     if (!text_) return {};
-    return UITextEngine::shared()->sizeOfText_font(*text_, drawnFont());
+    return UITextEngine::shared()->sizeOfText_font(*text_, *drawnFont());
 }
 
 void UILabel::fitText(CGFloat width) const {
     if (isFitted_ && width == fittedWidth_) return;
     isFitted_ = true;
     fittedWidth_ = width;
-    fittedText_ = text_.value_or("");
-    UITextEngine& engine = *UITextEngine::shared();
-    fittedSize_ = engine.sizeOfText_font(fittedText_, drawnFont());
-    // A hair more than the bounds is no reason to cut: it comes from adding up fractions.
-    constexpr CGFloat tolerance = 0.01;
-    std::size_t length = fittedText_.size();
-    while (fittedSize_.width > width + tolerance && length > 0) {
-        do --length;
-        while (length > 0 && (static_cast<unsigned char>((*text_)[length]) & 0xC0U) == 0x80U);
-        fittedText_.assign(*text_, 0, length);
-        fittedText_ += ellipsis;
-        fittedSize_ = engine.sizeOfText_font(fittedText_, drawnFont());
+    const std::string text = text_.value_or("");
+    const Ref<UIFont> font = drawnFont();
+    const Ref<UITextEngine> engine = UITextEngine::shared();
+    const auto fits = [&](std::size_t length, std::string_view ending) {
+        // Chosen: so little too much comes from adding up fractions, and is no reason to cut.
+        constexpr CGFloat tolerance = 0.01;
+        fittedText_.assign(text, 0, length);
+        fittedText_ += ending;
+        fittedSize_ = engine->sizeOfText_font(fittedText_, *font);
+        return !(fittedSize_.width > width + tolerance);
+    };
+    if (fits(text.size(), "") || text.empty()) return;
+
+    // The longest beginning that fits, found by halving, cut between code points. The ellipsis
+    // alone is shown whether it fits or not.
+    std::size_t fitting = 0;
+    std::size_t tooLong = text.size();
+    std::size_t measured = tooLong;
+    for (;;) {
+        std::size_t middle = fitting + (tooLong - fitting) / 2;
+        while (middle > fitting && !startsCodePoint(text[middle])) --middle;
+        if (middle == fitting) ++middle;
+        while (middle < tooLong && !startsCodePoint(text[middle])) ++middle;
+        if (middle >= tooLong) break;
+        (fits(middle, ellipsis) ? fitting : tooLong) = middle;
+        measured = middle;
     }
+    if (measured != fitting) fits(fitting, ellipsis);
 }
 
 void UILabel::drawRect(UIGraphicsContext& context, CGRect rect) {
@@ -131,7 +147,7 @@ void UILabel::drawRect(UIGraphicsContext& context, CGRect rect) {
     const CGFloat room = rect.size.width - fittedSize_.width;
     const CGPoint origin = {rect.origin.x + room * shareBeforeText(alignment_),
                             rect.origin.y + 0.5 * (rect.size.height - fittedSize_.height)};
-    context.drawText(fittedText_, drawnFont(), drawnColor(), origin);
+    context.drawText(fittedText_, *drawnFont(), drawnColor(), origin);
 }
 
 // Accessibility

@@ -12,11 +12,15 @@ enum NSTextAlignment {
     NSTextAlignmentLeft = 0,
     NSTextAlignmentCenter = 1,
     NSTextAlignmentRight = 2,
-    NSTextAlignmentNatural = 4 ///< where lines begin in the current locale, asked for when it is drawn
+    NSTextAlignmentNatural = 4 ///< where lines begin in the current locale at the time of drawing
 };
 
-/// One line of text, aligned in its bounds and centred on their height. A text that is too long ends in "…".
-/// Takes no touches.
+/// One line of text, aligned in its bounds and centred on their height.
+///
+/// A text that is too long ends in "…". Takes no touches; for a text to tap, put a label into a
+/// view of your own.
+///
+/// Invariant: setting a plain text drops the attributed one, and the other way round.
 class UILabel : public UIView {
 public:
     bool initWithFrame(CGRect frame) override;
@@ -28,7 +32,7 @@ public:
     void setText(std::optional<std::string> text);
     /// The text with the attributes that it was given; nothing if it was set as plain text.
     const Ref<NSAttributedString>& attributedText() const { return attributedText_; }
-    /// Its attributes go before the label's own font and colour.
+    /// Its attributes override the label's own font and colour.
     void setAttributedText(Ref<NSAttributedString> text);
 
     /// Never empty.
@@ -56,7 +60,7 @@ protected:
 
 private:
     void initLabel();
-    const UIFont& drawnFont() const;
+    Ref<UIFont> drawnFont() const;
     const UIColor& drawnColor() const;
     void fitText(CGFloat width) const;
 

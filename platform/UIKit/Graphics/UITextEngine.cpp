@@ -11,7 +11,7 @@ Ref<UITextEngine>& sharedEngine() {
 }
 } // namespace
 
-const Ref<UITextEngine>& UITextEngine::shared() { return sharedEngine(); }
+Ref<UITextEngine> UITextEngine::shared() { return sharedEngine(); }
 
 void UITextEngine::setShared(Ref<UITextEngine> engine) { sharedEngine() = engine ? std::move(engine) : create<UIFixedWidthTextEngine>(); }
 

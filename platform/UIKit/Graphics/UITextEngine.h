@@ -8,22 +8,24 @@
 
 namespace gx {
 
-/// Measures text, on behalf of everything that has to place it. A host replaces the shared one by an engine
-/// that knows its fonts; without a host the fixed-width engine answers.
+/// Measures text, on behalf of everything that has to place it.
+///
+/// A host replaces the shared one by an engine that knows its fonts; without a host it is a
+/// fixed-width engine. To measure one text use `sizeWithAttributes`.
 class UITextEngine : public NSObject {
 public:
-    /// Never empty.
-    static const Ref<UITextEngine>& shared();
-    /// Takes effect for what measures afterwards. An empty reference restores the fixed-width engine.
+    /// Never empty. The reference keeps the engine alive when it is replaced while it measures.
+    static Ref<UITextEngine> shared();
+    /// For everything that measures afterwards. An empty reference restores the fixed-width engine.
     static void setShared(Ref<UITextEngine> engine);
 
-    /// The size of one line of UTF-8 text: its advance width and the line height of the font. Empty text has
-    /// no width and a full line height.
+    /// The size of one line of UTF-8 text: its advance width and the line height of the font. Empty
+    /// text has no width and a full line height.
     virtual CGSize sizeOfText_font(std::string_view text, const UIFont& font) = 0;
 };
 
-/// Gives every code point the same width and every line the same height, whatever the font: 10 and 20 points
-/// unless set otherwise. What tests measure with.
+/// Gives every code point the same width and every line the same height, whatever the font. For
+/// tests, and where there is no host.
 class UIFixedWidthTextEngine : public UITextEngine {
 public:
     CGSize sizeOfText_font(std::string_view text, const UIFont& font) override;
@@ -34,6 +36,7 @@ public:
     void setLineHeight(CGFloat height) { lineHeight_ = height; }
 
 private:
+    // Chosen for tests: round numbers that are easy to add up.
     CGFloat codePointWidth_ = 10;
     CGFloat lineHeight_ = 20;
 };

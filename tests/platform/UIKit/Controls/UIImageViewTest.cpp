@@ -13,7 +13,7 @@ namespace {
 /// 8 by 4 pixels at scale 2: 4 by 2 points.
 Ref<UIImage> wideImage() { return UIImage::imageWithPixels_width_height_scale(std::vector<std::uint8_t>(128, 0), 8, 4, 2); }
 
-struct ImageView : testing::Test {
+struct UIImageViewTest : testing::Test {
     Ref<UIImageView> view = create<UIImageView>(CGRectMake(10, 20, 40, 40));
     RecordingCanvas canvas;
 
@@ -28,20 +28,20 @@ struct ImageView : testing::Test {
 
 } // namespace
 
-TEST_F(ImageView, WithoutAnImageItShowsNothing) {
+TEST_F(UIImageViewTest, WithoutAnImageItShowsNothing) {
     EXPECT_FALSE(view->showsSomething());
     EXPECT_EQ(drawn(UIViewContentModeScaleToFill), Calls{});
     EXPECT_EQ(view->sizeThatFits({100, 100}), CGSizeMake(0, 0));
     EXPECT_EQ(view->accessibilityLabel(), std::nullopt);
 }
 
-TEST_F(ImageView, ItTakesNoTouches) {
+TEST_F(UIImageViewTest, ItTakesNoTouches) {
     EXPECT_FALSE(view->isUserInteractionEnabled());
     EXPECT_FALSE(create<UIImageView>(create<NSCoder>())->isUserInteractionEnabled());
     EXPECT_FALSE(create<UIImageView>()->isUserInteractionEnabled());
 }
 
-TEST_F(ImageView, ItFitsItsImageInPoints) {
+TEST_F(UIImageViewTest, ItFitsItsImageInPoints) {
     view->setImage(wideImage());
     EXPECT_TRUE(view->showsSomething());
     EXPECT_EQ(view->sizeThatFits({}), CGSizeMake(4, 2));
@@ -49,7 +49,7 @@ TEST_F(ImageView, ItFitsItsImageInPoints) {
     EXPECT_EQ(view->frame(), CGRectMake(10, 20, 4, 2));
 }
 
-TEST_F(ImageView, TheContentModeSaysWhereTheImageLies) {
+TEST_F(UIImageViewTest, TheContentModeSaysWhereTheImageLies) {
     view->setImage(wideImage());
     EXPECT_EQ(view->contentMode(), UIViewContentModeScaleToFill);
     EXPECT_EQ(drawn(UIViewContentModeScaleToFill), Calls{"image 8 by 4 in 0 0 40 40"});
@@ -59,25 +59,25 @@ TEST_F(ImageView, TheContentModeSaysWhereTheImageLies) {
     EXPECT_EQ(drawn(UIViewContentModeCenter), Calls{"image 8 by 4 in 18 19 4 2"});
 }
 
-TEST_F(ImageView, AnImageIsPlacedInBoundsThatAreScrolled) {
+TEST_F(UIImageViewTest, AnImageIsPlacedInBoundsThatAreScrolled) {
     view->setImage(wideImage());
     view->setBounds(CGRectMake(100, 0, 40, 40));
     EXPECT_EQ(drawn(UIViewContentModeCenter), Calls{"image 8 by 4 in 118 19 4 2"});
 }
 
-TEST_F(ImageView, AnImageLargerThanTheBoundsIsCentredOnThem) {
+TEST_F(UIImageViewTest, AnImageLargerThanTheBoundsIsCentredOnThem) {
     view->setFrame(CGRectMake(0, 0, 2, 1));
     view->setImage(wideImage());
     EXPECT_EQ(drawn(UIViewContentModeCenter), Calls{"image 8 by 4 in -1 -0.5 4 2"});
 }
 
-TEST_F(ImageView, EmptyBoundsShowNoImage) {
+TEST_F(UIImageViewTest, EmptyBoundsShowNoImage) {
     view->setImage(wideImage());
     view->setFrame(CGRectNull);
     EXPECT_EQ(drawn(UIViewContentModeCenter), Calls{});
 }
 
-TEST_F(ImageView, AnotherImageOrModeAsksForAFrameAndTheSameDoesNot) {
+TEST_F(UIImageViewTest, AnotherImageOrModeRequestsAFrameAndTheSameDoesNot) {
     const auto window = create<UIWindow>(CGRectMake(0, 0, 100, 100));
     window->addSubview(view);
     window->tick(0);
@@ -94,7 +94,7 @@ TEST_F(ImageView, AnotherImageOrModeAsksForAFrameAndTheSameDoesNot) {
     EXPECT_TRUE(window->tick(5));
 }
 
-TEST_F(ImageView, ItRestoresItsContentMode) {
+TEST_F(UIImageViewTest, ItRestoresItsContentMode) {
     const auto restored = [](NSInteger mode) {
         const auto coder = create<NSCoder>();
         coder->encodeInteger_forKey(mode, "contentMode");

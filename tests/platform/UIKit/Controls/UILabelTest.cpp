@@ -20,16 +20,16 @@ struct CountingEngine : UIFixedWidthTextEngine {
     }
 };
 
-struct Label : testing::Test {
+struct UILabelTest : testing::Test {
     Ref<CountingEngine> engine = create<CountingEngine>();
     Ref<UILabel> label = create<UILabel>(CGRectMake(5, 6, 100, 40));
     RecordingCanvas canvas;
 
-    Label() {
+    UILabelTest() {
         UITextEngine::setShared(engine);
         label->setTextColor(UIColor::blackColor());
     }
-    ~Label() override { UITextEngine::setShared(nullptr); }
+    ~UILabelTest() override { UITextEngine::setShared(nullptr); }
 
     Calls drawn() {
         canvas.calls.clear();
@@ -45,7 +45,7 @@ struct Label : testing::Test {
 
 } // namespace
 
-TEST_F(Label, ANewLabelShowsNothing) {
+TEST_F(UILabelTest, ANewLabelShowsNothing) {
     EXPECT_EQ(label->text(), std::nullopt);
     EXPECT_FALSE(label->attributedText());
     EXPECT_FALSE(label->showsSomething());
@@ -55,13 +55,13 @@ TEST_F(Label, ANewLabelShowsNothing) {
     EXPECT_EQ(drawn(), Calls{});
 }
 
-TEST_F(Label, ItTakesNoTouches) {
+TEST_F(UILabelTest, ItTakesNoTouches) {
     EXPECT_FALSE(label->isUserInteractionEnabled());
     EXPECT_FALSE(create<UILabel>(create<NSCoder>())->isUserInteractionEnabled());
     EXPECT_FALSE(create<UILabel>()->isUserInteractionEnabled());
 }
 
-TEST_F(Label, AnEmptyTextShowsNothingAndIsNotTheSameAsNone) {
+TEST_F(UILabelTest, AnEmptyTextShowsNothingAndIsNotTheSameAsNone) {
     label->setText("");
     EXPECT_EQ(label->text(), "");
     EXPECT_FALSE(label->showsSomething());
@@ -71,7 +71,7 @@ TEST_F(Label, AnEmptyTextShowsNothingAndIsNotTheSameAsNone) {
     EXPECT_EQ(label->sizeThatFits({}), CGSizeMake(0, 0));
 }
 
-TEST_F(Label, ATextIsCentredOnTheHeightAndAlignedOnTheWidth) {
+TEST_F(UILabelTest, ATextIsCentredOnTheHeightAndAlignedOnTheWidth) {
     label->setText("abc");
     EXPECT_TRUE(label->showsSomething());
     // 30 by 20 points in 100 by 40.
@@ -82,20 +82,20 @@ TEST_F(Label, ATextIsCentredOnTheHeightAndAlignedOnTheWidth) {
     EXPECT_EQ(drawn(), Calls{"text abc at 70 10 with 0 0 0 1"});
 }
 
-TEST_F(Label, ATextIsPlacedInBoundsThatAreScrolled) {
+TEST_F(UILabelTest, ATextIsPlacedInBoundsThatAreScrolled) {
     label->setText("abc");
     label->setTextAlignment(NSTextAlignmentRight);
     label->setBounds(CGRectMake(1000, 2000, 100, 40));
     EXPECT_EQ(drawn(), Calls{"text abc at 1070 2010 with 0 0 0 1"});
 }
 
-TEST_F(Label, ALineHigherThanTheBoundsStaysCentred) {
+TEST_F(UILabelTest, ALineHigherThanTheBoundsStaysCentred) {
     label->setText("abc");
     label->setFrame(CGRectMake(0, 0, 100, 10));
     EXPECT_EQ(drawn(), Calls{"text abc at 0 -5 with 0 0 0 1"});
 }
 
-TEST_F(Label, TheFittingSizeIsTheTexts) {
+TEST_F(UILabelTest, TheFittingSizeIsTheTexts) {
     label->setText("abc");
     EXPECT_EQ(label->sizeThatFits({5, 5}), CGSizeMake(30, 20)) << "whatever there is room for";
     label->sizeToFit();
@@ -103,7 +103,7 @@ TEST_F(Label, TheFittingSizeIsTheTexts) {
     EXPECT_EQ(drawn(), Calls{"text abc at 0 0 with 0 0 0 1"});
 }
 
-TEST_F(Label, ATextThatIsTooLongEndsInAnEllipsis) {
+TEST_F(UILabelTest, ATextThatIsTooLongEndsInAnEllipsis) {
     label->setText("abcdef");
     EXPECT_EQ(drawnInWidth(60), Calls{"text abcdef at 0 0 with 0 0 0 1"});
     EXPECT_EQ(drawnInWidth(59), Calls{"text abcd\u2026 at 0 0 with 0 0 0 1"});
@@ -113,14 +113,14 @@ TEST_F(Label, ATextThatIsTooLongEndsInAnEllipsis) {
     EXPECT_EQ(drawnInWidth(5), Calls{"text \u2026 at 0 0 with 0 0 0 1"}) << "at least that there is something";
 }
 
-TEST_F(Label, ABoundsThatIsAHairTooNarrowIsNoReasonToCut) {
+TEST_F(UILabelTest, ABoundsThatIsAHairTooNarrowIsNoReasonToCut) {
     label->setText("abcdef");
     label->setTextAlignment(NSTextAlignmentRight);
     EXPECT_EQ(drawnInWidth(59.995), Calls{"text abcdef at -0.005 0 with 0 0 0 1"});
     EXPECT_EQ(drawnInWidth(59.985), Calls{"text abcd\u2026 at 9.985 0 with 0 0 0 1"});
 }
 
-TEST_F(Label, WhatIsCutIsAlignedAsItIs) {
+TEST_F(UILabelTest, WhatIsCutIsAlignedAsItIs) {
     label->setText("abcdef");
     label->setTextAlignment(NSTextAlignmentRight);
     EXPECT_EQ(drawnInWidth(59), Calls{"text abcd\u2026 at 9 0 with 0 0 0 1"});
@@ -128,7 +128,7 @@ TEST_F(Label, WhatIsCutIsAlignedAsItIs) {
     EXPECT_EQ(drawn(), Calls{"text abcd\u2026 at 4.5 0 with 0 0 0 1"});
 }
 
-TEST_F(Label, ATextIsCutBetweenCodePoints) {
+TEST_F(UILabelTest, ATextIsCutBetweenCodePoints) {
     label->setText("\u00e4\u20ac\U0001F3C3z");
     EXPECT_EQ(drawnInWidth(40), Calls{"text \u00e4\u20ac\U0001F3C3z at 0 0 with 0 0 0 1"});
     EXPECT_EQ(drawnInWidth(39), Calls{"text \u00e4\u20ac\u2026 at 0 0 with 0 0 0 1"});
@@ -136,23 +136,80 @@ TEST_F(Label, ATextIsCutBetweenCodePoints) {
     EXPECT_EQ(drawnInWidth(19), Calls{"text \u2026 at 0 0 with 0 0 0 1"});
 }
 
-TEST_F(Label, ATextIsCutBetweenCodePointsAlsoWhereHalfOfOneWouldFit) {
+TEST_F(UILabelTest, ATextIsCutBetweenCodePointsAlsoWhereHalfOfOneWouldFit) {
     struct ByteEngine : UITextEngine {
         CGSize sizeOfText_font(std::string_view text, const UIFont&) override { return {10.0 * static_cast<CGFloat>(text.size()), 20}; }
     };
     UITextEngine::setShared(create<ByteEngine>());
     label->setText("\u00e4\u00e4\u00e4\u00e4");
-    // 65 points hold six bytes, three of them the ellipsis: there is room for one and a half of the others.
+    // 65 points hold six bytes, three of them the ellipsis: there is room for one and a half of the
+    // others.
     EXPECT_EQ(drawnInWidth(65), Calls{"text \u00e4\u2026 at 0 0 with 0 0 0 1"});
 }
 
-TEST_F(Label, ATextOfStrayBytesIsCutWithoutEnd) {
+TEST_F(UILabelTest, ALongTextIsCutWithFewMeasurements) {
+    const std::string text(1000, 'x');
+    label->setText(text);
+    engine->count = 0;
+    // 5000 points hold 500 code points, the last of them the ellipsis. Halving 1000 places takes
+    // ten steps at most; the whole text and the result are measured besides.
+    EXPECT_EQ(drawnInWidth(5000), Calls{"text " + text.substr(0, 499) + "\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_LE(engine->count, 12);
+}
+
+TEST_F(UILabelTest, ATextIsCutAtEveryWidthWhereItFits) {
+    label->setText("abcdefgh");
+    for (std::size_t shown = 1; shown <= 7; ++shown) {
+        const std::string expected = std::string("abcdefgh").substr(0, shown - 1) + "\u2026";
+        const CGFloat width = 10 * static_cast<CGFloat>(shown);
+        EXPECT_EQ(drawnInWidth(width), Calls{"text " + expected + " at 0 0 with 0 0 0 1"});
+    }
+}
+
+TEST_F(UILabelTest, AnEngineThatReplacesItselfLivesUntilItHasMeasured) {
+    /// Restores the default while it measures, and notes whether it was destroyed by that.
+    struct Resigning : UIFixedWidthTextEngine {
+        bool* isDestroyed = nullptr;
+        bool* wasDestroyedInCall = nullptr;
+        ~Resigning() override { *isDestroyed = true; }
+        CGSize sizeOfText_font(std::string_view text, const UIFont& font) override {
+            const bool* const destroyed = isDestroyed;
+            bool* const inCall = wasDestroyedInCall;
+            const CGSize size = UIFixedWidthTextEngine::sizeOfText_font(text, font);
+            UITextEngine::setShared(nullptr);
+            *inCall = *inCall || *destroyed;
+            return size;
+        }
+    };
+    bool isDestroyed = false;
+    bool wasDestroyedInCall = false;
+    const auto share = [&] {
+        isDestroyed = false;
+        const auto resigning = create<Resigning>();
+        resigning->isDestroyed = &isDestroyed;
+        resigning->wasDestroyedInCall = &wasDestroyedInCall;
+        UITextEngine::setShared(resigning);
+    };
+    label->setText("abcdef");
+    share();
+    EXPECT_EQ(label->sizeThatFits({}), CGSizeMake(60, 20));
+    EXPECT_TRUE(isDestroyed);
+    share();
+    EXPECT_EQ(drawnInWidth(49), Calls{"text abc\u2026 at 0 0 with 0 0 0 1"});
+    EXPECT_TRUE(isDestroyed);
+    share();
+    EXPECT_EQ(sizeWithAttributes("ab", {}), CGSizeMake(20, 20));
+    EXPECT_TRUE(isDestroyed);
+    EXPECT_FALSE(wasDestroyedInCall);
+}
+
+TEST_F(UILabelTest, ATextOfStrayBytesIsCutWithoutEnd) {
     label->setText("a\x80\x80\x80");
     engine->setCodePointWidth(1000);
     EXPECT_EQ(drawnInWidth(10), Calls{"text \u2026 at 0 0 with 0 0 0 1"});
 }
 
-TEST_F(Label, ATextIsMeasuredOnceHoweverOftenItIsDrawn) {
+TEST_F(UILabelTest, ATextIsMeasuredOnceHoweverOftenItIsDrawn) {
     label->setText("abc");
     engine->count = 0;
     drawn();
@@ -166,7 +223,7 @@ TEST_F(Label, ATextIsMeasuredOnceHoweverOftenItIsDrawn) {
     EXPECT_EQ(engine->count, 1);
 }
 
-TEST_F(Label, WhatChangesTheTextOrTheWidthMeasuresAnew) {
+TEST_F(UILabelTest, IsMeasuredAgainAfterAChangeOfTextFontOrWidth) {
     label->setText("abc");
     drawn();
     engine->count = 0;
@@ -184,7 +241,7 @@ TEST_F(Label, WhatChangesTheTextOrTheWidthMeasuresAnew) {
     EXPECT_EQ(engine->count, 4);
 }
 
-TEST_F(Label, AnAttributedTextGoesBeforeTheLabelsOwnFontAndColour) {
+TEST_F(UILabelTest, AnAttributedTextGoesBeforeTheLabelsOwnFontAndColour) {
     label->setFont(UIFont::systemFontOfSize_weight(10));
     const auto text = NSAttributedString::attributedStringWithString_attributes(
         "xy", {UIFont::systemFontOfSize_weight(33), UIColor::colorWithRed_green_blue_alpha(1, 0, 0, 1)});
@@ -196,28 +253,28 @@ TEST_F(Label, AnAttributedTextGoesBeforeTheLabelsOwnFontAndColour) {
     EXPECT_EQ(canvas.fontSizes, std::vector<CGFloat>{33});
 }
 
-TEST_F(Label, WhatAnAttributedTextLeavesOpenTheLabelGives) {
+TEST_F(UILabelTest, WhatAnAttributedTextLeavesOpenTheLabelGives) {
     label->setFont(UIFont::systemFontOfSize_weight(10));
     label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("xy", {}));
     EXPECT_EQ(drawn(), Calls{"text xy at 0 10 with 0 0 0 1"});
     EXPECT_EQ(canvas.fontSizes, std::vector<CGFloat>{10});
 }
 
-TEST_F(Label, APlainTextReplacesAnAttributedOneAlsoOfTheSameWords) {
+TEST_F(UILabelTest, APlainTextReplacesAnAttributedOneAlsoOfTheSameWords) {
     label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("xy", {nullptr, UIColor::whiteColor()}));
     label->setText("xy");
     EXPECT_FALSE(label->attributedText());
     EXPECT_EQ(drawn(), Calls{"text xy at 0 10 with 0 0 0 1"});
 }
 
-TEST_F(Label, NoAttributedTextIsNoText) {
+TEST_F(UILabelTest, NoAttributedTextIsNoText) {
     label->setAttributedText(NSAttributedString::attributedStringWithString_attributes("xy", {}));
     label->setAttributedText(nullptr);
     EXPECT_EQ(label->text(), std::nullopt);
     EXPECT_EQ(drawn(), Calls{});
 }
 
-TEST_F(Label, AnEmptyReferenceGivesTheSystemFont) {
+TEST_F(UILabelTest, AnEmptyReferenceGivesTheSystemFont) {
     label->setFont(UIFont::systemFontOfSize_weight(40, UIFontWeight::Bold));
     label->setFont(nullptr);
     ASSERT_TRUE(label->font());
@@ -225,7 +282,7 @@ TEST_F(Label, AnEmptyReferenceGivesTheSystemFont) {
     EXPECT_EQ(label->font()->weight(), UIFontWeight::Regular);
 }
 
-TEST_F(Label, AChangeAsksForAFrameAndTheSameValueDoesNot) {
+TEST_F(UILabelTest, AChangeRequestsAFrameAndTheSameValueDoesNot) {
     const auto window = create<UIWindow>(CGRectMake(0, 0, 200, 200));
     window->addSubview(label);
     window->tick(0);
@@ -258,7 +315,7 @@ TEST_F(Label, AChangeAsksForAFrameAndTheSameValueDoesNot) {
     EXPECT_FALSE(window->tick(1)) << "there was none";
 }
 
-TEST_F(Label, ItRestoresTextAlignmentAndFontSize) {
+TEST_F(UILabelTest, ItRestoresTextAlignmentAndFontSize) {
     const auto coder = create<NSCoder>();
     coder->encodeString_forKey("abc", "text");
     coder->encodeInteger_forKey(2, "textAlignment");
@@ -271,7 +328,7 @@ TEST_F(Label, ItRestoresTextAlignmentAndFontSize) {
     EXPECT_EQ(restored->frame(), CGRectMake(1, 2, 3, 4));
 }
 
-TEST_F(Label, ItRestoresEachAlignment) {
+TEST_F(UILabelTest, ItRestoresEachAlignment) {
     for (const NSTextAlignment alignment : {NSTextAlignmentLeft, NSTextAlignmentCenter, NSTextAlignmentRight, NSTextAlignmentNatural}) {
         const auto coder = create<NSCoder>();
         coder->encodeInteger_forKey(alignment, "textAlignment");
@@ -279,7 +336,7 @@ TEST_F(Label, ItRestoresEachAlignment) {
     }
 }
 
-TEST_F(Label, WhatACoderLacksKeepsItsDefault) {
+TEST_F(UILabelTest, WhatACoderLacksKeepsItsDefault) {
     const auto coder = create<NSCoder>();
     coder->encodeInteger_forKey(9, "textAlignment");
     for (const auto& restored : {create<UILabel>(coder), create<UILabel>(Ref<NSCoder>())}) {
@@ -289,7 +346,7 @@ TEST_F(Label, WhatACoderLacksKeepsItsDefault) {
     }
 }
 
-TEST_F(Label, NoAttributedTextTakesAPlainOneAway) {
+TEST_F(UILabelTest, NoAttributedTextTakesAPlainOneAway) {
     label->setText("plain");
     label->setAttributedText(nullptr);
     EXPECT_EQ(label->text(), std::nullopt);
