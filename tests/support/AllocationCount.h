@@ -2,7 +2,8 @@
 
 #include <cstddef>
 
-/// How often memory was taken from the heap so far. Only in executables that count, see `AllocationCount.cpp`.
+/// How often memory was taken from the heap so far. Only in executables that count, see
+/// `AllocationCount.cpp`.
 std::size_t allocationCount();
 
 /// How often an act takes memory.

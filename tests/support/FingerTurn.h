@@ -6,7 +6,8 @@
 /// How far a finger moves before it turns a wheel, in points.
 constexpr gx::CGFloat turningSlop = 6;
 
-/// Drags a column up by one row, wherever in the window its wheel is, and waits until it has come to rest.
+/// Drags a column up by one row, wherever in the window its wheel is, and waits until it has come
+/// to rest.
 inline void turnOneRow(TestWindow& window, const gx::Ref<gx::UIPickerView>& wheel, gx::NSInteger component) {
     const gx::Ref<gx::UIView> view = wheel->viewForRow_forComponent(wheel->selectedRowInComponent(component), component);
     ASSERT_TRUE(view);

@@ -49,7 +49,8 @@ struct HeightNotices : gx::NSObject, gx::GXHeightPickerViewDelegate {
     }
 };
 
-/// A picker of 320 by 216 points with a delegate that notes what it is told. The run loop turns when a test says so.
+/// A picker of 320 by 216 points with a delegate that notes what it is told. The run loop turns
+/// when a test says so.
 struct HeightPicker : testing::Test {
     HeightPicker() {
         picker = gx::create<RecordingHeightPicker>(gx::CGRectMake(0, 0, 320, 216));

@@ -25,7 +25,7 @@ struct PickerTest : testing::Test {
         return picker->pickerView_titleForRow_forComponent(picker->pickerView(), row, component);
     }
     std::optional<std::string> selectedTitle(gx::NSInteger component = 0) { return title(selected(component), component); }
-    /// Turns as a user does; answers the calls that reached the wheel.
+    /// Spins as a user does; returns the calls that reached the wheel.
     Calls turn(gx::NSInteger row, gx::NSInteger component = 0) {
         wheel().takeCalls();
         wheel().turnToRow_inComponent(row, component);

@@ -7,8 +7,8 @@
 
 #include "UIGraphicsContext.h"
 
-/// A canvas that notes each call as a line of text, numbers in the shortest form: "save", "translate 10 20",
-/// "fill 0 0 30 40 with 1 0 0 1", "text abc at 0 10 with 0 0 0 1".
+/// A canvas that notes each call as a line of text, numbers in the shortest form: "save",
+/// "translate 10 20", "fill 0 0 30 40 with 1 0 0 1", "text abc at 0 10 with 0 0 0 1".
 class RecordingCanvas : public gx::UIGraphicsContext {
 public:
     std::vector<std::string> calls;

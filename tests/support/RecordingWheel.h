@@ -5,8 +5,8 @@
 
 #include "GXMultiValuePickerView.h"
 
-/// A wheel that notes, as given, every request that reaches it from outside: "select 3 in 0", "reload", "reload 2",
-/// "right km", "separator : after 0".
+/// A wheel that notes, as given, every request that reaches it from outside: "select 3 in 0",
+/// "reload", "reload 2", "right km", "separator : after 0".
 class RecordingWheel : public gx::GXMultiValuePickerView {
 public:
     std::vector<std::string> calls;

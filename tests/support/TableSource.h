@@ -7,12 +7,13 @@
 #include "UILabel.h"
 #include "UITableView.h"
 
-/// A data source for a table: sections with a number of rows each, in cells that are titled by section and row.
+/// A data source for a table: sections with a number of rows each, in cells that are titled by
+/// section and row.
 class TableSource : public gx::NSObject, public gx::UITableViewDataSource {
 public:
     std::vector<gx::NSInteger> rows = {100};
     std::vector<std::optional<std::string>> titles;
-    /// What is answered for a row instead of the usual cell.
+    /// What is returned for a row instead of the usual cell.
     std::function<gx::Ref<gx::UITableViewCell>(const gx::Ref<gx::UITableView>&, gx::NSIndexPath)> cell;
     std::function<void()> whenAskedForCounts;
     std::vector<gx::NSIndexPath> asked;

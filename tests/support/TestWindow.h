@@ -32,7 +32,7 @@ public:
         now += seconds;
         return window_->tick(now);
     }
-    /// Ticks until nothing moves; answers the seconds it took. Fails after a minute.
+    /// Ticks until nothing moves; returns the seconds it took. Fails after a minute.
     double runUntilStill() {
         const double start = now;
         while (tick(frame)) {
@@ -82,7 +82,7 @@ public:
     bool press(gx::UIKey::Code code, unsigned modifiers = 0, bool isRepeat = false) {
         return window_->keyDown({code, {}, modifiers, isRepeat, now});
     }
-    /// One key for each character of an ASCII text, a frame apart. Answers whether all were of use.
+    /// One key for each character of an ASCII text, a frame apart. Returns whether all were used.
     bool type(const std::string& text) {
         bool areUsed = true;
         for (const char character : text) {

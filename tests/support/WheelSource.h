@@ -6,8 +6,8 @@
 
 #include "UIPickerView.h"
 
-/// A data source and delegate for a bare wheel: columns with a number of rows each, titled by their numbers. It counts
-/// what it is asked and notes what it is told.
+/// A data source and delegate for a bare wheel: columns with a number of rows each, titled by their
+/// numbers. It counts what it is asked and notes what it is told.
 class WheelSource : public gx::NSObject, public gx::UIPickerViewDataSource, public gx::UIPickerViewDelegate {
 public:
     struct Notice {
@@ -19,7 +19,7 @@ public:
     std::vector<gx::NSInteger> rows = {100};
     gx::CGFloat width = 80;
     gx::CGFloat height = 40;
-    /// What the data source answers; −1 for the size of `rows`.
+    /// What the data source returns; −1 for the size of `rows`.
     gx::NSInteger componentAnswer = -1;
     std::function<std::optional<std::string>(gx::NSInteger row, gx::NSInteger component)> title;
     std::function<void(gx::NSInteger row, gx::NSInteger component)> whenTold;

@@ -8,14 +8,16 @@
 #include "UIWindow.h"
 #include "WheelSource.h"
 
-/// A wheel in a window that plays a script of fingers, notches and requests, once, at a frame rate, and notes where its
-/// column stands in each frame. What the script does at the moment of a frame sees the column as that frame found it, and is
-/// noted with that frame.
+/// A wheel in a window that plays a script of fingers, notches and requests, once, at a frame rate,
+/// and notes where its column stands in each frame. What the script does at the moment of a frame
+/// sees the column as that frame found it, and is noted with that frame.
 ///
-/// The wheel is 320 by 216 points with one column of rows 40 high. Times are in seconds from the beginning.
+/// The wheel is 320 by 216 points with one column of rows 40 high. Times are in seconds from the
+/// beginning.
 class WheelStage {
 public:
-    /// The finest step of time: each of 24, 30, 60, 90, 120 and 144 frames a second is a whole number of them.
+    /// The finest step of time: each of 24, 30, 60, 90, 120 and 144 frames a second is a whole
+    /// number of them.
     static constexpr long stepsPerSecond = 720;
     static constexpr double rowHeight = 40;
 
@@ -40,7 +42,8 @@ public:
     void letGo(double time, double pointsUp = 0) {
         at(time, [this, time, pointsUp] { window->touchEnded_at_time(1, {centre.x, centre.y - pointsUp}, clock(time)); });
     }
-    /// A finger comes down and moves up evenly, a place in each step; a negative way goes down. It does not let go.
+    /// A finger comes down and moves up evenly, a place in each step; a negative way goes down. It
+    /// does not let go.
     void drag(double time, double seconds, double pointsUp) {
         touch(time);
         const long places = stepOf(seconds);
@@ -81,7 +84,7 @@ public:
         }
         return frames_;
     }
-    /// As the last frame has placed the row in the band.
+    /// As the last frame has placed the row in the selection indicator.
     double position() const {
         const gx::NSInteger row = wheel->rowInBandOfComponent(0);
         const gx::Ref<gx::UIView> view = wheel->viewForRow_forComponent(row, 0);
@@ -100,6 +103,7 @@ private:
     static constexpr gx::CGPoint centre = {160, 108};
     static long stepOf(double time) { return std::lround(time * stepsPerSecond); }
 
-    std::multimap<long, std::function<void()>> script_; // Actions of one step keep the order in which they were written.
+    // Actions of one step keep the order in which they were written.
+    std::multimap<long, std::function<void()>> script_;
     std::vector<Frame> frames_;
 };

@@ -1,4 +1,5 @@
-// The entry of every headless test: takes over the user's locale, so that a dependence on it would show.
+// The entry of every headless test: takes over the user's locale, so that a dependence on it would
+// show.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
-// The entry of the tests on Qt: an application without a screen, drawing with one fixed family of fonts.
+// The entry of the tests on Qt: an application without a screen, drawing with one fixed family of
+// fonts.
 
 #include <gtest/gtest.h>
 

@@ -39,7 +39,7 @@ TEST(CGGeometry, MiddlesOfAnOddLengthLieOnHalves) {
     EXPECT_EQ(CGRectGetMidY(CGRectMake(0, -7, 0, 4)), -5);
 }
 
-TEST(CGGeometry, ARectangleWithNegativeSizeAnswersForTheAreaItSpans) {
+TEST(CGGeometry, ARectangleOfNegativeSizeReturnsValuesOfTheAreaItSpans) {
     const CGRect rect = CGRectMake(40, 70, -30, -50);
     EXPECT_EQ(CGRectGetMinX(rect), 10);
     EXPECT_EQ(CGRectGetMidX(rect), 25);

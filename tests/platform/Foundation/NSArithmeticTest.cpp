@@ -88,7 +88,7 @@ TEST(NSArithmetic, AFloatingNumberLosesItsFraction) {
     EXPECT_EQ(truncateTo<std::uint32_t>(2.9), 2U);
 }
 
-TEST(NSArithmetic, ATruncatedNumberIsHeldToTheTarget) {
+TEST(NSArithmetic, ATruncatedNumberIsClampedToTheTarget) {
     EXPECT_EQ(truncateTo<std::int32_t>(2147483647.9), highest32);
     EXPECT_EQ(truncateTo<std::int32_t>(2147483648.0), highest32);
     EXPECT_EQ(truncateTo<std::int32_t>(-2147483648.9), lowest32);
@@ -101,7 +101,7 @@ TEST(NSArithmetic, ATruncatedNumberIsHeldToTheTarget) {
     EXPECT_EQ(truncateTo<std::int64_t>(notANumber), 0);
 }
 
-TEST(NSArithmetic, AnUnsignedTargetHoldsNegativeNumbersToZero) {
+TEST(NSArithmetic, AnUnsignedTargetClampsNegativeNumbersToZero) {
     EXPECT_EQ(truncateTo<std::uint64_t>(-0.5), 0U);
     EXPECT_EQ(truncateTo<std::uint64_t>(-1.0), 0U);
     EXPECT_EQ(truncateTo<std::uint64_t>(18446744073709549568.0), 18446744073709549568ULL);

@@ -139,8 +139,8 @@ TEST(NSNumber, AnIntegerBeyondTheDigitsOfADoubleRoundsToTheNearestEven) {
 }
 
 TEST(NSNumber, AnIntegerBecomesAFloatInOneRounding) {
-    // 2^62 + 2^38 + 1 lies just above the middle between the floats 2^62 and 2^62 + 2^39. A double on the way would lose
-    // the 1 and fall back to the even one below.
+    // 2^62 + 2^38 + 1 lies just above the middle between the floats 2^62 and 2^62 + 2^39. A double
+    // on the way would lose the 1 and fall back to the even one below.
     EXPECT_EQ(NSNumber::numberWithInteger(4611686293305294849LL).floatValue(), 4611686568183201792.0F);
     EXPECT_EQ(NSNumber::numberWithInteger(-4611686293305294849LL).floatValue(), -4611686568183201792.0F);
     EXPECT_EQ(NSNumber::numberWithInteger(4611686293305294848LL).floatValue(), 4611686018427387904.0F) << "the middle itself";
@@ -254,7 +254,7 @@ TEST(NSNumber, AFloatIsWidenedAsItIs) {
 
 // Handles
 
-TEST(NSNumber, AnEmptyHandleAnswersZeroToEveryQuestion) {
+TEST(NSNumber, AnEmptyHandleReturnsZeroFromEveryGetter) {
     const NSNumber nothing;
     EXPECT_FALSE(nothing);
     EXPECT_EQ(nothing.type(), NSNumber::Type::None);
@@ -267,7 +267,8 @@ TEST(NSNumber, AnEmptyHandleAnswersZeroToEveryQuestion) {
 
 TEST(NSNumber, ACopySharesTheBox) {
     const NSNumber number = NSNumber::numberWithInteger(5);
-    const NSNumber copy = number; // NOLINT(performance-unnecessary-copy-initialization): the copy is what is tested
+    // The copy is what is tested
+    const NSNumber copy = number; // NOLINT(performance-unnecessary-copy-initialization)
     EXPECT_TRUE(copy.isIdenticalTo(number));
     EXPECT_TRUE(number.isIdenticalTo(copy));
     EXPECT_TRUE(number.isIdenticalTo(number));

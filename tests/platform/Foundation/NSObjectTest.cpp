@@ -198,7 +198,7 @@ TEST(NSObject, AReferenceFromInsideSharesTheOwner) {
     EXPECT_EQ(object.use_count(), 2);
 }
 
-TEST(NSObject, AReferenceToNothingOrToAnObjectThatNobodyOwnsIsEmpty) {
+TEST(NSObject, AReferenceToNothingOrToAnObjectWithoutAnOwnerIsEmpty) {
     EXPECT_FALSE(refTo(static_cast<Counter*>(nullptr)));
     Counter local;
     EXPECT_FALSE(refTo(&local));
@@ -232,7 +232,7 @@ TEST(NSObject, ASelectorThatIsNotWaitedForRunsInTheNextPass) {
     EXPECT_EQ(object->count, 2);
 }
 
-TEST(NSObject, AQueuedSelectorKeepsNobodyAlive) {
+TEST(NSObject, AQueuedSelectorDoesNotKeepItsObjectAlive) {
     Ref<Counter> object = create<Counter>();
     const WeakRef<Counter> weak = object;
     object->performSelectorOnMainThread_waitUntilDone(&Counter::increment, false);

@@ -9,7 +9,7 @@ using namespace gx;
 
 namespace {
 
-struct RunLoop : testing::Test {
+struct NSRunLoopTest : testing::Test {
     Ref<NSRunLoop> loop = create<NSRunLoop>();
     std::string log;
 
@@ -20,7 +20,7 @@ struct RunLoop : testing::Test {
 
 } // namespace
 
-TEST_F(RunLoop, APassRunsInOrderWhatWasQueued) {
+TEST_F(NSRunLoopTest, APassRunsInOrderWhatWasQueued) {
     loop->performBlock(note("a"));
     loop->performBlock(note("b"));
     loop->performBlock(note("c"));
@@ -29,14 +29,14 @@ TEST_F(RunLoop, APassRunsInOrderWhatWasQueued) {
     EXPECT_EQ(log, "abc");
 }
 
-TEST_F(RunLoop, ABlockRunsOnce) {
+TEST_F(NSRunLoopTest, ABlockRunsOnce) {
     loop->performBlock(note("a"));
     loop->runPass();
     loop->runPass();
     EXPECT_EQ(log, "a");
 }
 
-TEST_F(RunLoop, WhatABlockQueuesWaitsForTheNextPass) {
+TEST_F(NSRunLoopTest, WhatABlockQueuesWaitsForTheNextPass) {
     loop->performBlock([this] {
         log += "a";
         loop->performBlock(note("x"));
@@ -50,7 +50,7 @@ TEST_F(RunLoop, WhatABlockQueuesWaitsForTheNextPass) {
     EXPECT_FALSE(loop->hasWork());
 }
 
-TEST_F(RunLoop, ABlockThatQueuesItselfRunsOncePerPass) {
+TEST_F(NSRunLoopTest, ABlockThatQueuesItselfRunsOncePerPass) {
     int runs = 0;
     std::function<void()> again = [&] {
         ++runs;
@@ -63,7 +63,7 @@ TEST_F(RunLoop, ABlockThatQueuesItselfRunsOncePerPass) {
     EXPECT_EQ(runs, 2);
 }
 
-TEST_F(RunLoop, APassWithinABlockTakesOverWhatIsStillToRun) {
+TEST_F(NSRunLoopTest, APassWithinABlockTakesOverWhatIsStillToRun) {
     loop->performBlock([this] {
         log += "a";
         loop->performBlock(note("x"));
@@ -78,14 +78,14 @@ TEST_F(RunLoop, APassWithinABlockTakesOverWhatIsStillToRun) {
     EXPECT_EQ(log, "abcAx");
 }
 
-TEST_F(RunLoop, AnEmptyBlockIsIgnored) {
+TEST_F(NSRunLoopTest, AnEmptyBlockIsIgnored) {
     loop->performBlock(nullptr);
     EXPECT_FALSE(loop->hasWork());
     loop->runPass();
     EXPECT_FALSE(loop->hasWork());
 }
 
-TEST_F(RunLoop, ItHasWorkFromTheFirstBlockUntilThePass) {
+TEST_F(NSRunLoopTest, ItHasWorkFromTheFirstBlockUntilThePass) {
     EXPECT_FALSE(loop->hasWork());
     bool duringTheFirst = false;
     bool duringTheLast = true;
@@ -98,7 +98,7 @@ TEST_F(RunLoop, ItHasWorkFromTheFirstBlockUntilThePass) {
     EXPECT_FALSE(loop->hasWork());
 }
 
-TEST_F(RunLoop, TheHandlerIsWokenWhenTheQueueStopsBeingEmpty) {
+TEST_F(NSRunLoopTest, TheHandlerIsWokenWhenTheQueueStopsBeingEmpty) {
     int wakes = 0;
     loop->setWakeHandler([&] { ++wakes; });
     EXPECT_EQ(wakes, 0) << "nothing is queued";
@@ -112,7 +112,7 @@ TEST_F(RunLoop, TheHandlerIsWokenWhenTheQueueStopsBeingEmpty) {
     EXPECT_EQ(wakes, 2);
 }
 
-TEST_F(RunLoop, WhatIsQueuedDuringAPassWakesTheHandlerByItsEnd) {
+TEST_F(NSRunLoopTest, WhatIsQueuedDuringAPassWakesTheHandlerByItsEnd) {
     bool isWoken = false;
     loop->setWakeHandler([&] { isWoken = true; });
     loop->performBlock([&] {
@@ -125,14 +125,14 @@ TEST_F(RunLoop, WhatIsQueuedDuringAPassWakesTheHandlerByItsEnd) {
     EXPECT_EQ(log, "b");
 }
 
-TEST_F(RunLoop, AHandlerThatComesLateIsWokenForWhatWaits) {
+TEST_F(NSRunLoopTest, AHandlerThatComesLateIsWokenForWhatWaits) {
     loop->performBlock(note("a"));
     int wakes = 0;
     loop->setWakeHandler([&] { ++wakes; });
     EXPECT_EQ(wakes, 1);
 }
 
-TEST_F(RunLoop, AHandlerMayReplaceItself) {
+TEST_F(NSRunLoopTest, AHandlerMayReplaceItself) {
     loop->setWakeHandler([this] {
         loop->setWakeHandler(nullptr);
         log += "woken";
@@ -144,14 +144,14 @@ TEST_F(RunLoop, AHandlerMayReplaceItself) {
     EXPECT_EQ(log, "wokena");
 }
 
-TEST_F(RunLoop, AHandlerMayRunThePassAtOnce) {
+TEST_F(NSRunLoopTest, AHandlerMayRunThePassAtOnce) {
     loop->setWakeHandler([this] { loop->runPass(); });
     loop->performBlock(note("a"));
     EXPECT_EQ(log, "a");
     EXPECT_FALSE(loop->hasWork());
 }
 
-TEST_F(RunLoop, ABlockIsLetGoOnceItHasRun) {
+TEST_F(NSRunLoopTest, ABlockIsLetGoOnceItHasRun) {
     const auto held = std::make_shared<int>(1);
     loop->performBlock([held] { (void)*held; });
     EXPECT_EQ(held.use_count(), 2);
@@ -159,7 +159,7 @@ TEST_F(RunLoop, ABlockIsLetGoOnceItHasRun) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST_F(RunLoop, TheMainLoopIsAlwaysTheSame) {
+TEST_F(NSRunLoopTest, TheMainLoopIsAlwaysTheSame) {
     ASSERT_TRUE(NSRunLoop::mainRunLoop());
     EXPECT_EQ(NSRunLoop::mainRunLoop(), NSRunLoop::mainRunLoop());
     NSRunLoop::mainRunLoop()->performBlock(note("m"));

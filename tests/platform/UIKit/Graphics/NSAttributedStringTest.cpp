@@ -21,15 +21,15 @@ struct FontNotingEngine : UIFixedWidthTextEngine {
     }
 };
 
-struct AttributedString : testing::Test {
+struct NSAttributedStringTest : testing::Test {
     Ref<FontNotingEngine> engine = create<FontNotingEngine>();
-    AttributedString() { UITextEngine::setShared(engine); }
-    ~AttributedString() override { UITextEngine::setShared(nullptr); }
+    NSAttributedStringTest() { UITextEngine::setShared(engine); }
+    ~NSAttributedStringTest() override { UITextEngine::setShared(nullptr); }
 };
 
 } // namespace
 
-TEST_F(AttributedString, ItKeepsItsTextAndAttributes) {
+TEST_F(NSAttributedStringTest, ItKeepsItsTextAndAttributes) {
     const Ref<UIFont> font = UIFont::systemFontOfSize_weight(30);
     const auto text = NSAttributedString::attributedStringWithString_attributes("km", {font, UIColor::whiteColor()});
     EXPECT_EQ(text->string(), "km");
@@ -37,14 +37,14 @@ TEST_F(AttributedString, ItKeepsItsTextAndAttributes) {
     EXPECT_EQ(text->attributes().foregroundColor, UIColor::whiteColor());
 }
 
-TEST_F(AttributedString, AttributesMayBeAbsent) {
+TEST_F(NSAttributedStringTest, AttributesMayBeAbsent) {
     const auto text = NSAttributedString::attributedStringWithString_attributes("", {});
     EXPECT_EQ(text->string(), "");
     EXPECT_FALSE(text->attributes().font);
     EXPECT_FALSE(text->attributes().foregroundColor);
 }
 
-TEST_F(AttributedString, ATextIsMeasuredInTheFontOfItsAttributes) {
+TEST_F(NSAttributedStringTest, ATextIsMeasuredInTheFontOfItsAttributes) {
     const Ref<UIFont> font = UIFont::fontWithName_size_weight("Serif", 30, UIFontWeight::Bold);
     EXPECT_EQ(sizeWithAttributes("km/h", {font, std::nullopt}), CGSizeMake(40, 20));
     EXPECT_EQ(engine->size, 30);
@@ -52,7 +52,7 @@ TEST_F(AttributedString, ATextIsMeasuredInTheFontOfItsAttributes) {
     EXPECT_EQ(engine->family, "Serif");
 }
 
-TEST_F(AttributedString, ATextWithoutAFontIsMeasuredInTheSystemFont) {
+TEST_F(NSAttributedStringTest, ATextWithoutAFontIsMeasuredInTheSystemFont) {
     EXPECT_EQ(sizeWithAttributes("km", {}), CGSizeMake(20, 20));
     EXPECT_EQ(engine->size, 17);
     EXPECT_EQ(engine->weight, UIFontWeight::Regular);

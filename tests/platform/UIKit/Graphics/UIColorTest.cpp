@@ -17,7 +17,7 @@ TEST(UIColor, ComponentsAreKeptAsGivenInBothLooks) {
     EXPECT_EQ(color.resolved(dark), (UIColorComponents{0.25, 0.5, 0.75, 0.125}));
 }
 
-TEST(UIColor, ComponentsOutsideTheRangeAreHeldToIt) {
+TEST(UIColor, ComponentsAreClamped) {
     EXPECT_EQ(UIColor::colorWithRed_green_blue_alpha(-0.1, 1.1, 0, 1).resolved(light), (UIColorComponents{0, 1, 0, 1}));
     const double inf = std::numeric_limits<double>::infinity();
     EXPECT_EQ(UIColor::colorWithRed_green_blue_alpha(inf, -inf, std::numeric_limits<double>::quiet_NaN(), 2).resolved(light),

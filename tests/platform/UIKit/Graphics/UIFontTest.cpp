@@ -6,7 +6,7 @@
 
 using namespace gx;
 
-TEST(UIFont, TheSystemFontHasNoFamilyNameAndIsRegularUnlessToldOtherwise) {
+TEST(UIFont, TheSystemFontHasNoFamilyNameAndIsRegularByDefault) {
     const Ref<UIFont> font = UIFont::systemFontOfSize_weight(21);
     EXPECT_EQ(font->familyName(), "");
     EXPECT_EQ(font->pointSize(), 21);
@@ -21,7 +21,7 @@ TEST(UIFont, ANamedFontKeepsItsNameSizeAndWeight) {
     EXPECT_EQ(font->weight(), UIFontWeight::Medium);
 }
 
-TEST(UIFont, ASizeThatNobodyCanReadBecomesTheSizeOfLabels) {
+TEST(UIFont, ASizeThatIsNotAboveZeroBecomesTheSizeOfLabels) {
     for (const double size : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
         EXPECT_EQ(UIFont::systemFontOfSize_weight(size)->pointSize(), 17) << size;
     }

@@ -25,13 +25,13 @@ struct Loader : UIImageLoader {
     }
 };
 
-struct Image : testing::Test {
-    ~Image() override { UIImageLoader::setShared(nullptr); }
+struct UIImageTest : testing::Test {
+    ~UIImageTest() override { UIImageLoader::setShared(nullptr); }
 };
 
 } // namespace
 
-TEST_F(Image, ItsSizeInPointsIsItsPixelsByItsScale) {
+TEST_F(UIImageTest, ItsSizeInPointsIsItsPixelsByItsScale) {
     const Ref<UIImage> image = UIImage::imageWithPixels_width_height_scale(bytes(24), 3, 2, 2);
     ASSERT_TRUE(image);
     EXPECT_EQ(image->pixelWidth(), 3);
@@ -41,14 +41,14 @@ TEST_F(Image, ItsSizeInPointsIsItsPixelsByItsScale) {
     EXPECT_EQ(image->pixels(), bytes(24));
 }
 
-TEST_F(Image, ThePixelsMustFitTheSize) {
+TEST_F(UIImageTest, ThePixelsMustFitTheSize) {
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale(bytes(23), 3, 2, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale(bytes(25), 3, 2, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 3, 2, 1));
     EXPECT_TRUE(UIImage::imageWithPixels_width_height_scale(bytes(24), 2, 3, 1));
 }
 
-TEST_F(Image, SizesMustBeAboveZero) {
+TEST_F(UIImageTest, SizesMustBeAboveZero) {
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 0, 0, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 0, 5, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 5, 0, 1));
@@ -60,19 +60,19 @@ TEST_F(Image, SizesMustBeAboveZero) {
         << "its size in points would be 0";
 }
 
-TEST_F(Image, TheLargestSizesAreRefusedAndNotWrappedAround) {
+TEST_F(UIImageTest, TheLargestSizesAreRefusedAndNotWrappedAround) {
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 2147483647, 2147483647, 1));
     EXPECT_FALSE(UIImage::imageWithPixels_width_height_scale({}, 65536, 16384, 1)) << "2^32 bytes";
 }
 
-TEST_F(Image, AScreenReaderSaysItsLabel) {
+TEST_F(UIImageTest, ItsLabelIsItsAccessibilityText) {
     const Ref<UIImage> image = UIImage::imageWithPixels_width_height_scale(bytes(4), 1, 1, 1);
     EXPECT_EQ(image->accessibilityLabel(), std::nullopt);
     image->setAccessibilityLabel("Sunny");
     EXPECT_EQ(image->accessibilityLabel(), "Sunny");
 }
 
-TEST_F(Image, APairIsTheOneOrTheOtherByTheLook) {
+TEST_F(UIImageTest, APairIsTheOneOrTheOtherByTheLook) {
     const Ref<UIImage> light = square(2, 1, 9);
     const Ref<UIImage> dark = square(2, 1, 1);
     const Ref<UIImage> pair = UIImage::imageWithLight_dark(light, dark);
@@ -81,13 +81,13 @@ TEST_F(Image, APairIsTheOneOrTheOtherByTheLook) {
     EXPECT_EQ(&pair->resolved(UIUserInterfaceStyle::Dark), dark.get());
 }
 
-TEST_F(Image, AnImageOfOneLookIsItselfInBoth) {
+TEST_F(UIImageTest, AnImageOfOneLookIsItselfInBoth) {
     const Ref<UIImage> image = square(2, 1, 9);
     EXPECT_EQ(&image->resolved(UIUserInterfaceStyle::Light), image.get());
     EXPECT_EQ(&image->resolved(UIUserInterfaceStyle::Dark), image.get());
 }
 
-TEST_F(Image, APairTellsItsLightPicturesSizeAndPixels) {
+TEST_F(UIImageTest, APairReturnsSizeAndPixelsOfItsLightPicture) {
     const Ref<UIImage> pair = UIImage::imageWithLight_dark(square(6, 3, 9), square(4, 2, 1));
     ASSERT_TRUE(pair) << "both are 2 by 2 points";
     EXPECT_EQ(pair->size(), CGSizeMake(2, 2));
@@ -98,7 +98,7 @@ TEST_F(Image, APairTellsItsLightPicturesSizeAndPixels) {
     EXPECT_EQ(pair->resolved(UIUserInterfaceStyle::Dark).pixels(), std::vector<std::uint8_t>(64, 1));
 }
 
-TEST_F(Image, APairNeedsBothInOneSize) {
+TEST_F(UIImageTest, APairNeedsBothInOneSize) {
     EXPECT_FALSE(UIImage::imageWithLight_dark(nullptr, nullptr));
     EXPECT_FALSE(UIImage::imageWithLight_dark(square(2, 1, 9), nullptr));
     EXPECT_FALSE(UIImage::imageWithLight_dark(nullptr, square(2, 1, 1)));
@@ -110,7 +110,7 @@ TEST_F(Image, APairNeedsBothInOneSize) {
     EXPECT_FALSE(UIImage::imageWithLight_dark(tall, wide));
 }
 
-TEST_F(Image, APairOfPairsTakesTheOuterPictures) {
+TEST_F(UIImageTest, APairOfPairsTakesTheOuterPictures) {
     const Ref<UIImage> day = square(2, 1, 9);
     const Ref<UIImage> night = square(2, 1, 1);
     const Ref<UIImage> pair = UIImage::imageWithLight_dark(UIImage::imageWithLight_dark(day, square(2, 1, 5)),
@@ -121,7 +121,7 @@ TEST_F(Image, APairOfPairsTakesTheOuterPictures) {
     EXPECT_EQ(pair->pixels(), day->pixels());
 }
 
-TEST_F(Image, APairHoldsItsPictures) {
+TEST_F(UIImageTest, APairHoldsItsPictures) {
     Ref<UIImage> light = square(2, 1, 9);
     Ref<UIImage> dark = square(2, 1, 1);
     const WeakRef<UIImage> weakLight = light;
@@ -134,7 +134,7 @@ TEST_F(Image, APairHoldsItsPictures) {
     EXPECT_TRUE(weakDark.expired());
 }
 
-TEST_F(Image, APairBeginsWithTheLabelOfItsLightPictureAndThenHasItsOwn) {
+TEST_F(UIImageTest, APairBeginsWithTheLabelOfItsLightPictureAndThenHasItsOwn) {
     const Ref<UIImage> light = square(2, 1, 9);
     const Ref<UIImage> dark = square(2, 1, 1);
     light->setAccessibilityLabel("Sunny");
@@ -146,12 +146,12 @@ TEST_F(Image, APairBeginsWithTheLabelOfItsLightPictureAndThenHasItsOwn) {
     EXPECT_EQ(light->accessibilityLabel(), "Sunny");
 }
 
-TEST_F(Image, WithoutAHostNoFileIsRead) {
+TEST_F(UIImageTest, WithoutAHostNoFileIsRead) {
     EXPECT_FALSE(UIImageLoader::shared());
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("sun.png"));
 }
 
-TEST_F(Image, AFileIsReadByTheLoaderOfTheHost) {
+TEST_F(UIImageTest, AFileIsReadByTheLoaderOfTheHost) {
     const auto loader = std::make_shared<Loader>();
     UIImageLoader::setShared(loader);
     EXPECT_TRUE(UIImage::imageWithContentsOfFile("sun.png"));

@@ -1,4 +1,5 @@
-// Where one reads from right to left: labels that begin at the right, and rows of tables in the mirror.
+// Where one reads from right to left: labels that begin at the right, and rows of tables in the
+// mirror.
 
 #include <algorithm>
 
@@ -11,9 +12,9 @@ using namespace gx;
 
 namespace {
 
-struct RightToLeft : testing::Test {
-    RightToLeft() { NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("he")); }
-    ~RightToLeft() override { NSLocale::setCurrentLocale(nullptr); }
+struct RightToLeftTest : testing::Test {
+    RightToLeftTest() { NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("he")); }
+    ~RightToLeftTest() override { NSLocale::setCurrentLocale(nullptr); }
     static std::vector<std::string> painted(const Ref<UIView>& view) {
         RecordingCanvas canvas;
         view->renderInContext(canvas);
@@ -31,7 +32,7 @@ Ref<UILabel> labelOf(NSTextAlignment alignment) {
 
 } // namespace
 
-TEST_F(RightToLeft, a_text_of_natural_alignment_begins_at_the_right_and_any_other_one_where_it_was_put) {
+TEST_F(RightToLeftTest, ATextOfNaturalAlignmentBeginsAtTheRightAndAnyOtherOneWhereItWasPut) {
     // 30 of 100 points.
     EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentNatural)).at(0), "text abc at 70 0");
     EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentLeft)).at(0), "text abc at 0 0");
@@ -41,7 +42,7 @@ TEST_F(RightToLeft, a_text_of_natural_alignment_begins_at_the_right_and_any_othe
     EXPECT_PRED2(startsWith, painted(labelOf(NSTextAlignmentNatural)).at(0), "text abc at 0 0");
 }
 
-TEST_F(RightToLeft, a_cell_has_its_name_at_the_right_and_its_value_at_the_left) {
+TEST_F(RightToLeftTest, ACellHasItsNameAtTheRightAndItsValueAtTheLeft) {
     const auto cell = create<UITableViewCell>(UITableViewCellStyleValue1, "row");
     cell->textLabel()->setText("Name");
     cell->detailTextLabel()->setText("Value");
@@ -52,7 +53,7 @@ TEST_F(RightToLeft, a_cell_has_its_name_at_the_right_and_its_value_at_the_left) 
     EXPECT_EQ(cell->textLabel()->textAlignment(), NSTextAlignmentNatural);
 }
 
-TEST_F(RightToLeft, hairlines_and_headers_of_a_table_begin_at_the_right) {
+TEST_F(RightToLeftTest, HairlinesAndHeadersOfATableBeginAtTheRight) {
     const auto source = create<TableSource>();
     source->rows = {2};
     source->titles = {"Head"};

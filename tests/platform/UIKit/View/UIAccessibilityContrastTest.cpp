@@ -23,7 +23,8 @@ double luminance(const UIColorComponents& color) {
     return 0.2126 * linear(color.red) + 0.7152 * linear(color.green) + 0.0722 * linear(color.blue);
 }
 
-/// The contrast ratio as the W3C defines it in its Web Content Accessibility Guidelines: 1 for one colour, 21 for black on white.
+/// The contrast ratio as the W3C defines it in its Web Content Accessibility Guidelines: 1 for one
+/// colour, 21 for black on white.
 double ratio(const UIColorComponents& first, const UIColorComponents& second) {
     const double a = luminance(first) + 0.05;
     const double b = luminance(second) + 0.05;
@@ -41,7 +42,7 @@ UIColorComponents backgroundOf(UIUserInterfaceStyle style) {
     return style == light ? UIColorComponents{1, 1, 1, 1} : UIColorComponents{0x1C / 255.0, 0x1E / 255.0, 0x22 / 255.0, 1};
 }
 
-struct ContrastWheel : testing::Test {
+struct ContrastWheelTest : testing::Test {
     Ref<WheelSource> source = create<WheelSource>();
     Ref<UIPickerView> wheel = wheelWithSource(source);
     TestWindow window{wheel};
@@ -62,7 +63,7 @@ struct ContrastWheel : testing::Test {
 
 } // namespace
 
-TEST(UIColor, has_values_of_its_own_for_high_contrast_in_either_look) {
+TEST(UIColor, HasValuesOfItsOwnForHighContrastInEitherLook) {
     const UIColor pair = UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0.25, 1), UIColor::colorWithWhite_alpha(0.75, 1));
     const UIColor strong = UIColor::colorWithLight_dark(UIColor::blackColor(), UIColor::whiteColor());
     const UIColor color = UIColor::colorWithNormal_highContrast(pair, strong);
@@ -75,7 +76,7 @@ TEST(UIColor, has_values_of_its_own_for_high_contrast_in_either_look) {
     EXPECT_EQ(pair.resolved(dark, high), (UIColorComponents{0.75, 0.75, 0.75, 1})) << "a colour without others keeps its own";
 }
 
-TEST(UIColor, keeps_its_high_contrast_when_looks_are_combined_and_alpha_changes) {
+TEST(UIColor, KeepsItsHighContrastWhenLooksAreCombinedAndAlphaChanges) {
     const UIColor grey = UIColor::colorWithNormal_highContrast(UIColor::colorWithWhite_alpha(0.5, 1), UIColor::blackColor());
     const UIColor combined = UIColor::colorWithLight_dark(UIColor::whiteColor(), grey);
     EXPECT_EQ(combined.resolved(light, high), (UIColorComponents{1, 1, 1, 1}));
@@ -85,7 +86,7 @@ TEST(UIColor, keeps_its_high_contrast_when_looks_are_combined_and_alpha_changes)
     EXPECT_EQ(faint.resolved(dark, high), (UIColorComponents{0, 0, 0, 0.5}));
 }
 
-TEST(UIColor, texts_and_tint_have_a_contrast_of_7_to_1_at_high_contrast) {
+TEST(UIColor, TextsAndTintHaveAContrastOf7To1AtHighContrast) {
     EXPECT_NEAR(ratio({0, 0, 0, 1}, {1, 1, 1, 1}), 21, 1e-9);
     for (const UIUserInterfaceStyle style : {light, dark}) {
         const UIColorComponents background = backgroundOf(style);
@@ -102,7 +103,7 @@ TEST(UIColor, texts_and_tint_have_a_contrast_of_7_to_1_at_high_contrast) {
     EXPECT_EQ(UIColor::labelColor().resolved(dark, high), (UIColorComponents{1, 1, 1, 1}));
 }
 
-TEST(UIColor, a_row_beside_the_band_and_one_under_the_mark_of_the_focus_keep_7_to_1) {
+TEST(UIColor, RowsBesideTheSelectionIndicatorAndUnderTheFocusMarkKeep7To1) {
     for (const UIUserInterfaceStyle style : {light, dark}) {
         UIColorComponents beside = UIColor::labelColor().resolved(style, high);
         beside.alpha = 0.8;
@@ -114,7 +115,7 @@ TEST(UIColor, a_row_beside_the_band_and_one_under_the_mark_of_the_focus_keep_7_t
     }
 }
 
-TEST(UIWindow, draws_again_when_its_contrast_changes_and_tells_the_canvas) {
+TEST(UIWindow, DrawsAgainWhenItsContrastChangesAndSetsThatOfTheCanvas) {
     const auto label = create<UILabel>(CGRectMake(0, 0, 100, 20));
     label->setText("a");
     TestWindow window(label);
@@ -134,7 +135,7 @@ TEST(UIWindow, draws_again_when_its_contrast_changes_and_tells_the_canvas) {
     EXPECT_EQ(canvas.painted(), (std::vector<std::string>{"text a at 0 0 with 1 1 1 1"}));
 }
 
-TEST_F(ContrastWheel, rows_beside_the_band_fade_by_a_fifth_and_no_more) {
+TEST_F(ContrastWheelTest, RowsBesideTheSelectionIndicatorFadeByAFifthAndNoMore) {
     window->setAccessibilityContrast(high);
     wheel->selectRow_inComponent_animated(50, 0, false);
     const std::vector<std::string> alphas = startingWith("alpha", callsOfDrawing());
@@ -143,12 +144,12 @@ TEST_F(ContrastWheel, rows_beside_the_band_fade_by_a_fifth_and_no_more) {
     EXPECT_EQ(std::count(alphas.begin(), alphas.end(), "alpha 0.8"), 6);
 }
 
-TEST_F(ContrastWheel, the_band_has_an_outline_at_high_contrast_alone) {
+TEST_F(ContrastWheelTest, TheSelectionIndicatorHasAnOutlineAtHighContrastAlone) {
     EXPECT_EQ(startingWith("fill", callsOfDrawing()).size(), 1U);
     window->setAccessibilityContrast(high);
     const std::vector<std::string> fills = startingWith("fill", callsOfDrawing());
     ASSERT_EQ(fills.size(), 5U);
-    // The band is 304 by 40 points, 8 from the sides and around 108.
+    // The selection indicator is 304 by 40 points, 8 from the sides and around 108.
     EXPECT_TRUE(fills[0].starts_with("fill 8 88 304 40 with")) << fills[0];
     EXPECT_TRUE(fills[1].starts_with("fill 8 88 304 1.5 with")) << fills[1];
     EXPECT_TRUE(fills[2].starts_with("fill 8 126.5 304 1.5 with")) << fills[2];
@@ -158,20 +159,21 @@ TEST_F(ContrastWheel, the_band_has_an_outline_at_high_contrast_alone) {
     EXPECT_TRUE(startingWith("fill", callsOfDrawing()).empty());
 }
 
-TEST_F(ContrastWheel, the_mark_of_the_focus_lies_over_the_outline) {
+TEST_F(ContrastWheelTest, TheMarkOfTheFocusLiesOverTheOutline) {
     window->setAccessibilityContrast(high);
     wheel->becomeFirstResponder();
     window.press(UIKey::Code::Down);
     window.runUntilStill();
     const std::vector<std::string> fills = startingWith("fill", callsOfDrawing());
     ASSERT_EQ(fills.size(), 8U);
-    // The column of 80 points in the middle, and its bars of 2 points, which leave out the rounded corners.
+    // The column of 80 points in the middle, and its bars of 2 points, which leave out the rounded
+    // corners.
     EXPECT_TRUE(fills[5].starts_with("fill 120 88 80 40 with")) << fills[5];
     EXPECT_TRUE(fills[6].starts_with("fill 128 88 64 2 with")) << fills[6];
     EXPECT_TRUE(fills[7].starts_with("fill 128 126 64 2 with")) << fills[7];
 }
 
-TEST_F(ContrastWheel, a_wheel_in_mid_turn_goes_on_in_the_other_look_with_the_next_frame) {
+TEST_F(ContrastWheelTest, AWheelInMidSpinGoesOnInTheOtherLookWithTheNextFrame) {
     window.fling({160, 108}, {160, 8}, 10); // To row 10.
     window.run(0.1);
     const NSInteger before = wheel->rowInBandOfComponent(0);

@@ -42,13 +42,13 @@ public:
     }
 };
 
-struct UIAccessibility : testing::Test {
+struct UIAccessibilityTest : testing::Test {
     Ref<UIView> root = create<UIView>(CGRectMake(0, 0, 320, 480));
 };
 
 } // namespace
 
-TEST_F(UIAccessibility, AViewOffersWhatItsSubviewsDoInTheirOrder) {
+TEST_F(UIAccessibilityTest, AViewOffersWhatItsSubviewsDoInTheirOrder) {
     const auto group = create<UIView>(CGRectMake(0, 100, 320, 100));
     group->addSubview(labelWithText("second"));
     group->addSubview(labelWithText("third"));
@@ -58,7 +58,7 @@ TEST_F(UIAccessibility, AViewOffersWhatItsSubviewsDoInTheirOrder) {
     EXPECT_EQ(labelsOf(root), (Labels{"first", "second", "third", "fourth"}));
 }
 
-TEST_F(UIAccessibility, WhatIsNotDrawnIsNotRead) {
+TEST_F(UIAccessibilityTest, WhatIsNotDrawnIsNotRead) {
     const auto hidden = labelWithText("hidden");
     hidden->setHidden(true);
     const auto clear = labelWithText("clear");
@@ -75,7 +75,7 @@ TEST_F(UIAccessibility, WhatIsNotDrawnIsNotRead) {
     EXPECT_EQ(labelsOf(root), Labels{"faint"});
 }
 
-TEST_F(UIAccessibility, ALabelIsATextAndALabelOfItsOwnGoesBeforeIt) {
+TEST_F(UIAccessibilityTest, ALabelIsATextAndALabelOfItsOwnGoesBeforeIt) {
     const auto label = labelWithText("km");
     root->addSubview(label);
     const auto element = root->accessibilityElements().at(0);
@@ -91,7 +91,7 @@ TEST_F(UIAccessibility, ALabelIsATextAndALabelOfItsOwnGoesBeforeIt) {
     EXPECT_EQ(element->label(), "km");
 }
 
-TEST_F(UIAccessibility, OnlyAnImageWithALabelIsRead) {
+TEST_F(UIAccessibilityTest, OnlyAnImageWithALabelIsRead) {
     const auto plain = create<UIImageView>(CGRectMake(0, 0, 20, 20));
     plain->setImage(imageWithLabel(std::nullopt));
     const auto sunny = create<UIImageView>(CGRectMake(20, 0, 20, 20));
@@ -103,7 +103,7 @@ TEST_F(UIAccessibility, OnlyAnImageWithALabelIsRead) {
     EXPECT_EQ(root->accessibilityElements().at(0)->role(), UIAccessibilityRole::Image);
 }
 
-TEST_F(UIAccessibility, ACellIsOneButtonNamedByItsTexts) {
+TEST_F(UIAccessibilityTest, ACellIsOneButtonNamedByItsTexts) {
     const auto cell = create<UITableViewCell>(UITableViewCellStyleValue1, std::nullopt);
     cell->textLabel()->setText("Distance");
     cell->detailTextLabel()->setText("5.3 km");
@@ -115,12 +115,12 @@ TEST_F(UIAccessibility, ACellIsOneButtonNamedByItsTexts) {
     EXPECT_EQ(labelsOf(root), Labels{"How far"});
 }
 
-TEST_F(UIAccessibility, ACellWithoutTextsIsNoElement) {
+TEST_F(UIAccessibilityTest, ACellWithoutTextsIsNoElement) {
     root->addSubview(create<UITableViewCell>(CGRectMake(0, 0, 320, 44)));
     EXPECT_EQ(labelsOf(root), Labels{});
 }
 
-TEST_F(UIAccessibility, AWheelInACellStaysAnElementOfItsOwn) {
+TEST_F(UIAccessibilityTest, AWheelInACellStaysAnElementOfItsOwn) {
     const auto source = create<WheelSource>();
     const auto wheel = wheelWithSource(source);
     wheel->setAccessibilityLabel("wheel");
@@ -131,16 +131,17 @@ TEST_F(UIAccessibility, AWheelInACellStaysAnElementOfItsOwn) {
     EXPECT_EQ(cell->accessibilityElements().at(1)->role(), UIAccessibilityRole::Adjustable);
 }
 
-TEST_F(UIAccessibility, AFrameIsInTheCoordinatesOfTheWindow) {
+TEST_F(UIAccessibilityTest, AFrameIsInTheCoordinatesOfTheWindow) {
     const auto scrolled = create<UIView>(CGRectMake(10, 20, 100, 100));
     scrolled->setBounds(CGRectMake(0, 30, 100, 100)); // Scrolled by 30 points.
     scrolled->addSubview(labelWithText("text", CGRectMake(5, 40, 50, 20)));
     root->addSubview(scrolled);
     const TestWindow window(root);
-    EXPECT_EQ(root->accessibilityElements().at(0)->frame(), CGRectMake(15, 30, 50, 20)); // 10 + 5, 20 + 40 - 30.
+    // 10 + 5, 20 + 40 - 30.
+    EXPECT_EQ(root->accessibilityElements().at(0)->frame(), CGRectMake(15, 30, 50, 20));
 }
 
-TEST_F(UIAccessibility, AnElementEndsWithItsViewAndRestsWhileThatIsHidden) {
+TEST_F(UIAccessibilityTest, AnElementEndsWithItsViewAndRestsWhileThatIsHidden) {
     auto label = labelWithText("text");
     root->addSubview(label);
     const auto element = root->accessibilityElements().at(0);
@@ -160,7 +161,7 @@ TEST_F(UIAccessibility, AnElementEndsWithItsViewAndRestsWhileThatIsHidden) {
     element->activateAtTime(1);
 }
 
-TEST_F(UIAccessibility, HandlesOfOneThingAreTheSame) {
+TEST_F(UIAccessibilityTest, HandlesOfOneThingAreTheSame) {
     root->addSubview(labelWithText("one"));
     root->addSubview(labelWithText("two"));
     const auto before = root->accessibilityElements();
@@ -170,7 +171,7 @@ TEST_F(UIAccessibility, HandlesOfOneThingAreTheSame) {
     EXPECT_FALSE(before[0]->isSameAs(*after[1]));
 }
 
-TEST_F(UIAccessibility, ActivatingTapsInTheMiddle) {
+TEST_F(UIAccessibilityTest, ActivatingTapsInTheMiddle) {
     const auto cell = create<Tapped>(CGRectMake(0, 40, 320, 44));
     cell->setAccessibilityLabel("Edit");
     root->addSubview(cell);
@@ -187,7 +188,7 @@ TEST_F(UIAccessibility, ActivatingTapsInTheMiddle) {
     EXPECT_EQ(cell->taps, 2) << "it has left the window";
 }
 
-TEST_F(UIAccessibility, WhatTakesNoTouchesIsNotEnabled) {
+TEST_F(UIAccessibilityTest, WhatTakesNoTouchesIsNotEnabled) {
     const auto cell = create<Tapped>(CGRectMake(0, 40, 320, 44));
     cell->setAccessibilityLabel("Edit");
     root->addSubview(cell);
@@ -200,7 +201,7 @@ TEST_F(UIAccessibility, WhatTakesNoTouchesIsNotEnabled) {
     EXPECT_EQ(cell->taps, 0);
 }
 
-TEST_F(UIAccessibility, WhatIsCoveredOrOutOfSightIsNotPressedNorAnythingInItsPlace) {
+TEST_F(UIAccessibilityTest, WhatIsCoveredOrOutOfSightIsNotPressedNorAnythingInItsPlace) {
     const auto clip = create<UIView>(CGRectMake(0, 100, 320, 100));
     clip->setClipsToBounds(true);
     root->addSubview(clip);
@@ -213,7 +214,8 @@ TEST_F(UIAccessibility, WhatIsCoveredOrOutOfSightIsNotPressedNorAnythingInItsPla
     TestWindow window(root);
     const auto element = cell->accessibilityElements().at(0);
 
-    cell->setFrame(CGRectMake(0, -30, 320, 44)); // Its middle lies above the clip, its lower edge within.
+    // Its middle lies above the clip, its lower edge within.
+    cell->setFrame(CGRectMake(0, -30, 320, 44));
     element->activateAtTime(window.now);
     EXPECT_EQ(cell->taps, 1);
     EXPECT_EQ(above->taps, 0);
@@ -227,7 +229,7 @@ TEST_F(UIAccessibility, WhatIsCoveredOrOutOfSightIsNotPressedNorAnythingInItsPla
     EXPECT_EQ(cell->taps, 1);
 }
 
-TEST_F(UIAccessibility, WhatIsNotAdjustableIgnoresOrdersToTurn) {
+TEST_F(UIAccessibilityTest, AnElementThatIsNotAdjustableIgnoresIncrementAndDecrement) {
     root->addSubview(labelWithText("text"));
     const auto element = root->accessibilityElements().at(0);
     element->increment();
@@ -238,7 +240,7 @@ TEST_F(UIAccessibility, WhatIsNotAdjustableIgnoresOrdersToTurn) {
     EXPECT_EQ(element->label(), "text");
 }
 
-TEST_F(UIAccessibility, WhatIsTransparentOrBelowItDoesNotExist) {
+TEST_F(UIAccessibilityTest, WhatIsTransparentOrBelowItDoesNotExist) {
     const auto group = create<UIView>(CGRectMake(0, 0, 320, 100));
     group->addSubview(labelWithText("text"));
     root->addSubview(group);
@@ -250,7 +252,7 @@ TEST_F(UIAccessibility, WhatIsTransparentOrBelowItDoesNotExist) {
     EXPECT_TRUE(root->accessibilityElements().empty());
 }
 
-TEST_F(UIAccessibility, AnElementOutlivesItsView) {
+TEST_F(UIAccessibilityTest, AnElementOutlivesItsView) {
     auto label = labelWithText("text");
     const auto element = label->accessibilityElements().at(0);
     label = nullptr;
@@ -260,7 +262,7 @@ TEST_F(UIAccessibility, AnElementOutlivesItsView) {
     EXPECT_TRUE(CGRectIsNull(element->frame()));
 }
 
-TEST_F(UIAccessibility, ElementsAreTheSameIfTheirViewsAndPartsAre) {
+TEST_F(UIAccessibilityTest, ElementsAreTheSameIfTheirViewsAndPartsAre) {
     root->addSubview(labelWithText("one"));
     root->addSubview(labelWithText("other"));
     const auto one = root->accessibilityElements().at(0);
@@ -271,7 +273,7 @@ TEST_F(UIAccessibility, ElementsAreTheSameIfTheirViewsAndPartsAre) {
     EXPECT_FALSE(one->isSameAs(UIAccessibilityElement(one->view(), one->role(), one->part() + 1)));
 }
 
-TEST_F(UIAccessibility, OfSeveralLabelsThoseThatSayNothingAreLeftOut) {
+TEST_F(UIAccessibilityTest, OfSeveralLabelsThoseThatSayNothingAreLeftOut) {
     for (const char* text : {"one", "two", "three", "four"}) root->addSubview(labelWithText(text));
     const auto elements = root->accessibilityElements();
     EXPECT_EQ(joinedAccessibilityLabels(elements), "one, two, three, four");
@@ -281,12 +283,12 @@ TEST_F(UIAccessibility, OfSeveralLabelsThoseThatSayNothingAreLeftOut) {
     EXPECT_EQ(joinedAccessibilityLabels({}), std::nullopt);
 }
 
-TEST_F(UIAccessibility, NoViewOffersNothing) {
+TEST_F(UIAccessibilityTest, NoViewOffersNothing) {
     EXPECT_TRUE(wholeAccessibilityElement(nullptr, UIAccessibilityRole::Text).empty());
     EXPECT_TRUE(accessibilityElementsOfSubviews(nullptr).empty());
 }
 
-TEST_F(UIAccessibility, ACellInACellIsAButtonOfItsOwn) {
+TEST_F(UIAccessibilityTest, ACellInACellIsAButtonOfItsOwn) {
     const auto outer = create<UITableViewCell>(CGRectMake(0, 0, 320, 88));
     outer->textLabel()->setText("outer");
     const auto inner = create<UITableViewCell>(CGRectMake(0, 44, 320, 44));

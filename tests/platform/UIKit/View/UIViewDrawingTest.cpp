@@ -15,7 +15,7 @@ struct Filler : UIView {
     void drawRect(UIGraphicsContext& context, CGRect rect) override { context.fillRect(rect, UIColor::whiteColor()); }
 };
 
-struct Drawing : testing::Test {
+struct UIViewDrawingTest : testing::Test {
     Ref<Filler> view = create<Filler>(CGRectMake(10, 20, 30, 40));
     RecordingCanvas canvas;
 
@@ -27,21 +27,23 @@ struct Drawing : testing::Test {
 
 } // namespace
 
-TEST_F(Drawing, AViewDrawsItselfAtTheOriginOfTheCanvas) {
+TEST_F(UIViewDrawingTest, AViewDrawsItselfAtTheOriginOfTheCanvas) {
     EXPECT_EQ(drawn(view), (Calls{"save", "fill 0 0 30 40 with 1 1 1 1", "restore"}));
 }
 
-TEST_F(Drawing, TheBackgroundLiesBelowTheContentAndThatBelowTheSubviews) {
+TEST_F(UIViewDrawingTest, TheBackgroundLiesBelowTheContentAndThatBelowTheSubviews) {
     view->setBackgroundColor(UIColor::blackColor());
     view->setCornerRadius(3);
     view->addSubview(create<Filler>(CGRectMake(1, 2, 3, 4)));
     view->addSubview(create<Filler>(CGRectMake(5, 6, 7, 8)));
-    EXPECT_EQ(drawn(view), (Calls{"save", "fill 0 0 30 40 with 0 0 0 1 rounded 3", "fill 0 0 30 40 with 1 1 1 1", //
-                                  "save", "translate 1 2", "fill 0 0 3 4 with 1 1 1 1", "restore",                //
-                                  "save", "translate 5 6", "fill 0 0 7 8 with 1 1 1 1", "restore", "restore"}));
+    //
+    EXPECT_EQ(drawn(view), (Calls{"save", "fill 0 0 30 40 with 0 0 0 1 rounded 3", "fill 0 0 30 40 with 1 1 1 1",
+                                  //
+                                  "save", "translate 1 2", "fill 0 0 3 4 with 1 1 1 1", "restore", "save", "translate 5 6",
+                                  "fill 0 0 7 8 with 1 1 1 1", "restore", "restore"}));
 }
 
-TEST_F(Drawing, ScrolledBoundsMoveTheContentAndTheSubviewsButNotTheBackground) {
+TEST_F(UIViewDrawingTest, ScrolledBoundsMoveTheContentAndTheSubviewsButNotTheBackground) {
     view->setBackgroundColor(UIColor::blackColor());
     view->setClipsToBounds(true);
     view->setBounds(CGRectMake(100, 200, 30, 40));
@@ -51,14 +53,14 @@ TEST_F(Drawing, ScrolledBoundsMoveTheContentAndTheSubviewsButNotTheBackground) {
                      "save", "translate 101 202", "fill 0 0 3 4 with 1 1 1 1", "restore", "restore"}));
 }
 
-TEST_F(Drawing, AFaintViewIsFaintWithAllBelowIt) {
+TEST_F(UIViewDrawingTest, AFaintViewIsFaintWithAllBelowIt) {
     const auto outer = create<UIView>(CGRectMake(0, 0, 100, 100));
     outer->addSubview(view);
     view->setAlpha(0.5);
     EXPECT_EQ(drawn(outer), (Calls{"save", "save", "translate 10 20", "alpha 0.5", "fill 0 0 30 40 with 1 1 1 1", "restore", "restore"}));
 }
 
-TEST_F(Drawing, WhatIsHiddenClearOrWithoutAreaIsNotDrawn) {
+TEST_F(UIViewDrawingTest, WhatIsHiddenClearOrWithoutAreaIsNotDrawn) {
     const auto outer = create<UIView>(CGRectMake(0, 0, 100, 100));
     outer->addSubview(view);
     const Calls nothing = {"save", "restore"};
@@ -76,14 +78,14 @@ TEST_F(Drawing, WhatIsHiddenClearOrWithoutAreaIsNotDrawn) {
     EXPECT_EQ(drawn(outer), (Calls{"save", "save", "translate 10 20", "fill 0 0 30 40 with 1 1 1 1", "restore", "restore"}));
 }
 
-TEST_F(Drawing, ANegativeSizeIsDrawnOverTheAreaThatItSpans) {
+TEST_F(UIViewDrawingTest, ANegativeSizeIsDrawnOverTheAreaThatItSpans) {
     const auto outer = create<UIView>(CGRectMake(0, 0, 100, 100));
     outer->addSubview(view);
     view->setFrame(CGRectMake(40, 60, -30, -40));
     EXPECT_EQ(drawn(outer), (Calls{"save", "save", "translate 10 20", "fill 0 0 30 40 with 1 1 1 1", "restore", "restore"}));
 }
 
-TEST_F(Drawing, AViewThatRemovesItselfWhileItDrawsDisturbsNobody) {
+TEST_F(UIViewDrawingTest, AViewMayRemoveItselfWhileItDraws) {
     struct Leaving : UIView {
         void drawRect(UIGraphicsContext&, CGRect) override { removeFromSuperview(); }
     };
@@ -95,7 +97,7 @@ TEST_F(Drawing, AViewThatRemovesItselfWhileItDrawsDisturbsNobody) {
     EXPECT_EQ(drawn(outer), (Calls{"save", "save", "translate 10 20", "fill 0 0 30 40 with 1 1 1 1", "restore", "restore"}));
 }
 
-TEST_F(Drawing, AViewThatAddsAnotherWhileItDrawsDisturbsNobody) {
+TEST_F(UIViewDrawingTest, AViewMayAddAnotherWhileItDraws) {
     struct Growing : UIView {
         void drawRect(UIGraphicsContext&, CGRect) override {
             const Ref<UIView> above = superview();

@@ -48,7 +48,7 @@ private:
     }
 };
 
-struct Events : testing::Test {
+struct UIViewEventsTest : testing::Test {
     Ref<UIView> root = create<UIView>(CGRectMake(0, 0, 100, 100));
 };
 
@@ -56,7 +56,7 @@ struct Events : testing::Test {
 
 // Hit testing
 
-TEST_F(Events, APointMeetsTheTopmostViewThatContainsIt) {
+TEST_F(UIViewEventsTest, APointMeetsTheTopmostViewThatContainsIt) {
     const auto lower = viewIn(root, CGRectMake(10, 10, 50, 50));
     const auto upper = viewIn(root, CGRectMake(30, 30, 50, 50));
     EXPECT_EQ(root->hitTest({5, 5}), root);
@@ -67,21 +67,21 @@ TEST_F(Events, APointMeetsTheTopmostViewThatContainsIt) {
     EXPECT_EQ(root->hitTest({80, 79}), root);
 }
 
-TEST_F(Events, APointOutsideMeetsNothing) {
+TEST_F(UIViewEventsTest, APointOutsideMeetsNothing) {
     EXPECT_EQ(root->hitTest({99.9, 99.9}), root);
     EXPECT_FALSE(root->hitTest({100, 50}));
     EXPECT_FALSE(root->hitTest({50, 100}));
     EXPECT_FALSE(root->hitTest({-0.1, 50}));
 }
 
-TEST_F(Events, WhatSticksOutOfItsSuperviewIsNotMetThere) {
+TEST_F(UIViewEventsTest, WhatSticksOutOfItsSuperviewIsNotMetThere) {
     const auto middle = viewIn(root, CGRectMake(10, 10, 20, 20));
     const auto leaf = viewIn(middle, CGRectMake(10, 10, 50, 50));
     EXPECT_EQ(root->hitTest({25, 25}), leaf);
     EXPECT_EQ(root->hitTest({35, 35}), root);
 }
 
-TEST_F(Events, WhatIsHiddenFaintOrTakesNoTouchesIsPassedThrough) {
+TEST_F(UIViewEventsTest, WhatIsHiddenFaintOrTakesNoTouchesIsPassedThrough) {
     const auto lower = viewIn(root, CGRectMake(0, 0, 50, 50));
     const auto upper = viewIn(root, CGRectMake(0, 0, 50, 50));
     const auto leaf = viewIn(upper, CGRectMake(0, 0, 50, 50));
@@ -98,7 +98,18 @@ TEST_F(Events, WhatIsHiddenFaintOrTakesNoTouchesIsPassedThrough) {
     EXPECT_EQ(root->hitTest({5, 5}), leaf);
 }
 
-TEST_F(Events, ScrolledBoundsMoveWhatAPointMeets) {
+TEST_F(UIViewEventsTest, AViewTakesInputFromTheLowestAlphaOn) {
+    const auto view = viewIn(root, CGRectMake(0, 0, 50, 50));
+    const auto leaf = viewIn(view, CGRectMake(0, 0, 50, 50));
+    view->setAlpha(0.01);
+    EXPECT_TRUE(leaf->takesInput());
+    EXPECT_EQ(root->hitTest({5, 5}), leaf);
+    view->setAlpha(0.0099);
+    EXPECT_FALSE(leaf->takesInput());
+    EXPECT_EQ(root->hitTest({5, 5}), root);
+}
+
+TEST_F(UIViewEventsTest, ScrolledBoundsMoveWhatAPointMeets) {
     const auto scrolled = viewIn(root, CGRectMake(10, 10, 50, 50));
     const auto leaf = viewIn(scrolled, CGRectMake(1000, 2000, 10, 10));
     scrolled->setBounds(CGRectMake(990, 1990, 50, 50));
@@ -108,21 +119,21 @@ TEST_F(Events, ScrolledBoundsMoveWhatAPointMeets) {
     EXPECT_EQ(root->hitTest({19, 20}), scrolled);
 }
 
-TEST_F(Events, AViewOfNegativeSizeIsMetWhereItIsDrawn) {
+TEST_F(UIViewEventsTest, AViewOfNegativeSizeIsMetWhereItIsDrawn) {
     const auto view = viewIn(root, CGRectMake(40, 60, -30, -40));
     EXPECT_EQ(root->hitTest({10, 20}), view);
     EXPECT_EQ(root->hitTest({39, 59}), view);
     EXPECT_EQ(root->hitTest({41, 61}), root);
 }
 
-TEST_F(Events, AViewWithoutAPlaceIsNotMet) {
+TEST_F(UIViewEventsTest, AViewWithoutAPlaceIsNotMet) {
     viewIn(root, CGRectNull);
     EXPECT_EQ(root->hitTest({5, 5}), root);
 }
 
 // Up the tree
 
-TEST_F(Events, TouchesGoUpUntilAViewKeepsThem) {
+TEST_F(UIViewEventsTest, TouchesGoUpUntilAViewKeepsThem) {
     const auto top = create<Taker>(CGRectMake(0, 0, 100, 100));
     const auto keeper = create<Taker>(CGRectMake(0, 0, 100, 100));
     top->addSubview(keeper);
@@ -143,7 +154,7 @@ TEST_F(Events, TouchesGoUpUntilAViewKeepsThem) {
     EXPECT_EQ(top->log, "began moved ended cancelled ");
 }
 
-TEST_F(Events, ScrollingGoesUpUntilSomeoneMakesUseOfIt) {
+TEST_F(UIViewEventsTest, ScrollingGoesUpUntilSomeoneMakesUseOfIt) {
     const auto keeper = create<Taker>(CGRectMake(0, 0, 100, 100));
     const auto plain = viewIn(keeper, CGRectMake(0, 0, 10, 10));
     EXPECT_TRUE(plain->scrolled({}));
@@ -153,7 +164,7 @@ TEST_F(Events, ScrollingGoesUpUntilSomeoneMakesUseOfIt) {
     EXPECT_FALSE(root->scrolled({}));
 }
 
-TEST_F(Events, ATouchThatNobodyKeepsGoesNowhere) {
+TEST_F(UIViewEventsTest, ATouchThatNoViewTakesIsNotTaken) {
     const auto plain = create<Taker>();
     plain->handsOn = true;
     EXPECT_FALSE(plain->touchBegan({}));
@@ -161,4 +172,4 @@ TEST_F(Events, ATouchThatNobodyKeepsGoesNowhere) {
     EXPECT_EQ(plain->log, "began ");
 }
 
-TEST_F(Events, APlainViewDoesNotMove) { EXPECT_FALSE(root->advanceToTime(1)); }
+TEST_F(UIViewEventsTest, APlainViewDoesNotMove) { EXPECT_FALSE(root->advanceToTime(1)); }

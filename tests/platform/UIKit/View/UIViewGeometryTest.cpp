@@ -17,20 +17,20 @@ Ref<UIView> viewIn(const Ref<UIView>& above, CGRect frame) {
 }
 
 /// A root with two branches: `outer` is scrolled by (5, 7) and holds `inner`; `other` stands aside.
-struct Geometry : testing::Test {
+struct UIViewGeometryTest : testing::Test {
     Ref<UIView> root = create<UIView>(CGRectMake(1000, 1000, 300, 300));
     Ref<UIView> outer = viewIn(root, CGRectMake(10, 20, 100, 100));
     Ref<UIView> inner = viewIn(outer, CGRectMake(30, 40, 20, 20));
     Ref<UIView> other = viewIn(root, CGRectMake(200, 100, 50, 50));
 
-    Geometry() { outer->setBounds(CGRectMake(5, 7, 100, 100)); }
+    UIViewGeometryTest() { outer->setBounds(CGRectMake(5, 7, 100, 100)); }
 };
 
 } // namespace
 
 // Frame, bounds, centre
 
-TEST_F(Geometry, BoundsHaveTheSizeOfTheFrameAndTheirOwnOrigin) {
+TEST_F(UIViewGeometryTest, BoundsHaveTheSizeOfTheFrameAndTheirOwnOrigin) {
     const auto view = create<UIView>(CGRectMake(10, 20, 100, 50));
     EXPECT_EQ(view->bounds(), CGRectMake(0, 0, 100, 50));
     EXPECT_EQ(view->center(), CGPointMake(60, 45));
@@ -40,7 +40,7 @@ TEST_F(Geometry, BoundsHaveTheSizeOfTheFrameAndTheirOwnOrigin) {
     EXPECT_EQ(view->center(), CGPointMake(10, 20));
 }
 
-TEST_F(Geometry, NewBoundsOfTheSameSizeScrollTheViewAndLeaveItsFrame) {
+TEST_F(UIViewGeometryTest, NewBoundsOfTheSameSizeScrollTheViewAndLeaveItsFrame) {
     const auto view = create<UIView>(CGRectMake(10, 20, 100, 50));
     view->setBounds(CGRectMake(7, -8, 100, 50));
     EXPECT_EQ(view->frame(), CGRectMake(10, 20, 100, 50));
@@ -49,7 +49,7 @@ TEST_F(Geometry, NewBoundsOfTheSameSizeScrollTheViewAndLeaveItsFrame) {
     EXPECT_EQ(view->bounds(), CGRectMake(7, -8, 60, 60)) << "a new frame keeps the origin of the bounds";
 }
 
-TEST_F(Geometry, NewBoundsOfAnotherSizeKeepTheCentre) {
+TEST_F(UIViewGeometryTest, NewBoundsOfAnotherSizeKeepTheCentre) {
     const auto view = create<UIView>(CGRectMake(10, 20, 100, 50));
     view->setBounds(CGRectMake(1, 2, 40, 30));
     EXPECT_EQ(view->frame(), CGRectMake(40, 30, 40, 30));
@@ -57,7 +57,7 @@ TEST_F(Geometry, NewBoundsOfAnotherSizeKeepTheCentre) {
     EXPECT_EQ(view->center(), CGPointMake(60, 45));
 }
 
-TEST_F(Geometry, ANewCentreMovesTheViewThroughSetFrame) {
+TEST_F(UIViewGeometryTest, ANewCentreMovesTheViewThroughSetFrame) {
     struct Noting : UIView {
         int frames = 0;
         void setFrame(CGRect frame) override {
@@ -72,7 +72,7 @@ TEST_F(Geometry, ANewCentreMovesTheViewThroughSetFrame) {
     EXPECT_EQ(view->center(), CGPointMake(100, 200));
 }
 
-TEST_F(Geometry, ANegativeSizeIsTheAreaThatItSpans) {
+TEST_F(UIViewGeometryTest, ANegativeSizeIsTheAreaThatItSpans) {
     const auto view = viewIn(root, CGRectMake(40, 70, -30, -50));
     EXPECT_EQ(view->frame(), CGRectMake(40, 70, -30, -50));
     EXPECT_EQ(view->bounds(), CGRectMake(0, 0, 30, 50));
@@ -80,7 +80,7 @@ TEST_F(Geometry, ANegativeSizeIsTheAreaThatItSpans) {
     EXPECT_EQ(view->convertPoint_toView({0, 0}, root), CGPointMake(10, 20)) << "where its top left is drawn";
 }
 
-TEST_F(Geometry, TheNullRectangleIsKeptAndGivesEmptyBounds) {
+TEST_F(UIViewGeometryTest, TheNullRectangleIsKeptAndGivesEmptyBounds) {
     const auto view = create<UIView>(CGRectNull);
     EXPECT_TRUE(CGRectIsNull(view->frame()));
     EXPECT_EQ(view->bounds(), CGRectZero);
@@ -91,7 +91,7 @@ TEST_F(Geometry, TheNullRectangleIsKeptAndGivesEmptyBounds) {
     EXPECT_EQ(view->bounds(), CGRectZero);
 }
 
-TEST_F(Geometry, SizeToFitTakesTheFittingSizeAndKeepsTheOrigin) {
+TEST_F(UIViewGeometryTest, SizeToFitTakesTheFittingSizeAndKeepsTheOrigin) {
     struct Sized : UIView {
         mutable CGSize asked;
         CGSize sizeThatFits(CGSize available) const override {
@@ -108,54 +108,54 @@ TEST_F(Geometry, SizeToFitTakesTheFittingSizeAndKeepsTheOrigin) {
     EXPECT_EQ(view->frame(), CGRectMake(0, 0, 12, 34));
 }
 
-TEST_F(Geometry, APlainViewFitsAsItIs) { EXPECT_EQ(outer->sizeThatFits({1, 2}), CGSizeMake(100, 100)); }
+TEST_F(UIViewGeometryTest, APlainViewFitsAsItIs) { EXPECT_EQ(outer->sizeThatFits({1, 2}), CGSizeMake(100, 100)); }
 
 // Conversions
 
-TEST_F(Geometry, APointGoesUpByFramesAndScrolledOrigins) {
+TEST_F(UIViewGeometryTest, APointGoesUpByFramesAndScrolledOrigins) {
     EXPECT_EQ(inner->convertPoint_toView({1, 2}, outer), CGPointMake(31, 42));
     EXPECT_EQ(inner->convertPoint_toView({1, 2}, root), CGPointMake(36, 55));
     EXPECT_EQ(root->convertPoint_fromView({1, 2}, inner), CGPointMake(36, 55));
 }
 
-TEST_F(Geometry, APointGoesDownByFramesAndScrolledOrigins) {
+TEST_F(UIViewGeometryTest, APointGoesDownByFramesAndScrolledOrigins) {
     EXPECT_EQ(root->convertPoint_toView({36, 55}, inner), CGPointMake(1, 2));
     EXPECT_EQ(inner->convertPoint_fromView({36, 55}, root), CGPointMake(1, 2));
 }
 
-TEST_F(Geometry, APointGoesAcrossTheNearestCommonView) {
+TEST_F(UIViewGeometryTest, APointGoesAcrossTheNearestCommonView) {
     EXPECT_EQ(inner->convertPoint_toView({1, 2}, other), CGPointMake(-164, -45));
     EXPECT_EQ(other->convertPoint_fromView({1, 2}, inner), CGPointMake(-164, -45));
     EXPECT_EQ(other->convertPoint_toView({-164, -45}, inner), CGPointMake(1, 2));
 }
 
-TEST_F(Geometry, ARectangleKeepsItsSize) {
+TEST_F(UIViewGeometryTest, ARectangleKeepsItsSize) {
     EXPECT_EQ(inner->convertRect_toView(CGRectMake(1, 2, 3, 4), root), CGRectMake(36, 55, 3, 4));
     EXPECT_EQ(root->convertRect_fromView(inner->bounds(), inner), CGRectMake(35, 53, 20, 20));
 }
 
-TEST_F(Geometry, AViewConvertsToItselfUnchanged) {
+TEST_F(UIViewGeometryTest, AViewConvertsToItselfUnchanged) {
     EXPECT_EQ(inner->convertPoint_toView({1, 2}, inner), CGPointMake(1, 2));
     EXPECT_EQ(inner->convertRect_fromView(CGRectMake(1, 2, 3, 4), inner), CGRectMake(1, 2, 3, 4));
 }
 
-TEST_F(Geometry, AnAbsentViewGivesZero) {
+TEST_F(UIViewGeometryTest, AnAbsentViewGivesZero) {
     EXPECT_EQ(inner->convertRect_fromView(CGRectMake(1, 2, 3, 4), nullptr), CGRectZero);
     EXPECT_EQ(inner->convertRect_toView(CGRectMake(1, 2, 3, 4), nullptr), CGRectZero);
     EXPECT_EQ(inner->convertPoint_fromView({1, 2}, nullptr), CGPointMake(0, 0));
     EXPECT_EQ(inner->convertPoint_toView({1, 2}, nullptr), CGPointMake(0, 0));
 }
 
-TEST_F(Geometry, RootsOfSeparateTreesLieOnEachOther) {
+TEST_F(UIViewGeometryTest, RootsOfSeparateTreesLieOnEachOther) {
     const auto stranger = create<UIView>(CGRectMake(-500, -500, 10, 10));
     const auto leaf = viewIn(stranger, CGRectMake(3, 4, 5, 5));
     EXPECT_EQ(leaf->convertPoint_toView({0, 0}, inner), CGPointMake(-32, -49));
     EXPECT_EQ(leaf->convertPoint_fromView({0, 0}, inner), CGPointMake(32, 49));
 }
 
-TEST_F(Geometry, ThePlaceOfTheWindowIsThatOfTheRoot) { EXPECT_EQ(inner->convertPointFromWindow({36, 55}), CGPointMake(1, 2)); }
+TEST_F(UIViewGeometryTest, ThePlaceOfTheWindowIsThatOfTheRoot) { EXPECT_EQ(inner->convertPointFromWindow({36, 55}), CGPointMake(1, 2)); }
 
-TEST_F(Geometry, BelowAViewWithoutAPlaceConversionsAreAsExactAsElsewhere) {
+TEST_F(UIViewGeometryTest, BelowAViewWithoutAPlaceConversionsAreAsExactAsElsewhere) {
     const auto placeless = viewIn(root, CGRectNull);
     const auto first = viewIn(placeless, CGRectMake(1, 2, 3, 4));
     const auto second = viewIn(placeless, CGRectMake(10, 20, 3, 4));

@@ -1,4 +1,4 @@
-// Layout passes: who is laid out when, and what a layout may do to the tree.
+// Layout passes: which views are laid out when, and what a layout may do to the tree.
 
 #include <functional>
 
@@ -22,13 +22,13 @@ struct Laid : UIView {
     }
 };
 
-struct Layout : testing::Test {
+struct UIViewLayoutTest : testing::Test {
     Ref<Laid> root = create<Laid>(CGRectMake(0, 0, 100, 100));
     Ref<Laid> middle = create<Laid>(CGRectMake(0, 0, 50, 50));
     Ref<Laid> leaf = create<Laid>(CGRectMake(0, 0, 10, 10));
     Ref<Laid> sibling = create<Laid>(CGRectMake(50, 0, 50, 50));
 
-    Layout() {
+    UIViewLayoutTest() {
         root->addSubview(middle);
         middle->addSubview(leaf);
         root->addSubview(sibling);
@@ -41,14 +41,14 @@ struct Layout : testing::Test {
 
 } // namespace
 
-TEST_F(Layout, TheFirstPassLaysOutEveryViewOnceWithoutAWindow) {
+TEST_F(UIViewLayoutTest, TheFirstPassLaysOutEveryViewOnceWithoutAWindow) {
     root->layoutIfNeeded();
     for (const Ref<Laid>& view : {root, middle, leaf, sibling}) EXPECT_EQ(view->layouts, 1);
     root->layoutIfNeeded();
     for (const Ref<Laid>& view : {root, middle, leaf, sibling}) EXPECT_EQ(view->layouts, 1) << "nothing is due";
 }
 
-TEST_F(Layout, OnlyWhatIsDueIsLaidOut) {
+TEST_F(UIViewLayoutTest, OnlyInvalidatedViewsAreLaidOut) {
     layOutAll();
     leaf->setNeedsLayout();
     EXPECT_EQ(leaf->layouts, 0) << "not at once";
@@ -59,7 +59,7 @@ TEST_F(Layout, OnlyWhatIsDueIsLaidOut) {
     EXPECT_EQ(sibling->layouts, 0);
 }
 
-TEST_F(Layout, ASubtreeCanBeLaidOutAlone) {
+TEST_F(UIViewLayoutTest, ASubtreeCanBeLaidOutAlone) {
     layOutAll();
     leaf->setNeedsLayout();
     sibling->setNeedsLayout();
@@ -71,7 +71,7 @@ TEST_F(Layout, ASubtreeCanBeLaidOutAlone) {
     EXPECT_EQ(sibling->layouts, 1);
 }
 
-TEST_F(Layout, ANewSizeMakesALayoutDueAndANewPlaceDoesNot) {
+TEST_F(UIViewLayoutTest, ANewSizeInvalidatesTheLayoutAndANewPlaceDoesNot) {
     layOutAll();
     middle->setFrame(CGRectMake(10, 10, 50, 50));
     middle->setBounds(CGRectMake(5, 5, 50, 50));
@@ -90,7 +90,7 @@ TEST_F(Layout, ANewSizeMakesALayoutDueAndANewPlaceDoesNot) {
     EXPECT_EQ(leaf->layouts, 0) << "its own size is what it was";
 }
 
-TEST_F(Layout, ANewSubviewMakesALayoutDueHereAndThere) {
+TEST_F(UIViewLayoutTest, ANewSubviewInvalidatesItsLayoutAndItsSuperviews) {
     layOutAll();
     const auto fresh = create<Laid>();
     middle->addSubview(fresh);
@@ -100,7 +100,7 @@ TEST_F(Layout, ANewSubviewMakesALayoutDueHereAndThere) {
     EXPECT_EQ(leaf->layouts, 0);
 }
 
-TEST_F(Layout, WhatIsDueBelowAViewStaysDueWhereTheViewIsMovedTo) {
+TEST_F(UIViewLayoutTest, ALayoutInvalidatedBelowAViewStaysSoWhereTheViewIsMovedTo) {
     layOutAll();
     middle->removeFromSuperview();
     leaf->setNeedsLayout();
@@ -109,7 +109,7 @@ TEST_F(Layout, WhatIsDueBelowAViewStaysDueWhereTheViewIsMovedTo) {
     EXPECT_EQ(leaf->layouts, 1);
 }
 
-TEST_F(Layout, ALayoutThatSizesItsSubviewsLaysThemOutInTheSamePass) {
+TEST_F(UIViewLayoutTest, ALayoutThatSizesItsSubviewsLaysThemOutInTheSamePass) {
     layOutAll();
     root->whenLaidOut = [this] { middle->setFrame(CGRectMake(0, 0, root->bounds().size.width / 2, 50)); };
     root->setFrame(CGRectMake(0, 0, 80, 100));
@@ -120,7 +120,7 @@ TEST_F(Layout, ALayoutThatSizesItsSubviewsLaysThemOutInTheSamePass) {
 
 // Layouts that ask for layouts
 
-TEST_F(Layout, ALayoutThatAsksForAnotherGetsItInTheNextPass) {
+TEST_F(UIViewLayoutTest, ALayoutThatInvalidatesItselfIsRepeatedByTheNextPass) {
     layOutAll();
     leaf->whenLaidOut = [this] { leaf->setNeedsLayout(); };
     leaf->setNeedsLayout();
@@ -135,7 +135,7 @@ TEST_F(Layout, ALayoutThatAsksForAnotherGetsItInTheNextPass) {
     EXPECT_EQ(leaf->layouts, 4) << "nobody asked any more";
 }
 
-TEST_F(Layout, ALayoutWithinItselfDoesNothing) {
+TEST_F(UIViewLayoutTest, ALayoutWithinItselfIsANoOp) {
     layOutAll();
     middle->whenLaidOut = [this] {
         middle->setNeedsLayout();
@@ -148,7 +148,7 @@ TEST_F(Layout, ALayoutWithinItselfDoesNothing) {
     EXPECT_EQ(middle->layouts, 2);
 }
 
-TEST_F(Layout, ALayoutMayLayOutItsSubviewsAtOnce) {
+TEST_F(UIViewLayoutTest, ALayoutMayLayOutItsSubviewsAtOnce) {
     layOutAll();
     int seen = -1;
     middle->whenLaidOut = [&] {
@@ -162,7 +162,7 @@ TEST_F(Layout, ALayoutMayLayOutItsSubviewsAtOnce) {
     EXPECT_EQ(leaf->layouts, 1) << "not again in the same pass";
 }
 
-TEST_F(Layout, ALayoutThatLaysOutTheRootLosesNothing) {
+TEST_F(UIViewLayoutTest, ALayoutThatLaysOutTheRootLosesNothing) {
     layOutAll();
     leaf->whenLaidOut = [this] {
         leaf->whenLaidOut = nullptr;
@@ -176,7 +176,7 @@ TEST_F(Layout, ALayoutThatLaysOutTheRootLosesNothing) {
     EXPECT_EQ(leaf->layouts, 2) << "it asked for another";
 }
 
-TEST_F(Layout, ALayoutThatIsResizedByTheRootItCallsIsLaidOutAgain) {
+TEST_F(UIViewLayoutTest, ALayoutThatIsResizedByTheRootItCallsIsLaidOutAgain) {
     layOutAll();
     root->whenLaidOut = [this] { middle->setFrame(CGRectMake(0, 0, 70, 70)); };
     middle->whenLaidOut = [this] {
@@ -193,7 +193,7 @@ TEST_F(Layout, ALayoutThatIsResizedByTheRootItCallsIsLaidOutAgain) {
 
 // Layouts that change the tree
 
-TEST_F(Layout, ALayoutThatRemovesItsViewLeavesTheSiblingsTheirs) {
+TEST_F(UIViewLayoutTest, ALayoutThatRemovesItsViewLeavesTheSiblingsTheirs) {
     layOutAll();
     middle->whenLaidOut = [this] { middle->removeFromSuperview(); };
     middle->setNeedsLayout();
@@ -204,7 +204,7 @@ TEST_F(Layout, ALayoutThatRemovesItsViewLeavesTheSiblingsTheirs) {
     EXPECT_EQ(sibling->layouts, 1);
 }
 
-TEST_F(Layout, ALayoutMayDropTheLastReferenceToItsView) {
+TEST_F(UIViewLayoutTest, ALayoutMayDropTheLastReferenceToItsView) {
     layOutAll();
     const WeakRef<Laid> weak = middle;
     middle->whenLaidOut = [this] {
@@ -218,7 +218,7 @@ TEST_F(Layout, ALayoutMayDropTheLastReferenceToItsView) {
     EXPECT_EQ(sibling->layouts, 1);
 }
 
-TEST_F(Layout, AViewRemovedByAnEarlierLayoutIsNotLaidOutWithTheTree) {
+TEST_F(UIViewLayoutTest, AViewRemovedByAnEarlierLayoutIsNotLaidOutWithTheTree) {
     layOutAll();
     middle->whenLaidOut = [this] { sibling->removeFromSuperview(); };
     middle->setNeedsLayout();
@@ -229,7 +229,7 @@ TEST_F(Layout, AViewRemovedByAnEarlierLayoutIsNotLaidOutWithTheTree) {
     EXPECT_EQ(sibling->layouts, 1) << "still due";
 }
 
-TEST_F(Layout, AViewAddedInALayoutIsLaidOutByTheNextPass) {
+TEST_F(UIViewLayoutTest, AViewAddedInALayoutIsLaidOutByTheNextPass) {
     layOutAll();
     const auto fresh = create<Laid>();
     sibling->whenLaidOut = [&] { root->insertSubview_atIndex(fresh, 0); };
@@ -243,7 +243,7 @@ TEST_F(Layout, AViewAddedInALayoutIsLaidOutByTheNextPass) {
     EXPECT_EQ(fresh->layouts, 1);
 }
 
-TEST_F(Layout, ALayoutMayDropTheTreeItIsIn) {
+TEST_F(UIViewLayoutTest, ALayoutMayDropTheTreeItIsIn) {
     layOutAll();
     const WeakRef<Laid> weak = root;
     leaf->whenLaidOut = [this] { root = nullptr; };

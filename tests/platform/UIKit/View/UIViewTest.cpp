@@ -1,4 +1,5 @@
-// A view's properties: each setter holds its value to the range, returns if nothing changes, stores, tells, and asks for a frame.
+// A view's properties: each setter holds its value to the range, returns if nothing changes,
+// stores, tells, and asks for a frame.
 
 #include "UIView.h"
 
@@ -21,12 +22,12 @@ struct TintNoting : UIView {
     void tintColorDidChange() override { seen.push_back(tintColor()); }
 };
 
-struct View : testing::Test {
+struct UIViewTest : testing::Test {
     Ref<UIWindow> window = create<UIWindow>(CGRectMake(0, 0, 300, 300));
     Ref<UIView> view = create<UIView>(CGRectMake(10, 20, 100, 50));
     double now = 0;
 
-    View() {
+    UIViewTest() {
         window->addSubview(view);
         window->tick(now);
     }
@@ -44,7 +45,7 @@ const UIColor green = UIColor::colorWithHex(0x00FF00);
 
 } // namespace
 
-TEST_F(View, ANewViewIsVisibleOpaqueAndTakesTouches) {
+TEST_F(UIViewTest, ANewViewIsVisibleOpaqueAndTakesTouches) {
     const auto fresh = create<UIView>();
     EXPECT_EQ(fresh->frame(), CGRectZero);
     EXPECT_EQ(fresh->bounds(), CGRectZero);
@@ -64,7 +65,7 @@ TEST_F(View, ANewViewIsVisibleOpaqueAndTakesTouches) {
     EXPECT_TRUE(fresh->showsSomething());
 }
 
-TEST_F(View, InitRunsInitWithFrameOfTheSubclass) {
+TEST_F(UIViewTest, InitRunsInitWithFrameOfTheSubclass) {
     struct Noting : UIView {
         CGRect given = CGRectNull;
         bool initWithFrame(CGRect frame) override {
@@ -78,7 +79,7 @@ TEST_F(View, InitRunsInitWithFrameOfTheSubclass) {
 
 // Alpha
 
-TEST_F(View, AlphaIsHeldBetweenZeroAndOne) {
+TEST_F(UIViewTest, AlphaIsClampedToZeroToOne) {
     view->setAlpha(0.25);
     EXPECT_EQ(view->alpha(), 0.25);
     view->setAlpha(1.5);
@@ -91,7 +92,7 @@ TEST_F(View, AlphaIsHeldBetweenZeroAndOne) {
     EXPECT_EQ(view->alpha(), 0);
 }
 
-TEST_F(View, AnotherAlphaAsksForAFrameAndTheSameDoesNot) {
+TEST_F(UIViewTest, AnotherAlphaRequestsAFrameAndTheSameDoesNot) {
     EXPECT_TRUE(repaints([this] { view->setAlpha(0.5); }));
     EXPECT_FALSE(repaints([this] { view->setAlpha(0.5); }));
     EXPECT_TRUE(repaints([this] { view->setAlpha(1); }));
@@ -100,7 +101,7 @@ TEST_F(View, AnotherAlphaAsksForAFrameAndTheSameDoesNot) {
 
 // Hidden, clipping, corners, colours
 
-TEST_F(View, HidingAsksForAFrameOnce) {
+TEST_F(UIViewTest, HidingRequestsAFrameOnce) {
     EXPECT_TRUE(repaints([this] { view->setHidden(true); }));
     EXPECT_TRUE(view->isHidden());
     EXPECT_FALSE(repaints([this] { view->setHidden(true); }));
@@ -108,13 +109,13 @@ TEST_F(View, HidingAsksForAFrameOnce) {
     EXPECT_FALSE(view->isHidden());
 }
 
-TEST_F(View, ClippingAsksForAFrameOnce) {
+TEST_F(UIViewTest, ClippingRequestsAFrameOnce) {
     EXPECT_TRUE(repaints([this] { view->setClipsToBounds(true); }));
     EXPECT_TRUE(view->clipsToBounds());
     EXPECT_FALSE(repaints([this] { view->setClipsToBounds(true); }));
 }
 
-TEST_F(View, ACornerRadiusIsNeverBelowZero) {
+TEST_F(UIViewTest, ACornerRadiusIsNeverBelowZero) {
     EXPECT_TRUE(repaints([this] { view->setCornerRadius(6); }));
     EXPECT_EQ(view->cornerRadius(), 6);
     EXPECT_FALSE(repaints([this] { view->setCornerRadius(6); }));
@@ -125,7 +126,7 @@ TEST_F(View, ACornerRadiusIsNeverBelowZero) {
     EXPECT_FALSE(repaints([this] { view->setCornerRadius(-3); }));
 }
 
-TEST_F(View, ABackgroundAsksForAFrameOnce) {
+TEST_F(UIViewTest, ABackgroundRequestsAFrameOnce) {
     EXPECT_TRUE(repaints([this] { view->setBackgroundColor(red); }));
     EXPECT_EQ(view->backgroundColor(), red);
     EXPECT_FALSE(repaints([this] { view->setBackgroundColor(UIColor::colorWithHex(0xFF0000)); }));
@@ -134,7 +135,7 @@ TEST_F(View, ABackgroundAsksForAFrameOnce) {
     EXPECT_FALSE(repaints([this] { view->setBackgroundColor(std::nullopt); }));
 }
 
-TEST_F(View, TagAndInteractionAndMaskAreKeptAndChangeNothingOnScreen) {
+TEST_F(UIViewTest, TagAndInteractionAndMaskAreKeptAndChangeNothingOnScreen) {
     EXPECT_FALSE(repaints([this] {
         view->setTag(-12);
         view->setUserInteractionEnabled(false);
@@ -145,7 +146,7 @@ TEST_F(View, TagAndInteractionAndMaskAreKeptAndChangeNothingOnScreen) {
     EXPECT_FALSE(view->translatesAutoresizingMaskIntoConstraints());
 }
 
-TEST_F(View, FramesBoundsAndCentresAskForAFrameWhenTheyChange) {
+TEST_F(UIViewTest, FramesBoundsAndCentresRequestAFrameWhenTheyChange) {
     EXPECT_TRUE(repaints([this] { view->setFrame(CGRectMake(11, 20, 100, 50)); }));
     EXPECT_FALSE(repaints([this] { view->setFrame(CGRectMake(11, 20, 100, 50)); }));
     EXPECT_TRUE(repaints([this] { view->setBounds(CGRectMake(0, 5, 100, 50)); }));
@@ -154,14 +155,14 @@ TEST_F(View, FramesBoundsAndCentresAskForAFrameWhenTheyChange) {
     EXPECT_FALSE(repaints([this] { view->setCenter({100, 100}); }));
 }
 
-TEST_F(View, AViewWithoutAWindowAsksNobodyForAFrame) {
+TEST_F(UIViewTest, AViewWithoutAWindowRequestsNoFrame) {
     view->removeFromSuperview();
     EXPECT_FALSE(repaints([this] { view->setAlpha(0.5); }));
 }
 
 // Tint
 
-TEST_F(View, ATintIsHandedDownToAllWithoutTheirOwn) {
+TEST_F(UIViewTest, ATintIsInheritedByAllWithoutTheirOwn) {
     const auto inner = create<UIView>();
     view->addSubview(inner);
     window->setTintColor(red);
@@ -176,7 +177,7 @@ TEST_F(View, ATintIsHandedDownToAllWithoutTheirOwn) {
     EXPECT_EQ(inner->tintColor(), UIColor::systemBlueColor());
 }
 
-TEST_F(View, WhoeverSeesAnotherTintIsToldOnce) {
+TEST_F(UIViewTest, EachViewWithAnotherTintIsNotifiedOnce) {
     const auto tinted = create<TintNoting>();
     const auto below = create<TintNoting>();
     const auto own = create<TintNoting>();
@@ -192,7 +193,7 @@ TEST_F(View, WhoeverSeesAnotherTintIsToldOnce) {
     EXPECT_EQ(own->seen, std::vector<UIColor>{}) << "it has its own";
 }
 
-TEST_F(View, ATintThatChangesNothingIsNotTold) {
+TEST_F(UIViewTest, ATintThatChangesNothingNotifiesNoView) {
     const auto tinted = create<TintNoting>();
     view->addSubview(tinted);
     EXPECT_EQ(tinted->seen, std::vector<UIColor>{}) << "blue before and after";
@@ -204,12 +205,12 @@ TEST_F(View, ATintThatChangesNothingIsNotTold) {
     EXPECT_EQ(tinted->seen, std::vector<UIColor>{red});
 }
 
-TEST_F(View, AnotherTintAsksForAFrame) {
+TEST_F(UIViewTest, AnotherTintRequestsAFrame) {
     EXPECT_TRUE(repaints([this] { view->setTintColor(red); }));
     EXPECT_FALSE(repaints([this] { view->setTintColor(red); }));
 }
 
-TEST_F(View, AViewThatComesUnderATintIsTold) {
+TEST_F(UIViewTest, AViewThatComesUnderATintIsNotified) {
     window->setTintColor(red);
     const auto tinted = create<TintNoting>();
     view->addSubview(tinted);
@@ -218,7 +219,7 @@ TEST_F(View, AViewThatComesUnderATintIsTold) {
     EXPECT_EQ(tinted->seen, (std::vector<UIColor>{red, UIColor::systemBlueColor()}));
 }
 
-TEST_F(View, AViewThatMovesBetweenTwoTintsHasHeardOfTheLast) {
+TEST_F(UIViewTest, AViewThatMovesBetweenTwoTintsIsNotifiedOfTheLast) {
     window->setTintColor(red);
     const auto other = create<UIView>();
     window->addSubview(other);
@@ -230,7 +231,7 @@ TEST_F(View, AViewThatMovesBetweenTwoTintsHasHeardOfTheLast) {
     EXPECT_EQ(tinted->seen.back(), red) << "the last it was told";
 }
 
-TEST_F(View, ATintIsToldToAllThoughOneOfThemLeaves) {
+TEST_F(UIViewTest, ATintNotifiesAllThoughOneOfThemLeaves) {
     struct Leaving : TintNoting {
         void tintColorDidChange() override {
             TintNoting::tintColorDidChange();
@@ -246,7 +247,7 @@ TEST_F(View, ATintIsToldToAllThoughOneOfThemLeaves) {
     EXPECT_EQ(staying->seen, std::vector<UIColor>{red});
 }
 
-TEST_F(View, AViewThatASiblingTakesAwayHearsNothingOfTheTintThere) {
+TEST_F(UIViewTest, AViewThatASiblingRemovesIsNotNotifiedOfTheTintThere) {
     struct Taker : UIView {
         WeakRef<UIView> victim;
         void tintColorDidChange() override {
@@ -259,13 +260,13 @@ TEST_F(View, AViewThatASiblingTakesAwayHearsNothingOfTheTintThere) {
     view->addSubview(taken);
     taker->victim = taken;
     window->setTintColor(red);
-    // It saw red until it was taken away, and blue since; of the red it was not told yet.
+    // It saw red until it was taken away, and blue since; it was not notified of the red yet.
     EXPECT_EQ(taken->seen, std::vector<UIColor>{UIColor::systemBlueColor()});
 }
 
 // Restoring
 
-TEST_F(View, ACoderRestoresWhatItHas) {
+TEST_F(UIViewTest, ACoderRestoresWhatItHas) {
     const auto coder = create<NSCoder>();
     coder->encodeCGRect_forKey(CGRectMake(1, 2, 30, 40), "frame");
     coder->encodeCGRect_forKey(CGRectMake(5, 6, 30, 40), "bounds");
@@ -288,7 +289,7 @@ TEST_F(View, ACoderRestoresWhatItHas) {
     EXPECT_EQ(restored->tintColor(), green);
 }
 
-TEST_F(View, ACodersBoundsGiveTheSizeWhereItHasNoFrame) {
+TEST_F(UIViewTest, ACodersBoundsGiveTheSizeWhereItHasNoFrame) {
     const auto coder = create<NSCoder>();
     coder->encodeCGRect_forKey(CGRectMake(5, 6, 30, 40), "bounds");
     const auto restored = create<UIView>(coder);
@@ -296,7 +297,7 @@ TEST_F(View, ACodersBoundsGiveTheSizeWhereItHasNoFrame) {
     EXPECT_EQ(restored->bounds(), CGRectMake(5, 6, 30, 40));
 }
 
-TEST_F(View, WithoutACoderOrItsKeysAllDefaultsHold) {
+TEST_F(UIViewTest, WithoutACoderOrItsKeysAllDefaultsHold) {
     for (const auto& restored : {create<UIView>(Ref<NSCoder>()), create<UIView>(create<NSCoder>())}) {
         EXPECT_EQ(restored->frame(), CGRectZero);
         EXPECT_EQ(restored->bounds(), CGRectZero);
@@ -310,13 +311,13 @@ TEST_F(View, WithoutACoderOrItsKeysAllDefaultsHold) {
     }
 }
 
-TEST_F(View, RestoredValuesAreHeldToTheirRanges) {
+TEST_F(UIViewTest, RestoredValuesAreClamped) {
     const auto coder = create<NSCoder>();
     coder->encodeDouble_forKey(4, "alpha");
     EXPECT_EQ(create<UIView>(coder)->alpha(), 1);
 }
 
-TEST_F(View, CreatingFromACoderDoesNotAwakeTheView) {
+TEST_F(UIViewTest, CreatingFromACoderDoesNotAwakeTheView) {
     struct Sleeper : UIView {
         int awakenings = 0;
         void awakeFromNib() override { ++awakenings; }

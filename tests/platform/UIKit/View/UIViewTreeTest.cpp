@@ -1,4 +1,4 @@
-// The tree of views: who is above whom, and who is told of it.
+// The tree of views, and which views are notified of its changes.
 
 #include <functional>
 
@@ -24,7 +24,7 @@ struct Mover : UIView {
     }
 };
 
-struct Tree : testing::Test {
+struct UIViewTreeTest : testing::Test {
     Ref<UIView> above = create<UIView>();
     Ref<UIView> a = create<UIView>();
     Ref<UIView> b = create<UIView>();
@@ -37,14 +37,14 @@ struct Tree : testing::Test {
 
 } // namespace
 
-TEST_F(Tree, ASubviewGoesOnTop) {
+TEST_F(UIViewTreeTest, ASubviewGoesOnTop) {
     addAll();
     EXPECT_EQ(above->subviews(), (Views{a, b, c}));
     EXPECT_EQ(a->superview(), above);
     EXPECT_FALSE(above->superview());
 }
 
-TEST_F(Tree, ASubviewGoesBelowThoseFromItsIndexOn) {
+TEST_F(UIViewTreeTest, ASubviewGoesBelowThoseFromItsIndexOn) {
     above->addSubview(a);
     above->insertSubview_atIndex(b, 0);
     EXPECT_EQ(above->subviews(), (Views{b, a}));
@@ -52,7 +52,7 @@ TEST_F(Tree, ASubviewGoesBelowThoseFromItsIndexOn) {
     EXPECT_EQ(above->subviews(), (Views{b, c, a}));
 }
 
-TEST_F(Tree, AnIndexOutsideTheListMeansItsNearerEnd) {
+TEST_F(UIViewTreeTest, AnIndexOutsideTheListMeansItsNearerEnd) {
     above->addSubview(a);
     above->insertSubview_atIndex(b, -5);
     EXPECT_EQ(above->subviews(), (Views{b, a}));
@@ -60,7 +60,7 @@ TEST_F(Tree, AnIndexOutsideTheListMeansItsNearerEnd) {
     EXPECT_EQ(above->subviews(), (Views{b, a, c}));
 }
 
-TEST_F(Tree, AddingASubviewAgainMovesItToTheTop) {
+TEST_F(UIViewTreeTest, AddingASubviewAgainMovesItToTheTop) {
     addAll();
     above->addSubview(a);
     EXPECT_EQ(above->subviews(), (Views{b, c, a}));
@@ -69,7 +69,7 @@ TEST_F(Tree, AddingASubviewAgainMovesItToTheTop) {
     EXPECT_EQ(a->superview(), above);
 }
 
-TEST_F(Tree, ASubviewCanBeNamedByItsEntryInTheList) {
+TEST_F(UIViewTreeTest, ASubviewCanBeNamedByItsEntryInTheList) {
     addAll();
     above->addSubview(above->subviews()[0]);
     EXPECT_EQ(above->subviews(), (Views{b, c, a}));
@@ -78,7 +78,7 @@ TEST_F(Tree, ASubviewCanBeNamedByItsEntryInTheList) {
     EXPECT_EQ(b->subviews(), Views{c});
 }
 
-TEST_F(Tree, AViewHasOneSuperviewAtMost) {
+TEST_F(UIViewTreeTest, AViewHasOneSuperviewAtMost) {
     addAll();
     b->addSubview(a);
     EXPECT_EQ(above->subviews(), (Views{b, c}));
@@ -86,7 +86,7 @@ TEST_F(Tree, AViewHasOneSuperviewAtMost) {
     EXPECT_EQ(a->superview(), b);
 }
 
-TEST_F(Tree, NoViewComesBelowItselfOrNothing) {
+TEST_F(UIViewTreeTest, NoViewComesBelowItselfOrNothing) {
     above->addSubview(a);
     a->addSubview(b);
     above->addSubview(above);
@@ -99,7 +99,7 @@ TEST_F(Tree, NoViewComesBelowItselfOrNothing) {
     EXPECT_FALSE(above->superview());
 }
 
-TEST_F(Tree, ARemovedViewHasNoSuperview) {
+TEST_F(UIViewTreeTest, ARemovedViewHasNoSuperview) {
     addAll();
     b->removeFromSuperview();
     EXPECT_EQ(above->subviews(), (Views{a, c}));
@@ -108,7 +108,7 @@ TEST_F(Tree, ARemovedViewHasNoSuperview) {
     EXPECT_EQ(above->subviews(), (Views{a, c})) << "it is gone already";
 }
 
-TEST_F(Tree, AViewIsADescendantOfItselfAndOfAllAboveIt) {
+TEST_F(UIViewTreeTest, AViewIsADescendantOfItselfAndOfAllAboveIt) {
     above->addSubview(a);
     a->addSubview(b);
     EXPECT_TRUE(b->isDescendantOfView(b));
@@ -119,7 +119,7 @@ TEST_F(Tree, AViewIsADescendantOfItselfAndOfAllAboveIt) {
     EXPECT_FALSE(b->isDescendantOfView(nullptr));
 }
 
-TEST_F(Tree, ASuperviewOwnsItsSubviewsAndNobodyOwnsUpward) {
+TEST_F(UIViewTreeTest, ASuperviewOwnsItsSubviewsAndNothingOwnsUpward) {
     const WeakRef<UIView> weakA = a;
     const WeakRef<UIView> weakAbove = above;
     above->addSubview(a);
@@ -130,7 +130,7 @@ TEST_F(Tree, ASuperviewOwnsItsSubviewsAndNobodyOwnsUpward) {
     EXPECT_TRUE(weakA.expired());
 }
 
-TEST_F(Tree, ASubviewThatOutlivesItsSuperviewHasNone) {
+TEST_F(UIViewTreeTest, ASubviewThatOutlivesItsSuperviewHasNone) {
     above->addSubview(a);
     above = nullptr;
     EXPECT_FALSE(a->superview());
@@ -141,7 +141,7 @@ TEST_F(Tree, ASubviewThatOutlivesItsSuperviewHasNone) {
 
 // Windows
 
-TEST_F(Tree, TheWindowIsTheRootIfThatIsOne) {
+TEST_F(UIViewTreeTest, TheWindowIsTheRootIfThatIsOne) {
     const auto window = create<UIWindow>();
     EXPECT_EQ(window->window(), window);
     EXPECT_FALSE(a->window());
@@ -150,7 +150,7 @@ TEST_F(Tree, TheWindowIsTheRootIfThatIsOne) {
     EXPECT_EQ(a->window(), window);
 }
 
-TEST_F(Tree, AViewAndAllBelowItAreToldOfTheirWindow) {
+TEST_F(UIViewTreeTest, AViewAndAllBelowItAreNotifiedOfTheirWindow) {
     const auto window = create<UIWindow>();
     const auto outer = create<Mover>();
     const auto inner = create<Mover>();
@@ -165,14 +165,14 @@ TEST_F(Tree, AViewAndAllBelowItAreToldOfTheirWindow) {
     EXPECT_FALSE(inner->lastWindow);
 }
 
-TEST_F(Tree, WithoutAWindowNobodyIsTold) {
+TEST_F(UIViewTreeTest, WithoutAWindowNoViewIsNotified) {
     const auto mover = create<Mover>();
     above->addSubview(mover);
     mover->removeFromSuperview();
     EXPECT_EQ(mover->moves, 0);
 }
 
-TEST_F(Tree, AnotherPlaceAmongTheSameSiblingsIsNoMove) {
+TEST_F(UIViewTreeTest, AnotherPlaceAmongTheSameSiblingsIsNoMove) {
     const auto window = create<UIWindow>();
     const auto mover = create<Mover>();
     window->addSubview(mover);
@@ -181,7 +181,7 @@ TEST_F(Tree, AnotherPlaceAmongTheSameSiblingsIsNoMove) {
     EXPECT_EQ(mover->moves, 1);
 }
 
-TEST_F(Tree, AViewThatGoesToAnotherWindowKnowsTheNewOne) {
+TEST_F(UIViewTreeTest, AViewThatGoesToAnotherWindowKnowsTheNewOne) {
     const auto first = create<UIWindow>();
     const auto second = create<UIWindow>();
     const auto mover = create<Mover>();
@@ -191,7 +191,7 @@ TEST_F(Tree, AViewThatGoesToAnotherWindowKnowsTheNewOne) {
     EXPECT_TRUE(first->subviews().empty());
 }
 
-TEST_F(Tree, ViewsThatOutliveTheirWindowAreTold) {
+TEST_F(UIViewTreeTest, ViewsThatOutliveTheirWindowAreNotified) {
     auto window = create<UIWindow>();
     const auto mover = create<Mover>();
     window->addSubview(mover);
@@ -203,7 +203,7 @@ TEST_F(Tree, ViewsThatOutliveTheirWindowAreTold) {
 
 // Callbacks that change the tree
 
-TEST_F(Tree, AllAreToldOfTheWindowThoughOneOfThemLeaves) {
+TEST_F(UIViewTreeTest, AllAreNotifiedOfTheWindowThoughOneOfThemLeaves) {
     const auto window = create<UIWindow>();
     const auto leaving = create<Mover>();
     const auto staying = create<Mover>();
@@ -219,7 +219,7 @@ TEST_F(Tree, AllAreToldOfTheWindowThoughOneOfThemLeaves) {
     EXPECT_EQ(staying->lastWindow, window.get());
 }
 
-TEST_F(Tree, AViewThatASiblingTakesAwayIsToldOfThatAlone) {
+TEST_F(UIViewTreeTest, AViewThatASiblingRemovesIsNotifiedOfThatAlone) {
     const auto window = create<UIWindow>();
     const auto taker = create<Mover>();
     const auto taken = create<Mover>();
@@ -234,7 +234,7 @@ TEST_F(Tree, AViewThatASiblingTakesAwayIsToldOfThatAlone) {
     EXPECT_EQ(taken->lastWindow, nullptr);
 }
 
-TEST_F(Tree, AViewAddedWhenItsSuperviewComesIsToldOnce) {
+TEST_F(UIViewTreeTest, AViewAddedWhenItsSuperviewComesIsNotifiedOnce) {
     const auto window = create<UIWindow>();
     const auto outer = create<Mover>();
     const auto inner = create<Mover>();
@@ -244,7 +244,7 @@ TEST_F(Tree, AViewAddedWhenItsSuperviewComesIsToldOnce) {
     outer->whenMoved = nullptr;
 }
 
-TEST_F(Tree, AViewThatGoesElsewhereOnItsWayHasOneSuperview) {
+TEST_F(UIViewTreeTest, AViewThatGoesElsewhereOnItsWayHasOneSuperview) {
     const auto window = create<UIWindow>();
     const auto mover = create<Mover>();
     window->addSubview(mover);
@@ -252,13 +252,13 @@ TEST_F(Tree, AViewThatGoesElsewhereOnItsWayHasOneSuperview) {
         mover->whenMoved = nullptr;
         b->addSubview(mover);
     };
-    a->addSubview(mover); // It leaves the window on the way to a, is told, and goes to b.
+    a->addSubview(mover); // It leaves the window on the way to a, is notified, and goes to b.
     EXPECT_EQ(mover->superview(), b);
     EXPECT_EQ(b->subviews(), Views{mover});
     EXPECT_TRUE(a->subviews().empty());
 }
 
-TEST_F(Tree, AViewThatTakesItsNewSuperviewOnTheWayIsNotBelowItself) {
+TEST_F(UIViewTreeTest, AViewThatTakesItsNewSuperviewOnTheWayIsNotBelowItself) {
     const auto window = create<UIWindow>();
     const auto mover = create<Mover>();
     window->addSubview(mover);
@@ -272,7 +272,7 @@ TEST_F(Tree, AViewThatTakesItsNewSuperviewOnTheWayIsNotBelowItself) {
     EXPECT_TRUE(a->subviews().empty());
 }
 
-TEST_F(Tree, ASuperviewThatNobodyHoldsAnyMoreSurvivesTheAdding) {
+TEST_F(UIViewTreeTest, ASuperviewThatIsDroppedMeanwhileOutlivesTheAdding) {
     const auto window = create<UIWindow>();
     const auto mover = create<Mover>();
     window->addSubview(mover);
@@ -288,7 +288,7 @@ TEST_F(Tree, ASuperviewThatNobodyHoldsAnyMoreSurvivesTheAdding) {
     EXPECT_FALSE(mover->superview());
 }
 
-TEST_F(Tree, AViewMayDropItsLastReferenceWhenItLeaves) {
+TEST_F(UIViewTreeTest, AViewMayDropItsLastReferenceWhenItLeaves) {
     const auto window = create<UIWindow>();
     Ref<Mover> mover = create<Mover>();
     const WeakRef<Mover> weak = mover;
@@ -299,7 +299,7 @@ TEST_F(Tree, AViewMayDropItsLastReferenceWhenItLeaves) {
     EXPECT_TRUE(window->subviews().empty());
 }
 
-TEST_F(Tree, AViewMayLeaveByItselfWhenItsRemovalCancelsItsFinger) {
+TEST_F(UIViewTreeTest, AViewMayLeaveByItselfWhenItsRemovalCancelsItsFinger) {
     struct Leaver : Mover {
         void touchCancelled(const UITouch&) override { removeFromSuperview(); }
     };
@@ -313,7 +313,7 @@ TEST_F(Tree, AViewMayLeaveByItselfWhenItsRemovalCancelsItsFinger) {
     EXPECT_EQ(leaver->moves, 1) << "told once";
 }
 
-TEST_F(Tree, WhoIsToldThatItDisappearsMayLeaveAndTakeOthersAlong) {
+TEST_F(UIViewTreeTest, AViewThatFinishesAnimationsMayLeaveAndTakeOthersAlong) {
     struct Vanishing : UIView {
         int times = 0;
         std::function<void()> whenGone;

@@ -32,7 +32,7 @@ struct Field : UIView {
     }
 };
 
-struct Focus : testing::Test {
+struct UIWindowFocusTest : testing::Test {
     Ref<UIView> root = create<UIView>(CGRectMake(0, 0, 100, 100));
     TestWindow window{root};
 
@@ -49,13 +49,13 @@ struct Focus : testing::Test {
 
 } // namespace
 
-TEST_F(Focus, keys_without_a_focus_go_to_nobody) {
+TEST_F(UIWindowFocusTest, KeysWithoutAFocusAreNotUsed) {
     EXPECT_FALSE(window.press(Code::Down));
     EXPECT_FALSE(window.typeCharacter("4"));
     EXPECT_EQ(a->log, "");
 }
 
-TEST_F(Focus, keys_go_to_the_focus_and_up) {
+TEST_F(UIWindowFocusTest, KeysGoToTheFocusAndUp) {
     const auto inner = fieldIn(b);
     EXPECT_TRUE(inner->becomeFirstResponder());
     EXPECT_TRUE(window.typeCharacter("x"));
@@ -68,7 +68,7 @@ TEST_F(Focus, keys_go_to_the_focus_and_up) {
     EXPECT_FALSE(window.typeCharacter("z"));
 }
 
-TEST_F(Focus, one_view_at_a_time_has_it) {
+TEST_F(UIWindowFocusTest, OneViewAtATimeHasTheFocus) {
     EXPECT_TRUE(a->becomeFirstResponder());
     EXPECT_TRUE(b->becomeFirstResponder());
     EXPECT_FALSE(a->isFirstResponder());
@@ -80,7 +80,7 @@ TEST_F(Focus, one_view_at_a_time_has_it) {
     EXPECT_EQ(b->log, "gained lost ");
 }
 
-TEST_F(Focus, only_a_willing_view_in_sight_in_a_window_takes_it) {
+TEST_F(UIWindowFocusTest, OnlyAViewThatCanInSightAndInAWindowTakesTheFocus) {
     const auto alone = create<Field>(CGRectMake(0, 0, 10, 10));
     EXPECT_FALSE(alone->becomeFirstResponder());
     a->isWilling = false;
@@ -97,7 +97,7 @@ TEST_F(Focus, only_a_willing_view_in_sight_in_a_window_takes_it) {
     EXPECT_FALSE(create<UIView>()->becomeFirstResponder());
 }
 
-TEST_F(Focus, tab_goes_through_the_views_in_the_order_of_the_tree) {
+TEST_F(UIWindowFocusTest, TabGoesThroughTheViewsInReadingOrder) {
     const auto inner = fieldIn(a);
     std::vector<Ref<UIView>> visited;
     for (int i = 0; i < 4; ++i) {
@@ -111,7 +111,7 @@ TEST_F(Focus, tab_goes_through_the_views_in_the_order_of_the_tree) {
     EXPECT_TRUE(a->isFirstResponder()) << "and round";
 }
 
-TEST_F(Focus, shift_and_tab_go_back) {
+TEST_F(UIWindowFocusTest, ShiftAndTabGoBack) {
     EXPECT_TRUE(window.press(Code::BackTab, UIKey::Shift));
     EXPECT_TRUE(c->isFirstResponder());
     EXPECT_TRUE(window.press(Code::BackTab, UIKey::Shift));
@@ -121,12 +121,12 @@ TEST_F(Focus, shift_and_tab_go_back) {
     EXPECT_EQ(window->firstResponder(), nullptr);
 }
 
-TEST_F(Focus, tab_with_control_is_not_for_the_focus) {
+TEST_F(UIWindowFocusTest, TabWithControlDoesNotMoveTheFocus) {
     EXPECT_FALSE(window.press(Code::Tab, UIKey::Control));
     EXPECT_EQ(window->firstResponder(), nullptr);
 }
 
-TEST_F(Focus, tab_passes_over_what_takes_no_input) {
+TEST_F(UIWindowFocusTest, TabPassesOverWhatTakesNoInput) {
     a->setHidden(true);
     b->setAlpha(0);
     fieldIn(b);
@@ -134,7 +134,7 @@ TEST_F(Focus, tab_passes_over_what_takes_no_input) {
     EXPECT_TRUE(c->isFirstResponder());
 }
 
-TEST_F(Focus, the_view_that_tab_goes_to_comes_into_sight) {
+TEST_F(UIWindowFocusTest, TheViewThatTabGoesToComesIntoSight) {
     const auto inner = fieldIn(c, CGRectMake(3, 4, 20, 10));
     c->setFrame(CGRectMake(10, 20, 30, 30));
     c->setBounds(CGRectMake(0, 1, 30, 30));
@@ -146,7 +146,7 @@ TEST_F(Focus, the_view_that_tab_goes_to_comes_into_sight) {
     EXPECT_EQ(c->revealed, CGRectMake(3, 4, 20, 10)) << "in its own coordinates";
 }
 
-TEST_F(Focus, a_view_that_is_hidden_or_leaves_loses_it) {
+TEST_F(UIWindowFocusTest, AViewThatIsHiddenOrLeavesLosesTheFocus) {
     const auto inner = fieldIn(b);
     inner->becomeFirstResponder();
     b->setHidden(true);
@@ -162,14 +162,14 @@ TEST_F(Focus, a_view_that_is_hidden_or_leaves_loses_it) {
     EXPECT_TRUE(a->isFirstResponder()) << "others keep it";
 }
 
-TEST_F(Focus, a_disabled_or_clear_view_loses_it_with_the_next_key) {
+TEST_F(UIWindowFocusTest, ADisabledOrClearViewLosesTheFocusWithTheNextKey) {
     a->becomeFirstResponder();
     a->setUserInteractionEnabled(false);
     EXPECT_FALSE(window.press(Code::Down));
     EXPECT_EQ(window->firstResponder(), nullptr);
 }
 
-TEST_F(Focus, a_view_that_dies_has_it_no_more) {
+TEST_F(UIWindowFocusTest, AViewThatIsGoneHasTheFocusNoMore) {
     a->becomeFirstResponder();
     const WeakRef<Field> weak = a;
     a->removeFromSuperview();
@@ -178,7 +178,7 @@ TEST_F(Focus, a_view_that_dies_has_it_no_more) {
     EXPECT_EQ(window->firstResponder(), nullptr);
 }
 
-TEST_F(Focus, the_mark_shows_from_a_key_to_a_touch_and_while_keys_come) {
+TEST_F(UIWindowFocusTest, TheMarkShowsFromAKeyToATouchAndWhileKeysCome) {
     a->becomeFirstResponder();
     EXPECT_FALSE(window->showsFocus());
     window.press(Code::Down);
@@ -192,21 +192,21 @@ TEST_F(Focus, the_mark_shows_from_a_key_to_a_touch_and_while_keys_come) {
     EXPECT_FALSE(window->showsFocus());
 }
 
-TEST_F(Focus, a_key_that_is_of_no_use_shows_no_mark) {
+TEST_F(UIWindowFocusTest, AKeyThatIsNotUsedShowsNoMark) {
     a->usesKeys = false;
     a->becomeFirstResponder();
     EXPECT_FALSE(window.press(Code::Down));
     EXPECT_FALSE(window->showsFocus());
 }
 
-TEST_F(Focus, who_hears_of_it_may_pass_it_on) {
+TEST_F(UIWindowFocusTest, ACallbackMayPassTheFocusOn) {
     b->whenFocusChanges = [this] { c->becomeFirstResponder(); };
     a->becomeFirstResponder();
     EXPECT_FALSE(b->becomeFirstResponder()) << "it has gone on";
     EXPECT_TRUE(c->isFirstResponder());
 }
 
-TEST_F(Focus, who_hears_of_its_loss_may_give_it_to_another) {
+TEST_F(UIWindowFocusTest, ACallbackOfItsLossMayGiveTheFocusToAnother) {
     a->becomeFirstResponder();
     a->whenFocusChanges = [this] {
         a->whenFocusChanges = nullptr;
@@ -217,7 +217,7 @@ TEST_F(Focus, who_hears_of_its_loss_may_give_it_to_another) {
     EXPECT_EQ(b->log.find("gained"), std::string::npos);
 }
 
-TEST_F(Focus, tab_does_not_go_to_a_view_that_left_when_another_was_asked) {
+TEST_F(UIWindowFocusTest, TabDoesNotGoToAViewThatAnotherOneRemoved) {
     struct Pusher : Field {
         std::function<void()> whenAsked;
         bool canBecomeFirstResponder() override {
@@ -232,7 +232,7 @@ TEST_F(Focus, tab_does_not_go_to_a_view_that_left_when_another_was_asked) {
     EXPECT_TRUE(b->isFirstResponder());
 }
 
-TEST_F(Focus, who_hears_of_its_loss_may_come_back_elsewhere) {
+TEST_F(UIWindowFocusTest, AViewThatLosesTheFocusMayComeBackElsewhere) {
     const auto other = create<UIView>(CGRectMake(0, 0, 10, 10));
     a->whenFocusChanges = [&] {
         if (!a->superview()) other->addSubview(a);
@@ -243,7 +243,7 @@ TEST_F(Focus, who_hears_of_its_loss_may_come_back_elsewhere) {
     EXPECT_FALSE(a->window());
 }
 
-TEST_F(Focus, tab_passes_over_a_view_that_changes_its_mind) {
+TEST_F(UIWindowFocusTest, TabPassesOverAViewThatRefusesInTheEnd) {
     struct Fickle : Field {
         int questions = 0;
         bool canBecomeFirstResponder() override { return ++questions == 1; }
@@ -255,7 +255,7 @@ TEST_F(Focus, tab_passes_over_a_view_that_changes_its_mind) {
     EXPECT_GT(fickle->questions, 1);
 }
 
-TEST_F(Focus, who_has_it_hears_that_keys_come_and_go_and_only_then) {
+TEST_F(UIWindowFocusTest, TheFocusedViewIsNotifiedWhenKeysComeAndGoAndOnlyThen) {
     window->setReceivesKeys(false); // Nobody has it yet.
     a->becomeFirstResponder();
     a->log.clear();

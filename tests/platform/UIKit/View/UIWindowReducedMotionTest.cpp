@@ -1,4 +1,5 @@
-// A window that reduces motion: what would go by itself arrives with the next tick, what follows a finger does so as ever.
+// A window that reduces motion: what would go by itself arrives with the next tick, what follows a
+// finger does so as ever.
 
 #include "TestWindow.h"
 #include "UIScrollView.h"
@@ -15,14 +16,15 @@ struct TickingHost : UIWindowHost {
     int ticks = 0;
 };
 
-/// The wheel is 320 by 216 points with rows of 40: one column of 80 lies from 120 to 200, its centre row around y = 108.
-struct CalmWheel : testing::Test {
+/// The wheel is 320 by 216 points with rows of 40: one column of 80 lies from 120 to 200, its
+/// centre row around y = 108.
+struct ReducedMotionWheelTest : testing::Test {
     static constexpr CGPoint centre = {160, 108};
     Ref<WheelSource> source = create<WheelSource>();
     Ref<UIPickerView> wheel = wheelWithSource(source);
     TestWindow window{wheel};
 
-    CalmWheel() { window->setReducesMotion(true); }
+    ReducedMotionWheelTest() { window->setReducesMotion(true); }
     /// One tick later the column stands exactly on the row and all is still.
     void expectArrivedOn(NSInteger row) {
         window.tick(TestWindow::frame);
@@ -38,11 +40,11 @@ struct CalmWheel : testing::Test {
 };
 
 /// 300 by 400 points that show 1000: the highest offset is 600.
-struct CalmScroll : testing::Test {
+struct ReducedMotionScrollTest : testing::Test {
     Ref<UIScrollView> scroll = create<UIScrollView>(CGRectMake(0, 0, 300, 400));
     TestWindow window{scroll};
 
-    CalmScroll() {
+    ReducedMotionScrollTest() {
         scroll->addSubview(create<UIView>(CGRectMake(0, 0, 300, 1000)));
         scroll->setContentSize({300, 1000});
         window->setReducesMotion(true);
@@ -53,28 +55,29 @@ struct CalmScroll : testing::Test {
 
 } // namespace
 
-TEST(UIWindow, lets_things_move_unless_it_is_told_otherwise) {
+TEST(UIWindow, DoesNotReduceMotionByDefault) {
     const auto window = create<UIWindow>(CGRectMake(0, 0, 10, 10));
     EXPECT_FALSE(window->reducesMotion());
     window->setReducesMotion(true);
     EXPECT_TRUE(window->reducesMotion());
 }
 
-TEST_F(CalmWheel, an_animated_request_arrives_and_tells_nobody) {
+TEST_F(ReducedMotionWheelTest, AnAnimatedRequestArrivesWithoutAReport) {
     wheel->selectRow_inComponent_animated(50, 0, true);
     expectArrivedOn(50);
     EXPECT_TRUE(source->notices.empty());
 }
 
-TEST_F(CalmWheel, a_fling_arrives_where_it_would_have_ended_and_reports_once) {
-    // 94 points of the way beyond the slop are 2.35 rows; 600 points a second are 15 rows a second, which run 15 / 2.002 = 7.49 more.
+TEST_F(ReducedMotionWheelTest, AFlingArrivesWhereItWouldHaveEndedAndReportsOnce) {
+    // 94 points of the way beyond the slop are 2.35 rows; 600 points a second are 15 rows a second,
+    // which run 15 / 2.002 = 7.49 more.
     flingTenRows();
     EXPECT_TRUE(source->notices.empty());
     expectArrivedOn(10);
     EXPECT_EQ(source->notices, (Notices{{10, 0}}));
 }
 
-TEST_F(CalmWheel, a_fling_beyond_the_end_arrives_on_the_end) {
+TEST_F(ReducedMotionWheelTest, AFlingBeyondTheEndArrivesOnTheEnd) {
     source->rows = {5};
     wheel->reloadAllComponents();
     flingTenRows();
@@ -82,7 +85,7 @@ TEST_F(CalmWheel, a_fling_beyond_the_end_arrives_on_the_end) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}}));
 }
 
-TEST_F(CalmWheel, a_column_that_is_let_go_between_rows_or_beyond_the_end_is_on_a_row_at_once) {
+TEST_F(ReducedMotionWheelTest, AColumnThatIsLetGoBetweenRowsOrBeyondTheEndIsOnARowAtOnce) {
     window.drag(centre, {160, 52}); // 56 points: the slop and 1.25 rows.
     expectArrivedOn(1);
     window.drag(centre, {160, 208}); // Far beyond row 0.
@@ -90,7 +93,7 @@ TEST_F(CalmWheel, a_column_that_is_let_go_between_rows_or_beyond_the_end_is_on_a
     EXPECT_EQ(source->notices, (Notices{{1, 0}, {0, 0}}));
 }
 
-TEST_F(CalmWheel, a_column_follows_the_finger_as_ever) {
+TEST_F(ReducedMotionWheelTest, AColumnFollowsTheFingerAsBefore) {
     window.down(centre);
     window.glide(centre, {160, 82}, 10); // 26 points: the slop and half a row.
     window.tick(TestWindow::frame);
@@ -101,7 +104,7 @@ TEST_F(CalmWheel, a_column_follows_the_finger_as_ever) {
     EXPECT_TRUE(source->notices.empty());
 }
 
-TEST_F(CalmWheel, taps_notches_and_keys_arrive_and_report_once_each) {
+TEST_F(ReducedMotionWheelTest, TapsNotchesAndKeysArriveAndReportOnceEach) {
     window.tap({160, 147}); // The next row's middle is drawn 39.25 below the centre.
     expectArrivedOn(1);
     window.scrollNotches(centre, 3);
@@ -114,7 +117,7 @@ TEST_F(CalmWheel, taps_notches_and_keys_arrive_and_report_once_each) {
     EXPECT_EQ(source->notices, (Notices{{1, 0}, {4, 0}, {5, 0}, {99, 0}}));
 }
 
-TEST_F(CalmWheel, a_trackpad_that_lets_go_or_falls_silent_leaves_the_column_on_a_row) {
+TEST_F(ReducedMotionWheelTest, ATrackpadThatLetsGoOrStopsLeavesTheColumnOnARow) {
     window.scrollPoints(centre, 50); // 1.25 rows.
     window.tick(TestWindow::frame);
     EXPECT_TRUE(wheel->isTurning()) << "it may go on";
@@ -128,7 +131,7 @@ TEST_F(CalmWheel, a_trackpad_that_lets_go_or_falls_silent_leaves_the_column_on_a
     EXPECT_EQ(source->notices, (Notices{{1, 0}, {2, 0}}));
 }
 
-TEST_F(CalmWheel, typed_text_turns_at_once_and_still_reports_when_it_is_complete) {
+TEST_F(ReducedMotionWheelTest, TypedTextSelectsAtOnceAndStillReportsWhenItIsComplete) {
     wheel->becomeFirstResponder();
     window.typeCharacter("7");
     window.tick(TestWindow::frame);
@@ -138,7 +141,7 @@ TEST_F(CalmWheel, typed_text_turns_at_once_and_still_reports_when_it_is_complete
     EXPECT_EQ(source->notices, (Notices{{7, 0}}));
 }
 
-TEST_F(CalmWheel, rows_that_are_skipped_tick_once_together) {
+TEST_F(ReducedMotionWheelTest, RowsThatAreSkippedGiveFeedbackOnceTogether) {
     TickingHost host;
     window->setHost(&host);
     flingTenRows();
@@ -151,7 +154,7 @@ TEST_F(CalmWheel, rows_that_are_skipped_tick_once_together) {
     window->setHost(nullptr);
 }
 
-TEST_F(CalmWheel, turned_on_while_a_column_glides_it_arrives_with_the_next_tick) {
+TEST_F(ReducedMotionWheelTest, TurnedOnWhileAColumnGlidesItArrivesWithTheNextTick) {
     window->setReducesMotion(false);
     flingTenRows();
     window.run(0.1);
@@ -169,7 +172,7 @@ TEST_F(CalmWheel, turned_on_while_a_column_glides_it_arrives_with_the_next_tick)
     EXPECT_EQ(source->notices.size(), 1U);
 }
 
-TEST_F(CalmWheel, turned_on_under_a_finger_it_leaves_the_column_to_the_finger) {
+TEST_F(ReducedMotionWheelTest, TurnedOnUnderAFingerItLeavesTheColumnToTheFinger) {
     window->setReducesMotion(false);
     window.down(centre);
     window.glide(centre, {160, 82}, 10);
@@ -179,7 +182,7 @@ TEST_F(CalmWheel, turned_on_under_a_finger_it_leaves_the_column_to_the_finger) {
     EXPECT_TRUE(source->notices.empty());
 }
 
-TEST_F(CalmScroll, a_request_arrives_at_once) {
+TEST_F(ReducedMotionScrollTest, ARequestArrivesAtOnce) {
     scroll->setContentOffset_animated({0, 300}, true);
     EXPECT_EQ(offset(), 300);
     scroll->scrollRectToVisible_animated(CGRectMake(0, 0, 300, 50), true);
@@ -188,8 +191,9 @@ TEST_F(CalmScroll, a_request_arrives_at_once) {
     EXPECT_FALSE(window.tick(TestWindow::frame));
 }
 
-TEST_F(CalmScroll, a_stroke_ends_where_the_finger_lets_go) {
-    // Two steps of 50 points; the content starts to follow where the finger is found beyond the slop, after the first.
+TEST_F(ReducedMotionScrollTest, AStrokeEndsWhereTheFingerLetsGo) {
+    // Two steps of 50 points; the content starts to follow where the finger is found beyond the
+    // slop, after the first.
     window.fling({150, 300}, {150, 200}, 2);
     EXPECT_EQ(offset(), 50);
     EXPECT_FALSE(scroll->isDecelerating());
@@ -197,7 +201,7 @@ TEST_F(CalmScroll, a_stroke_ends_where_the_finger_lets_go) {
     EXPECT_EQ(offset(), 50);
 }
 
-TEST_F(CalmScroll, what_was_pulled_beyond_an_end_is_back_at_once) {
+TEST_F(ReducedMotionScrollTest, ContentPulledBeyondAnEndIsBackAtOnce) {
     window.down({150, 100});
     window.glide({150, 100}, {150, 300}, 10);
     EXPECT_LT(offset(), 0) << "it follows the finger as ever";
@@ -205,7 +209,7 @@ TEST_F(CalmScroll, what_was_pulled_beyond_an_end_is_back_at_once) {
     EXPECT_EQ(offset(), 0);
 }
 
-TEST_F(CalmScroll, turned_on_while_it_moves_the_content_arrives_with_the_next_tick) {
+TEST_F(ReducedMotionScrollTest, TurnedOnWhileItMovesTheContentArrivesWithTheNextTick) {
     window->setReducesMotion(false);
     scroll->setContentOffset_animated({0, 300}, true);
     window.tick(TestWindow::frame);
@@ -216,7 +220,8 @@ TEST_F(CalmScroll, turned_on_while_it_moves_the_content_arrives_with_the_next_ti
     window.tick(TestWindow::frame);
     EXPECT_EQ(offset(), 300);
 
-    // Ten points a frame are 600 a second, which run 600 / 2.002 = 299.7 points further than the 90 of the finger: to the end and no more.
+    // Ten points a frame are 600 a second, which run 600 / 2.002 = 299.7 points further than the 90
+    // of the finger: to the end and no more.
     window->setReducesMotion(false);
     window.fling({150, 300}, {150, 200}, 10);
     window.run(0.1);

@@ -1,9 +1,8 @@
 #include "UIWindow.h"
 
-#include <functional>
-
 #include <gtest/gtest.h>
 
+#include "ActorView.h"
 #include "RecordingCanvas.h"
 #include "UIHost.h"
 
@@ -16,100 +15,29 @@ struct Host : UIWindowHost {
     void windowNeedsFrame() override { ++frames; }
 };
 
-/// Notes the touches that reach it and moves as long as it is told to; may do something on each occasion.
-struct Actor : UIView {
-    std::string log;
-    UITouch last;
-    UIScroll lastScroll;
-    bool takesTouches = true;
-    bool usesScrolls = true;
-    std::vector<NSTimeInterval> times;
-    bool movesOn = false;
-    std::function<void()> whenBegan, whenCancelled, whenEnded, whenScrolled, whenAdvanced, whenLaidOut;
-
-    bool touchBegan(const UITouch& touch) override {
-        note("began ", touch, whenBegan);
-        return takesTouches;
-    }
-    void touchMoved(const UITouch& touch) override { note("moved ", touch, nullptr); }
-    void touchEnded(const UITouch& touch) override { note("ended ", touch, whenEnded); }
-    void touchCancelled(const UITouch& touch) override { note("cancelled ", touch, whenCancelled); }
-    bool scrolled(const UIScroll& scroll) override {
-        lastScroll = scroll;
-        run(whenScrolled);
-        return usesScrolls;
-    }
-    bool advanceToTime(NSTimeInterval time) override {
-        times.push_back(time);
-        run(whenAdvanced);
-        return movesOn;
-    }
-    void layoutSubviews() override {
-        UIView::layoutSubviews();
-        run(whenLaidOut);
-    }
-
-private:
-    static void run(std::function<void()> action) { // A copy: it may be replaced while it runs.
-        if (action) action();
-    }
-    void note(const char* what, const UITouch& touch, std::function<void()> action) {
-        log += what + std::to_string(touch.identifier) + " ";
-        last = touch;
-        run(std::move(action));
-    }
-};
-
-struct Window : testing::Test {
-    Ref<UIWindow> window = create<UIWindow>(CGRectMake(0, 0, 200, 200));
-    Ref<Actor> actor = create<Actor>(CGRectMake(10, 10, 100, 100));
-    Ref<Actor> other = create<Actor>(CGRectMake(110, 110, 50, 50));
-
-    Window() {
-        window->addSubview(actor);
-        window->addSubview(other);
-        window->tick(0);
-    }
-    using Times = std::vector<NSTimeInterval>;
-};
+struct UIWindowTest : WindowOfActors {};
 
 } // namespace
 
-// Touches
+// Scrolling
 
-TEST_F(Window, ATouchGoesToTheViewItBeganOnUntilItEnds) {
-    window->touchBegan_at_time(3, {20, 20}, 1);
-    EXPECT_EQ(actor->last.locationInWindow, CGPointMake(20, 20));
-    EXPECT_EQ(actor->last.timestamp, 1);
-    window->touchMoved_at_time(3, {150, 150}, 2);
-    EXPECT_EQ(actor->last.locationInWindow, CGPointMake(150, 150));
-    EXPECT_EQ(actor->last.timestamp, 2);
-    window->touchEnded_at_time(3, {151, 151}, 3);
-    EXPECT_EQ(actor->last.locationInWindow, CGPointMake(151, 151));
-    EXPECT_EQ(actor->last.timestamp, 3);
-    EXPECT_EQ(actor->log, "began 3 moved 3 ended 3 ");
-    EXPECT_EQ(other->log, "");
-    window->touchMoved_at_time(3, {20, 20}, 4);
-    EXPECT_EQ(actor->log, "began 3 moved 3 ended 3 ") << "it has ended";
+TEST_F(UIWindowTest, ScrollingGoesToTheViewBelowItAndReturnsWhetherItWasUsed) {
+    const UIScroll scroll = {UIScroll::Unit::Points, 1, -2, 3, {20, 20}, true};
+    EXPECT_TRUE(window->scroll(scroll));
+    EXPECT_EQ(actor->lastScroll.unit, UIScroll::Unit::Points);
+    EXPECT_EQ(actor->lastScroll.deltaX, 1);
+    EXPECT_EQ(actor->lastScroll.deltaY, -2);
+    EXPECT_EQ(actor->lastScroll.timestamp, 3);
+    EXPECT_TRUE(actor->lastScroll.isFinished);
+    actor->usesScrolls = false;
+    EXPECT_FALSE(window->scroll(scroll));
+    EXPECT_FALSE(window->scroll({UIScroll::Unit::Notches, 0, 1, 0, {5, 5}, false})) << "the window itself makes no use of it";
+    EXPECT_FALSE(window->scroll({UIScroll::Unit::Notches, 0, 1, 0, {500, 5}, false}));
 }
 
-TEST_F(Window, ReturnsWhetherAViewTookTheTouch) {
-    EXPECT_TRUE(window->touchBegan_at_time(1, {20, 20}, 1));
-    EXPECT_FALSE(window->touchBegan_at_time(2, {5, 5}, 1)) << "only the window lies there";
-    EXPECT_FALSE(window->touchBegan_at_time(3, {205, 20}, 1)) << "nothing lies there";
-    actor->takesTouches = false;
-    EXPECT_FALSE(window->touchBegan_at_time(4, {20, 20}, 1));
-}
+// The host
 
-TEST_F(Window, SendsTheRestOfATouchThatNoViewTook) {
-    actor->takesTouches = false;
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchMoved_at_time(1, {30, 30}, 2);
-    window->touchEnded_at_time(1, {30, 30}, 3);
-    EXPECT_EQ(actor->log, "began 1 moved 1 ended 1 ");
-}
-
-TEST_F(Window, GivesFeedbackThroughItsHost) {
+TEST_F(UIWindowTest, GivesFeedbackThroughItsHost) {
     window->giveFeedback(UIFeedback::SelectionChanged); // Without a host nothing happens.
     struct FeedbackHost : UIWindowHost {
         void windowNeedsFrame() override {}
@@ -130,166 +58,9 @@ TEST_F(Window, GivesFeedbackThroughItsHost) {
     window->setHost(nullptr);
 }
 
-TEST_F(Window, SeveralFingersGoTheirOwnWays) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchBegan_at_time(2, {120, 120}, 1);
-    window->touchMoved_at_time(1, {21, 20}, 2);
-    window->touchEnded_at_time(2, {120, 120}, 3);
-    window->touchEnded_at_time(1, {20, 20}, 4);
-    EXPECT_EQ(actor->log, "began 1 moved 1 ended 1 ");
-    EXPECT_EQ(other->log, "began 2 ended 2 ");
-}
-
-TEST_F(Window, ACancelledTouchKeepsItsLastPlace) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchMoved_at_time(1, {30, 40}, 2);
-    window->touchCancelled_at_time(1, 5);
-    EXPECT_EQ(actor->log, "began 1 moved 1 cancelled 1 ");
-    EXPECT_EQ(actor->last.locationInWindow, CGPointMake(30, 40));
-    EXPECT_EQ(actor->last.timestamp, 5);
-    window->touchEnded_at_time(1, {30, 40}, 6);
-    EXPECT_EQ(actor->log, "began 1 moved 1 cancelled 1 ");
-}
-
-TEST_F(Window, AnIdentifierThatIsStillDownIsCancelledFirst) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchBegan_at_time(1, {120, 120}, 2);
-    EXPECT_EQ(actor->log, "began 1 cancelled 1 ");
-    EXPECT_EQ(other->log, "began 1 ");
-    window->touchEnded_at_time(1, {120, 120}, 3);
-    EXPECT_EQ(actor->log, "began 1 cancelled 1 ");
-    EXPECT_EQ(other->log, "began 1 ended 1 ");
-}
-
-TEST_F(Window, AnIdentifierCanBeUsedAgainAfterItsEnd) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchEnded_at_time(1, {20, 20}, 2);
-    window->touchBegan_at_time(1, {120, 120}, 3);
-    EXPECT_EQ(actor->log, "began 1 ended 1 ");
-    EXPECT_EQ(other->log, "began 1 ");
-}
-
-TEST_F(Window, UnknownFingersAreIgnored) {
-    window->touchMoved_at_time(9, {20, 20}, 1);
-    window->touchEnded_at_time(9, {20, 20}, 1);
-    window->touchCancelled_at_time(9, 1);
-    EXPECT_EQ(actor->log, "");
-}
-
-TEST_F(Window, ATouchOutsideTheWindowBeginsNothing) {
-    window->touchBegan_at_time(1, {250, 20}, 1);
-    window->touchMoved_at_time(1, {20, 20}, 2);
-    EXPECT_EQ(actor->log, "");
-}
-
-TEST_F(Window, ATouchWhoseViewHasVanishedGoesNowhere) {
-    const WeakRef<Actor> weak = actor;
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    actor->removeFromSuperview();
-    actor = nullptr;
-    ASSERT_TRUE(weak.expired());
-    window->touchMoved_at_time(1, {120, 120}, 2);
-    window->touchEnded_at_time(1, {120, 120}, 3);
-    EXPECT_EQ(other->log, "") << "nobody takes over";
-}
-
-TEST_F(Window, AViewMayVanishWhileItIsTouched) {
-    const WeakRef<Actor> weak = actor;
-    actor->whenBegan = [this] {
-        actor->removeFromSuperview();
-        actor = nullptr;
-    };
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    EXPECT_TRUE(weak.expired());
-    window->touchMoved_at_time(1, {120, 120}, 2);
-    EXPECT_EQ(other->log, "");
-}
-
-TEST_F(Window, ATouchAimsAtWhatTheNextFrameWouldShow) {
-    actor->whenLaidOut = [this] { other->setFrame(CGRectMake(20, 20, 10, 10)); };
-    actor->setNeedsLayout();
-    window->touchBegan_at_time(1, {25, 25}, 1);
-    EXPECT_EQ(other->log, "began 1 ");
-    EXPECT_EQ(actor->log, "");
-}
-
-TEST_F(Window, ATouchMayEndAnotherTouch) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchBegan_at_time(2, {120, 120}, 1);
-    other->whenEnded = [this] { window->touchCancelled_at_time(1, 2); };
-    window->touchEnded_at_time(2, {120, 120}, 2);
-    EXPECT_EQ(actor->log, "began 1 cancelled 1 ");
-    EXPECT_EQ(other->log, "began 2 ended 2 ");
-}
-
-TEST_F(Window, TheWindowMayBeDroppedByATouchThatItCancels) {
-    const WeakRef<UIWindow> weak = window;
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    actor->whenCancelled = [this] { window = nullptr; };
-    window->touchBegan_at_time(1, {120, 120}, 2);
-    EXPECT_TRUE(weak.expired());
-    EXPECT_EQ(actor->log, "began 1 cancelled 1 ");
-}
-
-TEST_F(Window, TheWindowMayBeDroppedByATouchThatARemovalCancels) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchBegan_at_time(2, {30, 30}, 1);
-    actor->whenCancelled = [this] { window = nullptr; };
-    actor->removeFromSuperview();
-    EXPECT_EQ(actor->log, "began 1 began 2 cancelled 1 cancelled 2 ");
-    EXPECT_EQ(actor->superview(), nullptr);
-}
-
-TEST_F(Window, AViewMayBeDroppedByATouchThatItsRemovalCancels) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    Actor& removed = *actor;
-    removed.whenCancelled = [this] {
-        const Ref<Actor> dropped = std::move(actor);
-        dropped->removeFromSuperview();
-    };
-    removed.removeFromSuperview();
-    EXPECT_EQ(actor, nullptr);
-    EXPECT_EQ(window->subviews(), std::vector<Ref<UIView>>{other});
-}
-
-TEST_F(Window, WhoTakesAllFingersFromAViewMayForgetItMeanwhile) {
-    window->touchBegan_at_time(1, {20, 20}, 1);
-    window->touchBegan_at_time(2, {30, 30}, 1);
-    const Ref<Actor> touched = actor;
-    Ref<UIView> forgotten = actor;
-    actor->whenCancelled = [&forgotten] { forgotten = nullptr; };
-    window->cancelTouchesWithin(forgotten);
-    EXPECT_EQ(touched->log, "began 1 began 2 cancelled 1 cancelled 2 ");
-}
-
-TEST_F(Window, TheWindowMayBeDroppedByALayout) {
-    const WeakRef<UIWindow> weak = window;
-    actor->whenLaidOut = [this] { window = nullptr; };
-    actor->setNeedsLayout();
-    RecordingCanvas canvas;
-    window->draw(canvas);
-    EXPECT_TRUE(weak.expired());
-}
-
-// Scrolling
-
-TEST_F(Window, ScrollingGoesToTheViewBelowItAndTellsWhetherItWasOfUse) {
-    const UIScroll scroll = {UIScroll::Unit::Points, 1, -2, 3, {20, 20}, true};
-    EXPECT_TRUE(window->scroll(scroll));
-    EXPECT_EQ(actor->lastScroll.unit, UIScroll::Unit::Points);
-    EXPECT_EQ(actor->lastScroll.deltaX, 1);
-    EXPECT_EQ(actor->lastScroll.deltaY, -2);
-    EXPECT_EQ(actor->lastScroll.timestamp, 3);
-    EXPECT_TRUE(actor->lastScroll.isFinished);
-    actor->usesScrolls = false;
-    EXPECT_FALSE(window->scroll(scroll));
-    EXPECT_FALSE(window->scroll({UIScroll::Unit::Notches, 0, 1, 0, {5, 5}, false})) << "the window itself makes no use of it";
-    EXPECT_FALSE(window->scroll({UIScroll::Unit::Notches, 0, 1, 0, {500, 5}, false}));
-}
-
 // Frames
 
-TEST_F(Window, ATickAnswersOnceForEachChange) {
+TEST_F(UIWindowTest, ATickReturnsTrueOnceForEachChange) {
     EXPECT_FALSE(window->tick(1)) << "drawn already";
     actor->setAlpha(0.5);
     other->setAlpha(0.5);
@@ -297,13 +68,13 @@ TEST_F(Window, ATickAnswersOnceForEachChange) {
     EXPECT_FALSE(window->tick(3));
 }
 
-TEST_F(Window, ANewWindowHasToBeDrawn) {
+TEST_F(UIWindowTest, ANewWindowHasToBeDrawn) {
     const auto fresh = create<UIWindow>(CGRectMake(0, 0, 10, 10));
     EXPECT_TRUE(fresh->tick(0));
     EXPECT_FALSE(fresh->tick(1));
 }
 
-TEST_F(Window, TheHostIsAskedOnceUntilTheNextTick) {
+TEST_F(UIWindowTest, RequestsOneFrameUntilTheNextTick) {
     Host host;
     window->setHost(&host);
     EXPECT_EQ(window->host(), &host);
@@ -322,7 +93,7 @@ TEST_F(Window, TheHostIsAskedOnceUntilTheNextTick) {
     EXPECT_EQ(host.frames, 2);
 }
 
-TEST_F(Window, AHostThatComesLateIsAskedForTheFrameThatWaits) {
+TEST_F(UIWindowTest, AHostThatComesLateGetsThePendingRequestForAFrame) {
     actor->setAlpha(0.5);
     Host host;
     window->setHost(&host);
@@ -330,14 +101,14 @@ TEST_F(Window, AHostThatComesLateIsAskedForTheFrameThatWaits) {
     window->setHost(nullptr);
 }
 
-TEST_F(Window, WhatChangesInATickIsDrawnWithIt) {
+TEST_F(UIWindowTest, WhatChangesInATickIsDrawnWithIt) {
     actor->whenLaidOut = [this] { other->setAlpha(0.5); };
     actor->setNeedsLayout();
     EXPECT_TRUE(window->tick(1));
     EXPECT_FALSE(window->tick(2));
 }
 
-TEST_F(Window, WhatALayoutLeavesDueIsDoneByTheNextTick) {
+TEST_F(UIWindowTest, WhatALayoutInvalidatesIsLaidOutByTheNextTick) {
     int layouts = 0;
     actor->whenLaidOut = [&] {
         if (++layouts == 1) actor->setNeedsLayout();
@@ -349,7 +120,7 @@ TEST_F(Window, WhatALayoutLeavesDueIsDoneByTheNextTick) {
     EXPECT_EQ(layouts, 2);
 }
 
-TEST_F(Window, TheLookIsHandedToTheCanvasAndChangesWithAFrame) {
+TEST_F(UIWindowTest, TheLookIsHandedToTheCanvasAndChangesWithAFrame) {
     RecordingCanvas canvas;
     window->setBackgroundColor(UIColor::colorWithLight_dark(UIColor::whiteColor(), UIColor::blackColor()));
     window->draw(canvas);
@@ -365,7 +136,7 @@ TEST_F(Window, TheLookIsHandedToTheCanvasAndChangesWithAFrame) {
     EXPECT_EQ(canvas.painted(), std::vector<std::string>{"fill 0 0 200 200 with 0 0 0 1"});
 }
 
-TEST_F(Window, DrawingLaysOutFirst) {
+TEST_F(UIWindowTest, DrawingLaysOutFirst) {
     actor->whenLaidOut = [this] { actor->setBackgroundColor(UIColor::blackColor()); };
     actor->setNeedsLayout();
     RecordingCanvas canvas;
@@ -373,7 +144,7 @@ TEST_F(Window, DrawingLaysOutFirst) {
     EXPECT_EQ(canvas.painted(), std::vector<std::string>{"fill 0 0 100 100 with 0 0 0 1"});
 }
 
-TEST_F(Window, AWindowDrawsFromItsTopLeftWhereverItsFrameLies) {
+TEST_F(UIWindowTest, AWindowDrawsFromItsTopLeftWhereverItsFrameLies) {
     window->setFrame(CGRectMake(500, 600, 200, 200));
     window->setBackgroundColor(UIColor::blackColor());
     RecordingCanvas canvas;
@@ -385,7 +156,7 @@ TEST_F(Window, AWindowDrawsFromItsTopLeftWhereverItsFrameLies) {
 
 // What moves
 
-TEST_F(Window, AMovingViewIsAdvancedByEachTickUntilItRests) {
+TEST_F(UIWindowTest, AMovingViewIsAdvancedByEachTickUntilItRests) {
     actor->movesOn = true;
     window->animateView(actor);
     window->animateView(actor);
@@ -399,7 +170,7 @@ TEST_F(Window, AMovingViewIsAdvancedByEachTickUntilItRests) {
     EXPECT_EQ(actor->times, (Times{1, 2, 3}));
 }
 
-TEST_F(Window, AViewThatBeginsToMoveAsksForAFrame) {
+TEST_F(UIWindowTest, AViewThatBeginsToMoveRequestsAFrame) {
     Host host;
     window->setHost(&host);
     window->animateView(actor);
@@ -410,7 +181,7 @@ TEST_F(Window, AViewThatBeginsToMoveAsksForAFrame) {
     EXPECT_FALSE(window->tick(2));
 }
 
-TEST_F(Window, AViewCanMoveAgainAfterItsRest) {
+TEST_F(UIWindowTest, AViewCanMoveAgainAfterItsRest) {
     window->animateView(actor);
     window->tick(1);
     window->tick(2);
@@ -419,7 +190,7 @@ TEST_F(Window, AViewCanMoveAgainAfterItsRest) {
     EXPECT_EQ(actor->times, (Times{1, 3}));
 }
 
-TEST_F(Window, AMovingViewThatDiesIsForgotten) {
+TEST_F(UIWindowTest, AMovingViewThatIsGoneAdvancesNoMore) {
     actor->movesOn = true;
     window->animateView(actor);
     actor->removeFromSuperview();
@@ -428,7 +199,7 @@ TEST_F(Window, AMovingViewThatDiesIsForgotten) {
     EXPECT_FALSE(window->tick(2));
 }
 
-TEST_F(Window, AMovingViewThatLeavesTheWindowIsForgotten) {
+TEST_F(UIWindowTest, AMovingViewThatLeavesTheWindowAdvancesNoMore) {
     actor->movesOn = true;
     window->animateView(actor);
     actor->removeFromSuperview();
@@ -437,7 +208,7 @@ TEST_F(Window, AMovingViewThatLeavesTheWindowIsForgotten) {
     EXPECT_EQ(actor->times, Times{});
 }
 
-TEST_F(Window, AViewThatIsRemovedByAnotherInATickDoesNotMove) {
+TEST_F(UIWindowTest, AViewThatIsRemovedByAnotherInATickDoesNotMove) {
     actor->movesOn = other->movesOn = true;
     actor->whenAdvanced = [this] { other->removeFromSuperview(); };
     window->animateView(actor);
@@ -447,8 +218,8 @@ TEST_F(Window, AViewThatIsRemovedByAnotherInATickDoesNotMove) {
     EXPECT_EQ(other->times, Times{});
 }
 
-TEST_F(Window, AViewThatDiesInItsOwnMovementLeavesTheOthersMoving) {
-    const WeakRef<Actor> weak = actor;
+TEST_F(UIWindowTest, AViewThatIsDroppedInItsOwnMovementLeavesTheOthersMoving) {
+    const WeakRef<ActorView> weak = actor;
     actor->movesOn = other->movesOn = true;
     actor->whenAdvanced = [this] {
         actor->removeFromSuperview();
@@ -463,7 +234,7 @@ TEST_F(Window, AViewThatDiesInItsOwnMovementLeavesTheOthersMoving) {
     EXPECT_EQ(other->times, (Times{1, 2}));
 }
 
-TEST_F(Window, AViewThatBeginsToMoveInATickJoinsInTheNext) {
+TEST_F(UIWindowTest, AViewThatBeginsToMoveInATickAdvancesInTheNext) {
     actor->whenAdvanced = [this] { window->animateView(other); };
     window->animateView(actor);
     EXPECT_TRUE(window->tick(1));
@@ -473,24 +244,24 @@ TEST_F(Window, AViewThatBeginsToMoveInATickJoinsInTheNext) {
     EXPECT_EQ(actor->times, Times{1});
 }
 
-TEST_F(Window, ManyViewsMayBeginToMoveInOneTick) {
-    std::vector<Ref<Actor>> crowd;
+TEST_F(UIWindowTest, ManyViewsMayBeginToMoveInOneTick) {
+    std::vector<Ref<ActorView>> crowd;
     for (int i = 0; i < 50; ++i) {
-        crowd.push_back(create<Actor>(CGRectMake(0, 0, 1, 1)));
+        crowd.push_back(create<ActorView>(CGRectMake(0, 0, 1, 1)));
         window->addSubview(crowd.back());
     }
     actor->movesOn = true;
     actor->whenAdvanced = [&] {
-        for (const Ref<Actor>& view : crowd) window->animateView(view);
+        for (const Ref<ActorView>& view : crowd) window->animateView(view);
     };
     window->animateView(actor);
     window->tick(1);
     window->tick(2);
-    for (const Ref<Actor>& view : crowd) EXPECT_EQ(view->times, Times{2});
+    for (const Ref<ActorView>& view : crowd) EXPECT_EQ(view->times, Times{2});
     EXPECT_EQ(actor->times, (Times{1, 2}));
 }
 
-TEST_F(Window, ACallbackMayNotTurnTimeWithinATick) {
+TEST_F(UIWindowTest, ATickWithinATickIsANoOp) {
     bool answer = false;
     actor->movesOn = true;
     actor->whenAdvanced = [&] { answer = window->tick(99); };
@@ -502,7 +273,7 @@ TEST_F(Window, ACallbackMayNotTurnTimeWithinATick) {
     EXPECT_EQ(actor->times, (Times{1, 2})) << "the next one does";
 }
 
-TEST_F(Window, ATickMayDropTheWindow) {
+TEST_F(UIWindowTest, ATickMayDropTheWindow) {
     const WeakRef<UIWindow> weak = window;
     actor->movesOn = true;
     actor->whenAdvanced = [this] { window = nullptr; };
