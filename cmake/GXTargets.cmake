@@ -34,6 +34,8 @@ function(gx_add_floor name)
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} INSTALL_RPATH "$ORIGIN")
   target_compile_features(${target} PUBLIC cxx_std_20)
+  # g++ looks at system headers where a link leads, away from those beside it; SYSTEM and precompiling make them such.
+  target_compile_options(${target} PUBLIC "$<BUILD_INTERFACE:$<$<CXX_COMPILER_ID:GNU>:-fno-canonical-system-headers>>")
   # Lets an application's linker leave out what it does not use (-Wl,--gc-sections).
   target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections)
   if(GX_BARE)
