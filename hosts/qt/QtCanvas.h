@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QTransform>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/QtImageCache.h>
 #include <GXUIPickers/QtTextImageCache.h>
 #include <GXUIPickers/UIGraphicsContext.h>
@@ -27,7 +28,7 @@ namespace gx::qt {
 /// given a clip or an opacity only when something is drawn with another one than before.
 ///
 /// One canvas may serve all frames of a widget.
-class QtCanvas : public UIGraphicsContext {
+class GX_EXPORT QtCanvas : public UIGraphicsContext {
 public:
     explicit QtCanvas(Ref<QtTextEngine> engine = QtTextEngine::shared(),
                       std::shared_ptr<QtTextImageCache> texts = QtTextImageCache::shared(),

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/NSObject.h>
 
 namespace gx::qt {
@@ -15,7 +16,7 @@ namespace gx::qt {
 /// Events may lie in the queue for a while and then come in a bunch: by their delivery a finger would seem to stand and
 /// then to jump, and a fling would get a wrong speed. Their own times tell how far they lie apart, but have another zero.
 /// So the event that came with the least delay since the input began fixes the zero, and no event lies in the future.
-class QtEventClock {
+class GX_EXPORT QtEventClock {
 public:
     /// `milliseconds` is the event's own time, 0 if it has none; `now` the frames' time of its delivery, in seconds.
     NSTimeInterval timeOfEvent(std::uint64_t milliseconds, NSTimeInterval now);

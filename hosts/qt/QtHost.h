@@ -6,6 +6,7 @@
 
 #include <QLocale>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/NSLocale.h>
 
 class QGuiApplication;
@@ -24,13 +25,13 @@ struct QtHostOptions {
     /// application's own.
     std::optional<std::string> interfaceFamily;
 };
-void installQtHost(QGuiApplication& application, const QtHostOptions& options = {});
+GX_EXPORT void installQtHost(QGuiApplication& application, const QtHostOptions& options = {});
 
 /// The same customs for the library. A locale without a language counts as "en".
-Ref<NSLocale> localeFromQLocale(const QLocale& locale);
+GX_EXPORT Ref<NSLocale> localeFromQLocale(const QLocale& locale);
 
 /// What came of loading font files.
-struct QtFontLoading {
+struct GX_EXPORT QtFontLoading {
     /// The family that the first readable file belongs to; empty if there is none.
     std::string family;
     /// The files that could not be read as fonts, as they were given.
@@ -40,6 +41,6 @@ struct QtFontLoading {
 };
 /// Loads font files, usually one family in several weights, and makes the first one's family the interface family. If none can be read,
 /// that stays as it was.
-QtFontLoading loadInterfaceFont(const std::vector<std::string>& files);
+GX_EXPORT QtFontLoading loadInterfaceFont(const std::vector<std::string>& files);
 
 } // namespace gx::qt

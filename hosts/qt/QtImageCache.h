@@ -6,6 +6,7 @@
 
 #include <QImage>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIImage.h>
 
 namespace gx::qt {
@@ -14,7 +15,7 @@ namespace gx::qt {
 ///
 /// Supports: any `UIImage`; bounded by bytes, but for the picture used last; lets go of pictures that nobody holds any longer. A picture
 /// that is held by no reference at all is converted each time.
-class QtImageCache {
+class GX_EXPORT QtImageCache {
 public:
     /// Enough for a screen full of icons or two photographs.
     static constexpr std::size_t defaultCapacity = std::size_t{32} << 20U;

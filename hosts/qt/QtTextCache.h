@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include <GXUIPickers/GXExport.h>
+
 namespace gx::qt {
 
 /// What tells two prepared texts apart. Whoever needs less leaves the rest as it is.
@@ -22,7 +24,7 @@ struct QtTextKey {
     friend bool operator==(const QtTextKey&, const QtTextKey&) = default;
 };
 
-struct QtTextKeyHash {
+struct GX_EXPORT QtTextKeyHash {
     std::size_t operator()(const QtTextKey& key) const {
         constexpr std::size_t factor = 31; // Spreads the small numbers; the text is spread well already.
         std::size_t hash = std::hash<std::string_view>()(key.text);

@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/QtTextCache.h>
 #include <GXUIPickers/UITextEngine.h>
 
@@ -24,7 +25,7 @@ namespace gx::qt {
 /// drawing scale from there: 22.5 points are exactly that, on every screen, and text is as wide as it was measured.
 ///
 /// Needs a QGuiApplication.
-class QtTextEngine : public UITextEngine {
+class GX_EXPORT QtTextEngine : public UITextEngine {
 public:
     /// The pixel size in which faces are opened.
     static constexpr int facePixelSize = 1000;

@@ -5,6 +5,7 @@
 
 #include <QImage>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/QtTextCache.h>
 #include <GXUIPickers/QtTextEngine.h>
 
@@ -24,7 +25,7 @@ struct QtTextImage {
 ///
 /// Supports: any text, font, colour and resolution; bounded by bytes. Does not support: images larger than
 /// `largestSide`, which whoever draws has to draw directly.
-class QtTextImageCache {
+class GX_EXPORT QtTextImageCache {
 public:
     /// Enough for about a thousand rows of a wheel on a screen with two pixels a point.
     static constexpr std::size_t defaultCapacity = std::size_t{16} << 20U;

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/QtCanvas.h>
 #include <GXUIPickers/QtEventClock.h>
 #include <GXUIPickers/UIHost.h>
@@ -34,7 +35,7 @@ class QtInput;
 ///
 /// Time. Frames are on a steady clock that starts with the widget. Input events are brought onto it by their own times
 /// (`QtEventClock`). With a clock of one's own (`setClock`) events happen at the time that it tells on their delivery.
-class UIViewWidget : public QWidget, private UIWindowHost {
+class GX_EXPORT UIViewWidget : public QWidget, private UIWindowHost {
 public:
     explicit UIViewWidget(QWidget* parent = nullptr);
     ~UIViewWidget() override;

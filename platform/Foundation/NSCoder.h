@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -19,7 +20,7 @@ namespace gx {
 ///
 /// Invariant: reading never fails. A key that is missing, or whose value is of another kind, reads
 /// as 0, false or nothing; numbers convert among each other as `NSNumber` does.
-class NSCoder : public NSObject {
+class GX_EXPORT NSCoder : public NSObject {
 public:
     void encodeBool_forKey(bool value, std::string key);
     void encodeInteger_forKey(NSInteger value, std::string key);

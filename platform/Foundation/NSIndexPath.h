@@ -1,11 +1,12 @@
 #pragma once
 
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
 
 /// The place of a row in a table: a section, and a row in it. Both count from 0.
-struct NSIndexPath {
+struct GX_EXPORT NSIndexPath {
     NSInteger section = 0;
     NSInteger row = 0;
 

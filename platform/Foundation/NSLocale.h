@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -19,7 +20,7 @@ enum class NSLocaleLanguageDirection { LeftToRight, RightToLeft };
 /// do with the C locale, which the library never reads.
 ///
 /// A host sets the current one from the user's system; without a host it is "en" with ".".
-class NSLocale : public NSObject {
+class GX_EXPORT NSLocale : public NSObject {
 public:
     /// Never empty.
     static const Ref<NSLocale>& currentLocale();

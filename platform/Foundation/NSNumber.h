@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -18,7 +19,7 @@ namespace gx {
 ///
 /// An empty handle (`NSNumber()`) returns 0 from every getter, and is false as `bool`. Use one for
 /// "not set".
-class NSNumber {
+class GX_EXPORT NSNumber {
 public:
     enum class Type { None, Bool, Int, Integer, Float, Double };
 

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "GXExport.h"
+
 namespace gx {
 
 using NSInteger = std::int64_t;
@@ -27,7 +29,7 @@ using WeakRef = std::weak_ptr<T>;
 ///
 /// It is part of no run loop, so that objects can queue calls without knowing one. Applications use
 /// `NSRunLoop`, which has the rules.
-class NSBlockQueue {
+class GX_EXPORT NSBlockQueue {
 public:
     /// What `NSRunLoop::mainRunLoop()` runs.
     static const Ref<NSBlockQueue>& mainQueue();
@@ -54,7 +56,7 @@ private:
 ///
 /// Protocols (delegates, data sources) are plain abstract classes and do not derive from this one,
 /// so a class may adopt any number of them.
-class NSObject : public std::enable_shared_from_this<NSObject> {
+class GX_EXPORT NSObject : public std::enable_shared_from_this<NSObject> {
 public:
     NSObject() = default;
     NSObject(const NSObject&) = delete;

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -13,7 +14,7 @@ namespace gx {
 ///
 /// A host pumps it with `runPass`, once for each round of its own event loop. Without a host, a
 /// test or an application calls `runPass` itself.
-class NSRunLoop : public NSObject {
+class GX_EXPORT NSRunLoop : public NSObject {
 public:
     /// The one queue of the interface thread; never empty.
     static const Ref<NSRunLoop>& mainRunLoop();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "UIImage.h"
 #include "UIView.h"
 
@@ -14,7 +15,7 @@ enum UIViewContentMode {
 
 /// Shows one image in its bounds. Takes no touches; for a picture to tap, put it into a view of
 /// your own.
-class UIImageView : public UIView {
+class GX_EXPORT UIImageView : public UIView {
 public:
     bool initWithFrame(CGRect frame) override;
     /// Also restores "contentMode".

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "GXExport.h"
 #include "NSAttributedString.h"
 #include "UIView.h"
 
@@ -21,7 +22,7 @@ enum NSTextAlignment {
 /// view of your own.
 ///
 /// Invariant: setting a plain text drops the attributed one, and the other way round.
-class UILabel : public UIView {
+class GX_EXPORT UILabel : public UIView {
 public:
     bool initWithFrame(CGRect frame) override;
     /// Also restores "text", "textAlignment" and "fontSize".

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "NSObject.h"
 #include "UIKey.h"
 #include "UITouch.h"
@@ -11,7 +12,7 @@ namespace gx {
 /// Events go along a chain of responders: what one does not override goes on to its
 /// `nextResponder`, for a view its superview. An override that leaves an event alone calls the
 /// superclass's.
-class UIResponder : public NSObject {
+class GX_EXPORT UIResponder : public NSObject {
 public:
     /// Who gets the events that this one leaves alone. Here nobody.
     virtual Ref<UIResponder> nextResponder() const;

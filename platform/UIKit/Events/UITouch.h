@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -20,7 +21,7 @@ struct UITouch {
 
 /// A step of the mouse wheel or a stroke on a trackpad. Positive deltas move toward later rows:
 /// right and down.
-struct UIScroll {
+struct GX_EXPORT UIScroll {
     enum class Unit {
         Notches, ///< clicks of a mouse wheel, also fractions of one
         Points   ///< a trackpad's distances, in points

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "GXExport.h"
 #include "UIColor.h"
 #include "UIFont.h"
 
@@ -16,7 +17,7 @@ struct NSTextAttributes {
 };
 
 /// One run of text with the attributes it is drawn with. Immutable.
-class NSAttributedString : public NSObject {
+class GX_EXPORT NSAttributedString : public NSObject {
 public:
     static Ref<NSAttributedString> attributedStringWithString_attributes(std::string string, NSTextAttributes attributes);
 
@@ -30,6 +31,6 @@ private:
 
 /// The size of one line of text in the font of the attributes, or in the system font if they name
 /// none.
-CGSize sizeWithAttributes(std::string_view text, const NSTextAttributes& attributes);
+GX_EXPORT CGSize sizeWithAttributes(std::string_view text, const NSTextAttributes& attributes);
 
 } // namespace gx

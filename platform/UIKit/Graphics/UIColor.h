@@ -1,5 +1,7 @@
 #pragma once
 
+#include "GXExport.h"
+
 namespace gx {
 
 /// The look that colours are shown in; a property of the window.
@@ -24,7 +26,7 @@ struct UIColorComponents {
 /// draw again.
 ///
 /// Invariant: all components are from 0 to 1.
-class UIColor {
+class GX_EXPORT UIColor {
 public:
     /// The clear colour.
     UIColor() = default;

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -10,7 +11,7 @@ namespace gx {
 enum class UIFontWeight { Regular, Medium, Semibold, Bold };
 
 /// A font: family, size in points and weight. Immutable, so it can be shared and compared.
-class UIFont : public NSObject {
+class GX_EXPORT UIFont : public NSObject {
 public:
     /// The size of text without a font of its own. The phone's platform prescribes it.
     static constexpr CGFloat labelFontSize = 17;

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "UIColor.h"
 #include "UIFont.h"
 #include "UIImage.h"
@@ -14,7 +15,7 @@ namespace gx {
 /// It starts with the origin at the window's top left, y growing downward, one unit a point. Views
 /// draw with the public operations; a host implements the protected ones. Colours and images arrive
 /// there resolved for the look and the contrast of the frame.
-class UIGraphicsContext {
+class GX_EXPORT UIGraphicsContext {
 public:
     virtual ~UIGraphicsContext() = default;
 

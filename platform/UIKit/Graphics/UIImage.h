@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 #include "UIColor.h"
 
@@ -15,7 +16,7 @@ namespace gx {
 ///
 /// Invariant: the pixels never change, so hosts may cache what they make of an image for as long as
 /// it lives.
-class UIImage : public NSObject {
+class GX_EXPORT UIImage : public NSObject {
 public:
     /// An image of pixels. Returns nothing if the sizes do not fit each other or are not above 0.
     ///
@@ -63,7 +64,7 @@ private:
 };
 
 /// Decodes picture files for `UIImage`; a host provides it.
-class UIImageLoader {
+class GX_EXPORT UIImageLoader {
 public:
     static Ref<UIImageLoader> shared();
     static void setShared(Ref<UIImageLoader> loader);

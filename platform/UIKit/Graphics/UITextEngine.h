@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 #include "UIFont.h"
 
@@ -12,7 +13,7 @@ namespace gx {
 ///
 /// A host replaces the shared one by an engine that knows its fonts; without a host it is a
 /// fixed-width engine. To measure one text use `sizeWithAttributes`.
-class UITextEngine : public NSObject {
+class GX_EXPORT UITextEngine : public NSObject {
 public:
     /// Never empty. The reference keeps the engine alive when it is replaced while it measures.
     static Ref<UITextEngine> shared();
@@ -26,7 +27,7 @@ public:
 
 /// Gives every code point the same width and every line the same height, whatever the font. For
 /// tests, and where there is no host.
-class UIFixedWidthTextEngine : public UITextEngine {
+class GX_EXPORT UIFixedWidthTextEngine : public UITextEngine {
 public:
     CGSize sizeOfText_font(std::string_view text, const UIFont& font) override;
 

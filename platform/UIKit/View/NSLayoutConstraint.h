@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -18,7 +19,7 @@ enum class NSLayoutAttribute { Left, Right, Top, Bottom };
 /// `setFrame`, in the superview's layout. For any other layout override `UIView::layoutSubviews`.
 ///
 /// Invariant: a constraint never changes once it is made.
-class NSLayoutConstraint : public NSObject {
+class GX_EXPORT NSLayoutConstraint : public NSObject {
 public:
     /// Distances and views under the names that a format uses for them.
     using Metrics = std::map<std::string, CGFloat>;
@@ -51,7 +52,7 @@ private:
 };
 
 /// All pins of one view together.
-struct NSLayoutPins {
+struct GX_EXPORT NSLayoutPins {
     std::optional<CGFloat> left, right, top, bottom;
     /// The view. May be gone.
     WeakRef<NSObject> item;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "GXExport.h"
 #include "UIViewNode.h"
 
 namespace gx {
@@ -23,7 +24,7 @@ enum class UIAccessibilityRole {
 ///
 /// Views return new handles with each `UIView::accessibilityElements`; `isSameAs` says which of
 /// them mean the same thing.
-class UIAccessibilityElement : public NSObject {
+class GX_EXPORT UIAccessibilityElement : public NSObject {
 public:
     /// The whole of a view or, with a part of 0 or more, something that the view itself tells
     /// apart.
@@ -76,8 +77,8 @@ private:
 using UIAccessibilityElements = std::vector<Ref<UIAccessibilityElement>>;
 
 /// The whole of a view as one element, if it has a label; otherwise none.
-UIAccessibilityElements wholeAccessibilityElement(const Ref<UIViewNode>& view, UIAccessibilityRole role);
+GX_EXPORT UIAccessibilityElements wholeAccessibilityElement(const Ref<UIViewNode>& view, UIAccessibilityRole role);
 /// The labels of these elements, joined by ", ". Nothing if there is none.
-std::optional<std::string> joinedAccessibilityLabels(const UIAccessibilityElements& elements);
+GX_EXPORT std::optional<std::string> joinedAccessibilityLabels(const UIAccessibilityElements& elements);
 
 } // namespace gx

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "GXExport.h"
 #include "NSLayoutConstraint.h"
 #include "UIAccessibility.h"
 #include "UIViewNode.h"
@@ -20,7 +21,7 @@ class UIGraphicsContext;
 /// Invariants:
 /// - A view has at most one superview, never itself or a view below it.
 /// - A superview owns its subviews, and nothing owns upward.
-class UIView : public UIViewNode {
+class GX_EXPORT UIView : public UIViewNode {
 public:
     ~UIView() override;
 
@@ -118,8 +119,8 @@ private:
 
 /// The elements of the view's subviews, in reading order; of those that are drawn: neither hidden,
 /// nor fully transparent, nor empty.
-UIAccessibilityElements accessibilityElementsOfSubviews(const Ref<UIView>& view);
+GX_EXPORT UIAccessibilityElements accessibilityElementsOfSubviews(const Ref<UIView>& view);
 /// The view as a whole, if it has a label, and what its subviews offer.
-UIAccessibilityElements accessibilityElementAndSubviews(const Ref<UIView>& view, UIAccessibilityRole role);
+GX_EXPORT UIAccessibilityElements accessibilityElementAndSubviews(const Ref<UIView>& view, UIAccessibilityRole role);
 
 } // namespace gx

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSCoder.h"
 #include "UIColor.h"
 #include "UIResponder.h"
@@ -14,7 +15,7 @@ namespace gx {
 class UIViewNode;
 
 /// What a view asks of the window at the top of its tree. `UIWindow` alone implements it.
-class UIViewRoot {
+class GX_EXPORT UIViewRoot {
 public:
     /// Something has changed on screen: a frame is needed.
     virtual void requestFrame() = 0;
@@ -38,7 +39,7 @@ protected:
 /// the subviews and is what applications derive from.
 ///
 /// Invariant: the size of `bounds` is always the size of `frame`.
-class UIViewNode : public UIResponder {
+class GX_EXPORT UIViewNode : public UIResponder {
 public:
     /// The zero rectangle as frame.
     bool init() override;

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "GXExport.h"
 #include "UIView.h"
 #include "UIWindowHost.h"
 
@@ -14,7 +15,7 @@ namespace gx {
 /// tests.
 ///
 /// Invariant: the first responder is a view of this window, or nothing.
-class UIWindow : public UIView, public UIViewRoot {
+class GX_EXPORT UIWindow : public UIView, public UIViewRoot {
 public:
     ~UIWindow() override;
 
@@ -147,6 +148,6 @@ private:
 };
 
 /// What `UIViewNode::window` returns: the window at the top of the view's tree. Empty without one.
-Ref<UIWindow> windowOf(const UIViewNode& view);
+GX_EXPORT Ref<UIWindow> windowOf(const UIViewNode& view);
 
 } // namespace gx

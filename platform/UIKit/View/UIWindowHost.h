@@ -1,5 +1,7 @@
 #pragma once
 
+#include "GXExport.h"
+
 namespace gx {
 
 /// What a user shall feel or hear.
@@ -8,7 +10,7 @@ enum class UIFeedback {
 };
 
 /// What a window asks of its host. `UIHost.h` has the whole protocol, in both directions.
-class UIWindowHost {
+class GX_EXPORT UIWindowHost {
 public:
     virtual ~UIWindowHost() = default;
 
