@@ -95,14 +95,14 @@ void EntryScreen::setSettings(const Settings& settings) {
     drawnAlike.reducesMotion = settings_.reducesMotion;
     const bool isSame = drawnAlike == settings_;
     const bool isOtherLanguage = settings.language != settings_.language;
-    if (!isSame) settleWheels();
+    if (!isSame) finishSpins();
     settings_ = settings;
     if (isOtherLanguage) tell("", false);
     if (!isSame) makeRows();
 }
 
 void EntryScreen::setWorkout(const Workout& workout) {
-    settleWheels();
+    finishSpins();
     *workout_ = workout;
     readyCell_.reset();
     for (std::size_t i = 0; i < measurementCount(); ++i) {
@@ -121,7 +121,7 @@ const Ref<Measurement>& EntryScreen::measurement(std::size_t index) const {
 void EntryScreen::openMeasurement_animated(std::optional<std::size_t> measurement, bool animated) {
     if (measurement && *measurement >= measurementCount()) return;
     if (measurement == rows_.open()) return;
-    settleWheels();
+    finishSpins();
     if (const auto closed = rows_.open()) {
         const NSIndexPath path = rows_.pathOfPicker();
         rows_.setOpen(std::nullopt);
@@ -151,7 +151,7 @@ void EntryScreen::fillRow(MeasurementCell& cell, std::size_t measurement) {
     cell.setOpen(rows_.open() == measurement);
 }
 
-void EntryScreen::settleWheels() {
+void EntryScreen::finishSpins() {
     if (table_) table_->finishAnimationsInTree();
 }
 
@@ -233,7 +233,7 @@ void EntryScreen::save() {
     const Ref<EntryScreen> keep = refTo(this);
     const std::shared_ptr<UserFiles> files = files_;
     if (!files) return;
-    settleWheels();
+    finishSpins();
     files->saveText_name(WorkoutFile::textOfWorkout(*workout_), "workout.json", [weak = WeakRef<EntryScreen>(keep)](const auto& outcome) {
         const auto entry = weak.lock();
         if (!entry) return;

@@ -50,7 +50,7 @@ public:
     gx::NSIndexPath pathOfMeasurement(std::size_t index) const { return rows_.pathOfMeasurement(index); }
 
     /// Ends every spin at once, on the row that it was heading for.
-    void settleWheels();
+    void finishSpins();
     void save();
     void open();
     /// The last message for the user; empty for none.

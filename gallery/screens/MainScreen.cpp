@@ -121,7 +121,7 @@ void MainScreen::setSettings(const Settings& settings) {
     const Settings before = settings_;
     settings_ = settings;
     // A spin ends first, in the old units.
-    entry_->settleWheels();
+    entry_->finishSpins();
     settings.apply();
     entry_->setSettings(settings);
     if (settingsPage_) settingsPage_->setSettings(settings);
