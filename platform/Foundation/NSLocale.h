@@ -9,31 +9,41 @@
 namespace gx {
 
 enum class NSLocaleKey { Identifier, LanguageCode, DecimalSeparator };
-/// The keys that `objectForKey` knows.
+/// The keys of `objectForKey`.
 inline constexpr NSLocaleKey NSLocaleIdentifier = NSLocaleKey::Identifier;
 inline constexpr NSLocaleKey NSLocaleLanguageCode = NSLocaleKey::LanguageCode;
 inline constexpr NSLocaleKey NSLocaleDecimalSeparator = NSLocaleKey::DecimalSeparator;
 
 enum class NSLocaleLanguageDirection { LeftToRight, RightToLeft };
 
-/// The customs of the user's language: language, decimal separator and writing direction. It has nothing to
-/// do with the C locale, which the library never reads.
+/// The customs of the user: language, decimal separator and writing direction.
 ///
-/// A host sets the current one from the user's system; without a host it is "en" with ".".
+/// A host sets the current locale from the user's system; without a host it is "en" with ".". The C
+/// locale is another matter, which the library never reads.
 class GX_EXPORT NSLocale : public NSObject {
 public:
-    /// Never empty.
-    static const Ref<NSLocale>& currentLocale();
-    /// Takes effect for what asks afterwards; texts already on screen stay. An empty reference restores the default.
+    /// Never empty. The reference keeps the locale alive, also if a call replaces it.
+    static Ref<NSLocale> currentLocale();
+    /// Texts on screen stay as they are until they are set again. An empty reference restores the
+    /// default.
     static void setCurrentLocale(Ref<NSLocale> locale);
 
-    /// `identifier` as in "de", "de_DE", "zh-Hans"; the separator and the direction follow from its language.
+    /// Takes identifiers such as "de", "de_DE", "sr-Latn-RS", "ks_IN.UTF-8@devanagari", in any
+    /// case.
+    ///
+    /// Separator and direction are those of Unicode CLDR 48 for language, script and region:
+    ///
+    /// - A region that CLDR does not list has the customs of its language, an unknown language ".".
+    /// - Old codes ("iw", "in", "ji") mean the same as new ones.
+    /// - The separator is that of the locale's default digits: "\u066B" for "fa" and "ar_EG", whose
+    ///   default digits are not 0 to 9. `setDecimalSeparator` is for users who prefer another one.
+    /// - Mongolian in its vertical script counts as left to right.
     virtual bool initWithLocaleIdentifier(const std::string& identifier);
     static Ref<NSLocale> localeWithIdentifier(const std::string& identifier);
 
     virtual std::optional<std::string> objectForKey(NSLocaleKey key) const;
 
-    /// For a user whose system deviates from the custom of the language.
+    /// For a user who deviates from the custom of the language.
     void setDecimalSeparator(std::string separator);
     NSLocaleLanguageDirection characterDirection() const { return direction_; }
     bool isRightToLeft() const { return direction_ == NSLocaleLanguageDirection::RightToLeft; }
