@@ -8,11 +8,12 @@ namespace gx {
 
 namespace {
 
+// Chosen: room for the value font with a gap that keeps neighbouring rows apart.
 constexpr double rowHeight = 40;
-// An icon is drawn without the white space that a line of text brings along, and needs some around it.
+// Chosen: an icon has no white space of its own, as a line of text does, and needs some around it.
 constexpr double imageRowHeight = 56;
-// One size for values and labels: row titles, unit labels and separators are each centred on the height of the row, and only texts of one
-// size that are centred on one line also stand on one baseline. Weight and colour tell them apart instead.
+// Chosen. Row titles, unit labels and separators are centred on the height of the row, and of texts
+// so centred only those of one size share a baseline. They differ in weight and colour instead.
 constexpr CGFloat fontSize = 22;
 
 Ref<GXStyleSheet>& sharedStyleSheet() {
@@ -22,7 +23,7 @@ Ref<GXStyleSheet>& sharedStyleSheet() {
 
 } // namespace
 
-const Ref<GXStyleSheet>& GXStyleSheet::globalStyleSheet() { return sharedStyleSheet(); }
+Ref<GXStyleSheet> GXStyleSheet::globalStyleSheet() { return sharedStyleSheet(); }
 
 void GXStyleSheet::setGlobalStyleSheet(Ref<GXStyleSheet> styleSheet) {
     sharedStyleSheet() = styleSheet ? std::move(styleSheet) : create<GXStyleSheet>();
@@ -52,9 +53,9 @@ UIColor GXStyleSheet::tableBgColor() const { return UIColor::colorWithLight_dark
 
 void GXStyleSheet::setTextScale(double scale) {
     if (std::isnan(scale)) return;
-    const double held = std::clamp(scale, minTextScale, maxTextScale);
-    if (held == textScale_) return;
-    textScale_ = held;
+    const double clamped = std::clamp(scale, minTextScale, maxTextScale);
+    if (clamped == textScale_) return;
+    textScale_ = clamped;
     valueFont_ = nullptr;
     labelFont_ = nullptr;
 }

@@ -5,45 +5,58 @@
 
 namespace gx {
 
-/// The looks of all pickers and picker cells of an application: fonts, colours and row heights. Pickers ask the global one and hold none
-/// themselves. An application that wants other looks overrides what it wants to differ and calls `setGlobalStyleSheet`, before it makes
-/// its pickers.
+/// The looks of all pickers and picker cells of an application: fonts, colours and row heights.
 ///
-/// A picker reads its row height once, when it is made; fonts and colours apply to what is shown or laid out from then on.
+/// Pickers read the global style sheet and keep none themselves. An application that wants other
+/// looks overrides `virtual` operations and calls `setGlobalStyleSheet`, best before it makes its
+/// pickers.
+///
+/// After a change of the style sheet or its text scale, an application calls `reloadData()` of its
+/// pickers. Without it they get fonts and colours where something is shown or laid out again, and
+/// keep their row height.
+///
+///     GXStyleSheet::globalStyleSheet()->setTextScale(1.5);
+///     distancePicker->reloadData();
 class GXStyleSheet : public NSObject {
 public:
-    /// The limits of `setTextScale`: below them a row is too low for a finger, above them a wheel no longer fits on a phone.
+    /// The limits of `setTextScale`, chosen: below them a row is too low for a finger, above them a
+    /// wheel is wider than a phone.
     static constexpr double minTextScale = 0.8;
     static constexpr double maxTextScale = 3;
 
-    /// Never empty, and the same object until another one is set. The style sheet owns itself through this reference: copy it to keep it.
-    static const Ref<GXStyleSheet>& globalStyleSheet();
+    /// Never empty. The reference keeps the style sheet alive, also if a call replaces it.
+    static Ref<GXStyleSheet> globalStyleSheet();
     /// Holds the style sheet strongly. An empty reference gives a new one with the looks below.
     static void setGlobalStyleSheet(Ref<GXStyleSheet> styleSheet);
 
-    /// One row of a wheel of texts, in points: 40 at scale 1, room for the value font with a gap that keeps neighbouring rows apart.
+    /// The height of a row of a wheel of texts: 40 points at scale 1.
     virtual double pickerRowHeight() const;
-    /// One row of a wheel of icons, in points: 56 at scale 1.
+    /// The height of a row of a wheel of icons: 56 points at scale 1.
     virtual double pickerImageRowHeight() const;
 
-    /// Row titles and separators: 22 points at scale 1, medium, in the label colour. The same object until the scale changes.
+    /// The font of row titles and separators: 22 points at scale 1, medium, in the label colour.
+    ///
+    /// The same object until the scale changes.
     virtual Ref<GXStyleSheetFont> pickerValueFont() const;
-    /// The unit labels beside a wheel; also what column widths are measured with. As large as the value font, but regular and in the
-    /// secondary label colour. The same object until the scale changes.
+    /// The font of the unit labels beside a wheel, with which column widths are measured too.
+    ///
+    /// As large as the value font, but regular and in the secondary label colour. The same object
+    /// until the scale changes.
     virtual Ref<GXStyleSheetFont> pickerLabelFont() const;
 
-    /// Behind the picker in a table cell.
+    /// The colour behind the picker in a table cell.
     virtual UIColor tableBgColor() const;
 
     /// How much larger than usual the user wants to read; 1 unless set.
     double textScale() const { return textScale_; }
-    /// Scales fonts and row heights together, so that no text outgrows its row. Held to `minTextScale` … `maxTextScale`; NaN is ignored,
-    /// and so is the scale that is in force.
+    /// Scales fonts and row heights together, so that each text fits its row.
+    ///
+    /// Clamped to `minTextScale` … `maxTextScale`. NaN is ignored, and so is the present scale.
     virtual void setTextScale(double scale);
 
 private:
     double textScale_ = 1;
-    // Made when first asked for at a scale. Wheels ask for every row that comes into sight.
+    // Made when first needed at a scale: wheels read them for each row that becomes visible.
     mutable Ref<GXStyleSheetFont> valueFont_;
     mutable Ref<GXStyleSheetFont> labelFont_;
 };

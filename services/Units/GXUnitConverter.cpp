@@ -5,7 +5,8 @@
 namespace gx {
 
 namespace {
-// The international pound is exactly this many kilograms (agreement of 1959), and a stone is 14 pounds.
+// The international pound is exactly this many kilograms (agreement of 1959), and a stone is 14
+// pounds.
 constexpr double kilogramsPerPound = 0.45359237;
 constexpr double kilogramsPerStone = 6.35029318;
 // A Celsius degree is 9/5 of a Fahrenheit degree, and water freezes at 32 °F.

@@ -17,9 +17,7 @@ bool GXUnitFormatter::initWithStyle_isMetric_usingUnit(NSInteger style, bool isM
 void GXUnitFormatter::setMetric(bool isMetric) { isMetric_ = isMetric; }
 
 std::optional<std::string> GXUnitFormatter::localizedUnit(const std::string& key, const std::string& comment) {
-    // A copy keeps the localiser alive, should it replace itself while it is asked.
-    const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
-    return localization->localizedStringWithKey_comment(key, comment);
+    return GXLocalization::sharedLocalization()->localizedStringWithKey_comment(key, comment);
 }
 
 } // namespace gx

@@ -23,7 +23,7 @@ TEST_F(GXStyleSheetTest, TheGlobalOneIsTheSameOnEveryCall) {
     const Ref<GXStyleSheet> first = GXStyleSheet::globalStyleSheet();
     ASSERT_TRUE(first);
     EXPECT_EQ(GXStyleSheet::globalStyleSheet(), first);
-    EXPECT_EQ(&GXStyleSheet::globalStyleSheet(), &GXStyleSheet::globalStyleSheet());
+    EXPECT_EQ(GXStyleSheet::globalStyleSheet(), GXStyleSheet::globalStyleSheet());
 }
 
 TEST_F(GXStyleSheetTest, AnApplicationReplacesTheGlobalOne) {
@@ -32,6 +32,41 @@ TEST_F(GXStyleSheetTest, AnApplicationReplacesTheGlobalOne) {
     EXPECT_EQ(GXStyleSheet::globalStyleSheet(), tall);
     EXPECT_EQ(GXStyleSheet::globalStyleSheet()->pickerRowHeight(), 77);
     EXPECT_EQ(GXStyleSheet::globalStyleSheet()->pickerImageRowHeight(), 56);
+}
+
+/// Replaces itself while it is called, and notes whether it is gone by then.
+class SelfReplacingStyleSheet : public GXStyleSheet {
+public:
+    ~SelfReplacingStyleSheet() override { isAlive = false; }
+    double pickerRowHeight() const override {
+        GXStyleSheet::setGlobalStyleSheet(nullptr);
+        EXPECT_TRUE(isAlive);
+        return isAlive ? GXStyleSheet::pickerRowHeight() : 0;
+    }
+    Ref<GXStyleSheetFont> pickerValueFont() const override {
+        const Ref<GXStyleSheetFont> font = GXStyleSheet::pickerValueFont();
+        GXStyleSheet::setGlobalStyleSheet(nullptr);
+        return font;
+    }
+    static inline bool isAlive = true;
+};
+
+TEST_F(GXStyleSheetTest, MayReplaceItselfDuringACall) {
+    SelfReplacingStyleSheet::isAlive = true;
+    GXStyleSheet::setGlobalStyleSheet(create<SelfReplacingStyleSheet>());
+    GXStyleSheet::globalStyleSheet()->setTextScale(2);
+    EXPECT_EQ(GXStyleSheet::globalStyleSheet()->pickerRowHeight(), 80);
+    EXPECT_FALSE(SelfReplacingStyleSheet::isAlive);
+    EXPECT_EQ(GXStyleSheet::globalStyleSheet()->pickerRowHeight(), 40);
+}
+
+TEST_F(GXStyleSheetTest, AFontOutlivesTheStyleSheetThatGaveIt) {
+    GXStyleSheet::setGlobalStyleSheet(create<SelfReplacingStyleSheet>());
+    const auto& font = GXStyleSheet::globalStyleSheet()->pickerValueFont()->font();
+    const auto& color = GXStyleSheet::globalStyleSheet()->pickerLabelFont()->color();
+    GXStyleSheet::setGlobalStyleSheet(nullptr);
+    EXPECT_EQ(font->pointSize(), 22);
+    EXPECT_EQ(color, UIColor::secondaryLabelColor());
 }
 
 TEST_F(GXStyleSheetTest, AnEmptyReferenceRestoresTheUsualLooks) {
@@ -79,7 +114,7 @@ TEST_F(GXStyleSheetTest, FontsAreTheSameObjectsUntilTheScaleChanges) {
     EXPECT_NE(sheet->pickerValueFont(), value);
     EXPECT_NE(sheet->pickerLabelFont(), label);
     EXPECT_EQ(sheet->pickerValueFont(), sheet->pickerValueFont());
-    // Who holds the old one still has what it was.
+    // A font that is still held does not change.
     EXPECT_EQ(value->pointSize(), 22);
 }
 
@@ -97,7 +132,7 @@ TEST_F(GXStyleSheetTest, FontsAndRowHeightsScaleTogether) {
     EXPECT_EQ(sheet->pickerValueFont()->pointSize(), 22);
 }
 
-TEST_F(GXStyleSheetTest, TheScaleIsHeldToItsLimits) {
+TEST_F(GXStyleSheetTest, TheScaleIsClampedToItsLimits) {
     const auto sheet = create<GXStyleSheet>();
     const auto scaleAfter = [&sheet](double scale) {
         sheet->setTextScale(scale);

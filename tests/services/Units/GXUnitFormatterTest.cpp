@@ -43,14 +43,14 @@ TEST_F(GXUnitFormatterTest, NamesItsUnitInTheLanguageOfTheSharedLocalizer) {
     EXPECT_EQ(unitsIn("tr_TR"), (Units{"km", "mil", "km/sa", "mil/sa", "kcal"}));
 }
 
-TEST_F(GXUnitFormatterTest, FollowsTheLanguageAtTheTimeOfAsking) {
+TEST_F(GXUnitFormatterTest, UsesTheLanguageAtTheTimeOfTheCall) {
     const auto formatter = create<GXDistanceFormatter>(1, true, 1);
     EXPECT_EQ(formatter->unit(tenKilometres), "km");
     GXLocalization::sharedLocalization()->setLanguage("ru");
     EXPECT_EQ(formatter->unit(tenKilometres), "км");
 }
 
-TEST_F(GXUnitFormatterTest, AnswersTheUnitSystemLastGiven) {
+TEST_F(GXUnitFormatterTest, HasTheUnitSystemLastSet) {
     const auto formatter = create<GXDistanceFormatter>(1, true, 1);
     EXPECT_TRUE(formatter->metric());
     formatter->setMetric(false);
@@ -101,19 +101,19 @@ TEST_F(GXUnitFormatterTest, IsImperialWhenMadeWithoutArguments) {
     EXPECT_EQ(formatter->unit(tenKilometres), "mi");
 }
 
-/// A localiser that has no text, and drops itself while it is asked.
+/// A localiser that has no text, and replaces itself during the call.
 class Vanishing : public GXLocalization {
 public:
     std::optional<std::string> localizedStringWithKey_comment(const std::string&, const std::string&) const override {
         GXLocalization::setSharedLocalization(nullptr);
-        return answer_;
+        return text_;
     }
 
 private:
-    std::optional<std::string> answer_;
+    std::optional<std::string> text_;
 };
 
-TEST_F(GXUnitFormatterTest, HandsOnThatTheLocalizerHasNothingToSay) {
+TEST_F(GXUnitFormatterTest, ReturnsNothingWhereTheLocalizerHasNoText) {
     GXLocalization::setSharedLocalization(create<Vanishing>());
     const auto formatter = create<GXDistanceFormatter>(1, true, 1);
     EXPECT_EQ(formatter->unit(tenKilometres), std::nullopt);
