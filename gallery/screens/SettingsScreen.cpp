@@ -24,18 +24,6 @@ constexpr CGFloat twoColumns = 280;
 
 constexpr std::array<double, 5> textScales = {0.8, 1, 1.3, 2, 3};
 
-/// What its speakers call a language. Source: the names of languages in themselves, Unicode Common
-/// Locale Data Repository.
-std::string nameOfLanguage(const std::string& identifier) {
-    static const std::vector<std::pair<std::string, std::string>> names = {
-        {"en", "English"},   {"de", "Deutsch"},       {"fr", "Français"}, {"es", "Español"}, {"it", "Italiano"},
-        {"pt", "Português"}, {"nl", "Nederlands"},    {"pl", "Polski"},   {"ru", "Русский"}, {"tr", "Türkçe"},
-        {"ja", "日本語"},    {"zh-Hans", "简体中文"}, {"ko", "한국어"},
-    };
-    const auto found = std::find_if(names.begin(), names.end(), [&](const auto& name) { return name.first == identifier; });
-    return found == names.end() ? identifier : found->second;
-}
-
 template <class Values, class Value>
 std::size_t indexIn(const Values& values, const Value& value) {
     const auto found = std::find(values.begin(), values.end(), value);
@@ -138,7 +126,7 @@ void SettingsScreen::makeControls() {
               [](Settings& settings, std::size_t choice) { settings.reducesMotion = choice == 1; });
 
     for (const std::string& identifier : GXLocalization::availableLanguages()) {
-        const auto button = Button::buttonWithTitle_style(nameOfLanguage(identifier), Button::Style::Row);
+        const auto button = Button::buttonWithTitle_style(GXLocalization::nameOfLanguage(identifier), Button::Style::Row);
         button->setChosen(identifier == settings_.language);
         button->setAction([weak = WeakRef<SettingsScreen>(refTo(this)), identifier] {
             if (const auto page = weak.lock()) page->change([&](Settings& settings) { settings.language = identifier; });

@@ -12,8 +12,8 @@ class NumberFormat {
 public:
     NumberFormat() = delete;
 
-    /// Rounded to `digits` decimals (0 to 6), halves away from zero, with the decimal separator of the current locale: "5.3" or "5,3". What
-    /// is no finite number, and what is too large to count, is "–".
+    /// Rounded to `digits` decimals (0 to 6), halves away from zero: "5.3" or "5,3", with the
+    /// decimal separator of the current locale. "–" for what is not finite or too large to count.
     static std::string decimal(double value, int digits);
     /// Minutes and seconds, "5:07".
     static std::string minutes(std::int64_t seconds);

@@ -2,52 +2,72 @@
 
 #include <utility>
 
-#include "GXTranslations.h"
+#include "GXLanguage.h"
+#include "GXSpokenTexts.h"
 
 namespace gx {
 
 namespace {
+
 Ref<GXLocalization>& theLocalization() {
     static Ref<GXLocalization> localization = create<GXLocalization>();
     return localization;
 }
+
 } // namespace
 
-GXLocalization::GXLocalization()
-    : translations_(&GXTranslations::translationsForLanguage(language_)),
-      spokenTexts_(&GXSpokenTexts::textsForLanguage(translations_->language())) {}
+std::string filledPattern(std::string_view pattern, std::string_view first, std::string_view second) {
+    return GXLanguage::filledPattern(pattern, first, second);
+}
 
-const Ref<GXLocalization>& GXLocalization::sharedLocalization() { return theLocalization(); }
+GXLocalization::GXLocalization() : texts_(&GXLanguage::languageForIdentifier(language_)) {}
+
+Ref<GXLocalization> GXLocalization::sharedLocalization() { return theLocalization(); }
 
 void GXLocalization::setSharedLocalization(Ref<GXLocalization> localization) {
     theLocalization() = localization ? std::move(localization) : create<GXLocalization>();
 }
 
 std::optional<std::string> GXLocalization::localizedStringWithKey_comment(const std::string& key, const std::string&) const {
-    const std::optional<std::string_view> text = translations_->textForKey(key);
+    const std::optional<std::string_view> text = texts_->textForKey(key);
     return text ? std::string(*text) : key;
 }
 
-std::optional<std::string> GXLocalization::spokenTextForName(GXSpokenName name) const {
-    return std::string(spokenTexts_->textForName(name));
+std::optional<std::string> GXLocalization::accessibilityTextForName(GXAccessibilityName name) const {
+    return std::string(texts_->textForName(name));
 }
 
-std::optional<std::string> GXLocalization::spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const {
-    return spokenTexts_->quantity(number, unit);
+std::optional<std::string> GXLocalization::accessibilityTextForNumber_unit(const GXAccessibilityNumber& number,
+                                                                           GXAccessibilityUnit unit) const {
+    return texts_->quantity(number, unit);
+}
+
+std::optional<std::string> GXLocalization::accessibilityTextForPattern(GXAccessibilityName pattern, const std::string& first,
+                                                                       const std::string& second) const {
+    const std::optional<std::string> text = accessibilityTextForName(pattern);
+    if (!text) return std::nullopt;
+    return GXLanguage::filledPattern(*text, first, second);
 }
 
 void GXLocalization::setLanguage(std::string language) {
-    translations_ = &GXTranslations::translationsForLanguage(language);
-    spokenTexts_ = &GXSpokenTexts::textsForLanguage(translations_->language());
+    texts_ = &GXLanguage::languageForIdentifier(language);
     language_ = std::move(language);
 }
 
-std::string GXLocalization::translationLanguage() const { return std::string(translations_->language()); }
+std::string GXLocalization::translationLanguage() const { return std::string(texts_->identifier()); }
 
 std::vector<std::string> GXLocalization::availableLanguages() {
     std::vector<std::string> languages;
-    for (const GXTranslations& translations : GXTranslations::all()) languages.emplace_back(translations.language());
+    for (const GXLanguage& language : GXLanguage::all()) languages.emplace_back(language.identifier());
     return languages;
+}
+
+std::string GXLocalization::nameOfLanguage(const std::string& identifier) {
+    return std::string(GXLanguage::languageForIdentifier(identifier).ownName());
+}
+
+std::string GXLocalization::decimalSeparatorOfLanguage(const std::string& identifier) {
+    return std::string(GXLanguage::languageForIdentifier(identifier).decimalSeparator());
 }
 
 } // namespace gx

@@ -4,53 +4,82 @@
 #include <string>
 #include <vector>
 
-#include "GXSpokenTexts.h"
+#include "GXAccessibilityTexts.h"
 #include "NSObject.h"
 
 namespace gx {
 
-class GXTranslations;
+class GXLanguage;
 
-/// The texts that pickers show, in the user's language. Pickers ask the shared localiser each time they set a text, so a new language
-/// shows on what is set or reloaded afterwards; texts already on screen stay.
+/// The texts of the pickers in the user's language.
 ///
-/// An application with translations of its own overrides `localizedStringWithKey_comment` and calls `setSharedLocalization`. Without
-/// either, and until a host sets the language, the texts are English and equal to their keys.
+/// Pickers call the shared localiser each time they set a text. After a change of the language, the
+/// decimal separator or the localiser itself, an application calls `reloadData()` of its pickers;
+/// until then, texts on screen stay as they are.
+///
+///     GXLocalization::sharedLocalization()->setLanguage("de");
+///     distancePicker->reloadData();
+///
+/// An application with translations of its own overrides the `virtual` operations and calls
+/// `setSharedLocalization`. Without one, and until a host sets the language, the texts are English
+/// and equal to their keys.
 class GXLocalization : public NSObject {
 public:
     GXLocalization();
 
-    /// Never empty, and the same object until another one is set; copy the reference to keep it.
-    static const Ref<GXLocalization>& sharedLocalization();
-    /// Holds the localiser strongly. An empty reference gives a new one that speaks English.
+    /// Never empty. The reference keeps the localiser alive, also if a call replaces it.
+    static Ref<GXLocalization> sharedLocalization();
+    /// Holds the localiser strongly. An empty reference gives a new one in English.
     static void setSharedLocalization(Ref<GXLocalization> localization);
 
-    /// The text for `key`, a key without a translation itself. The comment is a note for translators and changes nothing. An override may
-    /// answer nothing: then nothing is shown.
+    /// The text for `key`; the key itself without a translation.
+    ///
+    /// `comment` is a note for translators and changes nothing. An override may return nothing:
+    /// then nothing is shown.
     virtual std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const;
 
-    /// What screen readers speak: a name, or one of the patterns that `GXSpokenName` lists. An application that says it otherwise, or in
-    /// another language, overrides both; pickers ask anew each time that something is spoken. Nothing leaves out what would be said.
-    virtual std::optional<std::string> spokenTextForName(GXSpokenName name) const;
+    /// What screen readers read out for a name, or a pattern of the same enumeration.
+    ///
+    /// Pickers call it each time. Where an override returns nothing, the name or pattern is left
+    /// out.
+    virtual std::optional<std::string> accessibilityTextForName(GXAccessibilityName name) const;
     /// A number with its unit, such as "5.3 kilometres", "1 kilometre", "minus 4 degrees Celsius".
-    virtual std::optional<std::string> spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const;
+    virtual std::optional<std::string> accessibilityTextForNumber_unit(const GXAccessibilityNumber& number, GXAccessibilityUnit unit) const;
+    /// The text of a pattern with its places filled in. Nothing if the pattern is left out.
+    std::optional<std::string> accessibilityTextForPattern(GXAccessibilityName pattern, const std::string& first,
+                                                           const std::string& second = {}) const;
 
-    /// As last given.
+    // Former names, until the pickers use the new ones.
+    std::optional<std::string> spokenTextForName(GXAccessibilityName name) const { return accessibilityTextForName(name); }
+    std::optional<std::string> spokenQuantity(const GXAccessibilityNumber& number, GXAccessibilityUnit unit) const {
+        return accessibilityTextForNumber_unit(number, unit);
+    }
+
+    /// As last set.
     const std::string& language() const { return language_; }
-    /// Takes identifiers such as "de", "de_DE", "zh-Hans-CN", "pt_BR.UTF-8", in any case. The texts are those of the known language that
-    /// agrees with the most parts of it, the first part at least; so "zh_TW" gets simplified Chinese, which its readers know better than
-    /// English. A language that is not known speaks English.
+    /// Takes identifiers such as "de", "de_DE", "zh-Hans-CN", "pt_BR.UTF-8", in any case.
+    ///
+    /// The texts are those of the known language that agrees with the most parts of the identifier,
+    /// the first part at least, else English:
+    ///
+    /// - "zh_TW" gets simplified Chinese, which its readers know better than English;
+    /// - "pt" is Brazilian, in words and in plurals ("0 quilômetro"), and "pt-PT" falls back to it.
     virtual void setLanguage(std::string language);
     /// The known language that the texts are taken from, such as "zh-Hans" for "zh_CN".
     std::string translationLanguage() const;
+
     /// All known languages, English first.
     static std::vector<std::string> availableLanguages();
+    /// What its speakers call the known language nearest to an identifier, such as "Deutsch".
+    static std::string nameOfLanguage(const std::string& identifier);
+    /// What is usual in it, such as ",". Pickers use the one of the current `NSLocale`, which also
+    /// knows the customs of regions.
+    static std::string decimalSeparatorOfLanguage(const std::string& identifier);
 
 private:
     std::string language_ = "en";
-    // Points into constant data, never null.
-    const GXTranslations* translations_;
-    const GXSpokenTexts* spokenTexts_;
+    /// Points to constant data, never null.
+    const GXLanguage* texts_;
 };
 
 } // namespace gx

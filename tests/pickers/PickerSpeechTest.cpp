@@ -366,11 +366,11 @@ TEST_F(PickerSpeech, APickersCellIsItsColumns) {
 
 TEST_F(PickerSpeech, AnApplicationsLocaliserSaysItItsOwnWay) {
     struct OwnWords : GXLocalization {
-        std::optional<std::string> spokenTextForName(GXSpokenName name) const override {
+        std::optional<std::string> accessibilityTextForName(GXSpokenName name) const override {
             if (name == GXSpokenName::Tenths) return std::nullopt;
-            return name == GXSpokenName::Distance ? std::optional<std::string>("Way") : GXLocalization::spokenTextForName(name);
+            return name == GXSpokenName::Distance ? std::optional<std::string>("Way") : GXLocalization::accessibilityTextForName(name);
         }
-        std::optional<std::string> spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
+        std::optional<std::string> accessibilityTextForNumber_unit(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
             if (unit != GXSpokenUnit::Kilometre) return std::nullopt;
             return number.whole + " point " + number.fraction + " clicks";
         }
@@ -384,12 +384,12 @@ TEST_F(PickerSpeech, AnApplicationsLocaliserSaysItItsOwnWay) {
 TEST_F(PickerSpeech, ALocaliserMayLeaveOutPatternsAndQuantities) {
     struct FewWords : GXLocalization {
         bool hasQuantities = true;
-        std::optional<std::string> spokenTextForName(GXSpokenName name) const override {
+        std::optional<std::string> accessibilityTextForName(GXSpokenName name) const override {
             const bool isLeftOut = name == GXSpokenName::NameAndPart || name == GXSpokenName::PerKilometre;
-            return isLeftOut ? std::nullopt : GXLocalization::spokenTextForName(name);
+            return isLeftOut ? std::nullopt : GXLocalization::accessibilityTextForName(name);
         }
-        std::optional<std::string> spokenQuantity(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
-            return hasQuantities ? GXLocalization::spokenQuantity(number, unit) : std::nullopt;
+        std::optional<std::string> accessibilityTextForNumber_unit(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
+            return hasQuantities ? GXLocalization::accessibilityTextForNumber_unit(number, unit) : std::nullopt;
         }
     };
     const auto localization = create<FewWords>();

@@ -36,7 +36,8 @@ TEST_F(NumberFormatTest, NegativeOnesHaveAMinusSignUnlessTheyRoundToZero) {
 TEST_F(NumberFormatTest, TheSeparatorIsTheUsers) {
     NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("de"));
     EXPECT_EQ(NumberFormat::decimal(5.3, 1), "5,3");
-    EXPECT_EQ(NumberFormat::boxed(NSNumber::numberWithDouble(5.3)), "5.3"); // What is in the box has no language.
+    // What is in the box has no language.
+    EXPECT_EQ(NumberFormat::boxed(NSNumber::numberWithDouble(5.3)), "5.3");
 }
 
 TEST_F(NumberFormatTest, WhatCannotBeCountedIsADash) {

@@ -17,11 +17,11 @@ using gx::GXLocalization;
 
 namespace {
 
-/// What stands on a button, of which three stand side by side on a narrow screen.
+/// The texts of buttons, of which three stand side by side on a narrow screen.
 constexpr std::array<std::string_view, 17> choices = {"Open",   "Save",   "Metric", "Imperial", "Kilograms", "Pounds",
                                                       "Stones", "System", "Light",  "Dark",     "Full",      "Reduced",
                                                       "Normal", "High",   "On",     "Off",      "Automatic"};
-/// What stands before a value or above a group, or names a page.
+/// Texts before a value or above a group, or names of pages.
 constexpr std::array<std::string_view, 32> names = {
     "Add workout", "All pickers", "Workout",       "Workouts",          "Settings", "Units",         "Best interval", "Heart",
     "Conditions",  "Body",        "Distance",      "Distance and time", "Duration", "Average speed", "Speed",         "Pace",
@@ -80,34 +80,30 @@ bool isBlank(char32_t point) {
     return blanks.find(point) != std::u32string_view::npos;
 }
 
-bool hasRow(std::string_view english) {
-    const auto rows = Translations::rows();
-    return std::any_of(rows.begin(), rows.end(), [english](const Translations::Row& row) { return row.english == english; });
+bool isTranslated(std::string_view english) {
+    const auto texts = Translations::englishTexts();
+    return std::find(texts.begin(), texts.end(), english) != texts.end();
 }
 
 } // namespace
 
 TEST_F(TranslationsTest, EnglishTextsAreThemselves) {
-    for (const auto& row : Translations::rows()) {
-        EXPECT_EQ(Translations::text(std::string(row.english)), row.english);
-        EXPECT_EQ(textIn("en_GB", row.english), row.english);
+    for (const auto english : Translations::englishTexts()) {
+        EXPECT_EQ(Translations::text(std::string(english)), english);
+        EXPECT_EQ(textIn("en_GB", english), english);
     }
 }
 
-TEST_F(TranslationsTest, SpeaksTheLanguagesOfThePickers) {
-    std::vector<std::string> languages = {"en"};
-    languages.insert(languages.end(), Translations::languages.begin(), Translations::languages.end());
-    EXPECT_EQ(languages, GXLocalization::availableLanguages());
-}
+TEST_F(TranslationsTest, HasTheLanguagesOfThePickers) { EXPECT_EQ(Translations::languages(), GXLocalization::availableLanguages()); }
 
 TEST_F(TranslationsTest, HasEveryTextOfTheScreens) {
-    for (const auto english : choices) EXPECT_TRUE(hasRow(english)) << english;
-    for (const auto english : names) EXPECT_TRUE(hasRow(english)) << english;
-    for (const auto english : weathers) EXPECT_TRUE(hasRow(english)) << english;
-    for (const auto english : messages) EXPECT_TRUE(hasRow(english)) << english;
+    for (const auto english : choices) EXPECT_TRUE(isTranslated(english)) << english;
+    for (const auto english : names) EXPECT_TRUE(isTranslated(english)) << english;
+    for (const auto english : weathers) EXPECT_TRUE(isTranslated(english)) << english;
+    for (const auto english : messages) EXPECT_TRUE(isTranslated(english)) << english;
 }
 
-TEST_F(TranslationsTest, SpeaksAsItsReadersDo) {
+TEST_F(TranslationsTest, UsesTheWordsOfItsReaders) {
     EXPECT_EQ(textIn("de", "Save"), "Speichern");
     EXPECT_EQ(textIn("de", "thunderstorm"), "Gewitter");
     EXPECT_EQ(textIn("fr", "Height"), "Taille");
@@ -141,29 +137,31 @@ TEST_F(TranslationsTest, FollowsTheLanguageOfThePickers) {
     EXPECT_EQ(Translations::text("rain"), "rain");
 }
 
-TEST_F(TranslationsTest, AnUnknownLanguageSpeaksEnglish) {
+TEST_F(TranslationsTest, AnUnknownLanguageIsEnglish) {
     for (const char* language : {"sv_SE", "xx", "", "C"}) EXPECT_EQ(textIn(language, "Save"), "Save") << language;
     EXPECT_EQ(Translations::textInLanguage("Save", "sv"), "Save");
-    EXPECT_EQ(Translations::textInLanguage("Save", "de_DE"), "Save"); // Only the localiser takes identifiers to pieces.
+    // Only the localiser takes identifiers to pieces.
+    EXPECT_EQ(Translations::textInLanguage("Save", "de_DE"), "Save");
 }
 
-TEST_F(TranslationsTest, ATextThatIsNotInTheTableIsItself) {
-    for (const auto language : Translations::languages) {
-        EXPECT_EQ(textIn(std::string(language), "Furlongs"), "Furlongs");
-        EXPECT_EQ(textIn(std::string(language), "save"), "save");
-        EXPECT_EQ(textIn(std::string(language), "Save "), "Save ");
-        EXPECT_EQ(textIn(std::string(language), ""), "");
+TEST_F(TranslationsTest, ATextWithoutTranslationsIsItself) {
+    for (const auto& language : Translations::languages()) {
+        EXPECT_EQ(textIn(language, "Furlongs"), "Furlongs");
+        EXPECT_EQ(textIn(language, "save"), "save");
+        EXPECT_EQ(textIn(language, "Save "), "Save ");
+        EXPECT_EQ(textIn(language, ""), "");
     }
 }
 
 TEST_F(TranslationsTest, EveryTextIsWellFormed) {
-    for (const auto& row : Translations::rows()) {
-        for (const auto text : row.texts) {
+    for (const auto& language : Translations::languages()) {
+        for (const auto english : Translations::englishTexts()) {
+            const auto text = Translations::textInLanguage(english, language);
             const auto points = codePoints(text);
-            ASSERT_TRUE(points) << row.english << ": " << text;
-            ASSERT_FALSE(points->empty()) << row.english;
-            EXPECT_FALSE(isBlank(points->front())) << row.english << ": " << text;
-            EXPECT_FALSE(isBlank(points->back())) << row.english << ": " << text;
+            ASSERT_TRUE(points) << english << ": " << text;
+            ASSERT_FALSE(points->empty()) << english;
+            EXPECT_FALSE(isBlank(points->front())) << english << ": " << text;
+            EXPECT_FALSE(isBlank(points->back())) << english << ": " << text;
         }
     }
 }
@@ -176,13 +174,16 @@ TEST_F(TranslationsTest, EveryTextEndsAsItsEnglishOneDoes) {
         const bool isSentence = length(text) > 5 && (last == U'.' || last == U'。');
         return isSentence ? '.' : ' ';
     };
-    for (const auto& row : Translations::rows()) {
-        for (const auto text : row.texts) EXPECT_EQ(kindOfEnd(text), kindOfEnd(row.english)) << row.english << ": " << text;
+    for (const auto& language : Translations::languages()) {
+        for (const auto english : Translations::englishTexts()) {
+            const auto text = Translations::textInLanguage(english, language);
+            EXPECT_EQ(kindOfEnd(text), kindOfEnd(english)) << english << ": " << text;
+        }
     }
 }
 
 TEST_F(TranslationsTest, ButtonsAndNamesAreShort) {
-    for (const auto language : Translations::languages) {
+    for (const auto& language : Translations::languages()) {
         for (const auto english : choices) EXPECT_LE(length(Translations::textInLanguage(english, language)), 15U) << english;
         for (const auto english : names) EXPECT_LE(length(Translations::textInLanguage(english, language)), 22U) << english;
         for (const auto english : weathers) EXPECT_LE(length(Translations::textInLanguage(english, language)), 22U) << english;

@@ -47,11 +47,32 @@ TEST_F(GXLocalizationTest, TheSharedOneIsTheSameOnEveryCall) {
 TEST_F(GXLocalizationTest, AnApplicationReplacesTheSharedOne) {
     const auto own = create<OwnWords>();
     GXLocalization::setSharedLocalization(own);
-    const Ref<GXLocalization>& shared = GXLocalization::sharedLocalization();
+    const Ref<GXLocalization> shared = GXLocalization::sharedLocalization();
     EXPECT_EQ(shared, own);
     EXPECT_EQ(shared->localizedStringWithKey_comment("MAX", ""), "top");
     EXPECT_EQ(shared->localizedStringWithKey_comment("AVG", ""), std::nullopt);
     EXPECT_EQ(shared->localizedStringWithKey_comment("kg", ""), "kg");
+}
+
+/// Replaces itself while it is called, and notes whether it is gone by then.
+class SelfReplacingLocalization : public GXLocalization {
+public:
+    ~SelfReplacingLocalization() override { isAlive = false; }
+    std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const override {
+        GXLocalization::setSharedLocalization(nullptr);
+        EXPECT_TRUE(isAlive);
+        return isAlive ? GXLocalization::localizedStringWithKey_comment(key, comment) : std::nullopt;
+    }
+    static inline bool isAlive = true;
+};
+
+TEST_F(GXLocalizationTest, MayReplaceItselfDuringACall) {
+    SelfReplacingLocalization::isAlive = true;
+    GXLocalization::setSharedLocalization(create<SelfReplacingLocalization>());
+    GXLocalization::sharedLocalization()->setLanguage("ru");
+    EXPECT_EQ(GXLocalization::sharedLocalization()->localizedStringWithKey_comment("kg", ""), "кг");
+    EXPECT_FALSE(SelfReplacingLocalization::isAlive);
+    EXPECT_EQ(GXLocalization::sharedLocalization()->localizedStringWithKey_comment("kg", ""), "kg");
 }
 
 TEST_F(GXLocalizationTest, AnEmptyReferenceRestoresEnglish) {
@@ -68,7 +89,7 @@ TEST_F(GXLocalizationTest, EnglishTextsEqualTheirKeys) {
     for (const char* key : keys) EXPECT_EQ(localization->localizedStringWithKey_comment(key, "a note"), key);
 }
 
-TEST_F(GXLocalizationTest, SpeaksThirteenLanguages) {
+TEST_F(GXLocalizationTest, KnowsThirteenLanguages) {
     const std::vector<std::string> expected = {"en", "de", "fr", "es", "it", "pt", "nl", "pl", "ru", "tr", "ja", "zh-Hans", "ko"};
     EXPECT_EQ(GXLocalization::availableLanguages(), expected);
     for (const std::string& language : expected) EXPECT_EQ(translationLanguageFor(language), language);
@@ -99,7 +120,7 @@ TEST_F(GXLocalizationTest, NoTextIsLongerThanTheLongestClockLayout) {
     }
 }
 
-TEST_F(GXLocalizationTest, SpeaksAsItsReadersDo) {
+TEST_F(GXLocalizationTest, UsesTheWordsOfItsReaders) {
     EXPECT_EQ(textFor("de", "AVG"), "Ø");
     EXPECT_EQ(textFor("fr", "ft"), "pi");
     EXPECT_EQ(textFor("es", "bpm"), "lpm");
@@ -130,7 +151,7 @@ TEST_F(GXLocalizationTest, TheCommentChangesNothing) {
     EXPECT_EQ(localization->localizedStringWithKey_comment("kg", "lb"), "кг");
 }
 
-TEST_F(GXLocalizationTest, AKeyWithoutATranslationAnswersItself) {
+TEST_F(GXLocalizationTest, AKeyWithoutATranslationIsItself) {
     for (const std::string& language : GXLocalization::availableLanguages()) {
         EXPECT_EQ(textFor(language, "furlong"), "furlong");
         EXPECT_EQ(textFor(language, "KG"), "KG");
@@ -153,11 +174,44 @@ TEST_F(GXLocalizationTest, ARegionFallsBackToItsLanguage) {
     EXPECT_EQ(translationLanguageFor("zh-1234"), "zh-Hans");
 }
 
-TEST_F(GXLocalizationTest, AnUnknownLanguageSpeaksEnglish) {
+TEST_F(GXLocalizationTest, AnUnknownLanguageIsEnglish) {
     for (const char* language : {"", "xx", "sv_SE", "d", "den", "_DE", "-", "C", "C.UTF-8", ".", "@de", "English"}) {
         EXPECT_EQ(translationLanguageFor(language), "en") << language;
         EXPECT_EQ(textFor(language, "AVG"), "AVG") << language;
     }
+}
+
+TEST_F(GXLocalizationTest, APortugueseLocaleGetsBrazilianTexts) {
+    const auto localization = create<GXLocalization>();
+    localization->setLanguage("pt-PT");
+    EXPECT_EQ(localization->translationLanguage(), "pt");
+    EXPECT_EQ(localization->accessibilityTextForNumber_unit({"0", "", ""}, GXAccessibilityUnit::Kilometre), "0 quilômetro");
+}
+
+TEST_F(GXLocalizationTest, LanguagesHaveTheNameThatTheirSpeakersUse) {
+    EXPECT_EQ(GXLocalization::nameOfLanguage("de"), "Deutsch");
+    EXPECT_EQ(GXLocalization::nameOfLanguage("de_AT"), "Deutsch");
+    EXPECT_EQ(GXLocalization::nameOfLanguage("zh-Hans"), "简体中文");
+    EXPECT_EQ(GXLocalization::nameOfLanguage("sv"), "English");
+}
+
+TEST_F(GXLocalizationTest, LanguagesHaveADecimalSeparator) {
+    EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("en"), ".");
+    EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("de_DE"), ",");
+    EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("ja"), ".");
+}
+
+TEST_F(GXLocalizationTest, APatternIsFilledInUnlessItIsLeftOut) {
+    struct NoMinus : GXLocalization {
+        std::optional<std::string> accessibilityTextForName(GXAccessibilityName name) const override {
+            if (name == GXAccessibilityName::Minus) return std::nullopt;
+            return GXLocalization::accessibilityTextForName(name);
+        }
+    };
+    const auto localization = create<NoMinus>();
+    EXPECT_EQ(localization->accessibilityTextForPattern(GXAccessibilityName::NameAndPart, "Pace", "minutes"), "Pace, minutes");
+    EXPECT_EQ(localization->accessibilityTextForPattern(GXAccessibilityName::PerMile, "5 minutes"), "5 minutes per mile");
+    EXPECT_EQ(localization->accessibilityTextForPattern(GXAccessibilityName::Minus, "5"), std::nullopt);
 }
 
 TEST_F(GXLocalizationTest, TheLanguageIsRememberedAsGiven) {

@@ -4,6 +4,8 @@
 
 #include <initializer_list>
 
+#include "GXLanguage.h"
+
 namespace gx {
 namespace {
 
@@ -21,7 +23,7 @@ struct Case {
 void expectCategories(std::initializer_list<const char*> languages, std::initializer_list<Case> cases) {
     for (const char* language : languages) {
         for (const Case& example : cases) {
-            EXPECT_EQ(pluralCategoryOfNumber(language, example.whole, example.fraction), example.category)
+            EXPECT_EQ(GXLanguage::languageForIdentifier(language).pluralCategoryOfNumber(example.whole, example.fraction), example.category)
                 << language << " " << example.whole << " " << example.fraction;
         }
     }
@@ -94,7 +96,7 @@ TEST(GXPlural, LanguagesWhoseUnitsStayAsTheyAreKnowOneCategory) {
     expectCategories({"ja", "zh-Hans", "ko", "tr"}, {{"0", "", other}, {"1", "", other}, {"2", "", other}, {"1", "5", other}});
 }
 
-TEST(GXPlural, ASignCountsForNothingAndWhatIsNoNumberIsOther) {
+TEST(GXPlural, ASignIsIgnoredAndWhatIsNoNumberIsOther) {
     expectCategories({"en"}, {{"-1", "", one},
                               {"+1", "", one},
                               {"-2", "", other},

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "GXLanguageTexts.h"
+
+namespace gx {
+
+/// German.
+struct GXGerman {
+    static constexpr std::string_view identifier = "de";
+    static constexpr std::string_view ownName = "Deutsch";
+    static constexpr std::string_view decimalSeparator = ",";
+
+    static constexpr GXPluralCategory pluralCategory(const GXPluralOperands& number) {
+        return oneIf(number.isWhole() && number.integer == 1);
+    }
+
+    static constexpr GXText unitTexts[] = {
+        {"bpm", "S/min"},   {"hh:mm", "hh:mm"},   {"hh:mm:ss", "hh:mm:ss"},
+        {"mm:ss", "mm:ss"}, {"min/km", "min/km"}, {"min/mi", "min/mi"},
+        {"AVG", "Ø"},       {"MAX", "MAX"},       {"kg", "kg"},
+        {"lb", "lb"},       {"st", "st"},         {"cm", "cm"},
+        {"ft", "ft"},       {"°C", "°C"},         {"°F", "°F"},
+        {"km", "km"},       {"mi", "mi"},         {"km/h", "km/h"},
+        {"mph", "mi/h"},    {"kcal", "kcal"},
+    };
+
+    static constexpr GXAccessibilityNameText accessibilityNames[] = {
+        {GXAccessibilityName::Distance, "Distanz"},
+        {GXAccessibilityName::Duration, "Dauer"},
+        {GXAccessibilityName::Pace, "Tempo"},
+        {GXAccessibilityName::Speed, "Geschwindigkeit"},
+        {GXAccessibilityName::AverageHeartRate, "Durchschnittliche Herzfrequenz"},
+        {GXAccessibilityName::MaximumHeartRate, "Maximale Herzfrequenz"},
+        {GXAccessibilityName::BeatsPerMinute, "Schläge pro Minute"},
+        {GXAccessibilityName::Calories, "Kalorien"},
+        {GXAccessibilityName::Weight, "Gewicht"},
+        {GXAccessibilityName::Height, "Größe"},
+        {GXAccessibilityName::Temperature, "Temperatur"},
+        {GXAccessibilityName::Icon, "Symbol"},
+        {GXAccessibilityName::Kilometres, "Kilometer"},
+        {GXAccessibilityName::Miles, "Meilen"},
+        {GXAccessibilityName::Tenths, "Zehntel"},
+        {GXAccessibilityName::Hundredths, "Hundertstel"},
+        {GXAccessibilityName::Hours, "Stunden"},
+        {GXAccessibilityName::Minutes, "Minuten"},
+        {GXAccessibilityName::Seconds, "Sekunden"},
+        {GXAccessibilityName::KilometresPerHour, "Kilometer pro Stunde"},
+        {GXAccessibilityName::MilesPerHour, "Meilen pro Stunde"},
+        {GXAccessibilityName::Kilograms, "Kilogramm"},
+        {GXAccessibilityName::Pounds, "Pfund"},
+        {GXAccessibilityName::Stones, "Stones"},
+        {GXAccessibilityName::Centimetres, "Zentimeter"},
+        {GXAccessibilityName::Feet, "Fuß"},
+        {GXAccessibilityName::Inches, "Zoll"},
+        {GXAccessibilityName::Unit, "Einheit"},
+        {GXAccessibilityName::Average, "Durchschnitt"},
+        {GXAccessibilityName::Maximum, "Maximum"},
+        {GXAccessibilityName::NoValue, "kein Wert"},
+        {GXAccessibilityName::NameAndPart, "{0}, {1}"},
+        {GXAccessibilityName::Sum, "{0} {1}"},
+        {GXAccessibilityName::Minus, "minus {0}"},
+        {GXAccessibilityName::PerKilometre, "{0} pro Kilometer"},
+        {GXAccessibilityName::PerMile, "{0} pro Meile"},
+    };
+
+    static constexpr GXAccessibilityUnitText accessibilityUnits[] = {
+        {GXAccessibilityUnit::Kilometre, {.one = "{0} Kilometer", .other = "{0} Kilometer"}},
+        {GXAccessibilityUnit::Mile, {.one = "{0} Meile", .other = "{0} Meilen"}},
+        {GXAccessibilityUnit::Hour, {.one = "{0} Stunde", .other = "{0} Stunden"}},
+        {GXAccessibilityUnit::Minute, {.one = "{0} Minute", .other = "{0} Minuten"}},
+        {GXAccessibilityUnit::Second, {.one = "{0} Sekunde", .other = "{0} Sekunden"}},
+        {GXAccessibilityUnit::KilometrePerHour, {.one = "{0} Kilometer pro Stunde", .other = "{0} Kilometer pro Stunde"}},
+        {GXAccessibilityUnit::MilePerHour, {.one = "{0} Meile pro Stunde", .other = "{0} Meilen pro Stunde"}},
+        {GXAccessibilityUnit::BeatPerMinute, {.one = "{0} Schlag pro Minute", .other = "{0} Schläge pro Minute"}},
+        {GXAccessibilityUnit::Kilocalorie, {.one = "{0} Kilokalorie", .other = "{0} Kilokalorien"}},
+        {GXAccessibilityUnit::Kilogram, {.one = "{0} Kilogramm", .other = "{0} Kilogramm"}},
+        {GXAccessibilityUnit::Pound, {.one = "{0} Pfund", .other = "{0} Pfund"}},
+        {GXAccessibilityUnit::Stone, {.one = "{0} Stone", .other = "{0} Stones"}},
+        {GXAccessibilityUnit::Centimetre, {.one = "{0} Zentimeter", .other = "{0} Zentimeter"}},
+        {GXAccessibilityUnit::Foot, {.one = "{0} Fuß", .other = "{0} Fuß"}},
+        {GXAccessibilityUnit::Inch, {.one = "{0} Zoll", .other = "{0} Zoll"}},
+        {GXAccessibilityUnit::DegreeCelsius, {.one = "{0} Grad Celsius", .other = "{0} Grad Celsius"}},
+        {GXAccessibilityUnit::DegreeFahrenheit, {.one = "{0} Grad Fahrenheit", .other = "{0} Grad Fahrenheit"}},
+    };
+
+    static constexpr GXText applicationTexts[] = {
+        // Pages, sections and rows.
+        {"Add workout", "Training hinzufügen"},
+        {"All pickers", "Alle Auswahlräder"},
+        {"Workout", "Training"},
+        {"Workouts", "Trainings"},
+        {"Best interval", "Bestes Intervall"},
+        {"Heart", "Herz"},
+        {"Conditions", "Bedingungen"},
+        {"Body", "Körper"},
+        {"Distance and time", "Distanz und Zeit"},
+        {"Distance", "Distanz"},
+        {"Duration", "Dauer"},
+        {"Average speed", "Ø-Geschwindigkeit"},
+        {"Speed", "Geschwindigkeit"},
+        {"Pace", "Pace"},
+        {"Calories", "Kalorien"},
+        {"Heart rate", "Herzfrequenz"},
+        {"Resting pulse", "Ruhepuls"},
+        {"Beats per minute", "Schläge pro Minute"},
+        {"Weather", "Wetter"},
+        {"Temperature", "Temperatur"},
+        {"Water temperature", "Wassertemperatur"},
+        {"Weight", "Gewicht"},
+        {"Height", "Größe"},
+        // Settings and their choices.
+        {"Settings", "Einstellungen"},
+        {"Units", "Einheiten"},
+        {"Metric", "Metrisch"},
+        {"Imperial", "Imperial"},
+        {"Kilograms", "Kilogramm"},
+        {"Pounds", "Pfund"},
+        {"Stones", "Stone"},
+        {"Text size", "Textgröße"},
+        {"Look", "Darstellung"},
+        {"System", "System"},
+        {"Light", "Hell"},
+        {"Dark", "Dunkel"},
+        {"Decimal separator", "Dezimaltrennzeichen"},
+        {"Automatic", "Automatisch"},
+        {"All pages", "Alle Seiten"},
+        {"Light or dark", "Hell oder dunkel"},
+        {"Motion", "Bewegung"},
+        {"Full", "Voll"},
+        {"Reduced", "Reduziert"},
+        {"Contrast", "Kontrast"},
+        {"Normal", "Normal"},
+        {"High", "Hoch"},
+        {"Wheel clicks", "Klicktöne"},
+        {"On", "Ein"},
+        {"Off", "Aus"},
+        {"Language", "Sprache"},
+        // Files.
+        {"Open", "Öffnen"},
+        {"Save", "Speichern"},
+        {"Opened:", "Geöffnet:"},
+        {"Saved:", "Gespeichert:"},
+        {"The file could not be read:", "Die Datei konnte nicht gelesen werden:"},
+        {"The file could not be written:", "Die Datei konnte nicht geschrieben werden:"},
+        {"The file has no number for:", "In der Datei fehlt die Zahl für:"},
+        {"A number in the file is out of range:", "Eine Zahl in der Datei liegt außerhalb des gültigen Bereichs:"},
+        {"The file names no weather that this application knows.", "Die Datei nennt kein Wetter, das diese App kennt."},
+        {"This file is damaged, or no workout.", "Diese Datei ist beschädigt oder kein Training."},
+        {"This file is damaged.", "Diese Datei ist beschädigt."},
+        {"This file is no workout.", "Diese Datei ist kein Training."},
+        {"This workout was saved by a newer version of this application.",
+         "Dieses Training wurde mit einer neueren Version dieser App gespeichert."},
+        // Weather.
+        {"clear", "klar"},
+        {"partly cloudy", "teils bewölkt"},
+        {"cloudy", "bewölkt"},
+        {"overcast", "bedeckt"},
+        {"fog", "Nebel"},
+        {"drizzle", "Nieselregen"},
+        {"rain", "Regen"},
+        {"showers", "Schauer"},
+        {"thunderstorm", "Gewitter"},
+        {"sleet", "Schneeregen"},
+        {"snow", "Schnee"},
+        {"wind", "Wind"},
+    };
+};
+
+} // namespace gx

@@ -1,0 +1,167 @@
+#pragma once
+
+#include "GXLanguageTexts.h"
+
+namespace gx {
+
+/// Japanese.
+struct GXJapanese {
+    static constexpr std::string_view identifier = "ja";
+    static constexpr std::string_view ownName = "日本語";
+    static constexpr std::string_view decimalSeparator = ".";
+
+    static constexpr GXPluralCategory pluralCategory(const GXPluralOperands& /*number*/) { return GXPluralCategory::Other; }
+
+    static constexpr GXText unitTexts[] = {
+        {"bpm", "拍/分"},   {"hh:mm", "時:分"},  {"hh:mm:ss", "時:分:秒"},
+        {"mm:ss", "分:秒"}, {"min/km", "分/km"}, {"min/mi", "分/mi"},
+        {"AVG", "平均"},    {"MAX", "最大"},     {"kg", "kg"},
+        {"lb", "lb"},       {"st", "st"},        {"cm", "cm"},
+        {"ft", "ft"},       {"°C", "°C"},        {"°F", "°F"},
+        {"km", "km"},       {"mi", "mi"},        {"km/h", "km/h"},
+        {"mph", "mph"},     {"kcal", "kcal"},
+    };
+
+    static constexpr GXAccessibilityNameText accessibilityNames[] = {
+        {GXAccessibilityName::Distance, "距離"},
+        {GXAccessibilityName::Duration, "所要時間"},
+        {GXAccessibilityName::Pace, "ペース"},
+        {GXAccessibilityName::Speed, "速度"},
+        {GXAccessibilityName::AverageHeartRate, "平均心拍数"},
+        {GXAccessibilityName::MaximumHeartRate, "最大心拍数"},
+        {GXAccessibilityName::BeatsPerMinute, "毎分の拍数"},
+        {GXAccessibilityName::Calories, "カロリー"},
+        {GXAccessibilityName::Weight, "体重"},
+        {GXAccessibilityName::Height, "身長"},
+        {GXAccessibilityName::Temperature, "気温"},
+        {GXAccessibilityName::Icon, "アイコン"},
+        {GXAccessibilityName::Kilometres, "キロメートル"},
+        {GXAccessibilityName::Miles, "マイル"},
+        {GXAccessibilityName::Tenths, "小数第一位"},
+        {GXAccessibilityName::Hundredths, "小数第二位"},
+        {GXAccessibilityName::Hours, "時間"},
+        {GXAccessibilityName::Minutes, "分"},
+        {GXAccessibilityName::Seconds, "秒"},
+        {GXAccessibilityName::KilometresPerHour, "時速キロメートル"},
+        {GXAccessibilityName::MilesPerHour, "時速マイル"},
+        {GXAccessibilityName::Kilograms, "キログラム"},
+        {GXAccessibilityName::Pounds, "ポンド"},
+        {GXAccessibilityName::Stones, "ストーン"},
+        {GXAccessibilityName::Centimetres, "センチメートル"},
+        {GXAccessibilityName::Feet, "フィート"},
+        {GXAccessibilityName::Inches, "インチ"},
+        {GXAccessibilityName::Unit, "単位"},
+        {GXAccessibilityName::Average, "平均"},
+        {GXAccessibilityName::Maximum, "最大"},
+        {GXAccessibilityName::NoValue, "値なし"},
+        {GXAccessibilityName::NameAndPart, "{0}、{1}"},
+        {GXAccessibilityName::Sum, "{0} {1}"},
+        {GXAccessibilityName::Minus, "マイナス {0}"},
+        {GXAccessibilityName::PerKilometre, "1 キロメートルあたり {0}"},
+        {GXAccessibilityName::PerMile, "1 マイルあたり {0}"},
+    };
+
+    static constexpr GXAccessibilityUnitText accessibilityUnits[] = {
+        {GXAccessibilityUnit::Kilometre, {.other = "{0} キロメートル"}},
+        {GXAccessibilityUnit::Mile, {.other = "{0} マイル"}},
+        {GXAccessibilityUnit::Hour, {.other = "{0} 時間"}},
+        {GXAccessibilityUnit::Minute, {.other = "{0} 分"}},
+        {GXAccessibilityUnit::Second, {.other = "{0} 秒"}},
+        {GXAccessibilityUnit::KilometrePerHour, {.other = "時速 {0} キロメートル"}},
+        {GXAccessibilityUnit::MilePerHour, {.other = "時速 {0} マイル"}},
+        {GXAccessibilityUnit::BeatPerMinute, {.other = "毎分 {0} 拍"}},
+        {GXAccessibilityUnit::Kilocalorie, {.other = "{0} キロカロリー"}},
+        {GXAccessibilityUnit::Kilogram, {.other = "{0} キログラム"}},
+        {GXAccessibilityUnit::Pound, {.other = "{0} ポンド"}},
+        {GXAccessibilityUnit::Stone, {.other = "{0} ストーン"}},
+        {GXAccessibilityUnit::Centimetre, {.other = "{0} センチメートル"}},
+        {GXAccessibilityUnit::Foot, {.other = "{0} フィート"}},
+        {GXAccessibilityUnit::Inch, {.other = "{0} インチ"}},
+        {GXAccessibilityUnit::DegreeCelsius, {.other = "摂氏 {0} 度"}},
+        {GXAccessibilityUnit::DegreeFahrenheit, {.other = "華氏 {0} 度"}},
+    };
+
+    static constexpr GXText applicationTexts[] = {
+        // Pages, sections and rows.
+        {"Add workout", "ワークアウトを追加"},
+        {"All pickers", "すべてのピッカー"},
+        {"Workout", "ワークアウト"},
+        {"Workouts", "ワークアウト"},
+        {"Best interval", "ベストインターバル"},
+        {"Heart", "心臓"},
+        {"Conditions", "環境"},
+        {"Body", "身体"},
+        {"Distance and time", "距離とタイム"},
+        {"Distance", "距離"},
+        {"Duration", "所要時間"},
+        {"Average speed", "平均速度"},
+        {"Speed", "速度"},
+        {"Pace", "ペース"},
+        {"Calories", "カロリー"},
+        {"Heart rate", "心拍数"},
+        {"Resting pulse", "安静時心拍数"},
+        {"Beats per minute", "1分あたりの心拍数"},
+        {"Weather", "天気"},
+        {"Temperature", "温度"},
+        {"Water temperature", "水温"},
+        {"Weight", "体重"},
+        {"Height", "身長"},
+        // Settings and their choices.
+        {"Settings", "設定"},
+        {"Units", "単位"},
+        {"Metric", "メートル法"},
+        {"Imperial", "ヤードポンド法"},
+        {"Kilograms", "キログラム"},
+        {"Pounds", "ポンド"},
+        {"Stones", "ストーン"},
+        {"Text size", "文字サイズ"},
+        {"Look", "外観"},
+        {"System", "システム"},
+        {"Light", "ライト"},
+        {"Dark", "ダーク"},
+        {"Decimal separator", "小数点記号"},
+        {"Automatic", "自動"},
+        {"All pages", "すべてのページ"},
+        {"Light or dark", "ライトまたはダーク"},
+        {"Motion", "アニメーション"},
+        {"Full", "標準"},
+        {"Reduced", "控えめ"},
+        {"Contrast", "コントラスト"},
+        {"Normal", "標準"},
+        {"High", "高"},
+        {"Wheel clicks", "ホイールのクリック音"},
+        {"On", "オン"},
+        {"Off", "オフ"},
+        {"Language", "言語"},
+        // Files.
+        {"Open", "開く"},
+        {"Save", "保存"},
+        {"Opened:", "開きました:"},
+        {"Saved:", "保存しました:"},
+        {"The file could not be read:", "ファイルを読み込めませんでした:"},
+        {"The file could not be written:", "ファイルを書き込めませんでした:"},
+        {"The file has no number for:", "ファイルに次の数値がありません:"},
+        {"A number in the file is out of range:", "ファイル内の数値が範囲外です:"},
+        {"The file names no weather that this application knows.", "ファイルに、このアプリで使える天気がありません。"},
+        {"This file is damaged, or no workout.", "このファイルは破損しているか、ワークアウトではありません。"},
+        {"This file is damaged.", "このファイルは破損しています。"},
+        {"This file is no workout.", "このファイルはワークアウトではありません。"},
+        {"This workout was saved by a newer version of this application.",
+         "このワークアウトは、このアプリの新しいバージョンで保存されています。"},
+        // Weather.
+        {"clear", "晴れ"},
+        {"partly cloudy", "晴れ時々曇り"},
+        {"cloudy", "曇り"},
+        {"overcast", "厚い雲"},
+        {"fog", "霧"},
+        {"drizzle", "霧雨"},
+        {"rain", "雨"},
+        {"showers", "にわか雨"},
+        {"thunderstorm", "雷雨"},
+        {"sleet", "みぞれ"},
+        {"snow", "雪"},
+        {"wind", "風"},
+    };
+};
+
+} // namespace gx

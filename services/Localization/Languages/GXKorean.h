@@ -1,0 +1,166 @@
+#pragma once
+
+#include "GXLanguageTexts.h"
+
+namespace gx {
+
+/// Korean.
+struct GXKorean {
+    static constexpr std::string_view identifier = "ko";
+    static constexpr std::string_view ownName = "한국어";
+    static constexpr std::string_view decimalSeparator = ".";
+
+    static constexpr GXPluralCategory pluralCategory(const GXPluralOperands& /*number*/) { return GXPluralCategory::Other; }
+
+    static constexpr GXText unitTexts[] = {
+        {"bpm", "bpm"},     {"hh:mm", "시:분"},  {"hh:mm:ss", "시:분:초"},
+        {"mm:ss", "분:초"}, {"min/km", "분/km"}, {"min/mi", "분/mi"},
+        {"AVG", "평균"},    {"MAX", "최대"},     {"kg", "kg"},
+        {"lb", "lb"},       {"st", "st"},        {"cm", "cm"},
+        {"ft", "ft"},       {"°C", "°C"},        {"°F", "°F"},
+        {"km", "km"},       {"mi", "mi"},        {"km/h", "km/h"},
+        {"mph", "mph"},     {"kcal", "kcal"},
+    };
+
+    static constexpr GXAccessibilityNameText accessibilityNames[] = {
+        {GXAccessibilityName::Distance, "거리"},
+        {GXAccessibilityName::Duration, "소요 시간"},
+        {GXAccessibilityName::Pace, "페이스"},
+        {GXAccessibilityName::Speed, "속도"},
+        {GXAccessibilityName::AverageHeartRate, "평균 심박수"},
+        {GXAccessibilityName::MaximumHeartRate, "최대 심박수"},
+        {GXAccessibilityName::BeatsPerMinute, "분당 심박수"},
+        {GXAccessibilityName::Calories, "칼로리"},
+        {GXAccessibilityName::Weight, "체중"},
+        {GXAccessibilityName::Height, "키"},
+        {GXAccessibilityName::Temperature, "온도"},
+        {GXAccessibilityName::Icon, "아이콘"},
+        {GXAccessibilityName::Kilometres, "킬로미터"},
+        {GXAccessibilityName::Miles, "마일"},
+        {GXAccessibilityName::Tenths, "소수 첫째 자리"},
+        {GXAccessibilityName::Hundredths, "소수 둘째 자리"},
+        {GXAccessibilityName::Hours, "시간"},
+        {GXAccessibilityName::Minutes, "분"},
+        {GXAccessibilityName::Seconds, "초"},
+        {GXAccessibilityName::KilometresPerHour, "시속 킬로미터"},
+        {GXAccessibilityName::MilesPerHour, "시속 마일"},
+        {GXAccessibilityName::Kilograms, "킬로그램"},
+        {GXAccessibilityName::Pounds, "파운드"},
+        {GXAccessibilityName::Stones, "스톤"},
+        {GXAccessibilityName::Centimetres, "센티미터"},
+        {GXAccessibilityName::Feet, "피트"},
+        {GXAccessibilityName::Inches, "인치"},
+        {GXAccessibilityName::Unit, "단위"},
+        {GXAccessibilityName::Average, "평균"},
+        {GXAccessibilityName::Maximum, "최대"},
+        {GXAccessibilityName::NoValue, "값 없음"},
+        {GXAccessibilityName::NameAndPart, "{0}, {1}"},
+        {GXAccessibilityName::Sum, "{0} {1}"},
+        {GXAccessibilityName::Minus, "마이너스 {0}"},
+        {GXAccessibilityName::PerKilometre, "킬로미터당 {0}"},
+        {GXAccessibilityName::PerMile, "마일당 {0}"},
+    };
+
+    static constexpr GXAccessibilityUnitText accessibilityUnits[] = {
+        {GXAccessibilityUnit::Kilometre, {.other = "{0}킬로미터"}},
+        {GXAccessibilityUnit::Mile, {.other = "{0}마일"}},
+        {GXAccessibilityUnit::Hour, {.other = "{0}시간"}},
+        {GXAccessibilityUnit::Minute, {.other = "{0}분"}},
+        {GXAccessibilityUnit::Second, {.other = "{0}초"}},
+        {GXAccessibilityUnit::KilometrePerHour, {.other = "시속 {0}킬로미터"}},
+        {GXAccessibilityUnit::MilePerHour, {.other = "시속 {0}마일"}},
+        {GXAccessibilityUnit::BeatPerMinute, {.other = "분당 {0}회"}},
+        {GXAccessibilityUnit::Kilocalorie, {.other = "{0}킬로칼로리"}},
+        {GXAccessibilityUnit::Kilogram, {.other = "{0}킬로그램"}},
+        {GXAccessibilityUnit::Pound, {.other = "{0}파운드"}},
+        {GXAccessibilityUnit::Stone, {.other = "{0}스톤"}},
+        {GXAccessibilityUnit::Centimetre, {.other = "{0}센티미터"}},
+        {GXAccessibilityUnit::Foot, {.other = "{0}피트"}},
+        {GXAccessibilityUnit::Inch, {.other = "{0}인치"}},
+        {GXAccessibilityUnit::DegreeCelsius, {.other = "섭씨 {0}도"}},
+        {GXAccessibilityUnit::DegreeFahrenheit, {.other = "화씨 {0}도"}},
+    };
+
+    static constexpr GXText applicationTexts[] = {
+        // Pages, sections and rows.
+        {"Add workout", "운동 추가"},
+        {"All pickers", "모든 선택기"},
+        {"Workout", "운동"},
+        {"Workouts", "운동"},
+        {"Best interval", "최고 인터벌"},
+        {"Heart", "심장"},
+        {"Conditions", "환경"},
+        {"Body", "신체"},
+        {"Distance and time", "거리 및 시간"},
+        {"Distance", "거리"},
+        {"Duration", "소요 시간"},
+        {"Average speed", "평균 속도"},
+        {"Speed", "속도"},
+        {"Pace", "페이스"},
+        {"Calories", "칼로리"},
+        {"Heart rate", "심박수"},
+        {"Resting pulse", "안정 시 심박수"},
+        {"Beats per minute", "분당 심박수"},
+        {"Weather", "날씨"},
+        {"Temperature", "온도"},
+        {"Water temperature", "수온"},
+        {"Weight", "체중"},
+        {"Height", "키"},
+        // Settings and their choices.
+        {"Settings", "설정"},
+        {"Units", "단위"},
+        {"Metric", "미터법"},
+        {"Imperial", "야드파운드법"},
+        {"Kilograms", "킬로그램"},
+        {"Pounds", "파운드"},
+        {"Stones", "스톤"},
+        {"Text size", "글자 크기"},
+        {"Look", "화면 모드"},
+        {"System", "시스템"},
+        {"Light", "라이트"},
+        {"Dark", "다크"},
+        {"Decimal separator", "소수점 기호"},
+        {"Automatic", "자동"},
+        {"All pages", "모든 페이지"},
+        {"Light or dark", "라이트 또는 다크"},
+        {"Motion", "애니메이션"},
+        {"Full", "전체"},
+        {"Reduced", "줄임"},
+        {"Contrast", "대비"},
+        {"Normal", "보통"},
+        {"High", "높음"},
+        {"Wheel clicks", "휠 클릭 소리"},
+        {"On", "켬"},
+        {"Off", "끔"},
+        {"Language", "언어"},
+        // Files.
+        {"Open", "열기"},
+        {"Save", "저장"},
+        {"Opened:", "열림:"},
+        {"Saved:", "저장됨:"},
+        {"The file could not be read:", "파일을 읽을 수 없습니다:"},
+        {"The file could not be written:", "파일을 쓸 수 없습니다:"},
+        {"The file has no number for:", "파일에 다음 숫자가 없습니다:"},
+        {"A number in the file is out of range:", "파일의 숫자가 범위를 벗어났습니다:"},
+        {"The file names no weather that this application knows.", "파일에 이 앱이 지원하는 날씨가 없습니다."},
+        {"This file is damaged, or no workout.", "이 파일은 손상되었거나 운동 파일이 아닙니다."},
+        {"This file is damaged.", "이 파일은 손상되었습니다."},
+        {"This file is no workout.", "이 파일은 운동 파일이 아닙니다."},
+        {"This workout was saved by a newer version of this application.", "이 운동은 이 앱의 최신 버전에서 저장되었습니다."},
+        // Weather.
+        {"clear", "맑음"},
+        {"partly cloudy", "구름 조금"},
+        {"cloudy", "구름 많음"},
+        {"overcast", "흐림"},
+        {"fog", "안개"},
+        {"drizzle", "이슬비"},
+        {"rain", "비"},
+        {"showers", "소나기"},
+        {"thunderstorm", "뇌우"},
+        {"sleet", "진눈깨비"},
+        {"snow", "눈"},
+        {"wind", "바람"},
+    };
+};
+
+} // namespace gx

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "GXDutch.h"
+#include "GXEnglish.h"
+#include "GXFrench.h"
+#include "GXGerman.h"
+#include "GXItalian.h"
+#include "GXJapanese.h"
+#include "GXKorean.h"
+#include "GXPolish.h"
+#include "GXPortuguese.h"
+#include "GXRussian.h"
+#include "GXSimplifiedChinese.h"
+#include "GXSpanish.h"
+#include "GXTurkish.h"
+
+namespace gx {
+
+template <class... Languages>
+struct GXLanguageList {};
+
+/// All languages, in the order in which users choose from them; English first.
+///
+/// To add a language, write its file and name it here. What its file lacks does not compile.
+using GXLanguages = GXLanguageList<GXEnglish, GXGerman, GXFrench, GXSpanish, GXItalian, GXPortuguese, GXDutch, GXPolish, GXRussian,
+                                   GXTurkish, GXJapanese, GXSimplifiedChinese, GXKorean>;
+
+} // namespace gx

@@ -1,0 +1,167 @@
+#pragma once
+
+#include "GXLanguageTexts.h"
+
+namespace gx {
+
+/// Turkish. A unit stays singular after a number, so there is one category.
+struct GXTurkish {
+    static constexpr std::string_view identifier = "tr";
+    static constexpr std::string_view ownName = "Türkçe";
+    static constexpr std::string_view decimalSeparator = ",";
+
+    static constexpr GXPluralCategory pluralCategory(const GXPluralOperands& /*number*/) { return GXPluralCategory::Other; }
+
+    static constexpr GXText unitTexts[] = {
+        {"bpm", "atım/dk"}, {"hh:mm", "sa:dk"},  {"hh:mm:ss", "sa:dk:sn"},
+        {"mm:ss", "dk:sn"}, {"min/km", "dk/km"}, {"min/mi", "dk/mil"},
+        {"AVG", "ORT"},     {"MAX", "MAKS"},     {"kg", "kg"},
+        {"lb", "lb"},       {"st", "st"},        {"cm", "cm"},
+        {"ft", "fit"},      {"°C", "°C"},        {"°F", "°F"},
+        {"km", "km"},       {"mi", "mil"},       {"km/h", "km/sa"},
+        {"mph", "mil/sa"},  {"kcal", "kcal"},
+    };
+
+    static constexpr GXAccessibilityNameText accessibilityNames[] = {
+        {GXAccessibilityName::Distance, "Mesafe"},
+        {GXAccessibilityName::Duration, "Süre"},
+        {GXAccessibilityName::Pace, "Tempo"},
+        {GXAccessibilityName::Speed, "Hız"},
+        {GXAccessibilityName::AverageHeartRate, "Ortalama kalp atış hızı"},
+        {GXAccessibilityName::MaximumHeartRate, "En yüksek kalp atış hızı"},
+        {GXAccessibilityName::BeatsPerMinute, "Dakikadaki atım"},
+        {GXAccessibilityName::Calories, "Kalori"},
+        {GXAccessibilityName::Weight, "Kilo"},
+        {GXAccessibilityName::Height, "Boy"},
+        {GXAccessibilityName::Temperature, "Sıcaklık"},
+        {GXAccessibilityName::Icon, "Simge"},
+        {GXAccessibilityName::Kilometres, "kilometre"},
+        {GXAccessibilityName::Miles, "mil"},
+        {GXAccessibilityName::Tenths, "onda birler"},
+        {GXAccessibilityName::Hundredths, "yüzde birler"},
+        {GXAccessibilityName::Hours, "saat"},
+        {GXAccessibilityName::Minutes, "dakika"},
+        {GXAccessibilityName::Seconds, "saniye"},
+        {GXAccessibilityName::KilometresPerHour, "saatte kilometre"},
+        {GXAccessibilityName::MilesPerHour, "saatte mil"},
+        {GXAccessibilityName::Kilograms, "kilogram"},
+        {GXAccessibilityName::Pounds, "libre"},
+        {GXAccessibilityName::Stones, "stone"},
+        {GXAccessibilityName::Centimetres, "santimetre"},
+        {GXAccessibilityName::Feet, "fit"},
+        {GXAccessibilityName::Inches, "inç"},
+        {GXAccessibilityName::Unit, "birim"},
+        {GXAccessibilityName::Average, "ortalama"},
+        {GXAccessibilityName::Maximum, "en yüksek"},
+        {GXAccessibilityName::NoValue, "değer yok"},
+        {GXAccessibilityName::NameAndPart, "{0}, {1}"},
+        {GXAccessibilityName::Sum, "{0} {1}"},
+        {GXAccessibilityName::Minus, "eksi {0}"},
+        {GXAccessibilityName::PerKilometre, "kilometre başına {0}"},
+        {GXAccessibilityName::PerMile, "mil başına {0}"},
+    };
+
+    static constexpr GXAccessibilityUnitText accessibilityUnits[] = {
+        {GXAccessibilityUnit::Kilometre, {.other = "{0} kilometre"}},
+        {GXAccessibilityUnit::Mile, {.other = "{0} mil"}},
+        {GXAccessibilityUnit::Hour, {.other = "{0} saat"}},
+        {GXAccessibilityUnit::Minute, {.other = "{0} dakika"}},
+        {GXAccessibilityUnit::Second, {.other = "{0} saniye"}},
+        {GXAccessibilityUnit::KilometrePerHour, {.other = "saatte {0} kilometre"}},
+        {GXAccessibilityUnit::MilePerHour, {.other = "saatte {0} mil"}},
+        {GXAccessibilityUnit::BeatPerMinute, {.other = "dakikada {0} atım"}},
+        {GXAccessibilityUnit::Kilocalorie, {.other = "{0} kilokalori"}},
+        {GXAccessibilityUnit::Kilogram, {.other = "{0} kilogram"}},
+        {GXAccessibilityUnit::Pound, {.other = "{0} libre"}},
+        {GXAccessibilityUnit::Stone, {.other = "{0} stone"}},
+        {GXAccessibilityUnit::Centimetre, {.other = "{0} santimetre"}},
+        {GXAccessibilityUnit::Foot, {.other = "{0} fit"}},
+        {GXAccessibilityUnit::Inch, {.other = "{0} inç"}},
+        {GXAccessibilityUnit::DegreeCelsius, {.other = "{0} santigrat derece"}},
+        {GXAccessibilityUnit::DegreeFahrenheit, {.other = "{0} fahrenhayt derece"}},
+    };
+
+    static constexpr GXText applicationTexts[] = {
+        // Pages, sections and rows.
+        {"Add workout", "Antrenman ekle"},
+        {"All pickers", "Tüm seçiciler"},
+        {"Workout", "Antrenman"},
+        {"Workouts", "Antrenmanlar"},
+        {"Best interval", "En iyi aralık"},
+        {"Heart", "Kalp"},
+        {"Conditions", "Koşullar"},
+        {"Body", "Vücut"},
+        {"Distance and time", "Mesafe ve süre"},
+        {"Distance", "Mesafe"},
+        {"Duration", "Süre"},
+        {"Average speed", "Ortalama hız"},
+        {"Speed", "Hız"},
+        {"Pace", "Tempo"},
+        {"Calories", "Kalori"},
+        {"Heart rate", "Nabız"},
+        {"Resting pulse", "Dinlenme nabzı"},
+        {"Beats per minute", "Dakikadaki atım"},
+        {"Weather", "Hava durumu"},
+        {"Temperature", "Sıcaklık"},
+        {"Water temperature", "Su sıcaklığı"},
+        {"Weight", "Ağırlık"},
+        {"Height", "Boy"},
+        // Settings and their choices.
+        {"Settings", "Ayarlar"},
+        {"Units", "Birimler"},
+        {"Metric", "Metrik"},
+        {"Imperial", "İngiliz"},
+        {"Kilograms", "Kilogram"},
+        {"Pounds", "Libre"},
+        {"Stones", "Stone"},
+        {"Text size", "Metin boyutu"},
+        {"Look", "Görünüm"},
+        {"System", "Sistem"},
+        {"Light", "Açık"},
+        {"Dark", "Koyu"},
+        {"Decimal separator", "Ondalık ayırıcı"},
+        {"Automatic", "Otomatik"},
+        {"All pages", "Tüm sayfalar"},
+        {"Light or dark", "Açık veya koyu"},
+        {"Motion", "Hareket"},
+        {"Full", "Tam"},
+        {"Reduced", "Azaltılmış"},
+        {"Contrast", "Kontrast"},
+        {"Normal", "Normal"},
+        {"High", "Yüksek"},
+        {"Wheel clicks", "Tekerlek sesi"},
+        {"On", "Açık"},
+        {"Off", "Kapalı"},
+        {"Language", "Dil"},
+        // Files.
+        {"Open", "Aç"},
+        {"Save", "Kaydet"},
+        {"Opened:", "Açıldı:"},
+        {"Saved:", "Kaydedildi:"},
+        {"The file could not be read:", "Dosya okunamadı:"},
+        {"The file could not be written:", "Dosya yazılamadı:"},
+        {"The file has no number for:", "Dosyada şunun için sayı yok:"},
+        {"A number in the file is out of range:", "Dosyadaki bir sayı aralık dışında:"},
+        {"The file names no weather that this application knows.", "Dosyada bu uygulamanın tanıdığı bir hava durumu yok."},
+        {"This file is damaged, or no workout.", "Bu dosya hasarlı veya bir antrenman değil."},
+        {"This file is damaged.", "Bu dosya hasarlı."},
+        {"This file is no workout.", "Bu dosya bir antrenman değil."},
+        {"This workout was saved by a newer version of this application.",
+         "Bu antrenman, bu uygulamanın daha yeni bir sürümüyle kaydedilmiş."},
+        // Weather.
+        {"clear", "açık"},
+        {"partly cloudy", "parçalı bulutlu"},
+        {"cloudy", "bulutlu"},
+        {"overcast", "kapalı"},
+        {"fog", "sis"},
+        {"drizzle", "çisenti"},
+        {"rain", "yağmur"},
+        {"showers", "sağanak"},
+        {"thunderstorm", "gök gürültülü"},
+        {"sleet", "sulu kar"},
+        {"snow", "kar"},
+        {"wind", "rüzgâr"},
+    };
+};
+
+} // namespace gx
