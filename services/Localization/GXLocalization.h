@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "GXAccessibilityTexts.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -23,7 +24,7 @@ class GXLanguage;
 /// An application with translations of its own overrides the `virtual` operations and calls
 /// `setSharedLocalization`. Without one, and until a host sets the language, the texts are English
 /// and equal to their keys.
-class GXLocalization : public NSObject {
+class GX_EXPORT GXLocalization : public NSObject {
 public:
     GXLocalization();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "GXStyleSheetFont.h"
 #include "UIColor.h"
 
@@ -17,7 +18,7 @@ namespace gx {
 ///
 ///     GXStyleSheet::globalStyleSheet()->setTextScale(1.5);
 ///     distancePicker->reloadData();
-class GXStyleSheet : public NSObject {
+class GX_EXPORT GXStyleSheet : public NSObject {
 public:
     /// The limits of `setTextScale`, chosen: below them a row is too low for a finger, above them a
     /// wheel is wider than a phone.

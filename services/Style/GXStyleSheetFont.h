@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "GXExport.h"
 #include "UIColor.h"
 #include "UIFont.h"
 
@@ -13,7 +14,7 @@ class UILabel;
 ///
 /// Immutable, so a style sheet shares one object with all its users. To measure a text, use
 /// `font()`.
-class GXStyleSheetFont : public NSObject {
+class GX_EXPORT GXStyleSheetFont : public NSObject {
 public:
     /// `family` is empty for the host's own interface family. A `size` that is not above 0, or no
     /// number, becomes `UIFont::labelFontSize`.
@@ -36,6 +37,6 @@ private:
 
 /// Gives the label the font and the text colour. Attributes of an attributed text go before both.
 /// A no-op without a label or a font.
-void setStyleSheetFont(const Ref<UILabel>& label, const Ref<GXStyleSheetFont>& font);
+GX_EXPORT void setStyleSheetFont(const Ref<UILabel>& label, const Ref<GXStyleSheetFont>& font);
 
 } // namespace gx

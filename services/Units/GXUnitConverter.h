@@ -1,5 +1,7 @@
 #pragma once
 
+#include "GXExport.h"
+
 namespace gx {
 
 /// Converts between the units that values are kept in (kilograms, degrees Celsius) and those that a
@@ -15,7 +17,7 @@ namespace gx {
 ///
 /// Every float is valid. NaN gives NaN, an infinity itself. A result above the range of a float is
 /// infinity. One below it is -infinity, or from `stToKg`, which rounds upward, the lowest float.
-class GXUnitConverter {
+class GX_EXPORT GXUnitConverter {
 public:
     GXUnitConverter() = delete;
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "GXExport.h"
 #include "NSNumber.h"
 
 namespace gx {
@@ -11,7 +12,7 @@ namespace gx {
 ///
 /// The unit system can be switched at any time. Make a formatter with
 /// `create<GXDistanceFormatter>(style, isMetric, usingUnit)`.
-class GXUnitFormatter : public NSObject {
+class GX_EXPORT GXUnitFormatter : public NSObject {
 public:
     /// Style 0, imperial, with unit.
     bool init() override;

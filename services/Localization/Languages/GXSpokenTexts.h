@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXAccessibilityTexts.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -8,6 +9,6 @@ namespace gx {
 using GXSpokenName = GXAccessibilityName;
 using GXSpokenUnit = GXAccessibilityUnit;
 using GXSpokenNumber = GXAccessibilityNumber;
-std::string filledPattern(std::string_view pattern, std::string_view first, std::string_view second = {});
+GX_EXPORT std::string filledPattern(std::string_view pattern, std::string_view first, std::string_view second = {});
 
 } // namespace gx
