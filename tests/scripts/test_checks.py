@@ -101,6 +101,14 @@ class StructureTest(CheckTest):
         self.expect({"platform/Low/ATouches.cpp": '#include "A.h"\nvoid A::one() {}\n'},
                     "platform/Low/ATouches.cpp:1: has no header of its name", "platform/Low/ATouches.cpp:2: continues A, which is declared in")
 
+    def test_finds_an_arrow_between_rooms_that_stand_apart(self):
+        files = {"platform/CMakeLists.txt": "gx_add_floor(platform\n  FOLDERS Low High UIKit/Picker/Part UIKit/Picker UIKit/Table\n"
+                 "  PUBLIC_HEADERS A.h B.h)\n", "platform/UIKit/Picker/W.h": "#pragma once\n",
+                 "platform/UIKit/Picker/Part/V.h": "#pragma once\n"}
+        self.expect({**files, "platform/UIKit/Table/T.h": '#pragma once\n#include "A.h"\n'})
+        self.expect({**files, "platform/UIKit/Table/T.h": '#pragma once\n#include "V.h"\n'},
+                    "platform/UIKit/Table/T.h:2: includes V of platform/UIKit/Picker/Part, which stands apart")
+
     def test_finds_an_included_source_and_a_using_declaration_without_use(self):
         self.expect({"platform/Low/A.cpp": '#include "A.h"\nusing std::vector;\nstatic vector<int> one;\n'})
         self.expect({"platform/Low/A.cpp": '#include "A.h"\nusing std::vector;\nstatic std::vector<int> one;\n'},
@@ -123,6 +131,10 @@ class StructureTest(CheckTest):
             return {"gallery/CMakeLists.txt": f"set(ROOMS app {' '.join(names)})\n",
                     **{f"gallery/{name}/{name}.h": "#pragma once\n" for name in names}}
         self.expect(rooms(7))
+        inner = rooms(8)
+        inner["gallery/CMakeLists.txt"] = inner["gallery/CMakeLists.txt"].replace("R7", "R6/R7")
+        inner["gallery/R6/R7/R7.h"] = inner.pop("gallery/R7/R7.h")
+        self.expect(inner)
         self.expect(rooms(8), "gallery: 9 rooms on a floor, at most 8")
 
     def test_finds_a_long_file(self):
