@@ -58,6 +58,7 @@ std::string_view Translations::textInLanguage(std::string_view english, std::str
 
 std::vector<std::string> Translations::languages() {
     std::vector<std::string> languages;
+    languages.reserve(allTexts.size());
     for (const LanguageTexts& texts : allTexts) languages.emplace_back(texts.language);
     return languages;
 }

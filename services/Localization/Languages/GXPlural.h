@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 namespace gx {
@@ -29,10 +30,7 @@ struct GXPluralOperands {
     }
 
     static constexpr bool areDigits(std::string_view text) {
-        for (const char character : text) {
-            if (character < '0' || character > '9') return false;
-        }
-        return true;
+        return std::all_of(text.begin(), text.end(), [](char character) { return character >= '0' && character <= '9'; });
     }
 
     /// Of `whole` without a sign, and `fraction`; both digits only.
