@@ -1,4 +1,5 @@
-// A table's reload and the frame of one that scrolls, each for a hundred rows and for a billion: the ratio of the two should be 1.
+// A table's reload and the frame of one that scrolls, each for a hundred rows and for a billion:
+// the ratio of the two should be 1.
 
 #include <benchmark/benchmark.h>
 
@@ -27,7 +28,7 @@ struct ScrollingTable {
         window->scroll({UIScroll::Unit::Points, 0, step, now, {160, 220}, false});
         window->tick(now);
         window->draw(canvas);
-        source->asked.clear();
+        source->queried.clear();
     }
 
     Ref<TableSource> source = create<TableSource>();
@@ -43,7 +44,7 @@ void reload(benchmark::State& state) {
     for (auto _ : state) {
         scrolling.table->reloadData();
         scrolling.table->layoutIfNeeded();
-        scrolling.source->asked.clear();
+        scrolling.source->queried.clear();
     }
 }
 BENCHMARK(reload)->Arg(100)->Arg(1'000'000'000);

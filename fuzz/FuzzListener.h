@@ -5,8 +5,7 @@
 #include "FuzzWorld.h"
 #include "GXBasePickerView.h"
 #include "GXHeightPickerViewDelegate.h"
-#include "UITableViewCell.h"
-#include "UITableViewProtocols.h"
+#include "UITableView.h"
 
 /// Answers to wheels and tables with any counts, sizes and views, and reacts whenever it is told or asked.
 class FuzzListener : public gx::NSObject,

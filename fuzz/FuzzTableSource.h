@@ -33,7 +33,7 @@ private:
     }
 };
 
-/// Answers to a table with any counts, heights and cells, and reacts whenever it is told or asked.
+/// Gives a table any counts, heights and cells, and reacts whenever it is called.
 class FuzzTableSource : public gx::NSObject, public gx::UITableViewDataSource, public gx::UITableViewDelegate {
 public:
     FuzzWorld* world = nullptr;

@@ -1,4 +1,4 @@
-// A table whose data source answers anything and changes at any time, within its own answers too.
+// A table whose data source returns anything and changes at any time, within its callbacks too.
 
 #include "FuzzHand.h"
 #include "FuzzProperties.h"
@@ -68,7 +68,8 @@ private:
     }
 
     void act() override {
-        const Ref<UITableView>& table = table_; // Not held meanwhile: whoever is asked may let go of it, as an application may.
+        // No strong reference: a callback may release the table, as an application may.
+        const Ref<UITableView>& table = table_;
         switch (bytes_.below(28)) {
         case 0:
             return table->reloadData();

@@ -16,7 +16,7 @@ std::size_t allocationsOfScrolling(NSInteger rows) {
     const auto table = tableWithSource(source);
     TestWindow window(table);
     NullCanvas canvas;
-    source->asked.reserve(10'000);
+    source->queried.reserve(10'000);
     const auto scroll = [&](double points) {
         for (int i = 0; i < 60; ++i) {
             window.scrollPoints({160, 220}, points);
@@ -27,13 +27,13 @@ std::size_t allocationsOfScrolling(NSInteger rows) {
     scroll(17);
     scroll(-17);
     const int textsBefore = canvas.texts;
-    const std::size_t asked = source->asked.size();
+    const std::size_t asked = source->queried.size();
     const std::size_t count = allocationsOf([&] {
         scroll(17);
         scroll(-17);
     });
     EXPECT_GT(canvas.texts - textsBefore, 1000);
-    EXPECT_GT(source->asked.size() - asked, 40U) << "rows came and went";
+    EXPECT_GT(source->queried.size() - asked, 40U) << "rows came and went";
     return count;
 }
 
@@ -49,7 +49,7 @@ TEST(TableAllocations, a_flings_frames_take_nothing) {
     const auto table = tableWithSource(source);
     TestWindow window(table);
     NullCanvas canvas;
-    source->asked.reserve(10'000);
+    source->queried.reserve(10'000);
     for (const bool isWarm : {false, true}) {
         table->setContentOffset({0, 0});
         window.fling({160, 400}, {160, 200}, 5);

@@ -15,22 +15,22 @@ public:
     std::vector<std::optional<std::string>> titles;
     /// What is returned for a row instead of the usual cell.
     std::function<gx::Ref<gx::UITableViewCell>(const gx::Ref<gx::UITableView>&, gx::NSIndexPath)> cell;
-    std::function<void()> whenAskedForCounts;
-    std::vector<gx::NSIndexPath> asked;
-    int countQuestions = 0;
+    std::function<void()> whenCounted;
+    std::vector<gx::NSIndexPath> queried;
+    int countQueries = 0;
 
     static constexpr const char* identifier = "row";
 
     gx::NSInteger numberOfSectionsInTableView(const gx::Ref<gx::UITableView>&) override {
-        if (whenAskedForCounts) whenAskedForCounts();
+        if (whenCounted) whenCounted();
         return static_cast<gx::NSInteger>(rows.size());
     }
     gx::NSInteger tableView_numberOfRowsInSection(const gx::Ref<gx::UITableView>&, gx::NSInteger section) override {
-        ++countQuestions;
+        ++countQueries;
         return rows[static_cast<std::size_t>(section)];
     }
     gx::Ref<gx::UITableViewCell> tableView_cellForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override {
-        asked.push_back(path);
+        queried.push_back(path);
         return cell ? cell(table, path) : usualCell(table, path);
     }
     std::optional<std::string> tableView_titleForHeaderInSection(const gx::Ref<gx::UITableView>&, gx::NSInteger section) override {
@@ -50,13 +50,13 @@ class TableListener : public gx::NSObject, public gx::UITableViewDelegate {
 public:
     std::vector<gx::NSIndexPath> taps;
     std::function<bool(gx::NSIndexPath)> refuses;
-    std::function<void()> whenAsked;
+    std::function<void()> whenQueried;
     std::function<void()> whenTapped;
-    int questions = 0;
+    int queries = 0;
 
     bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {
-        ++questions;
-        if (whenAsked) whenAsked();
+        ++queries;
+        if (whenQueried) whenQueried();
         return !refuses || !refuses(path);
     }
     void tableView_didSelectRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {

@@ -2,171 +2,299 @@
 
 #include <algorithm>
 
+#include "UIKey.h"
+#include "UITableViewContent.h"
+
 namespace gx {
 
 namespace {
 
 /// A height that may be left to the table.
 CGFloat heightOr(CGFloat automatic, CGFloat height) {
-    return height == UITableView::automaticDimension ? automatic : UITableViewRows::heldHeight(height);
+    return height == UITableView::automaticDimension ? automatic : UITableViewRows::clampedHeight(height);
 }
 
 } // namespace
 
-void UITableView::setDataSource(WeakRef<UITableViewDataSource> dataSource) {
-    dataSource_ = std::move(dataSource);
-    reloadData();
-}
+/// The content, and its way to the data source and the delegate.
+class UITableView::Parts final : public UITableViewContent::Client {
+public:
+    explicit Parts(UITableView& table) : content(table, *this, highestPassedCount), table_(table) {}
 
-void UITableView::setDelegate(WeakRef<UITableViewDelegate> delegate) {
-    delegate_ = std::move(delegate);
-    reloadData();
-}
+    UITableViewContent content;
+
+    NSInteger sectionCount() override {
+        const auto source = table_.dataSource_.lock();
+        return source ? source->numberOfSectionsInTableView(table_.self()) : 0;
+    }
+    NSInteger rowCountOfSection(NSInteger section) override {
+        const auto source = table_.dataSource_.lock();
+        return source ? source->tableView_numberOfRowsInSection(table_.self(), section) : 0;
+    }
+    std::optional<std::string> titleOfSection(NSInteger section) override {
+        const auto source = table_.dataSource_.lock();
+        return source ? source->tableView_titleForHeaderInSection(table_.self(), section) : std::nullopt;
+    }
+    bool hasHeightsOfItsOwn() const override { return !table_.delegate_.expired(); }
+    CGFloat heightOfRow(NSIndexPath path) override {
+        const auto delegate = table_.delegate_.lock();
+        return delegate ? heightOr(table_.rowHeight_, delegate->tableView_heightForRowAtIndexPath(table_.self(), path)) : table_.rowHeight_;
+    }
+    CGFloat usualRowHeight() const override { return table_.rowHeight_; }
+    CGFloat headerHeight() const override { return table_.sectionHeaderHeight_; }
+    Ref<UITableViewCell> cellForRow(NSIndexPath path) override {
+        const auto source = table_.dataSource_.lock();
+        return source ? source->tableView_cellForRowAtIndexPath(table_.self(), path) : nullptr;
+    }
+    void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) override {
+        const auto delegate = table_.delegate_.lock();
+        if (delegate) delegate->tableView_didEndDisplayingCell_forRowAtIndexPath(table_.self(), cell, path);
+    }
+    bool canTapRow(NSIndexPath path) override {
+        const auto delegate = table_.delegate_.lock();
+        return !delegate || delegate->tableView_shouldHighlightRowAtIndexPath(table_.self(), path);
+    }
+
+private:
+    UITableView& table_;
+};
+
+UITableView::UITableView() : parts_(std::make_unique<Parts>(*this)) {}
+
+UITableView::~UITableView() = default;
+
+UITableViewContent& UITableView::content() const { return parts_->content; }
+
+// Properties
 
 void UITableView::setRowHeight(CGFloat height) {
-    const CGFloat held = heightOr(defaultRowHeight, height);
-    if (held == rowHeight_) return;
-    rowHeight_ = held;
+    const CGFloat clamped = heightOr(defaultRowHeight, height);
+    if (clamped == rowHeight_) return;
+    rowHeight_ = clamped;
     reloadData();
 }
 
 void UITableView::setSectionHeaderHeight(CGFloat height) {
-    const CGFloat held = heightOr(defaultSectionHeaderHeight, height);
-    if (held == sectionHeaderHeight_) return;
-    sectionHeaderHeight_ = held;
+    const CGFloat clamped = heightOr(defaultSectionHeaderHeight, height);
+    if (clamped == sectionHeaderHeight_) return;
+    sectionHeaderHeight_ = clamped;
     reloadData();
 }
 
-void UITableView::setSeparatorColor(std::optional<UIColor> color) {
-    if (color == separatorColor_) return;
-    separatorColor_ = color;
-    setNeedsDisplay();
+// Cells
+
+void UITableView::registerClass_forCellReuseIdentifier(CellFactory factory, const std::string& identifier) {
+    content().visible().setFactory(std::move(factory), identifier);
+    if (content().visible().hasLeaving()) setNeedsLayout();
 }
 
-// Answers
-
-void UITableView::reloadData() {
+Ref<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(const std::string& identifier) {
     const Ref<UITableView> keep = self();
-    isStale_ = true;
-    forgetPress();
-    setNeedsLayout();
+    return content().visible().dequeue(identifier, content().isQuerying());
 }
 
-CGFloat UITableView::askHeight(NSIndexPath path) {
-    const auto delegate = delegate_.lock();
-    return delegate ? heightOr(rowHeight_, delegate->tableView_heightForRowAtIndexPath(self(), path)) : rowHeight_;
-}
-
-UITableViewRows UITableView::askRows() {
-    UITableViewRows rows;
-    NSInteger sections = 0;
-    if (const auto source = dataSource_.lock()) sections = UITableViewRows::heldSectionCount(source->numberOfSectionsInTableView(self()));
-    for (NSInteger section = 0; section < sections; ++section) {
-        NSInteger count = 0;
-        std::optional<std::string> title;
-        if (const auto source = dataSource_.lock()) {
-            count = UITableViewRows::heldRowCount(source->tableView_numberOfRowsInSection(self(), section));
-        }
-        if (const auto source = dataSource_.lock()) title = source->tableView_titleForHeaderInSection(self(), section);
-        const CGFloat headerHeight = title ? sectionHeaderHeight_ : 0;
-        if (delegate_.expired() || count > UITableViewRows::highestHeightCount) {
-            rows.addSection(std::move(title), headerHeight, count, rowHeight_);
-            continue;
-        }
-        std::vector<CGFloat> heights;
-        heights.reserve(static_cast<std::size_t>(count));
-        for (NSInteger row = 0; row < count; ++row) heights.push_back(askHeight({section, row}));
-        rows.addSection(std::move(title), headerHeight, heights);
-    }
-    return rows;
-}
-
-void UITableView::refreshRows() {
-    if (!isStale_ || isBusy_) return;
-    const Ref<UITableView> keep = self();
-    isBusy_ = true;
-    isStale_ = false;
-    rows_ = askRows();
-    if (focused_) focused_ = rows_.heldRow(*focused_);
-    // Every row is shown anew. Who is told that a cell has gone may reload again: that is the next refresh.
-    change_.reset();
-    std::vector<Row> gone = std::move(removed_);
-    gone.insert(gone.end(), shown_.begin(), shown_.end());
-    removed_.clear();
-    shown_.clear();
-    for (const Row& row : gone) retire(row);
-    while (!headers_.empty()) hideHeader(headers_.size() - 1);
-    isBusy_ = false;
-    fitContent();
-    setNeedsLayout();
-}
-
-void UITableView::fitContent() { setContentSize({bounds().size.width, rows_.height()}); }
-
-// Questions
+// Queries
 
 NSInteger UITableView::numberOfSections() {
     const Ref<UITableView> keep = self();
-    refreshRows();
-    return rows_.sectionCount();
+    content().refresh();
+    return content().rows().sectionCount();
 }
 
 NSInteger UITableView::numberOfRowsInSection(NSInteger section) {
     const Ref<UITableView> keep = self();
-    refreshRows();
-    return rows_.rowCount(section);
+    content().refresh();
+    return content().rows().rowCount(section);
 }
-
-CGRect UITableView::rectOf(const UITableViewRows::Span& span) const { return CGRectMake(0, span.top, bounds().size.width, span.height); }
 
 CGRect UITableView::rectForRowAtIndexPath(NSIndexPath path) {
     const Ref<UITableView> keep = self();
-    refreshRows();
-    return rows_.exists(path) ? rectOf(rows_.spanOfRow(path)) : CGRectZero;
+    content().refresh();
+    return content().rows().exists(path) ? content().rectOfRow(path) : CGRectZero;
 }
 
 std::optional<NSIndexPath> UITableView::indexPathForRowAtPoint(CGPoint point) {
     const Ref<UITableView> keep = self();
-    refreshRows();
+    content().refresh();
     if (!(point.x >= 0 && point.x < bounds().size.width)) return std::nullopt;
-    return rows_.rowAt(point.y);
+    return content().rows().rowAt(point.y);
 }
 
 Ref<UITableViewCell> UITableView::cellForRowAtIndexPath(NSIndexPath path) {
     const Ref<UITableView> keep = self();
     layoutIfNeeded();
-    const auto row = findRow(path);
-    return row == shown_.end() ? nullptr : row->cell;
+    return content().visible().cellOfRow(path);
 }
 
 std::optional<NSIndexPath> UITableView::indexPathForCell(const Ref<UITableViewCell>& cell) {
     const Ref<UITableView> keep = self();
     layoutIfNeeded();
-    const auto row = std::find_if(shown_.begin(), shown_.end(), [&cell](const Row& entry) { return entry.cell == cell; });
-    if (!cell || row == shown_.end()) return std::nullopt;
-    return row->path;
+    return content().visible().rowOfCell(cell);
 }
 
 std::vector<NSIndexPath> UITableView::indexPathsForVisibleRows() {
     const Ref<UITableView> keep = self();
     layoutIfNeeded();
-    std::vector<NSIndexPath> paths;
-    for (const Row& row : shown_) {
-        if (CGRectIntersectsRect(rectOf(rows_.spanOfRow(row.path)), bounds())) paths.push_back(row.path);
-    }
-    return paths;
+    return content().pathsInBounds();
 }
 
 std::optional<NSIndexPath> UITableView::indexPathForFocusedRow() {
     const Ref<UITableView> keep = self();
-    refreshRows();
-    return focused_;
+    content().refresh();
+    return content().focus().row();
+}
+
+// Changes
+
+void UITableView::reloadData() { content().invalidate(); }
+
+void UITableView::reloadRowsAtIndexPaths(const std::vector<NSIndexPath>& paths) { content().reloadRows(paths); }
+
+void UITableView::insertRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated) {
+    content().applyChange(UITableViewChange::Kind::Insertion, paths, animated);
+}
+
+void UITableView::deleteRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated) {
+    content().applyChange(UITableViewChange::Kind::Removal, paths, animated);
 }
 
 void UITableView::scrollToRowAtIndexPath_animated(NSIndexPath path, bool animated) {
     const Ref<UITableView> keep = self();
-    refreshRows();
-    if (rows_.exists(path)) scrollRectToVisible_animated(rectOf(rows_.spanOfRow(path)), animated);
+    content().refresh();
+    if (content().rows().exists(path)) scrollRectToVisible_animated(content().rectOfRow(path), animated);
+}
+
+// Layout
+
+std::vector<Ref<UIView>> UITableView::subviewsInReadingOrder() const {
+    std::vector<Ref<UIView>> views = subviews();
+    std::stable_sort(views.begin(), views.end(),
+                     [](const auto& a, const auto& b) { return CGRectGetMinY(a->frame()) < CGRectGetMinY(b->frame()); });
+    return views;
+}
+
+void UITableView::layoutSubviews() {
+    UIScrollView::layoutSubviews();
+    if (content().layOut(highestVisibleCount) && !hasFinger()) content().visible().dropLeaving();
+}
+
+// Fingers
+
+void UITableView::pressBegan(CGPoint point, NSTimeInterval time) {
+    const Ref<UITableView> keep = self();
+    UIScrollView::pressBegan(point, time);
+    UITableViewPress& press = content().press();
+    press.cancel();
+    const std::optional<NSIndexPath> path = indexPathForRowAtPoint(point);
+    if (!path) return;
+    press.begin(*path, time + highlightDelay);
+    if (!parts_->canTapRow(*path)) press.cancel();
+    if (press.isHighlightPending()) startMoving();
+}
+
+void UITableView::pressEnded(bool isTap, NSTimeInterval time) {
+    const Ref<UITableView> keep = self();
+    UIScrollView::pressEnded(isTap, time);
+    UITableViewPress& press = content().press();
+    if (isTap && press.row()) {
+        content().focus().setRow(press.row());
+        becomeFirstResponder(); // The view that loses the focus may change the rows.
+    }
+    const std::optional<NSIndexPath> path = press.row();
+    if (!isTap || !path) return press.cancel();
+    press.end();
+    tapRow(*path, time);
+}
+
+void UITableView::tapRow(NSIndexPath path, NSTimeInterval time) {
+    content().highlightTap_until(path, time + tapDuration);
+    if (const auto delegate = delegate_.lock()) delegate->tableView_didSelectRowAtIndexPath(self(), path);
+}
+
+void UITableView::touchEnded(const UITouch& touch) {
+    const Ref<UITableView> keep = self();
+    UIScrollView::touchEnded(touch);
+    if (content().visible().hasLeaving()) setNeedsLayout();
+}
+
+void UITableView::touchCancelled(const UITouch& touch) {
+    const Ref<UITableView> keep = self();
+    UIScrollView::touchCancelled(touch);
+    if (content().visible().hasLeaving()) setNeedsLayout();
+}
+
+void UITableView::scrollViewDidScroll() {
+    UIScrollView::scrollViewDidScroll();
+    setNeedsLayout();
+}
+
+// Keys
+
+bool UITableView::keyPressed(const UIKey& argument) {
+    const Ref<UITableView> keep = self();
+    const UIKey key = argument; // A callback may destroy the argument.
+    // Keys that a view inside a row hands up are not meant for the rows.
+    if (!isFirstResponder() || key.isCommand()) return UIScrollView::keyPressed(key);
+    if (UITableViewKeyFocus::isMove(key.code)) {
+        const std::optional<NSIndexPath> present = content().focusedRow();
+        const auto next = present ? content().focus().rowForKey(key.code, *present, bounds().size.height) : std::nullopt;
+        if (!next || next == present) return UIScrollView::keyPressed(key); // Scrolls.
+        content().focusRow(*next);
+        return true;
+    }
+    if (key.code != UIKey::Code::Return && key.code != UIKey::Code::Space) return UIScrollView::keyPressed(key);
+    const std::optional<NSIndexPath> present = content().focusedRow();
+    if (!present || !parts_->canTapRow(*present)) return UIScrollView::keyPressed(key);
+    if (key.isRepeat || !content().rows().exists(*present)) return true; // Taps once.
+    content().focusRow(*present);
+    tapRow(*present, key.timestamp);
+    return true;
+}
+
+bool UITableView::canBecomeFirstResponder() {
+    const Ref<UITableView> keep = self();
+    return content().focusedRow().has_value();
+}
+
+void UITableView::focusDidChange() {
+    const Ref<UITableView> keep = self();
+    UIScrollView::focusDidChange();
+    if (isFirstResponder()) content().focus().setRow(content().focusedRow());
+}
+
+void UITableView::revealDescendant(CGRect rect) {
+    const Ref<UITableView> keep = self();
+    const std::optional<NSIndexPath> row = isFirstResponder() && rect == bounds() ? content().focusedRow() : std::nullopt;
+    UIScrollView::revealDescendant(row ? content().rectOfRowAndHeader(*row) : rect);
+}
+
+// Time and drawing
+
+bool UITableView::isMoving() const { return UIScrollView::isMoving() || content().isChanging() || content().press().isWaiting(); }
+
+bool UITableView::advanceToTime(NSTimeInterval time) {
+    const Ref<UITableView> keep = self();
+    UIScrollView::advanceToTime(time);
+    content().advanceToTime(time);
+    return isMoving();
+}
+
+void UITableView::finishAnimations() {
+    const Ref<UITableView> keep = self();
+    UIScrollView::finishAnimations();
+    content().press().cancel();
+    content().finishChange();
+}
+
+void UITableView::drawScrolledViews(UIGraphicsContext& context) {
+    const UITableViewDrawing& drawing = content().drawing();
+    if (content().isChanging()) {
+        drawing.drawChange(context, [](UIView& view, UIGraphicsContext& canvas) { drawView(view, canvas); });
+    } else {
+        UIScrollView::drawScrolledViews(context);
+    }
+    if (separatorColor_) drawing.drawSeparators(context, *separatorColor_, separatorHeight);
+    if (const auto row = content().rowToMark()) drawing.drawFocus(context, *row, tintColor());
 }
 
 } // namespace gx

@@ -1,82 +1,161 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "UIKey.h"
+#include "NSIndexPath.h"
 #include "UIScrollView.h"
 #include "UITableViewCell.h"
-#include "UITableViewCells.h"
-#include "UITableViewChange.h"
-#include "UITableViewProtocols.h"
-#include "UITableViewRows.h"
 
 namespace gx {
 
-class UILabel;
+class UITableView;
+class UITableViewContent;
+
+/// Tells a table how many sections and rows there are, and gives the cells that show them.
+///
+/// The table caches the results; see `UITableView` for when it queries again. All operations may
+/// call back.
+class UITableViewDataSource {
+public:
+    virtual ~UITableViewDataSource() = default;
+
+    /// Clamped to 0 … 10,000. Default: 1.
+    virtual NSInteger numberOfSectionsInTableView(const Ref<UITableView>& /*tableView*/) { return 1; }
+    /// Clamped to 0 … 10¹².
+    virtual NSInteger tableView_numberOfRowsInSection(const Ref<UITableView>& tableView, NSInteger section) = 0;
+    /// Called for each row that comes into sight. Nothing leaves the row empty as long as it is in
+    /// sight.
+    virtual Ref<UITableViewCell> tableView_cellForRowAtIndexPath(const Ref<UITableView>& tableView, NSIndexPath indexPath) = 0;
+    /// Nothing for a section without a header. Default: nothing.
+    virtual std::optional<std::string> tableView_titleForHeaderInSection(const Ref<UITableView>& /*tableView*/, NSInteger /*section*/) {
+        return std::nullopt;
+    }
+};
+
+/// Gives a table the heights of rows, and is notified of what the user does with them. All
+/// operations may call back.
+class UITableViewDelegate {
+public:
+    virtual ~UITableViewDelegate() = default;
+
+    /// In points. Default: `UITableView::automaticDimension`, which is the table's `rowHeight`.
+    /// Another height that is negative or NaN means 0.
+    ///
+    /// Called once for each row and reload, insertion or removal, but not in sections of more than
+    /// 100,000 rows.
+    virtual CGFloat tableView_heightForRowAtIndexPath(const Ref<UITableView>& tableView, NSIndexPath indexPath);
+    /// Whether a row can be tapped: called when a finger comes down on it, and when a key comes to
+    /// it. Default: true.
+    virtual bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>& /*tableView*/, NSIndexPath /*indexPath*/) { return true; }
+    /// Called once for each tap on a row, by a finger or a key. Default: nothing.
+    virtual void tableView_didSelectRowAtIndexPath(const Ref<UITableView>& /*tableView*/, NSIndexPath /*indexPath*/) {}
+    /// Called after a cell has left the screen, with the path that its row had then. Default:
+    /// nothing.
+    virtual void tableView_didEndDisplayingCell_forRowAtIndexPath(const Ref<UITableView>& /*tableView*/,
+                                                                  const Ref<UITableViewCell>& /*cell*/, NSIndexPath /*indexPath*/) {}
+};
 
 /// Rows below each other, in sections, that the user scrolls through and taps.
 ///
-/// What is shown. Cells exist only for rows in sight and go round: one that leaves is kept, hidden, under its reuse identifier until
-/// the data source asks for it; one without an identifier is let go. Cells fill the width. So neither a reload nor a frame costs more
-/// with more rows, unless a delegate gives them heights of their own.
+/// For a few views that stay as they are, a `UIScrollView` is enough. The table owns neither its
+/// data source nor its delegate; both may do anything when they are called.
 ///
-/// Answers it keeps. Counts, header titles and heights are kept until a reload, a new data source or delegate, or another `rowHeight` or
-/// `sectionHeaderHeight`; insertions and removals ask for them anew. The next question or layout asks again. While a question is open,
-/// who asks back hears the last answer, and whoever inserts or removes rows gets a reload.
+/// **Cells** exist only for rows in sight and are as wide as the table. One that leaves is kept,
+/// hidden, under its reuse identifier until the data source dequeues it; one without an identifier
+/// is let go. So a reload and a frame cost no more with more rows, unless rows have heights of
+/// their own.
 ///
-/// Fingers. A row lights up under a finger that rests on it for `highlightDelay`, so that a stroke does not flash; a tap lights it up
-/// for `tapDuration` and is told to the delegate. A finger that scrolls, or has stopped moving rows, taps nothing. Nothing stays chosen.
+/// **Caching.** Counts, header titles and heights are cached until a reload, a new data source or
+/// delegate, or another `rowHeight` or `sectionHeaderHeight`; insertions and removals query them
+/// again. The next query or layout reads what is needed. A callback of an open query sees what was
+/// cached before; rows that it inserts or removes cause a reload.
 ///
-/// Keys. The table takes the focus if there is a row that can be tapped, and one such row is then the focused one. Up and down go on to
-/// the row beside it, page keys by what is in sight, home and end all the way, passing over rows that cannot be tapped; Return and Space
-/// tap it. It comes into sight, and is marked while the window shows the focus. A tap by a finger focuses its row too. Tab goes on to what
-/// takes the focus inside the rows in sight, whose keys are their own; when such a row leaves, the table has the focus again.
+/// **Fingers.** A finger that rests on a row for `highlightDelay` highlights it, so that scrolling
+/// does not flash. A tap highlights it for `tapDuration` and is reported to the delegate. A finger
+/// that scrolls, or has stopped moving rows, taps nothing. No row stays selected.
 ///
-/// The table owns neither its data source nor its delegate. Both may do anything while they are asked.
+/// **Keys.** The table takes the focus if a row can be tapped; one such row is then focused.
+/// - Up and Down move the focus by one row, page keys by what is in sight, Home and End all the
+///   way. Rows that cannot be tapped are skipped. Return and Space tap the row.
+/// - The focused row scrolls into sight, and is marked while the window shows the focus. A tap by
+///   a finger focuses its row too.
+/// - Tab goes on to views inside the rows in sight that take the focus. When such a row leaves,
+///   the table has the focus again.
 class UITableView : public UIScrollView {
 public:
-    /// The answer of a delegate that leaves a height to the table.
+    /// Makes the cells of a reuse identifier.
+    using CellFactory = std::function<Ref<UITableViewCell>()>;
+
+    /// A delegate's way to leave a height to the table.
     static constexpr CGFloat automaticDimension = -1;
-    /// A row that a finger hits safely.
+    /// Prescribed by the phone's platform: a row that a finger hits safely.
     static constexpr CGFloat defaultRowHeight = 44;
+    /// Chosen: a line of text and some space above the rows.
     static constexpr CGFloat defaultSectionHeaderHeight = 28;
+    /// Chosen: a hairline, one pixel at a scale of 2.
     static constexpr CGFloat separatorHeight = 0.5;
+    /// Chosen by eye: the shortest delay with which scrolling does not flash.
     static constexpr NSTimeInterval highlightDelay = 0.08;
+    /// Chosen by eye: long enough to be seen.
     static constexpr NSTimeInterval tapDuration = 0.1;
-    /// More rows than any screen shows; the bound keeps a huge frame from filling the memory.
+    /// Chosen as more rows than any screen shows; it keeps a huge frame from filling the memory.
     static constexpr NSInteger highestVisibleCount = 1000;
-    /// So many rows in a row that cannot be tapped are passed over by a key; beyond them the focus stays where it is.
+    /// A key skips this many rows in sequence that cannot be tapped; beyond them the focus stays
+    /// where it is. Chosen: so many queries still take no time that a user notices.
     static constexpr int highestPassedCount = 100;
 
-    WeakRef<UITableViewDataSource> dataSource() const { return dataSource_; }
-    void setDataSource(WeakRef<UITableViewDataSource> dataSource);
-    WeakRef<UITableViewDelegate> delegate() const { return delegate_; }
-    void setDelegate(WeakRef<UITableViewDelegate> delegate);
+    UITableView();
+    ~UITableView() override;
 
-    /// In points; `automaticDimension` is the default, other negative heights and NaN are 0, and a height above 0 is at least 1.
+    WeakRef<UITableViewDataSource> dataSource() const { return dataSource_; }
+    void setDataSource(WeakRef<UITableViewDataSource> dataSource) {
+        dataSource_ = std::move(dataSource);
+        reloadData();
+    }
+    WeakRef<UITableViewDelegate> delegate() const { return delegate_; }
+    void setDelegate(WeakRef<UITableViewDelegate> delegate) {
+        delegate_ = std::move(delegate);
+        reloadData();
+    }
+
+    /// In points. `automaticDimension` is the default, other negative heights and NaN are 0, and a
+    /// height above 0 is at least 1.
     CGFloat rowHeight() const { return rowHeight_; }
     void setRowHeight(CGFloat height);
-    /// Of sections with a title; as for rows.
+    /// Of sections with a title; clamped as for rows.
     CGFloat sectionHeaderHeight() const { return sectionHeaderHeight_; }
     void setSectionHeaderHeight(CGFloat height);
     /// Of the hairlines between the rows of a section; nothing draws none.
     std::optional<UIColor> separatorColor() const { return separatorColor_; }
-    void setSeparatorColor(std::optional<UIColor> color);
+    void setSeparatorColor(std::optional<UIColor> color) {
+        if (color == separatorColor_) return;
+        separatorColor_ = color;
+        setNeedsDisplay();
+    }
 
     // Cells
 
     /// Cells for this identifier are of this class, made with the default style.
+    ///
+    /// Registering again empties the identifier's pool: cells made before are not dequeued any
+    /// more, and those in sight stay until they leave. So an application whose cells should take a
+    /// new style registers their class again and calls `reloadData`.
     template <class T>
     void registerClass_forCellReuseIdentifier(const std::string& identifier) {
         registerClass_forCellReuseIdentifier([identifier] { return create<T>(UITableViewCellStyleDefault, identifier); }, identifier);
     }
-    /// Cells for this identifier are made so; they come back if they bear the identifier.
-    void registerClass_forCellReuseIdentifier(UITableViewCells::Factory factory, const std::string& identifier);
-    /// A cell that has left the screen, after its `prepareForReuse`, or a new one; nothing if nobody has registered the identifier.
+    /// As above, with a factory. Its cells are reused if they carry the identifier. An empty
+    /// factory makes none.
+    void registerClass_forCellReuseIdentifier(CellFactory factory, const std::string& identifier);
+    /// A cell that has left the screen, after its `prepareForReuse`, or a new one. Nothing for an
+    /// identifier that is not registered.
     Ref<UITableViewCell> dequeueReusableCellWithIdentifier(const std::string& identifier);
 
-    // Questions
+    // Queries
 
     NSInteger numberOfSections();
     /// 0 for a section that does not exist.
@@ -85,43 +164,51 @@ public:
     CGRect rectForRowAtIndexPath(NSIndexPath path);
     /// Nothing on a header and beside the rows.
     std::optional<NSIndexPath> indexPathForRowAtPoint(CGPoint point);
-    // These lay the table out first, if that is due.
+    // These lay the table out first, if needed.
     /// Nothing for a row that is not in sight.
     Ref<UITableViewCell> cellForRowAtIndexPath(NSIndexPath path);
     /// Nothing for a cell that shows no row.
     std::optional<NSIndexPath> indexPathForCell(const Ref<UITableViewCell>& cell);
     std::vector<NSIndexPath> indexPathsForVisibleRows();
-    /// The row that keys are meant for; nothing before the table has had the focus. It follows insertions and removals; where it goes
-    /// itself, the row that takes its place follows it. A reload holds it to the rows there are.
+    /// The row that keys act on; nothing before the table has had the focus.
+    ///
+    /// It follows insertions and removals; if it is removed, the row that takes its place is
+    /// focused. A reload clamps it to the rows there are.
     std::optional<NSIndexPath> indexPathForFocusedRow();
 
-    // Orders
+    // Changes
 
-    /// Asks for everything anew, once that is needed. Keeps the offset, held to what there is then.
+    /// Queries everything again when it is next needed. Keeps the offset, clamped to the content.
     void reloadData();
-    /// Asks anew for the cells and heights of these rows; the others stay as they are.
+    /// Queries the cells and heights of these rows again; the others stay as they are.
     void reloadRowsAtIndexPaths(const std::vector<NSIndexPath>& paths);
-    /// The data source answers the new counts already, and the paths are those of the new rows. Where the numbers do not add up, this is a
-    /// reload. Rows that stay in sight keep their cells untouched. Everything is in its new place at once, and only drawn on its way there
-    /// for `UITableViewChange::duration`; a change that is higher than the table, or has no window or one that reduces motion, is not
-    /// animated.
+    /// The data source has to return the new counts already, and the paths are those of the new
+    /// rows. If the numbers do not add up, this is a reload. Rows that stay in sight keep their
+    /// cells.
+    ///
+    /// Everything is in its new place at once; only drawing is animated, for a quarter of a
+    /// second. A change that is higher than the table is not animated, nor one without a window or
+    /// in a window that reduces motion.
     void insertRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated);
     /// As an insertion; the paths are those that the rows had before.
     void deleteRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated);
-    /// Scrolls just as far as shows the whole row, or its top if it is higher than the table. Ignored for a row that does not exist.
+    /// Scrolls just far enough to show the whole row, or its top if it is higher than the table.
+    /// Ignored for a row that does not exist.
     void scrollToRowAtIndexPath_animated(NSIndexPath path, bool animated);
+
+    // Overrides
 
     /// From top to bottom.
     std::vector<Ref<UIView>> subviewsInReadingOrder() const override;
     void layoutSubviews() override;
-    /// Also forgets the row that is lit, and draws rows that came or went where they belong.
+    /// Also removes the highlight, and draws rows that came or went where they belong.
     void finishAnimations() override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
     bool keyPressed(const UIKey& key) override;
     bool canBecomeFirstResponder() override;
     void focusDidChange() override;
-    /// Where Tab has come to the table itself, it is the focused row that comes into sight.
+    /// When Tab comes to the table itself, the focused row scrolls into sight.
     void revealDescendant(CGRect rect) override;
     bool advanceToTime(NSTimeInterval time) override;
 
@@ -133,85 +220,22 @@ protected:
     void drawScrolledViews(UIGraphicsContext& context) override;
 
 private:
-    /// A row in sight. The data source may have left it without a cell.
-    struct Row {
-        NSIndexPath path;
-        Ref<UITableViewCell> cell;
-    };
-    struct Header {
-        NSInteger section = 0;
-        Ref<UILabel> label;
-    };
-    struct Sight {
-        CGFloat top = 0;
-        CGFloat bottom = 0;
-    };
+    class Parts;
 
     Ref<UITableView> self() { return refTo(this); }
-    // Where the rows are: UITableView.cpp.
-    void refreshRows();
-    UITableViewRows askRows();
-    CGFloat askHeight(NSIndexPath path);
-    void fitContent();
-    CGRect rectOf(const UITableViewRows::Span& span) const;
-    // The cells of those in sight: UITableViewShowing.cpp.
-    Sight sight() const;
-    void recycleRowsOutside(Sight sight);
-    void showRow(NSIndexPath path);
-    Ref<UITableViewCell> askCell(NSIndexPath path);
-    void placeCell(const Ref<UITableViewCell>& cell, NSIndexPath path);
-    void showHeaders(Sight sight);
-    void hideHeader(std::size_t index);
-    std::vector<Row>::iterator findRow(NSIndexPath path);
-    Row takeRow(std::size_t index);
-    void retire(const Row& row);
-    void dropLeaving();
-    // Insertions and removals, and how they are drawn: UITableViewChanging.cpp.
-    void change(UITableViewChange::Kind kind, std::vector<NSIndexPath> paths, bool animated);
-    void finishChange();
-    bool showsRowOrHeader(const Ref<UIView>& view) const;
-    void drawChanging(UIGraphicsContext& context);
-    void drawSeparators(UIGraphicsContext& context) const;
-    // Fingers: UITableViewTouches.cpp.
-    void forgetPress();
+    UITableViewContent& content() const;
     void tapRow(NSIndexPath path, NSTimeInterval time);
-    void light(NSIndexPath path);
-    void darken();
-    // Keys: UITableViewKeys.cpp.
-    bool canBeTapped(NSIndexPath path);
-    std::optional<NSIndexPath> tappableRow(std::optional<NSIndexPath> path, bool isDownward);
-    std::optional<NSIndexPath> rowOfKeys();
-    std::optional<NSIndexPath> rowForKey(UIKey::Code code, NSIndexPath present);
-    std::optional<NSIndexPath> rowAPageFrom(NSIndexPath present, bool isDownward) const;
-    void focusRow(NSIndexPath path);
-    void takeFocusFrom(const Ref<UITableViewCell>& cell);
-    CGRect rectToReveal(NSIndexPath path) const;
-    void drawFocus(UIGraphicsContext& context);
 
     WeakRef<UITableViewDataSource> dataSource_;
     WeakRef<UITableViewDelegate> delegate_;
     CGFloat rowHeight_ = defaultRowHeight;
     CGFloat sectionHeaderHeight_ = defaultSectionHeaderHeight;
     std::optional<UIColor> separatorColor_ = UIColor::tertiarySystemFillColor();
-
-    UITableViewRows rows_;
-    bool isStale_ = true;
-    bool isBusy_ = false;    // A question is open.
-    std::vector<Row> shown_; // From top to bottom.
-    UITableViewCells cells_;
-    std::vector<Ref<UITableViewCell>> lent_;    // Handed out for the row that is being asked for.
-    std::vector<Ref<UITableViewCell>> leaving_; // Not to be used again, but perhaps below a finger.
-    std::vector<Header> headers_;
-    std::vector<Ref<UILabel>> spareHeaders_;
-
-    std::optional<UITableViewChange> change_;
-    std::vector<Row> removed_; // By the change that is being drawn.
-
-    std::optional<NSIndexPath> pressed_;
-    std::optional<NSTimeInterval> lightsAt_;
-    std::optional<NSTimeInterval> darkensAt_;
-    Ref<UITableViewCell> lit_;
-    std::optional<NSIndexPath> focused_;
+    std::unique_ptr<Parts> parts_; // Made once, by the constructor.
 };
+
+inline CGFloat UITableViewDelegate::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) {
+    return UITableView::automaticDimension;
+}
 
 } // namespace gx

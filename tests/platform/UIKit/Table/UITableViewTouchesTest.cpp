@@ -1,7 +1,8 @@
 // What fingers and mice do to a table, and to a wheel in one of its rows.
 
-#include "TableSource.h"
-#include "TestWindow.h"
+#include <utility>
+
+#include "TableStage.h"
 #include "WheelSource.h"
 
 using namespace gx;
@@ -10,30 +11,30 @@ using Paths = std::vector<NSIndexPath>;
 namespace {
 
 /// Row 3 cannot be tapped.
-struct TableTouches : testing::Test {
+struct UITableViewTouches : testing::Test {
     Ref<TableSource> source = create<TableSource>();
     Ref<TableListener> listener = create<TableListener>();
     Ref<UITableView> table = tableWithSource(source);
     TestWindow window{table};
     static constexpr CGPoint rowTwo = {160, 110}; // 88 to 132
 
-    TableTouches() {
+    UITableViewTouches() {
         listener->refuses = [](NSIndexPath path) { return path.row == 3; };
         table->setDelegate(listener);
         window.tick(0);
     }
-    bool isLit(NSInteger row) { return table->cellForRowAtIndexPath({0, row})->isHighlighted(); }
+    bool isHighlighted(NSInteger row) { return table->cellForRowAtIndexPath({0, row})->isHighlighted(); }
     CGFloat offset() const { return table->contentOffset().y; }
 };
 
 /// Row 1, from 44 to 260, holds a wheel with one column from x = 120 to 200.
-struct TableWithWheel : TableTouches {
+struct UITableViewWithWheel : UITableViewTouches {
     Ref<WheelSource> wheelSource = create<WheelSource>();
     Ref<UIPickerView> wheel = wheelWithSource(wheelSource);
     static constexpr CGPoint onWheel = {160, 152};
     static constexpr CGPoint besideWheel = {20, 152};
 
-    TableWithWheel() {
+    UITableViewWithWheel() {
         wheelSource->rows = {10};
         source->cell = [this](const Ref<UITableView>& view, NSIndexPath path) {
             if (path.row != 1) return TableSource::usualCell(view, path);
@@ -50,52 +51,59 @@ struct TableWithWheel : TableTouches {
     }
 };
 
-/// Tells when it is no longer lit.
-struct DarkeningCell : UITableViewCell {
-    std::function<void()> whenDark;
+/// Tells when it is no longer highlighted.
+struct HighlightCell : UITableViewCell {
+    std::function<void()> whenHighlightEnds;
 
     void setHighlighted(bool highlighted) override {
         UITableViewCell::setHighlighted(highlighted);
         if (highlighted) return;
-        if (const auto told = std::exchange(whenDark, nullptr)) told();
+        if (const auto told = std::exchange(whenHighlightEnds, nullptr)) told();
     }
 };
 
+struct UITableViewTouchWithoutDelegate : TableStage {};
+
 } // namespace
 
-TEST_F(TableTouches, a_tap_is_told_once) {
+TEST_F(UITableViewTouchWithoutDelegate, HighlightsTheTappedRow) {
+    window.tap({160, 110});
+    EXPECT_TRUE(table->cellForRowAtIndexPath({0, 2})->isHighlighted());
+}
+
+TEST_F(UITableViewTouches, ReportATapOnce) {
     window.tap(rowTwo);
     EXPECT_EQ(listener->taps, Paths({{0, 2}}));
-    EXPECT_TRUE(isLit(2)) << "for a moment, to show that it was felt";
+    EXPECT_TRUE(isHighlighted(2)) << "for a moment, to show that it was felt";
     window.run(0.099);
-    EXPECT_TRUE(isLit(2));
+    EXPECT_TRUE(isHighlighted(2));
     window.run(0.002);
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     window.runUntilStill();
     EXPECT_EQ(listener->taps.size(), 1U);
 }
 
-TEST_F(TableTouches, a_row_lights_up_under_a_finger_that_rests) {
+TEST_F(UITableViewTouches, HighlightARowBelowARestingFinger) {
     window.down(rowTwo);
     window.run(0.079);
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     window.run(0.002);
-    EXPECT_TRUE(isLit(2));
-    EXPECT_FALSE(isLit(1));
+    EXPECT_TRUE(isHighlighted(2));
+    EXPECT_FALSE(isHighlighted(1));
     window.move({160, 118});
-    EXPECT_TRUE(isLit(2));
+    EXPECT_TRUE(isHighlighted(2));
     window.move({160, 119});
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     window.up({160, 119});
     EXPECT_TRUE(listener->taps.empty());
 }
 
-TEST_F(TableTouches, a_finger_that_scrolls_lights_and_taps_nothing) {
+TEST_F(UITableViewTouches, ThatScrollTapNothing) {
     window.down(rowTwo);
     for (int i = 1; i <= 8; ++i) {
         window.tick(TestWindow::frame);
         window.move({160, 110 - 10.0 * i});
-        EXPECT_FALSE(isLit(2));
+        EXPECT_FALSE(isHighlighted(2));
     }
     window.run(0.2);
     window.up({160, 30});
@@ -103,15 +111,15 @@ TEST_F(TableTouches, a_finger_that_scrolls_lights_and_taps_nothing) {
     EXPECT_TRUE(listener->taps.empty());
 }
 
-TEST_F(TableTouches, a_cancelled_finger_taps_nothing) {
+TEST_F(UITableViewTouches, ThatAreCancelledTapNothing) {
     window.down(rowTwo);
     window.run(0.1);
     (*window).touchCancelled_at_time(1, window.now);
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     EXPECT_TRUE(listener->taps.empty());
 }
 
-TEST_F(TableTouches, a_finger_that_stops_the_rows_taps_nothing) {
+TEST_F(UITableViewTouches, ThatStopTheRowsTapNothing) {
     window.fling({160, 300}, {160, 200}, 5);
     window.run(0.1);
     window.tap(rowTwo);
@@ -121,35 +129,35 @@ TEST_F(TableTouches, a_finger_that_stops_the_rows_taps_nothing) {
     EXPECT_EQ(listener->taps.size(), 1U) << "once they stand, a tap is one";
 }
 
-TEST_F(TableTouches, a_row_that_may_not_light_up_cannot_be_tapped) {
+TEST_F(UITableViewTouches, DoNotTapARowThatIsNotHighlighted) {
     window.down({160, 140}); // row 3
     window.run(0.2);
-    EXPECT_FALSE(isLit(3));
+    EXPECT_FALSE(isHighlighted(3));
     window.up({160, 140});
     EXPECT_TRUE(listener->taps.empty());
 }
 
-TEST_F(TableTouches, a_tapped_row_does_not_stay_chosen) {
+TEST_F(UITableViewTouches, LeaveNoRowSelected) {
     window.tap(rowTwo);
     EXPECT_FALSE(table->cellForRowAtIndexPath({0, 2})->isSelected());
     window.runUntilStill();
     EXPECT_FALSE(table->cellForRowAtIndexPath({0, 2})->isSelected());
 }
 
-TEST_F(TableTouches, a_table_that_disappears_is_dark_and_still_when_it_comes_back) {
+TEST_F(UITableViewTouches, EndWhenTheTableDisappears) {
     window.down(rowTwo);
     window.run(0.1);
-    ASSERT_TRUE(isLit(2));
+    ASSERT_TRUE(isHighlighted(2));
     table->setHidden(true);
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     table->setHidden(false);
     window.up(rowTwo);
     EXPECT_EQ(listener->taps, Paths{}) << "the finger is forgotten";
 
     window.tap(rowTwo);
-    ASSERT_TRUE(isLit(2));
+    ASSERT_TRUE(isHighlighted(2));
     window->finishAnimations();
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     window.tick(0);
     EXPECT_FALSE(window.tick(0));
 
@@ -161,21 +169,22 @@ TEST_F(TableTouches, a_table_that_disappears_is_dark_and_still_when_it_comes_bac
     table->setHidden(false);
     window.runUntilStill();
     EXPECT_EQ(offset(), arrived);
-    EXPECT_NEAR(arrived, 679.4, 0.01); // 80 under the finger, and 1200 points a second run 1200 / 2.002002 further.
+    // 80 under the finger, and 1200 points a second run 1200 / 2.002002 further.
+    EXPECT_NEAR(arrived, 679.4, 0.01);
 }
 
-TEST_F(TableTouches, a_row_tapped_by_another_clock_is_lit_and_darkened_by_the_next_frames) {
+TEST_F(UITableViewTouches, OfAnotherClockHighlightWithTheNextFrames) {
     window->touchBegan_at_time(1, rowTwo, 1e300);
     window.tick(TestWindow::frame);
-    EXPECT_TRUE(isLit(2));
+    EXPECT_TRUE(isHighlighted(2));
     window->touchEnded_at_time(1, rowTwo, 1e300);
-    EXPECT_TRUE(isLit(2));
+    EXPECT_TRUE(isHighlighted(2));
     window.tick(TestWindow::frame);
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
     EXPECT_EQ(listener->taps, Paths({{0, 2}}));
 }
 
-TEST_F(TableTouches, beside_the_rows_there_is_nothing_to_tap) {
+TEST_F(UITableViewTouches, BelowTheRowsTapNothing) {
     source->rows = {2};
     table->reloadData();
     window.tick(0);
@@ -185,17 +194,17 @@ TEST_F(TableTouches, beside_the_rows_there_is_nothing_to_tap) {
     EXPECT_EQ(listener->taps, Paths({{0, 1}}));
 }
 
-TEST_F(TableTouches, a_reload_under_a_finger_takes_its_tap) {
+TEST_F(UITableViewTouches, EndWithAReload) {
     window.down(rowTwo);
     window.run(0.1);
     table->reloadData();
     window.tick(0);
     window.up(rowTwo);
     EXPECT_TRUE(listener->taps.empty());
-    EXPECT_FALSE(isLit(2));
+    EXPECT_FALSE(isHighlighted(2));
 }
 
-TEST_F(TableTouches, so_does_a_row_that_is_shown_anew) {
+TEST_F(UITableViewTouches, EndWithAReloadOfTheirRow) {
     window.down(rowTwo);
     table->reloadRowsAtIndexPaths({{0, 1}});
     window.up(rowTwo);
@@ -206,7 +215,7 @@ TEST_F(TableTouches, so_does_a_row_that_is_shown_anew) {
     EXPECT_EQ(listener->taps.size(), 1U);
 }
 
-TEST_F(TableTouches, a_row_without_a_cell_can_be_tapped) {
+TEST_F(UITableViewTouches, TapARowWithoutACell) {
     source->cell = [](const Ref<UITableView>& view, NSIndexPath path) {
         return path.row == 2 ? nullptr : TableSource::usualCell(view, path);
     };
@@ -214,10 +223,10 @@ TEST_F(TableTouches, a_row_without_a_cell_can_be_tapped) {
     window.tick(0);
     window.tap(rowTwo);
     EXPECT_EQ(listener->taps, Paths({{0, 2}}));
-    EXPECT_FALSE(isLit(1));
+    EXPECT_FALSE(isHighlighted(1));
 }
 
-TEST_F(TableTouches, a_lit_row_that_leaves_goes_dark) {
+TEST_F(UITableViewTouches, RemoveTheHighlightOfARowThatLeaves) {
     source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
     table->reloadData();
     window.tick(0);
@@ -229,7 +238,7 @@ TEST_F(TableTouches, a_lit_row_that_leaves_goes_dark) {
     EXPECT_FALSE(cell->isHighlighted());
 }
 
-TEST_F(TableTouches, rows_that_come_above_a_finger_leave_it_its_row) {
+TEST_F(UITableViewTouches, FollowTheirRowThroughChanges) {
     window.down(rowTwo);
     source->rows = {101};
     table->insertRowsAtIndexPaths_animated({{0, 0}}, false);
@@ -242,7 +251,7 @@ TEST_F(TableTouches, rows_that_come_above_a_finger_leave_it_its_row) {
     EXPECT_EQ(listener->taps.size(), 1U) << "its row is gone";
 }
 
-TEST_F(TableTouches, a_tap_may_reload_or_drop_the_table) {
+TEST_F(UITableViewTouches, MayReloadOrDropTheTable) {
     listener->whenTapped = [this] {
         source->rows = {1};
         table->reloadData();
@@ -261,7 +270,7 @@ TEST_F(TableTouches, a_tap_may_reload_or_drop_the_table) {
     EXPECT_EQ(listener->taps.size(), 2U);
 }
 
-TEST_F(TableTouches, a_cell_that_is_not_reused_goes_also_when_its_finger_is_cancelled) {
+TEST_F(UITableViewTouches, ThatAreCancelledReleaseTheCellBelow) {
     source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
     table->reloadData();
     window.tick(0);
@@ -274,7 +283,7 @@ TEST_F(TableTouches, a_cell_that_is_not_reused_goes_also_when_its_finger_is_canc
     EXPECT_TRUE(touched.expired());
 }
 
-TEST_F(TableTouches, a_finger_on_a_cell_that_is_not_reused_is_followed_to_its_end) {
+TEST_F(UITableViewTouches, KeepTheCellBelowUntilTheyEnd) {
     source->cell = [](const Ref<UITableView>&, NSIndexPath) { return create<UITableViewCell>(); };
     table->reloadData();
     window.tick(0);
@@ -286,7 +295,7 @@ TEST_F(TableTouches, a_finger_on_a_cell_that_is_not_reused_is_followed_to_its_en
     EXPECT_TRUE(touched.expired());
 }
 
-TEST_F(TableWithWheel, a_finger_on_the_wheel_never_scrolls_the_table) {
+TEST_F(UITableViewWithWheel, DoesNotScrollUnderAFingerOnTheWheel) {
     window.down(onWheel);
     window.glide(onWheel, {160, -900}, 30); // far beyond the wheel, its end, and the window
     EXPECT_EQ(offset(), 172);
@@ -300,7 +309,7 @@ TEST_F(TableWithWheel, a_finger_on_the_wheel_never_scrolls_the_table) {
     EXPECT_TRUE(listener->taps.empty());
 }
 
-TEST_F(TableWithWheel, a_finger_beside_the_columns_scrolls_and_taps_the_table) {
+TEST_F(UITableViewWithWheel, ScrollsUnderAFingerBesideTheColumns) {
     window.tap(besideWheel);
     EXPECT_EQ(listener->taps, Paths({{0, 1}}));
     window.drag(besideWheel, {20, 52}, 10);
@@ -308,7 +317,7 @@ TEST_F(TableWithWheel, a_finger_beside_the_columns_scrolls_and_taps_the_table) {
     EXPECT_TRUE(wheelSource->notices.empty());
 }
 
-TEST_F(TableWithWheel, a_mouse_wheel_on_the_wheel_never_scrolls_the_table_not_even_at_its_ends) {
+TEST_F(UITableViewWithWheel, DoesNotScrollByAMouseWheelOnTheWheel) {
     for (int i = 0; i < 12; ++i) {
         EXPECT_TRUE(window.scrollNotches(onWheel, 1));
         window.runUntilStill();
@@ -327,14 +336,14 @@ TEST_F(TableWithWheel, a_mouse_wheel_on_the_wheel_never_scrolls_the_table_not_ev
     EXPECT_EQ(offset(), 172 + 48);
 }
 
-TEST_F(TableWithWheel, a_wheel_goes_on_spinning_while_rows_come_and_go) {
+TEST_F(UITableViewWithWheel, KeepsTheWheelSpinningThroughChanges) {
     wheelSource->rows = {1000};
     wheel->reloadAllComponents();
     window.tick(0);
     window.fling(onWheel, {160, 92}, 4);
     ASSERT_TRUE(wheel->isTurning());
     const auto cell = table->cellForRowAtIndexPath({0, 1});
-    const std::size_t asked = source->asked.size();
+    const std::size_t asked = source->queried.size();
     source->rows = {101};
     table->insertRowsAtIndexPaths_animated({{0, 2}}, true);
     window.run(0.1);
@@ -343,14 +352,14 @@ TEST_F(TableWithWheel, a_wheel_goes_on_spinning_while_rows_come_and_go) {
     window.run(0.1);
     EXPECT_TRUE(wheel->isTurning());
     EXPECT_EQ(table->cellForRowAtIndexPath({0, 0}), cell);
-    for (std::size_t i = asked; i < source->asked.size(); ++i) EXPECT_NE(source->asked[i], (NSIndexPath{0, 1}));
+    for (std::size_t i = asked; i < source->queried.size(); ++i) EXPECT_NE(source->queried[i], (NSIndexPath{0, 1}));
     window.runUntilStill();
     EXPECT_EQ(wheelSource->notices.size(), 1U);
     EXPECT_GT(wheelSource->notices[0].row, 5);
 }
 
-TEST_F(TableTouches, a_cell_that_a_reload_darkens_may_drop_the_table) {
-    const auto cell = create<DarkeningCell>();
+TEST_F(UITableViewTouches, MayDropTheTableWhenTheHighlightIsRemoved) {
+    const auto cell = create<HighlightCell>();
     source->cell = [&cell](const Ref<UITableView>& view, NSIndexPath path) -> Ref<UITableViewCell> {
         if (path.row == 2) return cell;
         return TableSource::usualCell(view, path);
@@ -361,7 +370,7 @@ TEST_F(TableTouches, a_cell_that_a_reload_darkens_may_drop_the_table) {
     ASSERT_TRUE(cell->isHighlighted());
     const WeakRef<UITableView> weak = table;
     bool isAlive = false;
-    cell->whenDark = [&] {
+    cell->whenHighlightEnds = [&] {
         table->removeFromSuperview();
         table = nullptr;
         isAlive = !weak.expired();

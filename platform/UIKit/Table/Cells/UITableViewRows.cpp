@@ -7,14 +7,14 @@
 
 namespace gx {
 
-CGFloat UITableViewRows::heldHeight(CGFloat height) {
-    // Lower rows would be too many to show, higher ones than any screen lie further down than a place is exact.
+CGFloat UITableViewRows::clampedHeight(CGFloat height) {
+    // Chosen: lower rows would be too many to show, and below higher ones positions lose exactness.
     return height > 0 ? std::clamp(height, 1.0, 1e6) : 0;
 }
 
-NSInteger UITableViewRows::heldSectionCount(NSInteger count) { return std::clamp<NSInteger>(count, 0, highestSectionCount); }
+NSInteger UITableViewRows::clampedSectionCount(NSInteger count) { return std::clamp<NSInteger>(count, 0, highestSectionCount); }
 
-NSInteger UITableViewRows::heldRowCount(NSInteger count) { return std::clamp<NSInteger>(count, 0, highestRowCount); }
+NSInteger UITableViewRows::clampedRowCount(NSInteger count) { return std::clamp<NSInteger>(count, 0, highestRowCount); }
 
 void UITableViewRows::addSection(std::optional<std::string> title, CGFloat headerHeight, NSInteger count, CGFloat rowHeight) {
     add({std::move(title), headerHeight, count, rowHeight, {}, {}});
@@ -79,7 +79,7 @@ std::optional<NSInteger> UITableViewRows::firstRowEndingAfter(const Section& sec
         row = std::upper_bound(section.ends.begin(), section.ends.end(), y) - section.ends.begin();
     } else if (section.rowHeight > 0) {
         row = std::max<NSInteger>(0, truncateTo<NSInteger>(std::floor(y / section.rowHeight)));
-        // A quotient that was rounded down names the row before.
+        // A quotient that was rounded down gives the row before.
         if (row < section.count && endOfRow(section, row) <= y) ++row;
     } else {
         return std::nullopt;
@@ -96,8 +96,8 @@ std::optional<NSIndexPath> UITableViewRows::firstRowFromSection(NSInteger sectio
 }
 
 NSInteger UITableViewRows::firstSectionBelow(CGFloat y) const {
-    const auto found =
-        std::upper_bound(sections_.begin(), sections_.end(), y, [](CGFloat place, const Section& s) { return place < s.span.bottom(); });
+    const auto found = std::upper_bound(sections_.begin(), sections_.end(), y,
+                                        [](CGFloat position, const Section& s) { return position < s.span.bottom(); });
     return found - sections_.begin();
 }
 
@@ -134,7 +134,7 @@ std::optional<NSIndexPath> UITableViewRows::previousRow(NSIndexPath path) const 
     return lastRowUpToSection(path.section - 1);
 }
 
-std::optional<NSIndexPath> UITableViewRows::heldRow(NSIndexPath path) const {
+std::optional<NSIndexPath> UITableViewRows::clampedRow(NSIndexPath path) const {
     if (exists(path)) return path;
     const NSInteger section = std::clamp<NSInteger>(path.section, -1, sectionCount() - 1);
     const auto above = lastRowUpToSection(section);

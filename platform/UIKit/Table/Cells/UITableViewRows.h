@@ -9,33 +9,41 @@
 
 namespace gx {
 
-/// Where the sections and rows of a table lie. It knows numbers but no views, and asks nobody anything.
+/// Where the sections and rows of a table lie.
 ///
-/// Sections lie below each other, each with its header, if it has one, above its rows. Rows of one height cost nothing, however many;
-/// others a number each. Finding a row takes no longer in a long section than in a short one, or logarithmically so.
+/// It is a value made of numbers: it knows no views and calls nobody.
+/// - Sections lie below each other, each with its header, if it has one, above its rows.
+/// - Rows of one height take no memory, however many there are; others take one number each.
+/// - Finding a row takes constant or, with heights of their own, logarithmic time.
+///
+/// Invariant: counts and heights are clamped (`clampedHeight` …) before they come here.
 class UITableViewRows {
 public:
-    /// The bounds keep a wrong answer from filling the memory, and places exact.
+    // Chosen: they keep a wrong count from filling the memory, and positions exact.
     static constexpr NSInteger highestSectionCount = 10'000;
     static constexpr NSInteger highestRowCount = 1'000'000'000'000;
-    /// Nobody gives more rows heights of their own; asking for them would make the user wait.
+    /// Sections with more rows have one height for all. Chosen: querying so many heights takes
+    /// longer than a user waits.
     static constexpr NSInteger highestHeightCount = 100'000;
 
-    /// From the top of the content, in points.
+    /// A vertical extent, from the top of the content, in points.
     struct Span {
         CGFloat top = 0;
         CGFloat height = 0;
         CGFloat bottom() const { return top + height; }
         CGFloat middle() const { return top + 0.5 * height; }
     };
+    /// The part of the content for which rows are shown.
+    struct Range {
+        CGFloat top = 0;
+        CGFloat bottom = 0;
+        bool meets(const Span& span) const { return span.bottom() > top && span.top < bottom; }
+    };
 
-    /// A height as it is taken: 0 if it is negative or no number, else 1 to 1 million points.
-    static CGFloat heldHeight(CGFloat height);
-    /// How many there are if somebody answers this.
-    static NSInteger heldSectionCount(NSInteger count);
-    static NSInteger heldRowCount(NSInteger count);
-
-    // Heights here are held already.
+    /// 0 if it is negative or NaN, else from 1 to 1 million points.
+    static CGFloat clampedHeight(CGFloat height);
+    static NSInteger clampedSectionCount(NSInteger count);
+    static NSInteger clampedRowCount(NSInteger count);
 
     void addSection(std::optional<std::string> title, CGFloat headerHeight, NSInteger count, CGFloat rowHeight);
     /// A height for each row.
@@ -54,19 +62,22 @@ public:
     Span spanOfRow(NSIndexPath path) const;
     /// Of a section that exists.
     Span spanOfHeader(NSInteger section) const { return {at(section).span.top, at(section).headerHeight}; }
-    /// The row that covers a place; nothing on headers and beside the rows.
+    /// The row at a position; nothing on headers and beside the rows.
     std::optional<NSIndexPath> rowAt(CGFloat y) const;
-    /// The first row that has a part below a place. Rows without height are left out here and in the next.
+
+    // These skip rows without height.
+
+    /// The first row that has a part below a position.
     std::optional<NSIndexPath> firstRowBelow(CGFloat y) const;
     std::optional<NSIndexPath> nextRow(NSIndexPath path) const;
-    // These leave out rows without height too.
     std::optional<NSIndexPath> previousRow(NSIndexPath path) const;
     std::optional<NSIndexPath> firstRow() const { return firstRowFromSection(0); }
     std::optional<NSIndexPath> lastRow() const { return lastRowUpToSection(sectionCount() - 1); }
-    /// The row that is found where this one may have been: it itself if it exists, else the last one above it, or else the first of all.
-    /// Nothing if there are no rows.
-    std::optional<NSIndexPath> heldRow(NSIndexPath path) const;
-    /// The first section that has a part below a place; the number of sections if there is none.
+    /// The row itself if it exists, else the last one above it, or else the first of all. Nothing
+    /// if there are no rows.
+    std::optional<NSIndexPath> clampedRow(NSIndexPath path) const;
+
+    /// The first section that has a part below a position; the number of sections if none has.
     NSInteger firstSectionBelow(CGFloat y) const;
 
 private:

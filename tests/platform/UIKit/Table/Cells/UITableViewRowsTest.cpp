@@ -10,7 +10,8 @@ namespace {
 
 using Path = std::optional<NSIndexPath>;
 
-/// A header of 20 and three rows of 40; a section without anything; rows of 10, 0, 30, 0 without a header.
+/// Three sections: a header of 20 and three rows of 40; nothing; rows of 10, 0, 30, 0 without a
+/// header.
 UITableViewRows mixedRows() {
     UITableViewRows rows;
     rows.addSection("first", 20, 3, 40);
@@ -21,7 +22,7 @@ UITableViewRows mixedRows() {
 
 } // namespace
 
-TEST(NSIndexPath, is_ordered_from_top_to_bottom) {
+TEST(NSIndexPathTest, IsOrderedFromTopToBottom) {
     constexpr NSIndexPath path = NSIndexPath::indexPathForRow_inSection(5, 2);
     EXPECT_EQ(path, (NSIndexPath{2, 5}));
     EXPECT_LT((NSIndexPath{1, 9}), path);
@@ -30,7 +31,7 @@ TEST(NSIndexPath, is_ordered_from_top_to_bottom) {
     EXPECT_FALSE((NSIndexPath{3, 0}) < path);
 }
 
-TEST(UITableViewRows, lie_below_each_other) {
+TEST(UITableViewRowsTest, LieBelowEachOther) {
     const UITableViewRows rows = mixedRows();
     EXPECT_EQ(rows.height(), 180);
     EXPECT_EQ(rows.spanOfHeader(0).bottom(), 20);
@@ -48,7 +49,7 @@ TEST(UITableViewRows, lie_below_each_other) {
     EXPECT_EQ(rows.rowCount(3), 0);
 }
 
-TEST(UITableViewRows, are_found_by_their_places) {
+TEST(UITableViewRowsTest, AreFoundByPosition) {
     const UITableViewRows rows = mixedRows();
     EXPECT_EQ(rows.rowAt(-0.5), std::nullopt);
     EXPECT_EQ(rows.rowAt(19.9), std::nullopt) << "a header";
@@ -68,7 +69,7 @@ TEST(UITableViewRows, are_found_by_their_places) {
     EXPECT_EQ(rows.firstSectionBelow(180), 3);
 }
 
-TEST(UITableViewRows, follow_each_other_but_for_those_without_height) {
+TEST(UITableViewRowsTest, NextRowSkipsRowsWithoutHeight) {
     const UITableViewRows rows = mixedRows();
     EXPECT_EQ(rows.nextRow({0, 0}), Path({0, 1}));
     EXPECT_EQ(rows.nextRow({0, 2}), Path({2, 0}));
@@ -76,7 +77,7 @@ TEST(UITableViewRows, follow_each_other_but_for_those_without_height) {
     EXPECT_EQ(rows.nextRow({2, 2}), std::nullopt);
 }
 
-TEST(UITableViewRows, of_an_odd_height_are_each_followed_by_the_next) {
+TEST(UITableViewRowsTest, NextRowIsExactForFractionalHeights) {
     UITableViewRows rows;
     rows.addSection("header", 28.3, 1'000'000, 44.1);
     for (NSInteger row = 0; row < 999'999; row += 997) {
@@ -85,7 +86,7 @@ TEST(UITableViewRows, of_an_odd_height_are_each_followed_by_the_next) {
     }
 }
 
-TEST(UITableViewRows, one_row_may_take_another_height) {
+TEST(UITableViewRowsTest, SetHeightMovesTheRowsBelow) {
     UITableViewRows rows = mixedRows();
     rows.setHeight({0, 1}, 50);
     EXPECT_EQ(rows.spanOfRow({0, 0}).height, 40);
@@ -97,17 +98,17 @@ TEST(UITableViewRows, one_row_may_take_another_height) {
     EXPECT_EQ(rows.height(), 190);
 }
 
-TEST(UITableViewRows, take_odd_answers_for_nearby_ones) {
-    EXPECT_EQ(UITableViewRows::heldHeight(-1), 0);
-    EXPECT_EQ(UITableViewRows::heldHeight(std::numeric_limits<double>::quiet_NaN()), 0);
-    EXPECT_EQ(UITableViewRows::heldHeight(0.001), 1);
-    EXPECT_EQ(UITableViewRows::heldHeight(std::numeric_limits<double>::infinity()), 1e6);
-    EXPECT_EQ(UITableViewRows::heldRowCount(-1), 0);
-    EXPECT_EQ(UITableViewRows::heldRowCount(std::numeric_limits<NSInteger>::max()), 1'000'000'000'000);
-    EXPECT_EQ(UITableViewRows::heldSectionCount(10'001), 10'000);
+TEST(UITableViewRowsTest, ClampHeightsAndCounts) {
+    EXPECT_EQ(UITableViewRows::clampedHeight(-1), 0);
+    EXPECT_EQ(UITableViewRows::clampedHeight(std::numeric_limits<double>::quiet_NaN()), 0);
+    EXPECT_EQ(UITableViewRows::clampedHeight(0.001), 1);
+    EXPECT_EQ(UITableViewRows::clampedHeight(std::numeric_limits<double>::infinity()), 1e6);
+    EXPECT_EQ(UITableViewRows::clampedRowCount(-1), 0);
+    EXPECT_EQ(UITableViewRows::clampedRowCount(std::numeric_limits<NSInteger>::max()), 1'000'000'000'000);
+    EXPECT_EQ(UITableViewRows::clampedSectionCount(10'001), 10'000);
 }
 
-TEST(UITableViewRows, go_upwards_over_sections_and_rows_without_height) {
+TEST(UITableViewRowsTest, PreviousRowSkipsRowsWithoutHeight) {
     const UITableViewRows rows = mixedRows();
     EXPECT_EQ(rows.firstRow(), Path({0, 0}));
     EXPECT_EQ(rows.lastRow(), Path({2, 2}));
@@ -120,18 +121,18 @@ TEST(UITableViewRows, go_upwards_over_sections_and_rows_without_height) {
     EXPECT_EQ(UITableViewRows().lastRow(), std::nullopt);
 }
 
-TEST(UITableViewRows, a_place_is_held_to_the_rows_there_are) {
+TEST(UITableViewRowsTest, ClampedRowExists) {
     const UITableViewRows rows = mixedRows();
-    EXPECT_EQ(rows.heldRow({0, 2}), Path({0, 2}));
-    EXPECT_EQ(rows.heldRow({0, 3}), Path({0, 2}));
-    EXPECT_EQ(rows.heldRow({1, 0}), Path({0, 2}));
-    EXPECT_EQ(rows.heldRow({2, 4}), Path({2, 2})) << "the last one with a height";
-    EXPECT_EQ(rows.heldRow({9, 0}), Path({2, 2}));
-    EXPECT_EQ(rows.heldRow({-1, 0}), Path({0, 0}));
-    EXPECT_EQ(UITableViewRows().heldRow({0, 0}), std::nullopt);
+    EXPECT_EQ(rows.clampedRow({0, 2}), Path({0, 2}));
+    EXPECT_EQ(rows.clampedRow({0, 3}), Path({0, 2}));
+    EXPECT_EQ(rows.clampedRow({1, 0}), Path({0, 2}));
+    EXPECT_EQ(rows.clampedRow({2, 4}), Path({2, 2})) << "the last one with a height";
+    EXPECT_EQ(rows.clampedRow({9, 0}), Path({2, 2}));
+    EXPECT_EQ(rows.clampedRow({-1, 0}), Path({0, 0}));
+    EXPECT_EQ(UITableViewRows().clampedRow({0, 0}), std::nullopt);
 }
 
-TEST(UITableViewRows, without_height_are_passed_over_below_their_header) {
+TEST(UITableViewRowsTest, WithoutHeightAreSkippedBelowTheirHeader) {
     UITableViewRows rows;
     rows.addSection("first", 20, 5, 0);
     rows.addSection(std::nullopt, 0, 1, 40);
@@ -141,7 +142,7 @@ TEST(UITableViewRows, without_height_are_passed_over_below_their_header) {
     EXPECT_EQ(rows.rowAt(20), Path(NSIndexPath{1, 0}));
 }
 
-TEST(UITableViewRows, more_than_one_of_a_section_may) {
+TEST(UITableViewRowsTest, SetHeightMayBeUsedForSeveralRows) {
     UITableViewRows rows = mixedRows();
     rows.setHeight({0, 1}, 50);
     rows.setHeight({0, 0}, 10);
@@ -152,7 +153,7 @@ TEST(UITableViewRows, more_than_one_of_a_section_may) {
     EXPECT_EQ(rows.height(), 160);
 }
 
-TEST(UITableViewRows, none_may_in_a_section_too_long_for_that) {
+TEST(UITableViewRowsTest, SetHeightIsIgnoredInAVeryLongSection) {
     UITableViewRows rows;
     rows.addSection(std::nullopt, 0, UITableViewRows::highestHeightCount + 1, 10);
     rows.setHeight({0, 0}, 50);

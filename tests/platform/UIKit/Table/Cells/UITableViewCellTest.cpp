@@ -7,9 +7,7 @@
 
 using namespace gx;
 
-namespace {
-
-TEST(UITableViewCell, keeps_its_style_and_identifier_and_has_the_default_size) {
+TEST(UITableViewCellTest, KeepsStyleAndIdentifier) {
     const auto cell = create<UITableViewCell>(UITableViewCellStyleValue1, "row");
     EXPECT_EQ(cell->style(), UITableViewCellStyleValue1);
     EXPECT_EQ(cell->reuseIdentifier(), "row");
@@ -17,7 +15,7 @@ TEST(UITableViewCell, keeps_its_style_and_identifier_and_has_the_default_size) {
     EXPECT_EQ(create<UITableViewCell>(UITableViewCellStyleDefault, std::nullopt)->reuseIdentifier(), std::nullopt);
 }
 
-TEST(UITableViewCell, its_content_view_fills_it_at_once_however_its_size_changes) {
+TEST(UITableViewCellTest, FillsItselfWithTheContentView) {
     const auto cell = create<UITableViewCell>(UITableViewCellStyleDefault, "row");
     ASSERT_EQ(cell->subviews().size(), 1U);
     EXPECT_EQ(cell->subviews()[0], cell->contentView());
@@ -28,7 +26,7 @@ TEST(UITableViewCell, its_content_view_fills_it_at_once_however_its_size_changes
     EXPECT_EQ(cell->contentView()->frame(), CGRectMake(0, 0, 200, 50));
 }
 
-TEST(UITableViewCell, has_labels_only_when_they_are_asked_for_and_a_value_only_in_its_style) {
+TEST(UITableViewCellTest, MakesLabelsOnFirstUse) {
     const auto plain = create<UITableViewCell>(UITableViewCellStyleDefault, "row");
     EXPECT_TRUE(plain->contentView()->subviews().empty());
     EXPECT_EQ(plain->detailTextLabel(), nullptr);
@@ -39,7 +37,7 @@ TEST(UITableViewCell, has_labels_only_when_they_are_asked_for_and_a_value_only_i
     EXPECT_NE(create<UITableViewCell>(UITableViewCellStyleValue1, "row")->detailTextLabel(), nullptr);
 }
 
-TEST(UITableViewCell, gives_the_value_its_room_first_and_follows_a_text_that_changes) {
+TEST(UITableViewCellTest, TruncatesTheNameBeforeTheValue) {
     const auto cell = create<UITableViewCell>(UITableViewCellStyleValue1, "row");
     cell->textLabel()->setText("Distance");
     cell->detailTextLabel()->setText("5.3 km"); // Ten points a letter.
@@ -58,7 +56,7 @@ TEST(UITableViewCell, gives_the_value_its_room_first_and_follows_a_text_that_cha
     EXPECT_EQ(cell->textLabel()->frame(), CGRectMake(16, 0, 288, 44));
 }
 
-TEST(UITableViewCell, lights_up_while_it_is_highlighted_or_selected_and_not_for_its_next_row) {
+TEST(UITableViewCellTest, IsFilledWhileHighlightedOrSelected) {
     const auto cell = create<UITableViewCell>(UITableViewCellStyleDefault, "row");
     const auto fills = [&cell] {
         RecordingCanvas canvas;
@@ -80,7 +78,7 @@ TEST(UITableViewCell, lights_up_while_it_is_highlighted_or_selected_and_not_for_
     EXPECT_EQ(fills(), 0U);
 }
 
-TEST(UITableViewCell, is_restored_from_a_coder) {
+TEST(UITableViewCellTest, IsRestoredFromACoder) {
     const auto coder = create<NSCoder>();
     coder->encodeCGRect_forKey(CGRectMake(1, 2, 300, 60), "frame");
     coder->encodeInteger_forKey(1, "style");
@@ -99,5 +97,3 @@ TEST(UITableViewCell, is_restored_from_a_coder) {
     coder->encodeInteger_forKey(7, "style");
     EXPECT_EQ(create<UITableViewCell>(coder)->style(), UITableViewCellStyleDefault);
 }
-
-} // namespace

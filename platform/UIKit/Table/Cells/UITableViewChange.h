@@ -8,38 +8,43 @@
 
 namespace gx {
 
-/// Rows that come into a table or leave it, at once: which rows the others become, and where all are drawn on the way. The frames of
-/// cells know nothing of that way.
+/// One insertion or removal of rows: which rows the others become, and where all are drawn while
+/// the change is animated.
+///
+/// Only drawing is animated: frames, paths and offsets are final as soon as the rows change.
+/// Example: where a row of 44 points was inserted at the top, `shiftOf` the next one runs from
+/// -44 to 0.
 class UITableViewChange {
 public:
     enum class Kind { Insertion, Removal };
+    /// Chosen by eye: long enough to see where a row comes from, short enough not to be waited for.
     static constexpr NSTimeInterval duration = 0.25;
 
-    /// What the rows are before and after: nothing if the numbers do not add up to just this change, or a path comes twice. Paths
-    /// are those after an insertion, and before a removal, in any order.
+    /// Paths are those after an insertion, and before a removal, in any order. Nothing if `before`
+    /// and `after` do not differ by just this change, or a path occurs twice.
     static std::optional<UITableViewChange> change(Kind kind, std::vector<NSIndexPath> paths, const UITableViewRows& before,
                                                    const UITableViewRows& after);
 
-    /// What a row from before is now; nothing for one that is gone.
+    /// The path after the change of a row from before; nothing for one that is removed.
     std::optional<NSIndexPath> pathAfter(NSIndexPath before) const;
-
-    /// As `pathAfter`; for a row that is gone, where the row is that has taken its place, or would be if it was the last.
+    /// As `pathAfter`; for a removed row, the path of the row that takes its place, which may lie
+    /// just behind the last one.
     NSIndexPath placeAfter(NSIndexPath before) const;
 
-    // The way. It begins with everything where it was.
+    // The animation. It begins with everything where it was.
 
-    /// By how much the content was moved with the change, since its end has come nearer.
+    /// By how much the content was scrolled by the change, since its end has come nearer.
     void setOffsetChange(CGFloat change) { offsetChange_ = change; }
-    /// How far beyond the screen's edges lies what is drawn on it on the way.
+    /// How far beyond the table's edges rows lie that are drawn inside them meanwhile.
     CGFloat reach() const;
-    /// Answers whether the way goes on.
+    /// Returns whether the animation goes on.
     bool advanceToTime(NSTimeInterval time);
 
-    /// By how much something that lies here now is drawn further down.
+    /// By how much something that now has this position is drawn further down.
     CGFloat shiftOf(const UITableViewRows::Span& span) const;
-    /// How much of a row's height is drawn: from 0 to 1, less than 1 only for a row that comes in.
+    /// How much of a row's height is drawn: less than 1 only for an inserted row.
     double shownShare(NSIndexPath path) const;
-    /// Where a row that leaves is drawn, and how much of it.
+    /// Where a removed row is drawn, and how much of it.
     UITableViewRows::Span spanOfRemovedRow(NSIndexPath before) const;
 
 private:
@@ -55,7 +60,7 @@ private:
     std::vector<Step> steps_; // From top to bottom.
     CGFloat offsetChange_ = 0;
     UIScrollMotion motion_ = UIScrollMotion::ease(1, 0, duration, std::nullopt);
-    double left_ = 1; // Of the way.
+    double left_ = 1; // Of the way, from 1 to 0.
 };
 
 } // namespace gx

@@ -10,7 +10,7 @@ namespace gx {
 
 namespace {
 
-/// How much room name and value need depends on their texts.
+/// Lays the cell out again when its text changes: the widths of name and value depend on both.
 class UITableViewCellLabel : public UILabel {
 protected:
     void textDidChange() override {
@@ -107,12 +107,12 @@ void UITableViewCell::layoutSubviews() {
     UIView::layoutSubviews();
     const CGRect room = contentView_ ? contentView_->bounds() : CGRect{};
     const CGFloat width = std::max(0.0, room.size.width - 2 * labelInset);
-    // Where one reads from right to left, the name stands at the right, and the value at the left.
+    // From right to left, the name is at the right, and the value at the left.
     const auto place = [&room](CGFloat x, CGFloat labelWidth) {
         const CGFloat left = NSLocale::currentLocale()->isRightToLeft() ? room.size.width - x - labelWidth : x;
         return CGRectMake(left, 0, labelWidth, room.size.height);
     };
-    // The value is what one reads a row for: where both are too long, the name is cut before it.
+    // The value is what a row is read for: if both are too long, the name is truncated first.
     CGFloat detailWidth = 0;
     if (detailTextLabel_ && detailTextLabel_->showsSomething()) {
         detailWidth = std::min(width, detailTextLabel_->sizeThatFits(room.size).width);
@@ -131,7 +131,7 @@ void UITableViewCell::drawRect(UIGraphicsContext& context, CGRect rect) {
 
 namespace {
 
-bool takesOrders(const Ref<UIAccessibilityElement>& element) {
+bool canBeOperated(const Ref<UIAccessibilityElement>& element) {
     return element->role() == UIAccessibilityRole::Button || element->role() == UIAccessibilityRole::Adjustable;
 }
 
@@ -139,17 +139,17 @@ bool takesOrders(const Ref<UIAccessibilityElement>& element) {
 
 std::optional<std::string> UITableViewCell::accessibilityLabel() const {
     if (std::optional<std::string> label = UIView::accessibilityLabel()) return label;
-    UIAccessibilityElements quiet;
+    UIAccessibilityElements texts;
     for (const Ref<UIAccessibilityElement>& element : accessibilityElementsOfSubviews(contentView_)) {
-        if (!takesOrders(element)) quiet.push_back(element);
+        if (!canBeOperated(element)) texts.push_back(element);
     }
-    return joinedAccessibilityLabels(quiet);
+    return joinedAccessibilityLabels(texts);
 }
 
 UIAccessibilityElements UITableViewCell::accessibilityElements() {
     UIAccessibilityElements elements = wholeAccessibilityElement(refTo<UIView>(this), UIAccessibilityRole::Button);
     for (const Ref<UIAccessibilityElement>& element : UIView::accessibilityElements()) {
-        if (takesOrders(element)) elements.push_back(element);
+        if (canBeOperated(element)) elements.push_back(element);
     }
     return elements;
 }

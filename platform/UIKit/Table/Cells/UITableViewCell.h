@@ -10,22 +10,28 @@ namespace gx {
 class UILabel;
 
 enum UITableViewCellStyle {
-    UITableViewCellStyleDefault = 0, ///< a text at the left
-    UITableViewCellStyleValue1 = 1 ///< a text at the left and a quieter one, its value, at the right; mirrored where one reads to the left
+    /// A text at the leading edge.
+    UITableViewCellStyleDefault = 0,
+    /// A text at the leading edge and a quieter one, its value, at the trailing edge.
+    UITableViewCellStyleValue1 = 1
 };
 
-/// A row of a table. What it shows goes into its content view, which always fills it.
+/// A row of a table. What it shows goes into its content view.
 ///
-/// A table keeps cells that have left the screen and hands them out again under their reuse identifier, with whatever they
-/// contain: a cell that keeps something from one row to the next lets go of it in `prepareForReuse`.
+/// A table reuses cells that have left the screen for other rows with the same reuse identifier,
+/// with whatever they contain. A cell that must not keep something from one row to the next
+/// resets it in `prepareForReuse`.
+///
+/// Invariant: the content view fills the cell. For rows outside a table, a `UIView` is enough.
 class UITableViewCell : public UIView {
 public:
-    /// The size of a cell until its table gives it another: the width of the smallest phone, and a row that a finger hits safely.
+    /// Until its table gives it another size. Prescribed by the phone's platform: the width of the
+    /// smallest phone, and a row that a finger hits safely.
     static constexpr CGSize defaultSize = {320, 44};
-    /// From the edges to the labels.
+    /// From the edges to the labels. Chosen: the margin of lists on the phone.
     static constexpr CGFloat labelInset = 16;
 
-    /// A cell of `defaultSize`. What another style would add is left out for one that does not exist.
+    /// A cell of `defaultSize`. A style that does not exist adds nothing to the default style.
     virtual bool initWithStyle_reuseIdentifier(UITableViewCellStyle style, const std::optional<std::string>& reuseIdentifier);
     /// Of the default style and without an identifier.
     bool initWithFrame(CGRect frame) override;
@@ -33,23 +39,25 @@ public:
     bool initWithCoder(const Ref<NSCoder>& coder) override;
 
     UITableViewCellStyle style() const { return style_; }
-    /// Under which a table hands the cell out again; nothing for a cell that is not reused.
+    /// Under which a table reuses the cell; nothing for a cell that is not reused.
     const std::optional<std::string>& reuseIdentifier() const { return reuseIdentifier_; }
     const Ref<UIView>& contentView() const { return contentView_; }
 
-    /// Made when first asked for, so that cells with a content of their own go without.
+    /// Made on first use, so that cells with content of their own have none.
     const Ref<UILabel>& textLabel();
     /// Nothing in the default style.
     const Ref<UILabel>& detailTextLabel();
 
-    /// Lit while a finger holds it. Set by the table.
+    /// Filled while a finger is down on it. Set by the table.
     bool isHighlighted() const { return isHighlighted_; }
     virtual void setHighlighted(bool highlighted);
-    /// Lit until it is set otherwise, or shows another row. For who fills the cell; a table leaves nothing chosen.
+    /// Filled until it is deselected or shows another row. For the application: a table selects no
+    /// rows itself.
     bool isSelected() const { return isSelected_; }
     virtual void setSelected(bool selected);
 
-    /// Called by the table before it hands the cell out for another row. Here it is no longer lit.
+    /// Called by the table before it reuses the cell. Here the cell is deselected and loses its
+    /// highlight.
     virtual void prepareForReuse();
 
     void setFrame(CGRect frame) override;
@@ -59,7 +67,8 @@ public:
 
     /// The texts and images in it, joined by ", ", unless a label was set.
     std::optional<std::string> accessibilityLabel() const override;
-    /// Itself as one button, if it has a label, instead of its texts and images; then the buttons and wheels that it contains.
+    /// Itself as one button, if it has a label, instead of its texts and images; then the buttons
+    /// and wheels that it contains.
     UIAccessibilityElements accessibilityElements() override;
 
 private:

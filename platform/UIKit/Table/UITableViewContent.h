@@ -1,0 +1,96 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "UIScrollView.h"
+#include "UITableViewDrawing.h"
+#include "UITableViewHeaders.h"
+#include "UITableViewKeyFocus.h"
+#include "UITableViewPress.h"
+#include "UITableViewRowCache.h"
+#include "UITableViewVisibleRows.h"
+
+namespace gx {
+
+/// What a table shows at present: its parts, and what a reload, a change or a layout does to them.
+///
+/// It knows the table as a scroll view only, and reaches the data source and the delegate through
+/// its client. The parts know each other by constant references alone.
+///
+/// Invariants: every visible row exists in `rows()`; nothing changes them while a query is open.
+class UITableViewContent final : private UITableViewVisibleRows::Client {
+public:
+    /// The data source and the delegate. Every call may do anything but destroy the table.
+    class Client : public UITableViewRowCache::Source, public UITableViewKeyFocus::Client {
+    public:
+        virtual Ref<UITableViewCell> cellForRow(NSIndexPath path) = 0;
+        virtual void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) = 0;
+    };
+
+    UITableViewContent(UIScrollView& table, Client& client, int highestSkippedCount)
+        : table_(table), client_(client), cache_(client), visible_(table, *this), press_(visible_),
+          focus_(cache_.rows(), client, highestSkippedCount), drawing_(table, cache_.rows(), visible_, headers_, change_) {}
+
+    const UITableViewRows& rows() const { return cache_.rows(); }
+    /// Whether a callback is running that has to see what was cached before.
+    bool isQuerying() const { return cache_.isQuerying(); }
+    UITableViewVisibleRows& visible() { return visible_; }
+    UITableViewPress& press() { return press_; }
+    UITableViewKeyFocus& focus() { return focus_; }
+    const UITableViewDrawing& drawing() const { return drawing_; }
+
+    CGRect rectOfRow(NSIndexPath path) const { return rectOf(rows().spanOfRow(path)); }
+    /// With the header above a section's first row, which says what the rows are about.
+    CGRect rectOfRowAndHeader(NSIndexPath path) const;
+    /// The visible rows that have a part in the table's bounds.
+    std::vector<NSIndexPath> pathsInBounds() const;
+
+    /// The row that keys act on; nothing if no row can be tapped.
+    std::optional<NSIndexPath> focusedRow();
+    /// The row scrolls into sight, in all views that scroll around it.
+    void focusRow(NSIndexPath path);
+    /// The focused row, if the window shows where the focus is.
+    std::optional<NSIndexPath> rowToMark() const;
+    /// Without a window there is no clock, and nothing is highlighted.
+    void highlightTap_until(NSIndexPath path, NSTimeInterval time);
+
+    /// Everything is queried again when it is next needed.
+    void invalidate();
+    /// Brings counts, titles and heights up to date, unless a query is open.
+    void refresh();
+    /// Shows at most so many rows. Returns false if that has to wait for an open query.
+    bool layOut(NSInteger highestVisibleCount);
+
+    void reloadRows(const std::vector<NSIndexPath>& paths);
+    /// The change arrives at once unless it is animated. What cannot be this change is a reload.
+    void applyChange(UITableViewChange::Kind kind, const std::vector<NSIndexPath>& paths, bool animated);
+    bool isChanging() const { return change_.has_value(); }
+    /// Draws all rows in their places from now on.
+    void finishChange();
+    void advanceToTime(NSTimeInterval time);
+
+private:
+    Ref<UIView> self() const { return refTo<UIView>(&table_); }
+    void animate();
+    CGRect rectOf(const UITableViewRows::Span& span) const;
+    UITableViewRows::Range range() const;
+    void fitContent();
+
+    Ref<UITableViewCell> cellForRow(NSIndexPath path) override { return client_.cellForRow(path); }
+    void removeHighlightFromCell(const Ref<UITableViewCell>& cell) override { press_.removeHighlightFromCell(cell); }
+    void takeFocusFromCell(const Ref<UITableViewCell>& cell) override;
+    void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) override { client_.didEndDisplayingCell(cell, path); }
+
+    UIScrollView& table_;
+    Client& client_;
+    UITableViewRowCache cache_;
+    UITableViewVisibleRows visible_;
+    UITableViewHeaders headers_;
+    std::optional<UITableViewChange> change_;
+    UITableViewPress press_;
+    UITableViewKeyFocus focus_;
+    UITableViewDrawing drawing_;
+};
+
+} // namespace gx
