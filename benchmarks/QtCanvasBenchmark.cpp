@@ -1,5 +1,5 @@
-// A frame of a spinning wheel of three columns on a Qt image, with the canvas that copies row images and, for the
-// ratio, with one that draws the same rows naively as text.
+// A frame of a spinning wheel of three columns on a Qt image, with the canvas that copies row
+// images and, for the ratio, with one that draws the same rows naively as text.
 
 #include <benchmark/benchmark.h>
 

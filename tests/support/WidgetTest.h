@@ -8,8 +8,8 @@
 #include "UIViewWidget.h"
 #include "WheelSource.h"
 
-/// A widget of 320 by 216 points on the screen, showing a wheel of two columns of 80 points by 40 at x 77.5 and 162.5,
-/// each on row 10 of 100. The clock is turned by hand.
+/// A widget of 320 by 216 points on the screen, showing a wheel of two columns of 80 points by 40
+/// at x 77.5 and 162.5, each at row 10 of 100. The clock is advanced by hand.
 struct WidgetTest : testing::Test {
     explicit WidgetTest(gx::NSInteger columns = 2) {
         source->rows.assign(static_cast<std::size_t>(columns), 100);
@@ -36,7 +36,7 @@ struct WidgetTest : testing::Test {
     static constexpr QPoint secondColumn{202, 108};
     static constexpr QPoint beside{20, 108};
 
-    /// One event of a mouse wheel or trackpad. Answers whether it was accepted.
+    /// One event of a mouse wheel or trackpad. Returns whether it was accepted.
     bool wheelEvent(QPoint place, QPoint pixels, QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
         QWheelEvent event(place, widget.mapToGlobal(place), pixels, angle, Qt::NoButton, Qt::NoModifier, phase, false);
         event.ignore();

@@ -1,8 +1,10 @@
 #include "QtAccessibility.h"
 
 #include <algorithm>
+#include <utility>
 
-#include <GXUIPickers/UIViewWidget.h>
+#include <QPointer>
+#include <QWidget>
 
 namespace gx::qt {
 
@@ -17,13 +19,15 @@ bool areSame(const UIAccessibilityElements& one, const UIAccessibilityElements& 
 /// One element of a widget's views.
 class QtAccessibleElement : public QAccessibleInterface, public QAccessibleValueInterface, public QAccessibleActionInterface {
 public:
-    QtAccessibleElement(UIViewWidget* widget, Ref<UIAccessibilityElement> element) : widget_(widget), element_(std::move(element)) {}
+    QtAccessibleElement(QWidget* widget, WeakRef<UIWindow> window, QtAccessibleView::Clock clock, Ref<UIAccessibilityElement> element)
+        : widget_(widget), window_(std::move(window)), clock_(std::move(clock)), element_(std::move(element)) {}
 
     bool isSameAs(const UIAccessibilityElement& element) const { return element_->isSameAs(element); }
 
     bool isValid() const override {
         const Ref<UIViewNode> view = element_->view();
-        return !widget_.isNull() && view && view->window() == widget_->uiWindow() && element_->exists();
+        const Ref<UIWindow> window = window_.lock();
+        return !widget_.isNull() && window && view && view->window() == window && element_->exists();
     }
     QObject* object() const override { return nullptr; }
     QAccessibleInterface* parent() const override { return widget_ ? QAccessible::queryAccessibleInterface(widget_.data()) : nullptr; }
@@ -63,11 +67,11 @@ public:
             state.invalid = true;
             return state;
         }
-        const bool takesOrders = !actionNames().isEmpty();
-        state.disabled = !widget_->isEnabled() || (takesOrders && !element_->isEnabled());
+        const bool hasActions = !actionNames().isEmpty();
+        state.disabled = !widget_->isEnabled() || (hasActions && !element_->isEnabled());
         state.invisible = !widget_->isVisible();
         state.offscreen = !rect().intersects(QRect(widget_->mapToGlobal(QPoint()), widget_->size()));
-        state.readOnly = !takesOrders;
+        state.readOnly = !hasActions;
         return state;
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -83,7 +87,7 @@ public:
     void setCurrentValue(const QVariant& value) override {
         bool isNumber = false;
         const NSInteger row = value.toLongLong(&isNumber);
-        if (isNumber && takesOrders()) Ref<UIAccessibilityElement>(element_)->setIndex(row);
+        if (isNumber && canAct()) Ref<UIAccessibilityElement>(element_)->setIndex(row);
     }
     QVariant minimumValue() const override { return isValid() ? QVariant(rowOf(0)) : QVariant(); }
     QVariant maximumValue() const override { return isValid() ? QVariant(rowOf(element_->count() - 1)) : QVariant(); }
@@ -100,45 +104,44 @@ public:
         }
     }
     void doAction(const QString& name) override {
-        if (!takesOrders() || !actionNames().contains(name)) return;
-        // What is told of it may drop the widget, and with that this interface.
+        if (!canAct() || !actionNames().contains(name)) return;
+        // The views may drop the widget, and with it this interface.
         const Ref<UIAccessibilityElement> element = element_;
         if (name == increaseAction()) {
             element->increment();
         } else if (name == decreaseAction()) {
             element->decrement();
         } else {
-            element->activateAtTime(widget_->now());
+            element->activateAtTime(clock_());
         }
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
     static qlonglong rowOf(NSInteger row) { return row; }
-    bool takesOrders() const { return isValid() && widget_->isEnabled(); }
+    bool canAct() const { return isValid() && widget_->isEnabled(); }
 
-    QPointer<UIViewWidget> widget_;
+    QPointer<QWidget> widget_;
+    WeakRef<UIWindow> window_;
+    QtAccessibleView::Clock clock_;
     Ref<UIAccessibilityElement> element_;
 };
 
 } // namespace
 
-QtAccessibleView::QtAccessibleView(UIViewWidget* widget) : QAccessibleWidget(widget, QAccessible::Grouping) {}
+QtAccessibleView::QtAccessibleView(QWidget* widget, WeakRef<UIWindow> window, Clock clock)
+    : QAccessibleWidget(widget, QAccessible::Grouping), window_(std::move(window)), clock_(std::move(clock)) {}
 
 QtAccessibleView::~QtAccessibleView() {
     for (const Known& known : known_) QAccessible::deleteAccessibleInterface(known.identifier);
 }
 
-UIViewWidget* QtAccessibleView::view() const { return dynamic_cast<UIViewWidget*>(object()); }
-
 UIAccessibilityElements QtAccessibleView::elements() const {
-    const UIViewWidget* const widget = view();
-    if (!widget) return {};
-    const Ref<UIWindow> window = widget->uiWindow(); // Who is asked may drop the widget.
-    return window->accessibilityElements();
+    const Ref<UIWindow> window = window_.lock(); // The views may drop the widget meanwhile.
+    return window && object() ? window->accessibilityElements() : UIAccessibilityElements();
 }
 
-void QtAccessibleView::forgetViewsThatAreGone() const {
+void QtAccessibleView::removeExpired() const {
     std::erase_if(known_, [](const Known& known) {
         if (known.element->view()) return false;
         QAccessible::deleteAccessibleInterface(known.identifier);
@@ -150,8 +153,9 @@ QtAccessibleView::Known& QtAccessibleView::knownFor(const Ref<UIAccessibilityEle
     const auto entry =
         std::find_if(known_.begin(), known_.end(), [&element](const Known& known) { return known.element->isSameAs(*element); });
     if (entry != known_.end()) return *entry;
-    forgetViewsThatAreGone();
-    auto* const made = new QtAccessibleElement(view(), element); // Qt's from here on.
+    removeExpired();
+    // Owned by Qt from here on.
+    auto* const made = new QtAccessibleElement(widget(), window_, clock_, element);
     known_.push_back({element, QAccessible::registerAccessibleInterface(made), value});
     return known_.back();
 }
@@ -168,20 +172,20 @@ QAccessibleInterface* QtAccessibleView::child(int index) const {
 QAccessibleInterface* QtAccessibleView::interfaceOf(const Ref<UIAccessibilityElement>& element) const {
     const QPointer<QObject> widget = object();
     const QString value = textOf(element->value());
-    if (!widget) return nullptr; // Who was asked has dropped it, and this with it.
+    if (!widget) return nullptr; // The views have dropped it, and this with it.
     return QAccessible::accessibleInterface(knownFor(element, value).identifier);
 }
 
 int QtAccessibleView::indexOfChild(const QAccessibleInterface* child) const {
-    const auto* const asked = dynamic_cast<const QtAccessibleElement*>(child);
-    if (!asked) return -1;
+    const auto* const known = dynamic_cast<const QtAccessibleElement*>(child);
+    if (!known) return -1;
     const UIAccessibilityElements elements = this->elements();
-    const auto entry = std::find_if(elements.begin(), elements.end(), [asked](const auto& element) { return asked->isSameAs(*element); });
+    const auto entry = std::find_if(elements.begin(), elements.end(), [known](const auto& element) { return known->isSameAs(*element); });
     return entry == elements.end() ? -1 : static_cast<int>(entry - elements.begin());
 }
 
 QAccessibleInterface* QtAccessibleView::childAt(int x, int y) const {
-    // What is read last lies on top.
+    // What is read last is on top.
     const QPointer<QObject> widget = object();
     const UIAccessibilityElements elements = this->elements();
     for (std::size_t i = elements.size(); widget && i-- > 0;) {
@@ -203,7 +207,7 @@ void QtAccessibleView::announceChanges(Sender send) {
     for (const Ref<UIAccessibilityElement>& element : present) {
         if (element->role() != UIAccessibilityRole::Adjustable) continue;
         const QString value = textOf(element->value());
-        if (!widget) return; // Who was told or asked has dropped it, and this with it.
+        if (!widget) return; // A listener or a view has dropped it, and this with it.
         Known& known = knownFor(element, value);
         if (known.value == value) continue;
         known.value = value;
@@ -213,12 +217,7 @@ void QtAccessibleView::announceChanges(Sender send) {
     }
 }
 
-QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
-    auto* const widget = dynamic_cast<UIViewWidget*>(object);
-    return widget ? new QtAccessibleView(widget) : nullptr;
-}
-
-void announceAccessibilityChanges(UIViewWidget& widget) {
+void announceAccessibilityChanges(QWidget& widget) {
     if (!QAccessible::isActive()) return;
     if (auto* const view = dynamic_cast<QtAccessibleView*>(QAccessible::queryAccessibleInterface(&widget))) view->announceChanges();
 }

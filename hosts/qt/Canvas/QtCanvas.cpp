@@ -1,4 +1,4 @@
-#include <GXUIPickers/QtCanvas.h>
+#include "QtCanvas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,7 +18,7 @@ QColor colorOf(const UIColorComponents& color, double alpha) {
     return QColor::fromRgbF(component(color.red), component(color.green), component(color.blue), component(color.alpha * alpha));
 }
 
-/// The nearest whole pixel, held to `everywhere`. Halves go upward, so that neighbours meet.
+/// The nearest whole pixel, clamped to `everywhere`. Halves go upward, so that neighbours meet.
 int pixel(double coordinate) {
     if (std::isnan(coordinate)) return 0;
     return static_cast<int>(
@@ -32,10 +32,10 @@ QRect snapped(const QRectF& area) {
     return {left, top, std::max(pixel(area.right()) - left, 1), std::max(pixel(area.bottom()) - top, 1)};
 }
 
-/// The resolution in which a text is set that is drawn at this scale: the frame's own, or that doubled or halved as often as
-/// it takes. So a row that shrinks little by little while it turns away is drawn from one image all the time.
+/// The resolution in which a text is set that is drawn at this scale: the frame's own, doubled or
+/// halved as often as needed. So a row that shrinks little by little is drawn from one image.
 double resolutionFor(double scale, double baseScale) {
-    constexpr double rounding = 1e-9; // What multiplying scales up and down leaves of exactly the frame's.
+    constexpr double rounding = 1e-9; // Of multiplied scales.
     return baseScale * std::exp2(std::ceil(std::log2(scale / baseScale) - rounding));
 }
 
@@ -56,7 +56,8 @@ void QtCanvas::begin(QPainter& painter) {
     const QTransform device = painter.deviceTransform();
     const bool isClipped = painter.hasClipping();
     QRectF clip = isClipped ? painter.clipBoundingRect() : QRectF();
-    // A painter that is turned or sheared keeps its transform, and its units stand for device pixels.
+    // A painter that is rotated or sheared keeps its transform, and its units count as device
+    // pixels.
     if (device.type() <= QTransform::TxScale && device.isInvertible()) {
         state_.scaleX = device.m11();
         state_.scaleY = device.m22();
@@ -112,9 +113,9 @@ QRectF QtCanvas::mapped(CGRect rect) const {
     return QRectF(x, y, rect.size.width * state_.scaleX, rect.size.height * state_.scaleY).normalized();
 }
 
-/// Answers whether anything of the area is to be seen, and readies the painter's clip.
+/// Returns whether anything of the area is visible, and prepares the painter's clip.
 bool QtCanvas::prepareClip(const QRectF& area) {
-    // Written so that a coordinate that is no number is never seen.
+    // Written so that NaN is never visible.
     const bool isSeen = painter_ != nullptr && state_.alpha > 0 && !state_.clip.isEmpty() && area.left() < state_.clip.right() + 1 &&
                         area.right() > state_.clip.left() && area.top() < state_.clip.bottom() + 1 && area.bottom() > state_.clip.top();
     if (!isSeen) return false;

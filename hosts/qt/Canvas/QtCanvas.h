@@ -6,36 +6,37 @@
 #include <QRect>
 #include <QTransform>
 
-#include <GXUIPickers/GXExport.h>
-#include <GXUIPickers/QtImageCache.h>
-#include <GXUIPickers/QtTextImageCache.h>
+#include "QtImageCache.h"
+#include "QtTextImageCache.h"
 #include <GXUIPickers/UIGraphicsContext.h>
 
 class QPainter;
 
 namespace gx::qt {
 
-/// Draws on a QPainter.
+/// Draws on a QPainter. One canvas may serve all frames of a widget.
 ///
-/// Supports: the whole of `UIGraphicsContext`, on any paint device and at any ratio of device pixels to points. Rectangles
-/// and clips end on whole device pixels; a rectangle never vanishes for being thinner than one. Text is copied from
-/// images (`QtTextImageCache`): at its own size it stands on whole device pixels with its baseline, squeezed or stretched it is placed
-/// between them, so that it moves evenly. Scaling by the painter before the frame keeps text at its own size; a view that scales its text
-/// gets it sharp, but not on whole pixels. A picture whose pixels fit the device's one by one is drawn so.
-/// Does not support: opacity of groups (each piece is made fainter by itself).
+/// - Supports: the whole of `UIGraphicsContext`, on any paint device and at any ratio of device
+///   pixels to points.
+/// - Does not support: opacity of groups (each piece is made fainter by itself).
 ///
-/// Transform, clip and alpha are kept here and not in the painter, whose own states are costly to keep and restore; the painter is
-/// given a clip or an opacity only when something is drawn with another one than before.
+/// Rectangles and clips end on whole device pixels; a rectangle is at least one pixel thick. A
+/// picture whose pixels fit the device's one by one is copied.
 ///
-/// One canvas may serve all frames of a widget.
-class GX_EXPORT QtCanvas : public UIGraphicsContext {
+/// Text is copied from images (`QtTextImageCache`). At its own size, also after a scaling by the
+/// painter before the frame, its baseline lies on whole device pixels. Text that a view scales is
+/// sharp, and placed between pixels, so that it moves evenly.
+///
+/// Invariant: transform, clip and alpha are kept here and not in the painter, whose states are
+/// costly to save and restore. The painter gets a clip or an opacity only when it has to change.
+class QtCanvas : public UIGraphicsContext {
 public:
     explicit QtCanvas(Ref<QtTextEngine> engine = QtTextEngine::shared(),
                       std::shared_ptr<QtTextImageCache> texts = QtTextImageCache::shared(),
                       std::shared_ptr<QtImageCache> pictures = QtImageCache::shared());
 
-    /// Starts a frame with the painter's transform and clip (of a clip that is no rectangle, the bounding one). The painter must
-    /// live until `end`, and nobody else may draw with it meanwhile.
+    /// Starts a frame with the painter's transform and the bounding rectangle of its clip. The
+    /// painter must live until `end`, and nothing else may draw with it meanwhile.
     void begin(QPainter& painter);
     /// Gives the painter back as it was.
     void end();

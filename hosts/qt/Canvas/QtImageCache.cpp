@@ -1,4 +1,4 @@
-#include <GXUIPickers/QtImageCache.h>
+#include "QtImageCache.h"
 
 #include <algorithm>
 
@@ -46,7 +46,7 @@ QImage QtImageCache::imageOfSize(const UIImage& image, double pixelWidth, double
         std::vector<QImage> halvings = {converted(image)};
         return halved(halvings, pixelWidth, pixelHeight);
     }
-    // Another picture may live where one that is gone has lived.
+    // A new picture may have the address of an expired one.
     auto entry = std::find_if(entries_.begin(), entries_.end(),
                               [&image](const Entry& known) { return known.address == &image && !known.picture.expired(); });
     if (entry == entries_.end()) {
@@ -59,11 +59,11 @@ QImage QtImageCache::imageOfSize(const UIImage& image, double pixelWidth, double
     }
     std::vector<QImage>& halvings = entries_.front().halvings;
     const std::size_t before = bytesOf(halvings);
-    QImage answer = halved(halvings, pixelWidth, pixelHeight);
+    QImage result = halved(halvings, pixelWidth, pixelHeight);
     const std::size_t after = bytesOf(halvings);
     byteCount_ += after - before;
     if (after != before) trim();
-    return answer;
+    return result;
 }
 
 void QtImageCache::forget(std::list<Entry>::iterator entry) {

@@ -6,18 +6,17 @@
 
 #include <QImage>
 
-#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIImage.h>
 
 namespace gx::qt {
 
 /// Pictures as Qt draws them, each converted once and halved as often as it is drawn smaller.
 ///
-/// Supports: any `UIImage`; bounded by bytes, but for the picture used last; lets go of pictures that nobody holds any longer. A picture
-/// that is held by no reference at all is converted each time.
-class GX_EXPORT QtImageCache {
+/// It takes any `UIImage`, releases pictures that are not referenced any longer, and is bounded by
+/// bytes, but for the picture used last. A picture without any reference is converted each time.
+class QtImageCache {
 public:
-    /// Enough for a screen full of icons or two photographs.
+    /// Chosen: enough for a screen full of icons or two photographs.
     static constexpr std::size_t defaultCapacity = std::size_t{32} << 20U;
 
     explicit QtImageCache(std::size_t byteCapacity = defaultCapacity) : capacity_(byteCapacity) {}
@@ -25,8 +24,9 @@ public:
     /// The one that canvases share; never empty.
     static const std::shared_ptr<QtImageCache>& shared();
 
-    /// The whole picture, at least as large as asked for or in its full size, but less than twice as large in both directions:
-    /// smooth scaling looks at four pixels for each new one, so it must not leave out others.
+    /// The whole picture, at least of this size or in its full size, but less than twice as large
+    /// in both directions: smooth scaling reads four pixels for each new one and must not skip
+    /// others.
     QImage imageOfSize(const UIImage& image, double pixelWidth, double pixelHeight);
 
     std::size_t byteCount() const { return byteCount_; }

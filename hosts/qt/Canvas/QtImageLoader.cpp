@@ -1,4 +1,4 @@
-#include <GXUIPickers/QtImageLoader.h>
+#include "QtImageLoader.h"
 
 #include <cstring>
 #include <string_view>

@@ -4,13 +4,13 @@
 
 #include <QPainter>
 
-#include <GXUIPickers/QtCanvas.h>
+#include "QtCanvas.h"
 #include <GXUIPickers/UIWindow.h>
 
 namespace gx::qt {
 
 QImage imageOfView(const Ref<UIView>& view, CGSize size, double scale, UIUserInterfaceStyle style) {
-    // What Qt can hold in one image.
+    // Qt's limit for one image.
     constexpr double largestSide = 32767;
     const double width = std::ceil(size.width * scale);
     const double height = std::ceil(size.height * scale);

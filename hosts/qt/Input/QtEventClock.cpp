@@ -1,4 +1,4 @@
-#include <GXUIPickers/QtEventClock.h>
+#include "QtEventClock.h"
 
 #include <algorithm>
 #include <cmath>

@@ -24,8 +24,8 @@ QInputDevice::DeviceType typeOf(const QPointerEvent& event) {
     return event.pointingDevice() ? event.pointingDevice()->type() : QInputDevice::DeviceType::Unknown;
 }
 
-/// Touches come as themselves; the mouse events that a system, or Qt, makes of them would turn everything twice. Those that Qt
-/// makes of a pen come instead of it.
+/// False for the mouse events that a system, or Qt, makes of touches: the touches come as
+/// themselves. Those that Qt makes of a pen come instead of it.
 bool isOfMouse(const QMouseEvent& event) {
     if (event.source() == Qt::MouseEventSynthesizedBySystem) return false;
     const QInputDevice::DeviceType type = typeOf(event);
@@ -89,11 +89,12 @@ UIKey keyOf(const QKeyEvent& event, NSTimeInterval time) {
 bool QtInput::isDown(std::int64_t finger) const { return std::find(down_.begin(), down_.end(), finger) != down_.end(); }
 
 bool QtInput::begin(std::int64_t finger, QPointF place, NSTimeInterval time) {
-    // Noted before views hear of it, since they may hide the widget, which cancels what is down.
+    // Noted before the call, in which views may hide the widget, which cancels what is down.
     if (!isDown(finger)) down_.push_back(finger);
     if (window_->touchBegan_at_time(finger, pointOf(place), time)) return true;
     std::erase(down_, finger);
-    window_->touchCancelled_at_time(finger, time); // Qt sends the rest of the touch to whoever lies around.
+    // Qt sends the rest of the touch to the widgets around.
+    window_->touchCancelled_at_time(finger, time);
     return false;
 }
 
@@ -115,7 +116,7 @@ bool QtInput::touch(const QTouchEvent& event, NSTimeInterval time) {
         cancelAll(time);
         return true;
     }
-    // Fingers on a trackpad move the pointer and scroll; where they lie on it means nothing on the screen.
+    // Fingers on a trackpad move the pointer and scroll; their places are not places on the screen.
     if (typeOf(event) == QInputDevice::DeviceType::TouchPad) return false;
     bool isUsed = false;
     for (const QEventPoint& point : event.points()) {
@@ -158,8 +159,8 @@ bool QtInput::wheel(const QWheelEvent& event, NSTimeInterval time) {
     UIScroll scroll;
     scroll.timestamp = time;
     scroll.locationInWindow = pointOf(event.position());
-    // Where a system reports no phases, Qt calls its pixels unreliable; there the notches tell more. The beginning and the
-    // end of a stroke may come without any distance.
+    // Where a system reports no phases, Qt calls its pixels unreliable; there the notches are
+    // better. The beginning and the end of a stroke may come without any distance.
     const bool hasNotches = !event.angleDelta().isNull();
     const bool hasPhase = event.phase() != Qt::NoScrollPhase;
     if (hasPhase && (!event.pixelDelta().isNull() || !hasNotches)) {
@@ -178,7 +179,8 @@ bool QtInput::wheel(const QWheelEvent& event, NSTimeInterval time) {
 }
 
 bool QtInput::keyPress(const QKeyEvent& event, NSTimeInterval time) {
-    // Qt asks what Tab does before it sends the key, and sends it all the same if nothing does.
+    // Qt calls `focusNextPrevChild` for Tab before it sends the key, and sends it if that returns
+    // false.
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
     return window_->keyDown(keyOf(event, time));
 }

@@ -13,15 +13,17 @@ class QWheelEvent;
 
 namespace gx::qt {
 
-/// Turns Qt's input events into what a window takes.
+/// Converts Qt's input events to those of a window.
 ///
-/// Supports: any number of fingers; the mouse with its left button as one more; mouse wheels, also in fractions of a notch and
-/// sideways; trackpads with strokes and glides; keys, also held ones, and the text that they type. Does not support: pens as such (Qt makes
-/// mouse events of them), gestures, hovering, input methods that compose a text before it is typed.
+/// - Supports: any number of fingers; the mouse with its left button as one more; mouse wheels,
+///   also in fractions of a notch and sideways; trackpads with strokes and glides; keys, also held
+///   ones, and the text that they type.
+/// - Does not support: pens as such (Qt makes mouse events of them), gestures, hovering, input
+///   methods that compose a text before it is typed.
 ///
-/// Times are in seconds on the clock of the window's ticks. Each operation answers whether the event was of use; those
-/// that were not are for whoever lies around the view. What views do meanwhile may drop everything but this object,
-/// which the caller has to hold.
+/// Times are in seconds on the clock of the window's ticks. Each operation returns whether the
+/// event was handled; others are for the widgets around the view. Callbacks of views may drop
+/// everything but this object, so the caller has to keep it alive.
 class QtInput {
 public:
     explicit QtInput(Ref<UIWindow> window) : window_(std::move(window)) {}

@@ -14,7 +14,7 @@
 
 namespace gx::qt {
 
-/// What tells two prepared texts apart. Whoever needs less leaves the rest as it is.
+/// What tells two prepared texts apart. Fields that a cache does not need keep their defaults.
 struct QtTextKey {
     std::string_view text;
     std::uint32_t face = 0;
@@ -26,7 +26,7 @@ struct QtTextKey {
 
 struct GX_EXPORT QtTextKeyHash {
     std::size_t operator()(const QtTextKey& key) const {
-        constexpr std::size_t factor = 31; // Spreads the small numbers; the text is spread well already.
+        constexpr std::size_t factor = 31; // Chosen as an odd prime: spreads the small numbers.
         std::size_t hash = std::hash<std::string_view>()(key.text);
         hash = hash * factor + key.face;
         hash = hash * factor + key.color;
@@ -34,15 +34,17 @@ struct GX_EXPORT QtTextKeyHash {
     }
 };
 
-/// Values that were made of texts, bounded by the sum of their costs: when that grows beyond the capacity,
-/// what was unused for the longest time goes. Finding a value allocates nothing. The value that was inserted last
-/// always stays, whatever it costs.
+/// Values that were made of texts, bounded by the sum of their costs.
+///
+/// Above the capacity, the least recently used values are removed. The value that was inserted last
+/// always stays, whatever it costs. Finding a value allocates nothing.
 template <class Value>
 class QtTextCache {
 public:
     explicit QtTextCache(std::size_t capacity) : capacity_(capacity) {}
 
-    /// Nothing if there is none. What is found counts as used last; it stays where it is until the next insertion.
+    /// Nothing if there is none. A value that is found counts as used last; the pointer is valid
+    /// until the next insertion.
     const Value* find(const QtTextKey& key) {
         const auto place = places_.find(key);
         if (place == places_.end()) return nullptr;

@@ -1,4 +1,4 @@
-#include <GXUIPickers/QtTextEngine.h>
+#include "QtTextEngine.h"
 
 #include <algorithm>
 
@@ -46,7 +46,7 @@ const QtTextEngine::Face& QtTextEngine::faceOfFont(const UIFont& font) {
     });
     if (known != faces_.end()) return (*known)->face;
     if (faces_.size() >= highestFaceCount) faces_.clear();
-    // Qt looks fonts up through the application; its own faces have to be gone before it goes.
+    // Qt looks fonts up through the application, so the shared faces are destroyed before it.
     if (faces_.empty() && this == shared().get()) qAddPostRoutine([] { shared()->purge(); });
     const QFont opened = faceFont(family, font.weight());
     const QFontMetricsF metrics(opened);

@@ -8,31 +8,30 @@
 #include <QFont>
 #include <QFontMetricsF>
 
-#include <GXUIPickers/GXExport.h>
-#include <GXUIPickers/QtTextCache.h>
+#include "QtTextCache.h"
 #include <GXUIPickers/UITextEngine.h>
 
 namespace gx::qt {
 
 /// Measures text with Qt's fonts.
 ///
-/// Supports: one line of text in any script that Qt can shape, with kerning and fallback fonts; sizes in any fraction of
-/// a point; four weights; an interface family for fonts without one. Does not support: line breaks, letter spacing,
-/// font features, italics.
+/// - Supports: one line of text in any script that Qt can shape, with kerning and fallback fonts;
+///   sizes in any fraction of a point; four weights; an interface family for fonts without one.
+/// - Does not support: line breaks, letter spacing, font features, italics.
+/// - Needs a QGuiApplication.
 ///
-/// Qt rounds the size of a font to whole pixels, also one that is given in points. So each face is opened once
-/// at a thousand pixels without hinting, where widths grow evenly with the size, and both measuring and
-/// drawing scale from there: 22.5 points are exactly that, on every screen, and text is as wide as it was measured.
-///
-/// Needs a QGuiApplication.
-class GX_EXPORT QtTextEngine : public UITextEngine {
+/// Qt rounds the size of a font to whole pixels, also one that is given in points. So each face is
+/// opened once at a thousand pixels without hinting, and measuring and drawing scale from there:
+/// 22.5 points are exactly that on every screen, and text is as wide as it was measured.
+class QtTextEngine : public UITextEngine {
 public:
-    /// The pixel size in which faces are opened.
+    /// The pixel size in which faces are opened. Chosen: large enough that rounding does not
+    /// matter.
     static constexpr int facePixelSize = 1000;
 
     /// A family in one weight, whatever the size. Lengths are for a font of one point.
     struct Face {
-        /// Never used again for another face, so it may stand in keys.
+        /// Never used again for another face, so it can be part of keys.
         std::uint32_t identifier;
         QFont font;
         QFontMetricsF metrics;
@@ -46,17 +45,17 @@ public:
     /// The advance width of the text, and the ascent and descent of its font.
     CGSize sizeOfText_font(std::string_view text, const UIFont& font) override;
 
-    /// The family of fonts that name none; empty for the application's own. Texts that are on screen already keep their
-    /// places until they are laid out again, so it is best set before the first view is made.
+    /// The family of fonts that name none; empty for the application's own. Set it before the first
+    /// view is made: texts on screen keep their places until they are laid out again.
     const std::string& interfaceFamily() const { return interfaceFamily_; }
     void setInterfaceFamily(std::string family);
 
     /// Valid until the next call, since the faces kept are few.
     const Face& faceOfFont(const UIFont& font);
-    /// Lets go of all faces and measures; they come back when they are asked for.
+    /// Drops all faces and measures; they are made again when they are needed.
     void purge();
 
-    /// How many texts were measured, other than by remembering them.
+    /// How many texts were measured and not found in the cache.
     std::size_t measureCount() const { return measureCount_; }
 
 private:
@@ -72,9 +71,9 @@ private:
     QtTextCache<double> advances_{highestAdvanceCount};
     std::size_t measureCount_ = 0;
 
-    // More texts than any screen shows; each costs about 150 bytes.
+    // Chosen as more texts than any screen shows; each costs about 150 bytes.
     static constexpr std::size_t highestAdvanceCount = 4096;
-    // More than any application uses; the bound is for one that makes up family names.
+    // Chosen as more than any application uses; the bound is for one that makes up family names.
     static constexpr std::size_t highestFaceCount = 64;
 };
 

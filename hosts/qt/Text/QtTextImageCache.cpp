@@ -1,4 +1,4 @@
-#include <GXUIPickers/QtTextImageCache.h>
+#include "QtTextImageCache.h"
 
 #include <cmath>
 #include <optional>
@@ -10,9 +10,9 @@ namespace gx::qt {
 
 namespace {
 
-// A clear edge, so that an image that is drawn smaller or between pixels fades out and is not cut.
+// Chosen: a clear edge, so that an image drawn smaller or between pixels fades out and is not cut.
 constexpr double margin = 2;
-// Of an entry, beside its pixels.
+// Estimated for an entry, in bytes beside its pixels.
 constexpr std::size_t overhead = 256;
 
 std::optional<QtTextImage> drawnText(const QString& text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {

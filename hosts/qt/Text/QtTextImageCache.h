@@ -5,9 +5,8 @@
 
 #include <QImage>
 
-#include <GXUIPickers/GXExport.h>
-#include <GXUIPickers/QtTextCache.h>
-#include <GXUIPickers/QtTextEngine.h>
+#include "QtTextCache.h"
+#include "QtTextEngine.h"
 
 namespace gx::qt {
 
@@ -20,16 +19,18 @@ struct QtTextImage {
     int baseline = 0;
 };
 
-/// Texts as images, so that drawing one again only copies pixels. A turning wheel draws the same few texts in
-/// each frame, more or less faint; setting the type for it each time costs about ten times as much.
+/// Texts as images, so that drawing one again only copies pixels.
 ///
-/// Supports: any text, font, colour and resolution; bounded by bytes. Does not support: images larger than
-/// `largestSide`, which whoever draws has to draw directly.
-class GX_EXPORT QtTextImageCache {
+/// A spinning wheel draws the same few texts in each frame, more or less faint; setting the type
+/// each time costs about ten times as much.
+///
+/// - Supports: any text, font, colour and resolution; bounded by bytes.
+/// - Does not support: images larger than `largestSide`. The caller draws such text directly.
+class QtTextImageCache {
 public:
-    /// Enough for about a thousand rows of a wheel on a screen with two pixels a point.
+    /// Chosen: about a thousand rows of a wheel on a screen with two pixels a point.
     static constexpr std::size_t defaultCapacity = std::size_t{16} << 20U;
-    /// In pixels.
+    /// In pixels. Chosen: wider than a screen.
     static constexpr int largestSide = 4096;
 
     explicit QtTextImageCache(std::size_t byteCapacity = defaultCapacity) : cache_(byteCapacity) {}
@@ -37,8 +38,8 @@ public:
     /// The one that canvases share; never empty.
     static const std::shared_ptr<QtTextImageCache>& shared();
 
-    /// `pixelsPerEm` is the size of the font in device pixels. Nothing if the image would be too large. What is
-    /// answered stays until the next call.
+    /// `pixelsPerEm` is the size of the font in device pixels. Nothing if the image would be too
+    /// large. The pointer is valid until the next call.
     const QtTextImage* imageOfText(std::string_view text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color);
 
     std::size_t byteCount() const { return cache_.cost(); }

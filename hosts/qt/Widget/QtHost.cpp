@@ -6,15 +6,22 @@
 #include <QTimer>
 
 #include "QtAccessibility.h"
-#include <GXUIPickers/QtImageLoader.h>
-#include <GXUIPickers/QtTextEngine.h>
+#include "QtImageLoader.h"
+#include "QtTextEngine.h"
 #include <GXUIPickers/UIHost.h>
+#include <GXUIPickers/UIViewWidget.h>
 
 namespace gx::qt {
 
 namespace {
 
-/// The application's fonts and timers are about to go.
+/// For `QAccessible::installFactory`: the interfaces of `UIViewWidget`s, nothing for other objects.
+QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
+    auto* const widget = dynamic_cast<UIViewWidget*>(object);
+    return widget ? new QtAccessibleView(widget, widget->uiWindow(), [widget] { return widget->now(); }) : nullptr;
+}
+
+/// The application's fonts and timers are about to be destroyed.
 void uninstall() {
     NSRunLoop::mainRunLoop()->setWakeHandler(nullptr);
     QAccessible::removeFactory(accessibleInterfaceFor);
@@ -23,8 +30,8 @@ void uninstall() {
 }
 
 void pumpRunLoop(QGuiApplication& application) {
-    // A timer fires once in a turn of the event loop. A queued call would be answered within the same turn, and work that queues
-    // itself again would never let events through.
+    // A timer fires once in a pass of the event loop. A queued call would run within the same pass,
+    // so that work which queues itself again would let no events through.
     const QPointer<QTimer> timer = new QTimer(&application);
     timer->setSingleShot(true);
     QObject::connect(timer, &QTimer::timeout, timer, [] { NSRunLoop::mainRunLoop()->runPass(); });
@@ -41,7 +48,7 @@ void installQtHost(QGuiApplication& application, const QtHostOptions& options) {
     UIImageLoader::setShared(std::make_shared<QtImageLoader>());
     NSLocale::setCurrentLocale(localeFromQLocale(options.locale.value_or(QLocale::system())));
     pumpRunLoop(application);
-    QAccessible::installFactory(accessibleInterfaceFor); // Installed again, it is still there but once.
+    QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
     qAddPostRoutine(uninstall);
 }
 

@@ -14,6 +14,8 @@
 #include <QWheelEvent>
 
 #include "QtAccessibility.h"
+#include "QtCanvas.h"
+#include "QtEventClock.h"
 #include "QtInput.h"
 
 namespace gx::qt {
@@ -22,14 +24,14 @@ namespace {
 
 double secondsOf(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) * 1e-9; }
 
-/// Of one frame on the screen; of a usual screen's if the system does not know.
+/// Of one frame on the screen, in seconds.
 double framePeriod(const QScreen* screen) {
-    constexpr double usualRate = 60;
+    constexpr double usualRate = 60; // Of most screens, for a system that reports none.
     const double rate = screen ? screen->refreshRate() : usualRate;
     return 1 / (rate >= 1 ? rate : usualRate);
 }
 
-/// A text that is bright enough to be read on it is bright itself.
+/// A window darker than the middle needs bright text.
 UIUserInterfaceStyle styleOf(const QPalette& palette) {
     constexpr int middle = 128;
     return palette.color(QPalette::Window).lightness() < middle ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
@@ -38,13 +40,14 @@ UIUserInterfaceStyle styleOf(const QPalette& palette) {
 } // namespace
 
 UIViewWidget::UIViewWidget(QWidget* parent)
-    : QWidget(parent), window_(gx::create<UIWindow>(CGRectMake(0, 0, width(), height()))), input_(std::make_shared<QtInput>(window_)) {
+    : QWidget(parent), window_(gx::create<UIWindow>(CGRectMake(0, 0, width(), height()))), input_(std::make_shared<QtInput>(window_)),
+      canvas_(std::make_unique<QtCanvas>()), eventClock_(std::make_unique<QtEventClock>()) {
     steadyClock_.start();
     frameTimer_.setSingleShot(true);
     frameTimer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&frameTimer_, &QTimer::timeout, this, [this] { stepFrame(); });
     setAttribute(Qt::WA_AcceptTouchEvents);
-    setMouseTracking(true);          // A move without a button tells that a release went elsewhere.
+    setMouseTracking(true);          // A move without a button shows that a release went elsewhere.
     setFocusPolicy(Qt::StrongFocus); // A press takes the focus away from where the user was typing.
     followPalette();
     window_->setHost(this); // A new window asks for its first frame.
@@ -91,9 +94,9 @@ void UIViewWidget::changeEvent(QEvent* event) {
 
 void UIViewWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    canvas_.begin(painter);
-    window_->draw(canvas_);
-    canvas_.end();
+    canvas_->begin(painter);
+    window_->draw(*canvas_);
+    canvas_->end();
 }
 
 // Time
@@ -102,7 +105,7 @@ double UIViewWidget::now() const { return ownClock_ ? ownClock_() : secondsOf(st
 
 double UIViewWidget::timeOf(const QInputEvent& event) {
     const double delivery = now();
-    return ownClock_ ? delivery : eventClock_.timeOfEvent(event.timestamp(), delivery);
+    return ownClock_ ? delivery : eventClock_->timeOfEvent(event.timestamp(), delivery);
 }
 
 void UIViewWidget::setClock(std::function<double()> clock, FrameDriver driver) {
@@ -120,8 +123,9 @@ void UIViewWidget::windowNeedsFrame() {
 
 void UIViewWidget::scheduleTick() {
     if (driver_ == FrameDriver::Hand) return;
-    // Timers know whole milliseconds only. Counting from when the last tick should have come keeps the screen's rate on average; a
-    // tick that comes late, or first after a rest, starts the count anew.
+    // Timers take whole milliseconds only. Counting from when the last tick should have come keeps
+    // the screen's rate on average; a tick that comes late, or first after a rest, restarts the
+    // count.
     const double present = secondsOf(steadyClock_);
     nextFrame_ = std::max(nextFrame_ + framePeriod(screen()), present);
     frameTimer_.start(static_cast<int>(std::lround((nextFrame_ - present) * 1000)));
@@ -136,7 +140,7 @@ bool UIViewWidget::stepFrame() {
     if (draws) {
         update();
         scheduleTick();
-        announceAccessibilityChanges(*this); // Who is asked meanwhile may drop the widget.
+        announceAccessibilityChanges(*this); // Callbacks may drop the widget.
     } else {
         frameTimer_.stop();
     }
@@ -145,11 +149,13 @@ bool UIViewWidget::stepFrame() {
 
 void UIViewWidget::giveFeedback(UIFeedback feedback) {
     if (feedback != UIFeedback::SelectionChanged) return;
-    const std::function<void()> handler = wheelTickHandler_; // The handler may be replaced while it runs.
+    // The handler may be replaced while it runs.
+    const std::function<void()> handler = wheelTickHandler_;
     if (handler) handler();
 }
 
-// Input. What the views do may drop the widget, so the input is held and nothing of the widget is used afterwards.
+// Input. Callbacks of views may drop the widget, so each operation keeps the input alive and uses
+// nothing of the widget afterwards.
 
 bool UIViewWidget::event(QEvent* event) {
     const std::shared_ptr<QtInput> input = input_;
@@ -158,12 +164,13 @@ bool UIViewWidget::event(QEvent* event) {
     case QEvent::TouchUpdate:
     case QEvent::TouchEnd:
     case QEvent::TouchCancel: {
-        const auto& touch = *static_cast<QTouchEvent*>(event); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast): the type says so
+        // The type says so
+        const auto& touch = *static_cast<QTouchEvent*>(event); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
         event->setAccepted(input->touch(touch, timeOf(touch)));
         return event->isAccepted();
     }
     case QEvent::WindowDeactivate: {
-        // The fingers' further way goes to another window, and so may their end.
+        // The fingers' further moves go to another window, and so may their end.
         const QPointer<QWidget> self(this);
         input->cancelAll(now());
         return self ? QWidget::event(event) : true;
@@ -187,7 +194,7 @@ bool UIViewWidget::focusNextPrevChild(bool next) {
     const std::shared_ptr<QtInput> input = input_;
     const QPointer<QWidget> self(this);
     if (input->moveFocus(next, now()) || !self) return true;
-    // Where there is no other widget to go to, the next view after the last one is the first.
+    // Without another widget, the first view follows the last one.
     return QWidget::focusNextPrevChild(next) || (!self.isNull() && input->moveFocus(next, now()));
 }
 

@@ -9,55 +9,61 @@
 #include <QWidget>
 
 #include <GXUIPickers/GXExport.h>
-#include <GXUIPickers/QtCanvas.h>
-#include <GXUIPickers/QtEventClock.h>
 #include <GXUIPickers/UIHost.h>
 
 class QInputEvent;
 
 namespace gx::qt {
 
+class QtCanvas;
+class QtEventClock;
 class QtInput;
 
 /// Shows any view in a Qt application. Call `installQtHost` once before the first view is made.
 ///
-/// Supports: one root view that fills the widget; fingers, mouse, mouse wheel, trackpad and keyboard (see `QtInput`); any ratio of device
-/// pixels to points, also one that changes between screens; a light and a dark look, by default the palette's, at either contrast; screen
-/// readers (see `QtAccessibleView`). Events that no view made use of are ignored, so that a QScrollArea around the widget scrolls and
-/// shortcuts work.
+/// - Supports: one root view that fills the widget; fingers, mouse, mouse wheel, trackpad and
+///   keyboard; any ratio of device pixels to points, also one that changes between screens; a light
+///   and a dark look, by default the palette's, at either contrast; screen readers.
+/// - Does not support: pens as such, gestures, hovering, input methods that compose a text.
 ///
-/// Focus. Tab goes through the views that take the focus, and from the last one on to the widget that follows; who comes by Tab begins at
-/// the first view, who comes by Shift and Tab at the last. A widget that is hidden, as when its window closes, settles what moves
-/// in it: delegates of wheels hear of the rows that these were turned to.
+/// **Input.** Events that no view has handled are ignored, so that a QScrollArea around the widget
+/// scrolls and shortcuts work.
 ///
-/// Frames. Nothing runs while nothing changes. A change starts ticks at the screen's refresh rate; each tick moves the views
-/// and has the widget painted, until one finds nothing to draw. Ticks do not depend on the widget being visible.
+/// **Focus.** Tab goes through the views that take the focus, and from the last one to the next
+/// widget. Coming in by Tab begins at the first view, by Shift and Tab at the last. A widget that
+/// is hidden, as when its window closes, finishes all animations: delegates of wheels are notified
+/// of the rows on which these land.
 ///
-/// Time. Frames are on a steady clock that starts with the widget. Input events are brought onto it by their own times
-/// (`QtEventClock`). With a clock of one's own (`setClock`) events happen at the time that it tells on their delivery.
+/// **Frames.** Nothing runs while nothing changes. A change starts ticks at the screen's refresh
+/// rate; each tick moves the views and has the widget painted, until one finds nothing to draw.
+/// Ticks do not depend on the widget being visible.
+///
+/// **Time.** Frames are on a steady clock that starts with the widget, and so are input events, by
+/// their own times. With another clock (`setClock`) events happen at its time on their delivery.
 class GX_EXPORT UIViewWidget : public QWidget, private UIWindowHost {
 public:
     explicit UIViewWidget(QWidget* parent = nullptr);
     ~UIViewWidget() override;
 
-    /// What holds the views; never empty.
+    /// The window that contains the views; never empty.
     const Ref<UIWindow>& uiWindow() const { return window_; }
 
-    /// The view that fills the widget, in place of the one before. Nothing for none. Its present size becomes the widget's
-    /// size hint.
+    /// The view that fills the widget, in place of the one before; nothing for none. Its present
+    /// size becomes the widget's size hint.
     void setRootView(Ref<UIView> view);
     const Ref<UIView>& rootView() const { return rootView_; }
 
-    /// The look that colours are drawn in; nothing (the default) for that of the widget's palette, also when it changes. The widget's own
-    /// background stays the palette's.
+    /// The look that colours are drawn in. Nothing (the default) for that of the widget's palette,
+    /// also when it changes. The widget's own background stays the palette's.
     void setUserInterfaceStyle(std::optional<UIUserInterfaceStyle> style);
     UIUserInterfaceStyle userInterfaceStyle() const { return window_->userInterfaceStyle(); }
 
-    /// How far colours keep apart; normal unless set.
+    /// The contrast that colours are drawn in. Default: normal.
     void setContrast(UIAccessibilityContrast contrast) { window_->setAccessibilityContrast(contrast); }
     UIAccessibilityContrast contrast() const { return window_->accessibilityContrast(); }
 
-    /// Called for each row that passes a wheel's band during a turn by the user: the moment for a click.
+    /// Called for each row that passes a wheel's selection indicator while the user spins it: the
+    /// moment for a click.
     void setWheelTickHandler(std::function<void()> handler) { wheelTickHandler_ = std::move(handler); }
 
     // For tests and recordings
@@ -66,13 +72,13 @@ public:
         Timer, ///< ticks come by themselves
         Hand   ///< only `stepFrame` ticks
     };
-    /// An empty clock gives the widget's own again, and ticks by themselves.
+    /// An empty clock restores the widget's own, and ticks by themselves.
     void setClock(std::function<double()> clock, FrameDriver driver = FrameDriver::Hand);
-    /// One tick, now. Answers whether something was to be drawn.
+    /// One tick, now. Returns whether something was to be drawn.
     bool stepFrame();
     /// The time of what happens now, in seconds on the clock of the frames.
     double now() const;
-    /// Whether a tick is due, by timer or by hand.
+    /// Whether a tick is pending, by timer or by hand.
     bool isFrameDue() const { return isFrameDue_; }
 
     QSize sizeHint() const override;
@@ -103,8 +109,8 @@ private:
     Ref<UIWindow> window_;
     Ref<UIView> rootView_;
     std::shared_ptr<QtInput> input_;
-    QtCanvas canvas_;
-    QtEventClock eventClock_;
+    std::unique_ptr<QtCanvas> canvas_;
+    std::unique_ptr<QtEventClock> eventClock_;
     std::optional<UIUserInterfaceStyle> fixedStyle_;
     std::function<void()> wheelTickHandler_;
     QSize sizeHint_;
@@ -113,7 +119,7 @@ private:
     std::function<double()> ownClock_;
     FrameDriver driver_ = FrameDriver::Timer;
     QTimer frameTimer_;
-    double nextFrame_ = 0; // When a tick that is due should come, on the steady clock.
+    double nextFrame_ = 0; // When the pending tick should come, on the steady clock.
     bool isFrameDue_ = false;
 };
 

@@ -1,4 +1,4 @@
-// What Qt's screen readers hear of a widget with views.
+// What Qt's screen readers get of a widget with views.
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
@@ -65,7 +65,7 @@ TEST_F(QtAccessibility, AColumnIsASpinBoxWithNameAndValue) {
     EXPECT_EQ(interface()->child(-1), nullptr);
 }
 
-TEST_F(QtAccessibility, AColumnsPlaceIsItsStripOnTheScreen) {
+TEST_F(QtAccessibility, AColumnsRectIsItsStripOnTheScreen) {
     // 80 points from 77.5 on cover the pixels 77 to 157.
     EXPECT_EQ(child(0)->rect(), QRect(widget.mapToGlobal(QPoint(77, 0)), QSize(81, 216)));
     const QPoint point = widget.mapToGlobal(secondColumn);
@@ -91,7 +91,7 @@ TEST_F(QtAccessibility, TheValueIsTheRow) {
     EXPECT_EQ(source->notices, (Notices{{25, 0}, {99, 0}}));
 }
 
-TEST_F(QtAccessibility, ActionsTurnAsTheUserDoesAndAreToldOnce) {
+TEST_F(QtAccessibility, ActionsSpinTheWheelAndAreReportedOnce) {
     EXPECT_EQ(child(0)->actionInterface()->actionNames(), (QStringList{increase(), decrease()}));
     act(child(0), increase());
     act(child(0), increase());
@@ -106,7 +106,7 @@ TEST_F(QtAccessibility, ActionsTurnAsTheUserDoesAndAreToldOnce) {
     EXPECT_EQ(source->notices.size(), 2U);
 }
 
-TEST_F(QtAccessibility, ADisabledWidgetTakesNoOrders) {
+TEST_F(QtAccessibility, ActionsAreNoOpsInADisabledWidget) {
     EXPECT_FALSE(child(0)->state().disabled);
     widget.setEnabled(false);
     EXPECT_TRUE(child(0)->state().disabled);
@@ -155,7 +155,7 @@ TEST_F(QtAccessibility, PressingAButtonTapsItInTheMiddle) {
     EXPECT_EQ(cell->taps, (std::vector<CGPoint>{{160, 122}}));
 }
 
-TEST_F(QtAccessibility, AColumnThatIsGoneIsInvalidAndIgnoresOrders) {
+TEST_F(QtAccessibility, AColumnThatIsGoneIsInvalidAndItsActionsAreNoOps) {
     QAccessibleInterface* const second = child(1);
     source->rows = {100};
     wheel->reloadAllComponents();
@@ -186,7 +186,7 @@ TEST_F(QtAccessibility, AViewThatHasLeftTheWidgetIsInvalid) {
     EXPECT_TRUE(source->notices.empty());
 }
 
-TEST_F(QtAccessibility, ListenersHearOfAValueOnceItHasChanged) {
+TEST_F(QtAccessibility, ListenersAreNotifiedOfAChangedValue) {
     using Events = std::vector<std::string>;
     auto* const view = dynamic_cast<gx::qt::QtAccessibleView*>(interface());
     ASSERT_TRUE(view);
@@ -210,7 +210,7 @@ TEST_F(QtAccessibility, ListenersHearOfAValueOnceItHasChanged) {
     EXPECT_EQ(told(), (Events{"reorder", "value 11", "value 20", "reorder"}));
 }
 
-TEST(QtAccessibilityLifetime, ItsInterfacesGoWithTheWidget) {
+TEST(QtAccessibilityLifetime, InterfacesAreDeletedWithTheWidget) {
     const auto source = create<WheelSource>();
     const auto wheel = wheelWithSource(source);
     auto widget = std::make_unique<UIViewWidget>();
@@ -222,7 +222,7 @@ TEST(QtAccessibilityLifetime, ItsInterfacesGoWithTheWidget) {
     EXPECT_FALSE(QAccessible::accessibleInterface(child));
 }
 
-TEST(QtAccessibilityLifetime, WhoIsToldOfATurnMayDropTheWidget) {
+TEST(QtAccessibilityLifetime, ADelegateMayDropTheWidget) {
     const auto source = create<WheelSource>();
     auto wheel = wheelWithSource(source);
     auto widget = std::make_unique<UIViewWidget>();

@@ -53,7 +53,7 @@ TEST(QtCanvas, ANegativeScaleMirrors) {
     EXPECT_EQ(qAlpha(image.pixel(55, 55)), 0);
     const QImage letter = image.copy(0, 0, 60, 40);
     const QRect ink = inkOf(letter);
-    EXPECT_GT(qAlpha(letter.pixel(ink.right() - 1, ink.top() + 2)), 100); // The stem is at the right now.
+    EXPECT_GT(qAlpha(letter.pixel(ink.right() - 1, ink.top() + 2)), 100); // The stem.
     EXPECT_EQ(qAlpha(letter.pixel(ink.left() + 1, ink.top() + 2)), 0);
 }
 
@@ -74,7 +74,7 @@ TEST(QtCanvas, AlphaMultiplies) {
     EXPECT_NEAR(qAlpha(image.pixel(10, 30)), 64, 1);
 }
 
-TEST(QtCanvas, RestoringBringsTransformClipAndAlphaBack) {
+TEST(QtCanvas, RestoresTransformClipAndAlpha) {
     const QImage image = drawn(50, 50, 1, [](QtCanvas& canvas) {
         canvas.saveState();
         canvas.translate(10, 10);
@@ -105,7 +105,7 @@ TEST_P(AtScale, ClipsIntersect) {
     EXPECT_EQ(inkOf(image), QRect(pixels(20), pixels(10), pixels(10), pixels(10)));
 }
 
-TEST(QtCanvas, WithinAnEmptyClipNothingIsSeen) {
+TEST(QtCanvas, AnEmptyClipHidesEverything) {
     const QImage image = drawn(30, 30, 1, [](QtCanvas& canvas) {
         canvas.clipToRect(CGRectMake(0, 0, 10, 10));
         canvas.clipToRect(CGRectMake(20, 20, 10, 10));
@@ -115,7 +115,7 @@ TEST(QtCanvas, WithinAnEmptyClipNothingIsSeen) {
     EXPECT_TRUE(inkOf(image).isEmpty());
 }
 
-TEST(QtCanvas, TheHostsOwnClipAndTransformHold) {
+TEST(QtCanvas, KeepsTheHostsClipAndTransform) {
     QImage image = clearImage(60, 60, 1);
     QPainter painter(&image);
     painter.setClipRect(10, 10, 30, 30);
@@ -130,7 +130,7 @@ TEST(QtCanvas, TheHostsOwnClipAndTransformHold) {
     EXPECT_EQ(painter.clipBoundingRect(), QRectF(-10, -10, 30, 30));
 }
 
-TEST(QtCanvas, ATurnedPainterStaysTurned) {
+TEST(QtCanvas, KeepsTheRotationOfAPainter) {
     QImage image = clearImage(60, 60, 1);
     QPainter painter(&image);
     painter.translate(50, 0);
@@ -142,7 +142,7 @@ TEST(QtCanvas, ATurnedPainterStaysTurned) {
     EXPECT_EQ(inkOf(image), QRect(25, 10, 5, 30));
 }
 
-TEST(QtCanvas, AThinRectangleDoesNotVanish) {
+TEST(QtCanvas, AThinRectangleIsOnePixelThick) {
     const QImage image = drawn(30, 30, 1, [](QtCanvas& canvas) { canvas.fillRect(CGRectMake(0, 10.1, 30, 0.3), red); });
     EXPECT_EQ(inkOf(image), QRect(0, 10, 30, 1));
     EXPECT_EQ(image.pixel(5, 10), 0xffff0000U);
@@ -159,7 +159,7 @@ TEST(QtCanvas, RoundedCornersAreClear) {
     EXPECT_EQ(qAlpha(image.pixel(7, 7)), 255);
 }
 
-TEST(QtCanvas, CoordinatesThatAreNoNumbersDrawNothing) {
+TEST(QtCanvas, NaNDrawsNothing) {
     const double none = std::numeric_limits<double>::quiet_NaN();
     const double endless = std::numeric_limits<double>::infinity();
     const QImage image = drawn(30, 30, 1, [&](QtCanvas& canvas) {
@@ -172,7 +172,7 @@ TEST(QtCanvas, CoordinatesThatAreNoNumbersDrawNothing) {
     EXPECT_TRUE(inkOf(image).isEmpty());
 }
 
-TEST(QtCanvas, WhatIsEndlesslyLargeFillsTheClip) {
+TEST(QtCanvas, AnInfiniteRectangleFillsTheClip) {
     const double endless = std::numeric_limits<double>::infinity();
     const QImage image = drawn(30, 30, 1, [&](QtCanvas& canvas) {
         canvas.clipToRect(CGRectMake(5, 5, 10, 10));

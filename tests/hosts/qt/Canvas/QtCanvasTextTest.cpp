@@ -46,7 +46,7 @@ TEST_P(TextAtScale, ALongTextIsAsWideAsMeasured) {
     EXPECT_GT(ink.width(), (measured - 4) * scale);
 }
 
-TEST_P(TextAtScale, TextAtItsOwnSizeStandsOnWholePixels) {
+TEST_P(TextAtScale, TextAtItsOwnSizeLiesOnWholePixels) {
     const double scale = GetParam();
     const auto textAt = [scale](double x, double y) {
         return drawn(60, 50, scale, [&](QtCanvas& canvas) { canvas.drawText("42", *valueFont(), red, {x, y}); });
@@ -66,7 +66,7 @@ TEST(QtCanvasText, SqueezedTextMovesEvenly) {
     };
     EXPECT_NE(textAt(10), textAt(10.3));
     const QRect ink = inkOf(textAt(10));
-    // Digits are 2048 of 2816 units high: 16 points, here 8, their foot (10 + 21.3 / 2) from the top.
+    // Digits are 2048 of 2816 units high: 16 points, here 8. They end (10 + 21.3 / 2) from the top.
     EXPECT_NEAR(ink.height(), 8, 2);
     EXPECT_NEAR(ink.bottom() + 1, 20.7, 1.5);
 }
@@ -95,14 +95,14 @@ TEST(QtCanvasText, AnEnlargedTextIsSharp) {
         canvas.scale(7, 7);
         canvas.drawText("1", *valueFont(), red, {2, 2});
     });
-    // The foot of the 1 is clear within two pixels, where one that was set at 22 points would fade over seven.
+    // The end of the 1 is clear within two pixels; one set at 22 points would fade over seven.
     const QRect ink = inkOf(image);
     const int stem = ink.right() - 4;
     EXPECT_EQ(qAlpha(image.pixel(stem, ink.bottom() - 2)), 255);
     EXPECT_EQ(qAlpha(image.pixel(stem, ink.bottom() + 1)), 0);
 }
 
-TEST(QtCanvasText, TextTooLargeForAnImageIsDrawnNonetheless) {
+TEST(QtCanvasText, TextTooLargeForAnImageIsDrawnDirectly) {
     const auto texts = std::make_shared<QtTextImageCache>();
     QtCanvas canvas(QtTextEngine::shared(), texts);
     QImage image = clearImage(200, 200, 1);
@@ -119,7 +119,7 @@ TEST(QtCanvasText, TextTooLargeForAnImageIsDrawnNonetheless) {
     EXPECT_NEAR(qAlpha(image.pixel(5, 195)), 128, 1);
 }
 
-TEST(QtCanvasText, FaintTextIsAsMuchFainter) {
+TEST(QtCanvasText, TextHasTheAlphaOfTheCanvas) {
     const auto strongest = [](double alpha) {
         const QImage image = drawn(60, 50, 2, [alpha](QtCanvas& canvas) {
             canvas.multiplyAlpha(alpha);
@@ -137,7 +137,7 @@ TEST(QtCanvasText, FaintTextIsAsMuchFainter) {
     EXPECT_EQ(strongest(std::numeric_limits<double>::quiet_NaN()), 0);
 }
 
-TEST(QtCanvasText, AScaleThatChangesTakesAFewImagesOnly) {
+TEST(QtCanvasText, AChangingScaleNeedsFewImages) {
     const auto texts = std::make_shared<QtTextImageCache>();
     QtCanvas canvas(QtTextEngine::shared(), texts);
     QImage image = clearImage(100, 100, 3);

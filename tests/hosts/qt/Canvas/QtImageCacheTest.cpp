@@ -23,7 +23,7 @@ TEST(QtImageCache, APictureIsConvertedOnce) {
     EXPECT_EQ(cache.byteCount(), 1024U);
 }
 
-TEST(QtImageCache, HalvesAsFarAsTheSizeAskedForAllows) {
+TEST(QtImageCache, HalvesAsFarAsTheSizeAllows) {
     QtImageCache cache;
     const Ref<UIImage> picture = imageOfSide(64);
     EXPECT_EQ(cache.imageOfSize(*picture, 33, 33).width(), 64);
@@ -37,7 +37,7 @@ TEST(QtImageCache, HalvesAsFarAsTheSizeAskedForAllows) {
     EXPECT_EQ(cache.byteCount(), 4U * (4096 + 1024 + 256 + 64 + 16 + 4 + 1));
 }
 
-TEST(QtImageCache, PicturesThatAreGoneAreLetGo) {
+TEST(QtImageCache, ReleasesExpiredPictures) {
     QtImageCache cache;
     cache.imageOfSize(*imageOfSide(16), 16, 16);
     const Ref<UIImage> second = imageOfSide(8);
@@ -46,7 +46,7 @@ TEST(QtImageCache, PicturesThatAreGoneAreLetGo) {
     EXPECT_EQ(cache.byteCount(), 256U);
 }
 
-TEST(QtImageCache, ANewPictureAtTheAddressOfAnOldOneIsItself) {
+TEST(QtImageCache, ANewPictureAtAnOldAddressIsConverted) {
     QtImageCache cache;
     for (int i = 0; i < 50; ++i) {
         const auto value = static_cast<std::uint8_t>(i % 2 == 0 ? 0 : 255);
@@ -55,7 +55,7 @@ TEST(QtImageCache, ANewPictureAtTheAddressOfAnOldOneIsItself) {
     }
 }
 
-TEST(QtImageCache, BeyondItsBytesThePictureUnusedForLongestGoes) {
+TEST(QtImageCache, RemovesTheLeastRecentlyUsedPicture) {
     QtImageCache cache(2 * 256);
     const Ref<UIImage> first = imageOfSide(8);
     const Ref<UIImage> second = imageOfSide(8);

@@ -33,7 +33,7 @@ TEST(QtImageLoader, ReadsPixelsFromTheTopWithTheirAlpha) {
     EXPECT_EQ(bottomLeft, (std::vector<std::uint8_t>{200, 100, 50, 255}));
 }
 
-TEST(QtImageLoader, WhatIsNoPictureGivesNone) {
+TEST(QtImageLoader, ReturnsNothingForOtherFiles) {
     const QTemporaryDir folder;
     EXPECT_FALSE(UIImage::imageWithContentsOfFile(folder.filePath("absent.png").toStdString()));
     QFile file(folder.filePath("text.png"));
@@ -43,7 +43,7 @@ TEST(QtImageLoader, WhatIsNoPictureGivesNone) {
     EXPECT_FALSE(UIImage::imageWithContentsOfFile(file.fileName().toStdString()));
 }
 
-TEST(QtImageLoader, TheNameTellsTheScale) {
+TEST(QtImageLoader, ReadsTheScaleFromTheName) {
     EXPECT_EQ(QtImageLoader::scaleOfFileName("icons/sun.png"), 1);
     EXPECT_EQ(QtImageLoader::scaleOfFileName("icons/sun@2x.png"), 2);
     EXPECT_EQ(QtImageLoader::scaleOfFileName("sun@3x"), 3);

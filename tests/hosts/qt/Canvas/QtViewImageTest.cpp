@@ -35,7 +35,7 @@ TEST(QtViewImage, TheViewIsLaidOutInThatSizeAndDrawnInItsPixels) {
     }
 }
 
-TEST(QtViewImage, AFractionOfAPixelMakesOneMore) {
+TEST(QtViewImage, RoundsPixelsUp) {
     const auto view = create<Canvas>(CGRectZero);
     EXPECT_EQ(imageOfView(view, {10.2, 10}, 1.5, UIUserInterfaceStyle::Light).size(), QSize(16, 15));
 }
@@ -57,7 +57,7 @@ TEST(QtViewImage, WithoutAViewOrPixelsThereIsNoImage) {
     EXPECT_TRUE(imageOfView(view, {1e9, 10}, 1, UIUserInterfaceStyle::Light).isNull());
 }
 
-TEST(QtViewImage, AWheelShowsItsRowsAroundTheBand) {
+TEST(QtViewImage, AWheelShowsItsRowsAroundTheSelectionIndicator) {
     const auto source = create<WheelSource>();
     const Ref<UIPickerView> wheel = wheelWithSource(source);
     wheel->selectRow_inComponent_animated(50, 0, false);
@@ -72,9 +72,11 @@ TEST(QtViewImage, AWheelShowsItsRowsAroundTheBand) {
         }
         return most;
     };
-    EXPECT_GT(strongestIn(QRect(240, 176, 160, 80)), 240);                                  // 50, in the band.
-    EXPECT_LT(strongestIn(QRect(240, 96, 160, 76)), strongestIn(QRect(240, 176, 160, 80))); // 49, above it.
-    EXPECT_GT(strongestIn(QRect(240, 96, 160, 76)), 50);
+    const QRect row50(240, 176, 160, 80);
+    const QRect row49(240, 96, 160, 76);
+    EXPECT_GT(strongestIn(row50), 240);
+    EXPECT_LT(strongestIn(row49), strongestIn(row50));
+    EXPECT_GT(strongestIn(row49), 50);
 }
 
 } // namespace

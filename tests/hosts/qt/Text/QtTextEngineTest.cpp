@@ -15,7 +15,8 @@ struct QtTextEngineTest : testing::Test {
     Ref<QtTextEngine> engine = create<QtTextEngine>();
 };
 
-// The font's own tables: 2816 units an em, ascender 2728, descender −680; "0" is 1760 wide, "m" 2448 and in bold 2568.
+// The font's own tables: 2816 units an em, ascender 2728, descender −680; "0" is 1760 wide, "m"
+// 2448 and in bold 2568.
 // Qt keeps 64ths of a pixel of a thousand.
 constexpr double precision = 1e-3;
 
@@ -53,7 +54,7 @@ TEST_F(QtTextEngineTest, ATextIsMeasuredOnceForAllSizes) {
     EXPECT_EQ(engine->measureCount(), 2U);
 }
 
-TEST_F(QtTextEngineTest, NoMoreThanFourThousandTextsAreRemembered) {
+TEST_F(QtTextEngineTest, BoundsTheNumberOfCachedTexts) {
     for (int i = 0; i < 4097; ++i) width(std::to_string(i), 10);
     EXPECT_EQ(engine->measureCount(), 4097U);
     width("4096", 10);
@@ -68,7 +69,7 @@ TEST_F(QtTextEngineTest, OneFamilyByTwoNamesIsMeasuredAlike) {
     EXPECT_EQ(engine->sizeOfText_font("88 km", *named).width, width("88 km", 22, UIFontWeight::Bold));
 }
 
-TEST_F(QtTextEngineTest, AnotherInterfaceFamilyIsMeasuredAnew) {
+TEST_F(QtTextEngineTest, AnotherInterfaceFamilyIsMeasuredAgain) {
     const Ref<UIFont> font = UIFont::systemFontOfSize_weight(22);
     const auto before = engine->faceOfFont(*font).identifier;
     width("0", 22);
@@ -79,7 +80,7 @@ TEST_F(QtTextEngineTest, AnotherInterfaceFamilyIsMeasuredAnew) {
     EXPECT_EQ(engine->measureCount(), 2U);
 }
 
-TEST_F(QtTextEngineTest, TextThatIsNoUTF8HasAWidthNonetheless) {
+TEST_F(QtTextEngineTest, InvalidUTF8HasAWidth) {
     EXPECT_GT(width("\xff\xfe", 22), 0);
     EXPECT_GT(width(std::string_view("0\0"
                                      "0",

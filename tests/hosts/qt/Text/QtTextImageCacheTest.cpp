@@ -64,7 +64,7 @@ TEST_F(QtTextImageCacheTest, TheInkLiesWithinAClearEdge) {
     }
 }
 
-TEST_F(QtTextImageCacheTest, DigitsStandOnTheBaseline) {
+TEST_F(QtTextImageCacheTest, DigitsEndAtTheBaseline) {
     const QtTextImage* drawnText = cache.imageOfText("1", face(), 88, black);
     ASSERT_NE(drawnText, nullptr);
     EXPECT_EQ(inkOf(drawnText->image).bottom() + 1, drawnText->baseline);
@@ -97,7 +97,7 @@ TEST_F(QtTextImageCacheTest, MeasuringAKnownTextAllocatesNothing) {
     EXPECT_EQ(after, before);
 }
 
-TEST_F(QtTextImageCacheTest, BeyondItsBytesTheImageUnusedForLongestGoes) {
+TEST_F(QtTextImageCacheTest, RemovesTheLeastRecentlyUsedImage) {
     cache.imageOfText("11", face(), 44, black);
     const std::size_t one = cache.byteCount();
     cache.imageOfText("11", face(), 44, 0xff000001);

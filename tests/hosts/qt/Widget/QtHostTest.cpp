@@ -38,7 +38,7 @@ TEST(QtHost, TakesOverLanguageSeparatorAndDirection) {
     EXPECT_EQ(objectForKey(localeFromQLocale(QLocale("de_CH")), NSLocaleDecimalSeparator), ".");
     const Ref<NSLocale> arabic = localeFromQLocale(QLocale("ar_EG"));
     EXPECT_EQ(arabic->characterDirection(), NSLocaleLanguageDirection::RightToLeft);
-    EXPECT_EQ(objectForKey(arabic, NSLocaleDecimalSeparator), "\u066b"); // The Arabic decimal separator.
+    EXPECT_EQ(objectForKey(arabic, NSLocaleDecimalSeparator), "\u066b");
 }
 
 TEST(QtHost, ALocaleWithoutALanguageIsEnglish) {
@@ -47,7 +47,7 @@ TEST(QtHost, ALocaleWithoutALanguageIsEnglish) {
     EXPECT_EQ(objectForKey(locale, NSLocaleDecimalSeparator), ".");
 }
 
-TEST(QtHost, InstallsTheLocaleThatItIsGivenOrTheSystems) {
+TEST(QtHost, InstallsTheGivenOrTheSystemsLocale) {
     installQtHost(application(), {.locale = QLocale("de_DE"), .interfaceFamily = std::nullopt});
     EXPECT_EQ(objectForKey(NSLocale::currentLocale(), NSLocaleDecimalSeparator), ",");
     installQtHost(application());
@@ -58,7 +58,7 @@ TEST(QtHost, InstallsTheLocaleThatItIsGivenOrTheSystems) {
 
 TEST(QtHost, SetsTheInterfaceFamilyOnlyIfOneIsGiven) {
     const std::string before = QtTextEngine::shared()->interfaceFamily();
-    EXPECT_EQ(before, "Inter"); // From the font files, and untouched by the installation after them.
+    EXPECT_EQ(before, "Inter"); // From the font files.
     installQtHost(application(), {.locale = QLocale("en_US"), .interfaceFamily = "Inter Medium"});
     EXPECT_EQ(QtTextEngine::shared()->interfaceFamily(), "Inter Medium");
     installQtHost(application(), {.locale = QLocale("en_US"), .interfaceFamily = before});
@@ -97,7 +97,7 @@ TEST(QtHost, WorkThatQueuesItselfLetsEventsThrough) {
     EXPECT_GT(passes, 1);
 }
 
-TEST(QtHost, WorkThatWasQueuedBeforeTheHostCameIsRun) {
+TEST(QtHost, RunsWorkQueuedBeforeItWasInstalled) {
     NSRunLoop::mainRunLoop()->setWakeHandler(nullptr);
     bool ran = false;
     NSRunLoop::mainRunLoop()->performBlock([&ran] { ran = true; });
@@ -106,7 +106,7 @@ TEST(QtHost, WorkThatWasQueuedBeforeTheHostCameIsRun) {
     EXPECT_TRUE(QTest::qWaitFor([&ran] { return ran; }));
 }
 
-TEST(QtHost, FontFilesThatCannotBeReadAreNamed) {
+TEST(QtHost, ReturnsTheUnreadableFontFiles) {
     const QtFontLoading loading = loadInterfaceFont({"absent.otf", "absent too.otf"});
     EXPECT_FALSE(loading);
     EXPECT_EQ(loading.family, "");

@@ -26,13 +26,13 @@ struct Counter : UIView {
     }
 };
 
-/// A widget of 100 by 80 points with a counter, its own timer and a clock that counts who asks it.
+/// A widget of 100 by 80 points with a counter, its own timer and a clock that counts its queries.
 struct UIViewWidgetFrames : testing::Test {
     UIViewWidgetFrames() {
         steady.start();
         widget.setClock(
             [this] {
-                ++clockQuestions;
+                ++clockQueries;
                 return static_cast<double>(steady.nsecsElapsed()) * 1e-9;
             },
             UIViewWidget::FrameDriver::Timer);
@@ -47,31 +47,31 @@ struct UIViewWidgetFrames : testing::Test {
     }
 
     QElapsedTimer steady;
-    int clockQuestions = 0;
+    int clockQueries = 0;
     Ref<Counter> counter = create<Counter>(CGRectMake(0, 0, 100, 80));
     UIViewWidget widget;
 };
 
 TEST_F(UIViewWidgetFrames, TheFirstFrameComesByItself) { EXPECT_GE(counter->frames, 1); }
 
-TEST_F(UIViewWidgetFrames, AtRestNothingTicksAndNothingIsDrawn) {
+TEST_F(UIViewWidgetFrames, NothingTicksAtRest) {
     const int frames = counter->frames;
-    const int questions = clockQuestions;
+    const int queries = clockQueries;
     QTest::qWait(120);
     EXPECT_EQ(counter->frames, frames);
-    EXPECT_EQ(clockQuestions, questions);
+    EXPECT_EQ(clockQueries, questions);
 }
 
 TEST_F(UIViewWidgetFrames, AChangeIsDrawnOnce) {
     const int frames = counter->frames;
-    const int questions = clockQuestions;
+    const int queries = clockQueries;
     counter->setNeedsDisplay();
     counter->setAlpha(0.5);
     EXPECT_TRUE(widget.isFrameDue());
     EXPECT_EQ(counter->frames, frames); // Not at once.
     EXPECT_TRUE(rests());
     EXPECT_EQ(counter->frames, frames + 1);
-    EXPECT_EQ(clockQuestions, questions + 2); // The tick that draws, and the one that finds nothing more.
+    EXPECT_EQ(clockQueries, queries + 2); // One draws, one finds nothing.
 }
 
 TEST_F(UIViewWidgetFrames, WhatMovesIsDrawnUntilItRests) {
@@ -93,7 +93,7 @@ TEST_F(UIViewWidgetFrames, WhatMovesComesToRestAlsoWhileHidden) {
     EXPECT_EQ(counter->frames, frames);
 }
 
-TEST_F(UIViewWidgetFrames, FramesByHandComeFromNobodyElse) {
+TEST_F(UIViewWidgetFrames, WithFramesByHandTheTimerIsOff) {
     double now = 50;
     widget.setClock([&now] { return now; });
     const int frames = counter->frames;
@@ -139,7 +139,7 @@ TEST_F(UIViewWidgetFrames, TheLookFollowsThePalette) {
     EXPECT_GT(qGray(widget.grab().toImage().pixel(50, 40)), 200);
 }
 
-TEST_F(UIViewWidgetFrames, ALookThatWasSetHolds) {
+TEST_F(UIViewWidgetFrames, ALookThatWasSetStays) {
     QPalette palette = widget.palette();
     palette.setColor(QPalette::Window, Qt::white);
     widget.setPalette(palette);
@@ -152,7 +152,7 @@ TEST_F(UIViewWidgetFrames, ALookThatWasSetHolds) {
     EXPECT_EQ(widget.userInterfaceStyle(), UIUserInterfaceStyle::Light);
 }
 
-TEST_F(UIViewWidgetFrames, TheContrastIsTheWindowsAndHasItDrawnAgain) {
+TEST_F(UIViewWidgetFrames, SettingTheContrastRedraws) {
     EXPECT_EQ(widget.contrast(), UIAccessibilityContrast::Normal);
     EXPECT_TRUE(rests());
     widget.setContrast(UIAccessibilityContrast::High);
@@ -161,7 +161,7 @@ TEST_F(UIViewWidgetFrames, TheContrastIsTheWindowsAndHasItDrawnAgain) {
     EXPECT_TRUE(widget.isFrameDue());
 }
 
-TEST_F(UIViewWidgetFrames, AWidgetWithinAnotherDrawsInItsPlace) {
+TEST_F(UIViewWidgetFrames, AChildWidgetDrawsInItsPlace) {
     QWidget outer;
     outer.resize(300, 200);
     auto* inner = new UIViewWidget(&outer);
@@ -179,7 +179,7 @@ TEST_F(UIViewWidgetFrames, AWidgetWithinAnotherDrawsInItsPlace) {
     EXPECT_EQ(greyAt(82, 58), 255);
 }
 
-TEST_F(WidgetTest, EachRowThatPassesTheBandTicks) {
+TEST_F(WidgetTest, ARowThatPassesTheSelectionIndicatorCallsTheHandler) {
     int ticks = 0;
     widget.setWheelTickHandler([&ticks] { ++ticks; });
     wheelEvent(firstColumn, {}, {0, -360});
@@ -190,7 +190,7 @@ TEST_F(WidgetTest, EachRowThatPassesTheBandTicks) {
     EXPECT_EQ(ticks, 3); // A request by the program does not.
 }
 
-TEST_F(WidgetTest, ATurningWheelSetsNoTextAnew) {
+TEST_F(WidgetTest, ASpinningWheelSetsNoTextAgain) {
     const std::shared_ptr<QtTextImageCache> texts = QtTextImageCache::shared();
     for (const int notches : {-10, 10}) {
         wheelEvent(firstColumn, {}, {0, 120 * notches});

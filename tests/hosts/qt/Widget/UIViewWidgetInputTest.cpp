@@ -18,7 +18,7 @@ struct UIViewWidgetInput : WidgetTest {
     QPointingDevice* screen = device(QInputDevice::DeviceType::TouchScreen);
 };
 
-TEST_F(UIViewWidgetInput, DraggingWithTheMouseTurnsAndIsToldOnce) {
+TEST_F(UIViewWidgetInput, AMouseDragSpinsTheWheelAndIsReportedOnce) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, firstColumn);
     for (int y = 100; y >= 28; y -= 8) {
         step(0.016);
@@ -49,7 +49,7 @@ TEST_F(UIViewWidgetInput, ADoubleClickIsTwoTaps) {
     EXPECT_EQ(source->notices, (Notices{{11, 0}, {12, 0}}));
 }
 
-TEST_F(UIViewWidgetInput, OtherButtonsTurnNothing) {
+TEST_F(UIViewWidgetInput, OtherButtonsDoNothing) {
     QTest::mousePress(&widget, Qt::RightButton, {}, firstColumn);
     QTest::mouseMove(&widget, {117, 28});
     run(0.2);
@@ -59,7 +59,7 @@ TEST_F(UIViewWidgetInput, OtherButtonsTurnNothing) {
     EXPECT_FALSE(wheel->isTurning());
 }
 
-TEST_F(UIViewWidgetInput, AReleaseThatWentElsewhereLetsGo) {
+TEST_F(UIViewWidgetInput, AReleaseElsewhereEndsTheDrag) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, firstColumn);
     step(0.016);
     QTest::mouseMove(&widget, {117, 62});
@@ -68,13 +68,13 @@ TEST_F(UIViewWidgetInput, AReleaseThatWentElsewhereLetsGo) {
     QMouseEvent hover(QEvent::MouseMove, QPointF(117, 20), widget.mapToGlobal(QPointF(117, 20)), Qt::NoButton, Qt::NoButton, {});
     QApplication::sendEvent(&widget, &hover);
     run(1);
-    EXPECT_EQ(source->notices, (Notices{{11, 0}})); // Where it was let go, 40 points less the slop away.
+    EXPECT_EQ(source->notices, (Notices{{11, 0}})); // 40 points less the slop away.
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, {117, 20});
     run(1);
     EXPECT_EQ(source->notices.size(), 1U);
 }
 
-TEST_F(UIViewWidgetInput, TwoFingersTurnTwoColumns) {
+TEST_F(UIViewWidgetInput, TwoFingersSpinTwoColumns) {
     QTest::touchEvent(&widget, screen).press(0, firstColumn).press(1, secondColumn);
     for (int i = 1; i <= 10; ++i) {
         step(0.016);
@@ -86,7 +86,7 @@ TEST_F(UIViewWidgetInput, TwoFingersTurnTwoColumns) {
     EXPECT_EQ(source->notices, (Notices{{12, 0}, {9, 1}}));
 }
 
-TEST_F(UIViewWidgetInput, AFingerThatRestsDoesNotHinderAnother) {
+TEST_F(UIViewWidgetInput, ARestingFingerLeavesAnotherAlone) {
     QTest::touchEvent(&widget, screen).press(0, firstColumn);
     step(0.016);
     QTest::touchEvent(&widget, screen).stationary(0).press(1, secondColumn);
@@ -144,7 +144,7 @@ TEST_F(UIViewWidgetInput, ACancelledTouchSnapsToTheNearestRow) {
     EXPECT_EQ(source->notices, (Notices{{11, 0}}));
 }
 
-TEST_F(UIViewWidgetInput, HidingTheWidgetLetsGoAndStillTells) {
+TEST_F(UIViewWidgetInput, HidingTheWidgetEndsTheDragAndReportsIt) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, firstColumn);
     step(0.016);
     QTest::mouseMove(&widget, firstColumn - QPoint(0, 40));
@@ -155,7 +155,7 @@ TEST_F(UIViewWidgetInput, HidingTheWidgetLetsGoAndStillTells) {
     EXPECT_FALSE(widget.isFrameDue());
 }
 
-TEST_F(UIViewWidgetInput, AnotherWindowInFrontLetsGo) {
+TEST_F(UIViewWidgetInput, AnotherWindowInFrontEndsTheDrag) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, firstColumn);
     step(0.016);
     QTest::mouseMove(&widget, firstColumn - QPoint(0, 40));
@@ -166,7 +166,7 @@ TEST_F(UIViewWidgetInput, AnotherWindowInFrontLetsGo) {
     EXPECT_EQ(source->notices, (Notices{{11, 0}}));
 }
 
-TEST_F(UIViewWidgetInput, DisablingTheWidgetLetsGo) {
+TEST_F(UIViewWidgetInput, DisablingTheWidgetEndsTheDrag) {
     QTest::mousePress(&widget, Qt::LeftButton, {}, firstColumn);
     step(0.016);
     QTest::mouseMove(&widget, firstColumn - QPoint(0, 40));
@@ -193,7 +193,7 @@ TEST_F(UIViewWidgetInput, PartsOfANotchAddUp) {
     EXPECT_EQ(source->notices, (Notices{{11, 0}}));
 }
 
-TEST_F(UIViewWidgetInput, AStrokeOnATrackpadTurnsByItsPoints) {
+TEST_F(UIViewWidgetInput, AStrokeOnATrackpadScrollsByItsPoints) {
     EXPECT_TRUE(wheelEvent(firstColumn, {}, {}, Qt::ScrollBegin));
     for (int i = 0; i < 8; ++i) {
         step(0.016);
@@ -209,7 +209,7 @@ TEST_F(UIViewWidgetInput, AStrokeOnATrackpadTurnsByItsPoints) {
     EXPECT_EQ(source->notices, (Notices{{13, 0}}));
 }
 
-TEST_F(UIViewWidgetInput, PixelsWithoutPhasesAreNotTrusted) {
+TEST_F(UIViewWidgetInput, PixelsWithoutPhasesAreIgnored) {
     EXPECT_TRUE(wheelEvent(firstColumn, {0, -3}, {0, -120}));
     run(1);
     EXPECT_EQ(source->notices, (Notices{{11, 0}}));
@@ -229,7 +229,7 @@ TEST_F(UIViewWidgetInput, WheelEventsBesideTheColumnsAreIgnored) {
     EXPECT_TRUE(source->notices.empty());
 }
 
-TEST_F(UIViewWidgetInput, WhatIsOfNoUseScrollsTheAreaAround) {
+TEST_F(UIViewWidgetInput, UnhandledEventsScrollTheAreaAround) {
     QScrollArea area;
     auto* inner = new UIViewWidget;
     inner->setRootView(wheel);
@@ -240,7 +240,7 @@ TEST_F(UIViewWidgetInput, WhatIsOfNoUseScrollsTheAreaAround) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
     const auto notchAt = [inner](QPoint place) {
         QWheelEvent event(place, inner->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&event); // Only events of the system go on to the widget around.
+        QSpontaneKeyEvent::setSpontaneous(&event); // Others are not passed on.
         qApp->notify(inner, &event);
     };
     notchAt({117, 100});

@@ -13,7 +13,7 @@ namespace {
 struct UIViewWidgetKeys : WidgetTest {
     UIViewWidgetKeys() { wheel->becomeFirstResponder(); }
 
-    /// Answers whether the key was accepted.
+    /// Returns whether the key was accepted.
     bool press(int key, Qt::KeyboardModifiers held = {}, const QString& text = {}, bool isRepeat = false) {
         QKeyEvent event(QEvent::KeyPress, key, held, text, isRepeat);
         event.ignore();
@@ -52,7 +52,7 @@ struct PickerKeys : testing::Test {
 
 } // namespace
 
-TEST_F(UIViewWidgetKeys, arrows_pages_and_ends_turn_the_wheel) {
+TEST_F(UIViewWidgetKeys, ArrowsPagesAndEndsSpinTheWheel) {
     for (const auto key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Down}) {
         QTest::keyClick(&widget, key);
     }
@@ -67,7 +67,7 @@ TEST_F(UIViewWidgetKeys, arrows_pages_and_ends_turn_the_wheel) {
     EXPECT_EQ(source->notices, (Notices{{12, 0}, {99, 1}, {0, 0}}));
 }
 
-TEST_F(UIViewWidgetKeys, a_held_key_repeats_and_is_told_once) {
+TEST_F(UIViewWidgetKeys, AHeldKeyRepeatsAndIsReportedOnce) {
     press(Qt::Key_Down);
     for (int i = 0; i < 20; ++i) {
         step(1.0 / 30);
@@ -78,13 +78,13 @@ TEST_F(UIViewWidgetKeys, a_held_key_repeats_and_is_told_once) {
     EXPECT_EQ(source->notices, (Notices{{31, 0}}));
 }
 
-TEST_F(UIViewWidgetKeys, typed_digits_turn_to_their_row) {
+TEST_F(UIViewWidgetKeys, TypedDigitsSelectTheirRow) {
     QTest::keyClicks(&widget, "42");
     run(1);
     EXPECT_EQ(source->notices, (Notices{{42, 0}}));
 }
 
-TEST_F(UIViewWidgetKeys, keys_that_no_view_uses_are_ignored) {
+TEST_F(UIViewWidgetKeys, IgnoresKeysThatNoViewHandles) {
     EXPECT_TRUE(press(Qt::Key_Down));
     EXPECT_FALSE(press(Qt::Key_Down, Qt::ControlModifier));
     EXPECT_FALSE(press(Qt::Key_4, Qt::AltModifier, "4"));
@@ -97,7 +97,7 @@ TEST_F(UIViewWidgetKeys, keys_that_no_view_uses_are_ignored) {
     EXPECT_FALSE(press(Qt::Key_Down));
 }
 
-TEST_F(UIViewWidgetKeys, what_alt_gr_types_is_typed) {
+TEST_F(UIViewWidgetKeys, AltGrTypesCharacters) {
     source->title = [](NSInteger row, NSInteger) { return row == 10 ? "a" : "µ"; };
     wheel->reloadAllComponents();
     EXPECT_TRUE(press(Qt::Key_M, Qt::ControlModifier | Qt::AltModifier, "µ"));
@@ -105,7 +105,7 @@ TEST_F(UIViewWidgetKeys, what_alt_gr_types_is_typed) {
     EXPECT_EQ(source->notices, (Notices{{0, 0}}));
 }
 
-TEST_F(UIViewWidgetKeys, tab_goes_from_wheel_to_wheel_and_round) {
+TEST_F(UIViewWidgetKeys, TabGoesRoundTheWheels) {
     const auto page = create<UIView>(CGRectMake(0, 0, 320, 216));
     const auto other = wheelWithSource(source);
     wheel->setFrame(CGRectMake(0, 0, 320, 100));
@@ -126,7 +126,7 @@ TEST_F(UIViewWidgetKeys, tab_goes_from_wheel_to_wheel_and_round) {
     EXPECT_TRUE(wheel->isFirstResponder());
 }
 
-TEST_F(UIViewWidgetKeys, tab_goes_on_to_the_widgets_around_and_comes_back) {
+TEST_F(UIViewWidgetKeys, TabGoesToTheWidgetsAroundAndBack) {
     QWidget window;
     QHBoxLayout layout(&window);
     QLineEdit before;
@@ -159,7 +159,7 @@ TEST_F(UIViewWidgetKeys, tab_goes_on_to_the_widgets_around_and_comes_back) {
     layout.removeWidget(&after);
 }
 
-TEST_F(UIViewWidgetKeys, a_click_on_a_wheel_gives_it_the_keys_without_a_mark) {
+TEST_F(UIViewWidgetKeys, AClickFocusesAWheelWithoutAMark) {
     wheel->resignFirstResponder();
     QTest::mouseClick(&widget, Qt::LeftButton, {}, secondColumn);
     EXPECT_TRUE(wheel->isFirstResponder());
@@ -170,7 +170,7 @@ TEST_F(UIViewWidgetKeys, a_click_on_a_wheel_gives_it_the_keys_without_a_mark) {
     EXPECT_EQ(source->notices, (Notices{{11, 1}}));
 }
 
-TEST_F(UIViewWidgetKeys, a_widget_that_is_hidden_or_closed_settles_its_wheels) {
+TEST_F(UIViewWidgetKeys, HidingOrClosingFinishesAnimations) {
     QTest::keyClick(&widget, Qt::Key_End);
     widget.hide();
     EXPECT_EQ(source->notices, (Notices{{99, 0}}));
@@ -181,7 +181,7 @@ TEST_F(UIViewWidgetKeys, a_widget_that_is_hidden_or_closed_settles_its_wheels) {
     EXPECT_EQ(source->notices, (Notices{{99, 0}, {4, 0}}));
 }
 
-TEST_F(UIViewWidgetKeys, a_delegate_that_is_told_by_a_key_may_drop_the_widget) {
+TEST_F(UIViewWidgetKeys, ADelegateMayDropTheWidgetDuringAKey) {
     auto* dropped = new UIViewWidget;
     dropped->setClock([] { return 5.0; });
     dropped->setRootView(wheel);
@@ -204,7 +204,7 @@ TEST_F(UIViewWidgetKeys, a_delegate_that_is_told_by_a_key_may_drop_the_widget) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}}));
 }
 
-TEST_F(PickerKeys, an_arrow_turns_a_picker_and_its_delegate_is_told_once) {
+TEST_F(PickerKeys, AnArrowIsReportedOnce) {
     const double before = picker->currentValue().doubleValue();
     QTest::keyClick(&widget, Qt::Key_Down);
     QTest::keyClick(&widget, Qt::Key_Down);
@@ -212,7 +212,7 @@ TEST_F(PickerKeys, an_arrow_turns_a_picker_and_its_delegate_is_told_once) {
     EXPECT_EQ(told(), (std::vector<double>{before + 2000}));
 }
 
-TEST_F(PickerKeys, a_typed_number_is_told_once_for_each_column) {
+TEST_F(PickerKeys, ATypedNumberIsReportedOnceForEachColumn) {
     QTest::keyClicks(&widget, "12");
     run(2);
     EXPECT_EQ(told(), (std::vector<double>{12000}));
