@@ -153,7 +153,7 @@ private:
         const Ref<UIWindow> closed = std::exchange(window_, newWindow());
         hand_.goTo(window_);
     }
-    /// Either few enough to be asked for heights each, or more than the table asks for.
+    /// Either few enough for heights of their own, or too many.
     NSInteger manyRows() {
         if (bytes_.below(8) < 7) return bytes_.below(80);
         return bytes_.flag() ? std::numeric_limits<NSInteger>::max() - bytes_.byte() : -NSInteger{bytes_.byte()};
@@ -194,6 +194,7 @@ private:
         case 3:
             return table->setDataSource({});
         case 4:
+            table->registerClass_forCellReuseIdentifier<UITableViewCell>("cell"); // Again.
             return table->setSeparatorColor(std::nullopt);
         default:
             return table->setHidden(bytes_.flag());

@@ -84,8 +84,8 @@ void UITableView::setSectionHeaderHeight(CGFloat height) {
 // Cells
 
 void UITableView::registerClass_forCellReuseIdentifier(CellFactory factory, const std::string& identifier) {
+    const Ref<UITableView> keep = self();
     content().visible().setFactory(std::move(factory), identifier);
-    if (content().visible().hasLeaving()) setNeedsLayout();
 }
 
 Ref<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(const std::string& identifier) {

@@ -19,7 +19,8 @@ UITableViewCellPool::Kind& UITableViewCellPool::kind(const std::string& identifi
 
 UITableViewCellPool::Cells UITableViewCellPool::setFactory(Factory factory, const std::string& identifier) {
     Kind& registered = kind(identifier);
-    registered.factory = std::move(factory);
+    // Destroyed last: what it captured may do anything.
+    const Factory before = std::exchange(registered.factory, std::move(factory));
     return std::exchange(registered.cells, {});
 }
 

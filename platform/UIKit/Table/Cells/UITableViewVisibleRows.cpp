@@ -26,6 +26,7 @@ void UITableViewVisibleRows::setFactory(UITableViewCellPool::Factory factory, co
     for (const Row& row : shown_) note(row.cell);
     for (const Row& row : removed_) note(row.cell);
     for (const Ref<UITableViewCell>& cell : lent_) note(cell);
+    if (!leaving_.empty()) table_.setNeedsLayout();
 }
 
 Ref<UITableViewCell> UITableViewVisibleRows::dequeue(const std::string& identifier, bool isQuerying) {

@@ -15,17 +15,17 @@ using gx::qt::UIViewWidget;
 
 namespace {
 
-std::vector<std::string>& told() {
-    static std::vector<std::string> events;
-    return events;
+std::vector<std::string>& events() {
+    static std::vector<std::string> noted;
+    return noted;
 }
 
 /// Takes the events that Qt would pass on to a screen reader.
 void note(QAccessibleEvent* event) {
     if (event->type() == QAccessible::ValueChanged) {
-        told().push_back("value " + static_cast<QAccessibleValueChangeEvent*>(event)->value().toString().toStdString());
+        events().push_back("value " + static_cast<QAccessibleValueChangeEvent*>(event)->value().toString().toStdString());
     } else {
-        told().emplace_back(event->type() == QAccessible::ObjectReorder ? "reorder" : "other");
+        events().emplace_back(event->type() == QAccessible::ObjectReorder ? "reorder" : "other");
     }
 }
 
@@ -60,7 +60,7 @@ TEST_F(QtAccessibility, AColumnIsASpinBoxWithNameAndValue) {
     EXPECT_EQ(column->text(QAccessible::Help), "");
     EXPECT_EQ(column->parent(), interface());
     EXPECT_EQ(interface()->indexOfChild(column), 1);
-    EXPECT_EQ(child(1), column) << "asked again, it is the same";
+    EXPECT_EQ(child(1), column) << "the next query returns the same";
     EXPECT_EQ(interface()->child(2), nullptr);
     EXPECT_EQ(interface()->child(-1), nullptr);
 }
@@ -190,24 +190,24 @@ TEST_F(QtAccessibility, ListenersAreNotifiedOfAChangedValue) {
     using Events = std::vector<std::string>;
     auto* const view = dynamic_cast<gx::qt::QtAccessibleView*>(interface());
     ASSERT_TRUE(view);
-    told().clear();
+    events().clear();
     view->announceChanges(note);
     view->announceChanges(note);
-    EXPECT_EQ(told(), Events{"reorder"}) << "the views are new to them, once";
+    EXPECT_EQ(events(), Events{"reorder"}) << "the views are new to them, once";
     act(child(0), increase());
     step(0.01);
     view->announceChanges(note);
-    EXPECT_EQ(told(), Events{"reorder"}) << "it has not come to rest";
+    EXPECT_EQ(events(), Events{"reorder"}) << "it has not come to rest";
     run(1);
     view->announceChanges(note);
-    EXPECT_EQ(told(), (Events{"reorder", "value 11"}));
+    EXPECT_EQ(events(), (Events{"reorder", "value 11"}));
     wheel->selectRow_inComponent_animated(20, 1, false);
     view->announceChanges(note);
-    EXPECT_EQ(told(), (Events{"reorder", "value 11", "value 20"}));
+    EXPECT_EQ(events(), (Events{"reorder", "value 11", "value 20"}));
     source->rows = {100};
     wheel->reloadAllComponents();
     view->announceChanges(note);
-    EXPECT_EQ(told(), (Events{"reorder", "value 11", "value 20", "reorder"}));
+    EXPECT_EQ(events(), (Events{"reorder", "value 11", "value 20", "reorder"}));
 }
 
 TEST(QtAccessibilityLifetime, InterfacesAreDeletedWithTheWidget) {

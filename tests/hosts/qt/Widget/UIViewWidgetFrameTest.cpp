@@ -11,7 +11,7 @@ using gx::qt::UIViewWidget;
 
 namespace {
 
-/// Counts how often it is drawn, and moves as long as it is told to.
+/// Counts how often it is drawn, and moves for `remaining` frames.
 struct Counter : UIView {
     int frames = 0;
     int advances = 0;
@@ -105,7 +105,7 @@ TEST_F(UIViewWidgetFrames, WithFramesByHandTheTimerIsOff) {
     EXPECT_FALSE(widget.stepFrame());
     EXPECT_FALSE(widget.isFrameDue());
     EXPECT_TRUE(QTest::qWaitFor([&] { return counter->frames == frames + 1; }));
-    // What was asked for meanwhile comes when the timer drives again.
+    // A frame that was needed meanwhile comes when the timer drives again.
     counter->setNeedsDisplay();
     widget.setClock(nullptr);
     EXPECT_TRUE(QTest::qWaitFor([&] { return counter->frames == frames + 2; }));

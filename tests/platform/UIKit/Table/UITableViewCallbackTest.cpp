@@ -85,7 +85,7 @@ TEST_F(UITableViewCallback, ThatChangesRowsCausesAReload) {
         source->queried.clear();
         window.tick(0);
         window.tick(0);
-        EXPECT_EQ(source->queried.size(), 11U) << "the first row, and then all ten anew";
+        EXPECT_EQ(source->queried.size(), 11U) << "the first row, and then all ten again";
         EXPECT_EQ(textOf({0, 9}), "0.9");
     }
 }

@@ -217,7 +217,7 @@ TEST_F(UITableViewKeys, KeepTheFocusIfNoRowCanBeTapped) {
 }
 
 TEST_F(UITableViewKeys, QueryNoMoreInALongTable) {
-    std::vector<std::size_t> asked;
+    std::vector<std::size_t> queried;
     for (const NSInteger rows : {NSInteger{100'000}, NSInteger{1'000'000'000}}) {
         reload({rows});
         table->becomeFirstResponder();
@@ -229,9 +229,9 @@ TEST_F(UITableViewKeys, QueryNoMoreInALongTable) {
         EXPECT_EQ(listener->queries, 1);
         for (const Code code : {Code::PageUp, Code::Up, Code::Down}) press(code);
         EXPECT_EQ(listener->queries, 4);
-        asked.push_back(source->queried.size());
+        queried.push_back(source->queried.size());
     }
-    EXPECT_LT(asked[1], asked[0] + 20) << "cells";
+    EXPECT_LT(queried[1], queried[0] + 20) << "cells";
 }
 
 TEST_F(UITableViewKeys, ReturnAndSpaceTapTheRow) {

@@ -87,7 +87,7 @@ TEST_F(UITableViewReuse, LeavesRowsWithoutACellEmpty) {
     EXPECT_EQ(textOf({0, 2}), "0.2");
     source->queried.clear();
     scrollTo(10);
-    EXPECT_EQ(source->queried, Paths({{0, 10}})) << "asked once while it is in sight";
+    EXPECT_EQ(source->queried, Paths({{0, 10}})) << "queried once while it is in sight";
 }
 
 TEST_F(UITableViewReuse, ShowsACellGivenTwiceInTheLaterRow) {
@@ -202,4 +202,19 @@ TEST_F(UITableViewReuse, RegisteringAgainKeepsACellBelowAFinger) {
     window.up({160, -90});
     window.runUntilStill();
     EXPECT_TRUE(touched.expired());
+}
+
+TEST_F(UITableViewReuse, AReplacedFactoryMayHaveHeldTheTable) {
+    const WeakRef<UITableView> weak = table;
+    // What is destroyed with the factory registers once more, and releases the table.
+    const auto guard = [this](void*) {
+        table->registerClass_forCellReuseIdentifier<UITableViewCell>("other");
+        table->removeFromSuperview();
+        table = nullptr;
+    };
+    table->registerClass_forCellReuseIdentifier(
+        [held = std::shared_ptr<void>(&source, guard)] { return create<UITableViewCell>(UITableViewCellStyleDefault, "odd"); }, "odd");
+    ASSERT_FALSE(weak.expired());
+    table->registerClass_forCellReuseIdentifier(nullptr, "odd");
+    EXPECT_TRUE(weak.expired());
 }

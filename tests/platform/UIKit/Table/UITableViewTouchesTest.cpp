@@ -58,7 +58,7 @@ struct HighlightCell : UITableViewCell {
     void setHighlighted(bool highlighted) override {
         UITableViewCell::setHighlighted(highlighted);
         if (highlighted) return;
-        if (const auto told = std::exchange(whenHighlightEnds, nullptr)) told();
+        if (const auto callback = std::exchange(whenHighlightEnds, nullptr)) callback();
     }
 };
 
@@ -343,7 +343,7 @@ TEST_F(UITableViewWithWheel, KeepsTheWheelSpinningThroughChanges) {
     window.fling(onWheel, {160, 92}, 4);
     ASSERT_TRUE(wheel->isTurning());
     const auto cell = table->cellForRowAtIndexPath({0, 1});
-    const std::size_t asked = source->queried.size();
+    const std::size_t queried = source->queried.size();
     source->rows = {101};
     table->insertRowsAtIndexPaths_animated({{0, 2}}, true);
     window.run(0.1);
@@ -352,7 +352,7 @@ TEST_F(UITableViewWithWheel, KeepsTheWheelSpinningThroughChanges) {
     window.run(0.1);
     EXPECT_TRUE(wheel->isTurning());
     EXPECT_EQ(table->cellForRowAtIndexPath({0, 0}), cell);
-    for (std::size_t i = asked; i < source->queried.size(); ++i) EXPECT_NE(source->queried[i], (NSIndexPath{0, 1}));
+    for (std::size_t i = queried; i < source->queried.size(); ++i) EXPECT_NE(source->queried[i], (NSIndexPath{0, 1}));
     window.runUntilStill();
     EXPECT_EQ(wheelSource->notices.size(), 1U);
     EXPECT_GT(wheelSource->notices[0].row, 5);
