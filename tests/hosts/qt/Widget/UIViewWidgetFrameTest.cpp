@@ -59,7 +59,7 @@ TEST_F(UIViewWidgetFrames, NothingTicksAtRest) {
     const int queries = clockQueries;
     QTest::qWait(120);
     EXPECT_EQ(counter->frames, frames);
-    EXPECT_EQ(clockQueries, questions);
+    EXPECT_EQ(clockQueries, queries);
 }
 
 TEST_F(UIViewWidgetFrames, AChangeIsDrawnOnce) {
