@@ -1,10 +1,7 @@
 #pragma once
 
 #include <QImage>
-#include <QPainter>
 #include <QRect>
-
-#include "QtCanvas.h"
 
 /// The smallest rectangle of device pixels outside of which the image is clear.
 inline QRect inkOf(const QImage& image) {
@@ -22,21 +19,5 @@ inline QImage clearImage(int width, int height, double scale) {
     QImage image(static_cast<int>(width * scale), static_cast<int>(height * scale), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
-    return image;
-}
-
-/// Runs `act` with a canvas on the image, as within a frame.
-template <class Act>
-void drawOn(QImage& image, gx::qt::QtCanvas& canvas, Act act) {
-    QPainter painter(&image);
-    canvas.begin(painter);
-    act(canvas);
-    canvas.end();
-}
-template <class Act>
-QImage drawn(int width, int height, double scale, Act act) {
-    QImage image = clearImage(width, height, scale);
-    gx::qt::QtCanvas canvas;
-    drawOn(image, canvas, act);
     return image;
 }

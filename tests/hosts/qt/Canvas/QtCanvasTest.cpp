@@ -3,7 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "Pixels.h"
+#include "CanvasDrawing.h"
+#include "QtCanvas.h"
 
 using namespace gx;
 using gx::qt::QtCanvas;

@@ -1,6 +1,6 @@
 #include <QPalette>
 
-#include "Pixels.h"
+#include "QtTextImageCache.h"
 #include "UILabel.h"
 #include "UIViewWidget.h"
 #include "WidgetTest.h"
