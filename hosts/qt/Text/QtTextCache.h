@@ -10,8 +10,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include <GXUIPickers/GXExport.h>
-
 namespace gx::qt {
 
 /// What tells two prepared texts apart. Fields that a cache does not need keep their defaults.
@@ -24,7 +22,7 @@ struct QtTextKey {
     friend bool operator==(const QtTextKey&, const QtTextKey&) = default;
 };
 
-struct GX_EXPORT QtTextKeyHash {
+struct QtTextKeyHash {
     std::size_t operator()(const QtTextKey& key) const {
         constexpr std::size_t factor = 31; // Chosen as an odd prime: spreads the small numbers.
         std::size_t hash = std::hash<std::string_view>()(key.text);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "GXExport.h"
 #include "NSIndexPath.h"
 #include "UIScrollView.h"
 #include "UITableViewCell.h"
@@ -19,7 +20,7 @@ class UITableViewContent;
 ///
 /// The table caches the results; see `UITableView` for when it queries again. All operations may
 /// call back.
-class UITableViewDataSource {
+class GX_EXPORT UITableViewDataSource {
 public:
     virtual ~UITableViewDataSource() = default;
 
@@ -38,7 +39,7 @@ public:
 
 /// Gives a table the heights of rows, and is notified of what the user does with them. All
 /// operations may call back.
-class UITableViewDelegate {
+class GX_EXPORT UITableViewDelegate {
 public:
     virtual ~UITableViewDelegate() = default;
 
@@ -85,7 +86,7 @@ public:
 ///   a finger focuses its row too.
 /// - Tab goes on to views inside the rows in sight that take the focus. When such a row leaves,
 ///   the table has the focus again.
-class UITableView : public UIScrollView {
+class GX_EXPORT UITableView : public UIScrollView {
 public:
     /// Makes the cells of a reuse identifier.
     using CellFactory = std::function<Ref<UITableViewCell>()>;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "GXExport.h"
 #include "UIView.h"
 
 namespace gx {
@@ -23,7 +24,7 @@ enum UITableViewCellStyle {
 /// resets it in `prepareForReuse`.
 ///
 /// Invariant: the content view fills the cell. For rows outside a table, a `UIView` is enough.
-class UITableViewCell : public UIView {
+class GX_EXPORT UITableViewCell : public UIView {
 public:
     /// Until its table gives it another size. Prescribed by the phone's platform: the width of the
     /// smallest phone, and a row that a finger hits safely.
