@@ -2,6 +2,7 @@
 
 #include "Pixels.h"
 #include "QtViewImage.h"
+#include "UIGraphicsContext.h"
 #include "UILabel.h"
 #include "UIWindow.h"
 #include "WheelSource.h"
