@@ -15,7 +15,7 @@ using GXFontSetter = std::function<void(const Ref<GXStyleSheetFont>& valueFont, 
 ///
 /// - The wheels are laid out and get the same fonts, which `setFonts` has to give to all of them.
 /// - The style sheet's fonts are tried first, then sizes a point smaller each, with values and
-///   labels of one size, so that they stand on one baseline.
+///   labels of one size, so that they have one baseline.
 /// - The smallest size stays, whether it fits or not.
 void chooseLargestFonts(const std::vector<Ref<GXMultiValuePickerView>>& wheels, const GXFontSetter& setFonts);
 

@@ -14,14 +14,12 @@ std::string withOneLeadingBlank(const std::string& title) {
 
 std::string textOfSelectedRows(const Ref<GXMultiValuePickerView>& wheel, GXMultiValuePickerViewDelegate& titles) {
     if (!wheel) return {};
-    // A title may be the application's, which may replace the wheel.
-    const Ref<GXMultiValuePickerView> keep = wheel;
     std::string text;
-    const NSInteger count = keep->numberOfComponents();
+    const NSInteger count = wheel->numberOfComponents();
     for (NSInteger component = 0; component < count; ++component) {
-        const NSInteger row = keep->selectedRowInComponent(component);
-        text += withOneLeadingBlank(titles.pickerView_titleForRow_forComponent(keep, row, component).value_or(std::string()));
-        const Ref<UILabel> separator = keep->separatorAfterComponent(static_cast<NSUInteger>(component));
+        const NSInteger row = wheel->selectedRowInComponent(component);
+        text += withOneLeadingBlank(titles.pickerView_titleForRow_forComponent(wheel, row, component).value_or(std::string()));
+        const Ref<UILabel> separator = wheel->separatorAfterComponent(static_cast<NSUInteger>(component));
         // A separator after the last column is not shown.
         if (separator && component + 1 < count) text += separator->text().value_or(std::string());
     }

@@ -10,8 +10,9 @@ namespace gx {
 
 /// The titles of the selected rows with the wheel's separators between them, such as "00:27:30".
 ///
-/// `titles` gives the titles, of whose leading blanks one stays. A column without a title adds
-/// nothing, and an absent wheel has no text.
+/// The caller holds the wheel and `titles`, which gives the titles: an application's may replace
+/// both. Of the leading blanks of a title one stays. A column without a title adds nothing, and an
+/// absent wheel has no text.
 std::string textOfSelectedRows(const Ref<GXMultiValuePickerView>& wheel, GXMultiValuePickerViewDelegate& titles);
 
 /// A time without the zero that fills its first number up to two digits: "0:27:30" for "00:27:30".

@@ -104,7 +104,8 @@ std::int32_t GXDurationPickerView::checkStepSize(std::int32_t step) const { retu
 
 std::string GXDurationPickerView::currentValueText() {
     const Ref<GXBasePickerView> keep = self();
-    const std::string time = withoutLeadingZero(textOfSelectedRows(pickerView(), *this));
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
+    const std::string time = withoutLeadingZero(textOfSelectedRows(wheel, *this));
     if (time.empty()) return time;
     if (type_ == GXDurationTypeHoursMinutes) return joinedBySpace(time, "h");
     return type_ == GXDurationTypeMinutesSeconds ? joinedBySpace(time, "min") : time;
