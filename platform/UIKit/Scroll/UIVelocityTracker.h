@@ -4,12 +4,13 @@
 #include <cstddef>
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
 
 /// The speed of a finger, from its latest places.
-class UIVelocityTracker {
+class GX_EXPORT UIVelocityTracker {
 public:
     void reset();
     void add(NSTimeInterval time, CGFloat place);

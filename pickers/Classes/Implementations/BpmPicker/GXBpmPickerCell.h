@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXBpmPickerView`.
-class GXBpmPickerCell : public GXBasePickerCell {
+class GX_EXPORT GXBpmPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// Picks a heart or cadence rate in beats per minute: 0 to 230 in steps of 10, starting at 160.
-class GXBpmPickerView : public GXBasePickerView {
+class GX_EXPORT GXBpmPickerView : public GXBasePickerView {
 public:
     bool initWithFrame(CGRect frame) override;
     bool initWithCoder(const Ref<NSCoder>& coder) override;

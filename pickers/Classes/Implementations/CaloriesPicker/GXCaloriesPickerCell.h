@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXCaloriesPickerView`.
-class GXCaloriesPickerCell : public GXBasePickerCell {
+class GX_EXPORT GXCaloriesPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXDistanceAndDurationPicker`.
-class GXDistanceAndDurationCell : public GXBasePickerCell {
+class GX_EXPORT GXDistanceAndDurationCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXDistancePickerView`.
-class GXDistancePickerCell : public GXBasePickerCell {
+class GX_EXPORT GXDistancePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

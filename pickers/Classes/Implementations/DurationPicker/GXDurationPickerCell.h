@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXDurationPickerView`.
-class GXDurationPickerCell : public GXBasePickerCell {
+class GX_EXPORT GXDurationPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

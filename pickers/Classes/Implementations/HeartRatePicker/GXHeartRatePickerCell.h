@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXHeartRatePickerView`.
-class GXHeartRatePickerCell : public GXBasePickerCell {
+class GX_EXPORT GXHeartRatePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXPacePickerView`.
-class GXPacePickerCell : public GXBasePickerCell {
+class GX_EXPORT GXPacePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

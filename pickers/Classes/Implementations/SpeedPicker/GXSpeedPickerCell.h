@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXSpeedPickerView`.
-class GXSpeedPickerCell : public GXBasePickerCell {
+class GX_EXPORT GXSpeedPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

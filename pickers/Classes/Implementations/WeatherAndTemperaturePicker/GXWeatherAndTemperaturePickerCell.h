@@ -1,11 +1,12 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXWeatherAndTemperaturePickerView`.
-class GXWeatherAndTemperaturePickerCell : public GXBasePickerCell {
+class GX_EXPORT GXWeatherAndTemperaturePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -17,7 +18,7 @@ enum GXWeightUnit : NSUInteger { GXWeightUnitKilogram = 0, GXWeightUnitPound = 1
 /// A fresh picker shows its first rows without having a value in the range; set one. Only in pounds is a value that is too large replaced,
 /// by 770.9 lb; otherwise rows that do not exist are asked of the wheel as they are, and a fraction of 0.95 or more asks for an eleventh
 /// tenth and not for the next whole unit.
-class GXWeightPickerView : public GXBasePickerView {
+class GX_EXPORT GXWeightPickerView : public GXBasePickerView {
 public:
     bool initWithFrame(CGRect frame) override;
     bool initWithCoder(const Ref<NSCoder>& coder) override;
