@@ -1,6 +1,7 @@
-// Turns a real wheel in a window and writes, as CSV, where its column stands in each frame and where the formulas below say
-// it should. The formulas are written out here from the laws of motion, and ask the library nothing. What deviates most goes
-// to the standard error stream. docs/motion.md shows the results.
+// Spins a real wheel in a window and writes, as CSV, the position of its column in each frame and
+// that of the formulas below; docs/motion.md shows the results. The formulas are written out here
+// from the laws of motion and do not call the library. The largest deviations go to the standard
+// error stream.
 
 #include <algorithm>
 #include <iomanip>
@@ -11,7 +12,8 @@
 namespace {
 
 const double drag = -1000 * std::log(0.998); // Of the speed, 0.998 is left after each millisecond.
-constexpr double slop = 6;                   // Points that a finger moves before the column follows.
+// Points that a finger moves before the column follows.
+constexpr double slop = 6;
 constexpr double stiffness = 18;
 
 /// A way in time that is made of pieces; each holds from its time on.
@@ -20,7 +22,8 @@ public:
     using Piece = std::function<double(double)>;
     void from(double time, Piece piece) { pieces_[time] = std::move(piece); }
     double at(double time) const {
-        // Frames and pieces come at whole steps; half a step tells them apart whatever the last digits are.
+        // Frames and pieces come at whole steps; half a step tells them apart whatever the last
+        // digits are.
         const auto next = pieces_.upper_bound(time + 0.5 / WheelStage::stepsPerSecond);
         return next == pieces_.begin() ? std::nan("") : std::prev(next)->second(time);
     }
@@ -45,7 +48,8 @@ Course::Piece finger(double time, double seconds, double points, double from) {
     };
 }
 
-/// Slowed by drag and by a constant friction: v' = −drag · v − friction, until the speed is gone after `duration`.
+/// Slowed by drag and by a constant friction: v' = −drag · v − friction, until the speed is gone
+/// after `duration`.
 struct Fling {
     double time, from, speed, friction, duration;
 
@@ -58,15 +62,17 @@ struct Fling {
         return [*this](double now) { return positionAt(now); };
     }
 
-    /// The fling over `way` rows that lasts so long: friction is what takes the speed's rest, and speed what the way needs.
+    /// The fling over `way` rows that lasts so long: friction is what takes the speed's rest, and
+    /// speed what the way needs.
     static Fling lasting(double duration, double time, double from, double way) {
         const double rest = std::exp(-drag * duration);
         const double frictionOfSpeed = drag * rest / (1 - rest);
         const double speed = way * drag / (1 - frictionOfSpeed * duration);
         return {time, from, speed, speed * frictionOfSpeed, duration};
     }
-    /// From a finger's speed: to the row nearest to where drag alone would end, beginning with that speed if the fling is over
-    /// no later than drag alone comes down to a quarter of a row a second, else lasting as long as that.
+    /// From a finger's speed: to the row nearest to where drag alone would end, beginning with that
+    /// speed if the fling is over no later than drag alone comes down to a quarter of a row a
+    /// second, else lasting as long as that.
     static Fling of(double fingerSpeed, double time, double from) {
         const double way = std::round(from + fingerSpeed / drag) - from;
         double low = 0.22;
@@ -97,7 +103,8 @@ struct Scenario {
     std::function<void(WheelStage& stage, Course& course)> prepare;
 };
 
-/// A finger's 180 points in 0.15 s are 30 rows a second; the column has followed 174 of them when it lets go.
+/// A finger's 180 points in 0.15 s are 30 rows a second; the column has followed 174 of them when
+/// it lets go.
 Fling strongFling(WheelStage& stage, Course& course, double row) {
     stage.fling(0.1, 0.15, 180);
     course.from(0, finger(0.1, 0.15, 180, row));

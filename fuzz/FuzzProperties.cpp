@@ -216,7 +216,7 @@ void askSomething(FuzzBytes& bytes, const Ref<UIView>& view) {
     wheel->rowSizeForComponent(component);
     wheel->selectedRowInComponent(component);
     wheel->viewForRow_forComponent(row, component);
-    wheel->rowInBandOfComponent(component);
+    wheel->rowInSelectionIndicatorOfComponent(component);
     wheel->componentOfKeys();
 }
 

@@ -1,4 +1,5 @@
-// What a wheel takes from the heap, counted: the same for a hundred rows and for a billion, and nothing in steady motion.
+// Counts what a wheel takes from the heap: the same for a hundred rows and for a billion, and
+// nothing in steady motion.
 
 #include "AllocationCount.h"
 #include "GXCaloriesPickerView.h"
@@ -12,7 +13,8 @@ namespace {
 
 constexpr NSInteger billion = 1'000'000'000;
 
-/// Allocations of a reload, a jump to the middle, and sixty frames of a fling, once all buffers have grown.
+/// Allocations of a reload, a jump to the middle, and sixty frames of a fling, once all buffers
+/// have grown.
 struct Costs {
     std::size_t reload, jump, frames;
     friend bool operator==(const Costs&, const Costs&) = default;
@@ -71,12 +73,12 @@ TEST(WheelAllocations, APickersSteadyFrameTakesNothing) {
         if (isWarm) {
             EXPECT_EQ(count, 0U);
         }
-        EXPECT_TRUE(picker->pickerView()->isTurning()) << "the frames counted were frames of a turn";
+        EXPECT_TRUE(picker->pickerView()->isTurning()) << "the frames counted were frames of a movement";
         window.runUntilStill();
     }
 }
 
-TEST(WheelAllocations, a_steady_frame_of_a_turn_by_keys_takes_nothing) {
+TEST(WheelAllocations, ASteadyFrameOfAMovementByKeysTakesNothing) {
     const auto source = create<WheelSource>();
     const auto wheel = wheelWithSource(source);
     source->rows = {billion};
@@ -101,7 +103,7 @@ TEST(WheelAllocations, a_steady_frame_of_a_turn_by_keys_takes_nothing) {
         if (isWarm) {
             EXPECT_EQ(count, 0U);
         }
-        EXPECT_TRUE(wheel->isTurning()) << "the frames counted were frames of a turn";
+        EXPECT_TRUE(wheel->isTurning()) << "the frames counted were frames of a movement";
         EXPECT_TRUE(window->showsFocus());
     }
 }

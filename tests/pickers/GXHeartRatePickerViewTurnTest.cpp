@@ -178,7 +178,7 @@ TEST_F(HeartRateTurns, AFingerOnTheAverageMovesTheMaximumAlongAndBothAreToldOnce
     EXPECT_EQ(told(), (Told{{124, 1}, {123, 0}}));
     EXPECT_EQ(selectedTitle(average), "123");
     EXPECT_EQ(selectedTitle(maximum), "124");
-    EXPECT_EQ(wheel().rowInBandOfComponent(maximum), 99) << "it has come to rest there";
+    EXPECT_EQ(wheel().rowInSelectionIndicatorOfComponent(maximum), 99) << "it has come to rest there";
 }
 
 TEST_F(HeartRateTurns, AFingerOnTheMaximumMovesTheAverageAlong) {

@@ -86,7 +86,7 @@ public:
     }
     /// As the last frame has placed the row in the selection indicator.
     double position() const {
-        const gx::NSInteger row = wheel->rowInBandOfComponent(0);
+        const gx::NSInteger row = wheel->rowInSelectionIndicatorOfComponent(0);
         const gx::Ref<gx::UIView> view = wheel->viewForRow_forComponent(row, 0);
         if (!view) return std::nan("");
         const double middle = gx::CGRectGetMidY(wheel->convertRect_fromView(view->bounds(), view));

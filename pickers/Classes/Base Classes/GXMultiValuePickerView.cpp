@@ -192,7 +192,7 @@ CGRect GXMultiValuePickerView::rowRectOfComponent(NSInteger component) {
     Ref<UIView> view = viewForRow_forComponent(selectedRowInComponent(component), component);
     // While the column spins, the row it reports may be far out of sight. Every row in sight has the same left and
     // right edge, so the label stays where it is.
-    if (!view) view = viewForRow_forComponent(rowInBandOfComponent(component), component);
+    if (!view) view = viewForRow_forComponent(rowInSelectionIndicatorOfComponent(component), component);
     return convertRect_fromView(view ? view->bounds() : CGRectZero, view);
 }
 

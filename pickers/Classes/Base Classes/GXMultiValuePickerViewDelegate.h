@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UIPickerViewProtocols.h"
+#include "UIPickerView.h"
 
 namespace gx {
 

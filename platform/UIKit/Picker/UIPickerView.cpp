@@ -3,233 +3,298 @@
 #include <algorithm>
 #include <cmath>
 
-#include "UIPickerViewComponent.h"
+#include "UIPickerColumnElement.h"
+#include "UIPickerSelectionIndicator.h"
 #include "UIWindow.h"
 
 namespace gx {
 
-namespace {
+/// What the wheel is made of, and what its parts call.
+class UIPickerView::Implementation final : public UIPickerOwner {
+public:
+    explicit Implementation(UIPickerView& owner) : wheel(owner) {}
 
-/// A length that a delegate may give; nothing if it leaves it to the wheel.
-std::optional<CGFloat> given(CGFloat dimension) {
-    if (dimension == UIPickerView::automaticDimension || std::isnan(dimension)) return std::nullopt;
-    return std::clamp(dimension, 0.0, 1e6); // Wider than any screen: sums of widths stay exact.
-}
+    NSInteger queryNumberOfComponents() override {
+        const Ref<UIPickerViewDataSource> source = wheel.dataSource_.lock();
+        return source ? std::clamp<NSInteger>(source->numberOfComponentsInPickerView(self()), 0, highestComponentCount) : 0;
+    }
+    NSInteger queryNumberOfRows(NSInteger component) override {
+        const Ref<UIPickerViewDataSource> source = wheel.dataSource_.lock();
+        return source ? source->pickerView_numberOfRowsInComponent(self(), component) : 0;
+    }
+    Sizes querySizes(NSInteger component) override {
+        const Ref<UIPickerViewDelegate> delegate = wheel.delegate_.lock();
+        const CGFloat width = delegate ? delegate->pickerView_widthForComponent(self(), component) : automaticDimension;
+        const CGFloat height = delegate ? delegate->pickerView_rowHeightForComponent(self(), component) : automaticDimension;
+        const CGFloat givenHeight = given(height).value_or(0);
+        return {given(width), givenHeight > 0 ? givenHeight : defaultRowHeight};
+    }
+    Delegate lockDelegate() override { return wheel.delegate_.lock(); }
+    Ref<UIView> viewForRow(const Delegate& delegate, NSInteger row, NSInteger component, const Ref<UIView>& reused) override {
+        return of(delegate).pickerView_viewForRow_forComponent_reusingView(self(), row, component, reused);
+    }
+    Ref<NSAttributedString> attributedTitleForRow(const Delegate& delegate, NSInteger row, NSInteger component) override {
+        return of(delegate).pickerView_attributedTitleForRow_forComponent(self(), row, component);
+    }
+    std::optional<std::string> titleForRow(const Delegate& delegate, NSInteger row, NSInteger component) override {
+        return of(delegate).pickerView_titleForRow_forComponent(self(), row, component);
+    }
+    std::optional<std::string> accessibilityLabel(const Delegate& delegate, NSInteger component) override {
+        return of(delegate).pickerView_accessibilityLabelForComponent(self(), component);
+    }
+    std::optional<std::string> accessibilityValue(const Delegate& delegate, NSInteger row, NSInteger component) override {
+        return of(delegate).pickerView_accessibilityValueForRow_forComponent(self(), row, component);
+    }
+    NSInteger componentCount() override { return wheel.numberOfComponents(); }
+    NSInteger selectedRow(NSInteger component) override { return wheel.selectedRowInComponent(component); }
+    NSInteger rowCount(NSInteger component) override { return wheel.numberOfRowsInComponent(component); }
+    Ref<UIView> visibleView(NSInteger row, NSInteger component) override { return wheel.viewForRow_forComponent(row, component); }
+    void report(NSInteger row, NSInteger component) override { wheel.turnToRow_inComponent(row, component); }
+    bool isLayoutNeeded() const override { return wheel.isLayoutDue(); }
 
-} // namespace
+    bool isShowable() const {
+        const CGSize size = wheel.bounds().size;
+        return !CGRectIsEmpty(wheel.bounds()) && std::isfinite(size.width) && std::isfinite(size.height);
+    }
+    void invalidate() {
+        components.invalidate();
+        wheel.setNeedsLayout();
+    }
 
-UIPickerView::UIPickerView() = default;
+    UIPickerView& wheel;
+    UIPickerComponents components{*this, columnGap, defaultRowHeight};
+    UIPickerRows rows{*this, components};
+    UIPickerController controller{wheel, *this, components, rows};
+    UIPickerColumnElement::Wheel parts{wheel, *this, components, rows, controller};
+
+private:
+    Ref<UIPickerView> self() { return refTo(&wheel); }
+    /// A length that a delegate may give; nothing if it leaves it to the wheel.
+    static std::optional<CGFloat> given(CGFloat dimension) {
+        if (dimension == automaticDimension || std::isnan(dimension)) return std::nullopt;
+        return std::clamp(dimension, 0.0, 1e6); // Wider than any screen: sums of widths stay exact.
+    }
+    static UIPickerViewDelegate& of(const Delegate& delegate) { return *static_cast<UIPickerViewDelegate*>(delegate.get()); }
+};
+
+UIPickerView::UIPickerView() : implementation_(std::make_unique<Implementation>(*this)) {}
 UIPickerView::~UIPickerView() = default;
-
-bool UIPickerView::initWithFrame(CGRect frame) { return UIView::initWithFrame(frame); }
-bool UIPickerView::initWithCoder(const Ref<NSCoder>& coder) { return UIView::initWithCoder(coder); }
 
 void UIPickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataSource) {
     dataSource_ = std::move(dataSource);
-    noteStale();
+    implementation_->invalidate();
 }
 
 void UIPickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
     const Ref<UIPickerView> keep = self();
     delegate_ = std::move(delegate);
     // Views that one delegate has made mean nothing to another.
-    for (std::size_t i = 0; i < components_.size(); ++i) {
-        const Ref<UIPickerColumn> column = components_[i]->column; // The views that go may call back.
-        if (column) column->removeAllRows();
-    }
-    noteStale();
+    implementation_->components.removeAllRows();
+    implementation_->invalidate();
 }
 
 void UIPickerView::setShowsSelectionIndicator(bool shows) {
-    if (shows == showsBand_) return;
-    showsBand_ = shows;
+    if (shows == showsSelectionIndicator_) return;
+    showsSelectionIndicator_ = shows;
     setNeedsDisplay();
 }
 
 void UIPickerView::setFrame(CGRect frame) {
     const CGSize before = bounds().size;
     UIView::setFrame(frame);
-    if (bounds().size != before) noteStale();
+    if (bounds().size != before) implementation_->invalidate();
 }
 
 void UIPickerView::setBounds(CGRect newBounds) {
     const CGRect before = bounds();
     UIView::setBounds(newBounds);
-    if (bounds() != before) noteStale(); // Columns are placed by the origin, too.
-}
-
-// Answers
-
-void UIPickerView::noteStale() {
-    isCountKnown_ = false;
-    for (const auto& component : components_) component->areRowsKnown = component->areSizesKnown = false;
-    areRowsDue_ = true;
-    setNeedsLayout();
-}
-
-// In each of the next three, who asks back while a question is open hears the last answer, instead of asking for
-// ever. What a callback makes stale meanwhile stays stale.
-
-void UIPickerView::refreshComponents() {
-    if (isCountKnown_ || isCountAsked_) return;
-    const Ref<UIPickerView> keep = self();
-    isCountKnown_ = isCountAsked_ = true;
-    const Ref<UIPickerViewDataSource> source = dataSource_.lock();
-    const NSInteger answer = source ? source->numberOfComponentsInPickerView(self()) : 0;
-    isCountAsked_ = false;
-    count_ = std::clamp<NSInteger>(answer, 0, highestComponentCount);
-    makeComponents(count_);
-}
-
-void UIPickerView::makeComponents(NSInteger count) {
-    for (auto i = static_cast<NSInteger>(components_.size()); i < count; ++i) components_.push_back(std::make_unique<Component>(i));
+    if (bounds() != before) implementation_->invalidate(); // Columns are placed by the origin, too.
 }
 
 void UIPickerView::exchangeComponents(NSInteger one, NSInteger other) {
     if (one < 0 || other < 0 || one >= highestComponentCount || other >= highestComponentCount) return;
-    makeComponents(std::max(one, other) + 1);
-    std::swap(at(one).part, at(other).part);
-    if (chosen_ == one || chosen_ == other) choose(chosen_ == one ? other : one);
+    if (implementation_->components.exchange(one, other)) setNeedsDisplay();
 }
 
-bool UIPickerView::exists(NSInteger component) {
-    const Ref<UIPickerView> keep = self();
-    refreshComponents();
-    return component >= 0 && component < count_;
-}
-
-UIPickerView::Component& UIPickerView::at(NSInteger component) { return *components_[static_cast<std::size_t>(component)]; }
-
-NSInteger UIPickerView::refreshedRows(NSInteger component) {
-    const Ref<UIPickerView> keep = self();
-    if (!exists(component)) return 0;
-    Component& entry = at(component);
-    if (!entry.areRowsKnown && !entry.areRowsAsked) {
-        entry.areRowsKnown = entry.areRowsAsked = true;
-        const Ref<UIPickerViewDataSource> source = dataSource_.lock();
-        const NSInteger answer = source ? source->pickerView_numberOfRowsInComponent(self(), component) : 0;
-        entry.areRowsAsked = false;
-        entry.rows = std::max<NSInteger>(answer, 0);
-    }
-    return entry.rows;
-}
-
-void UIPickerView::refreshSizes(NSInteger component) {
-    const Ref<UIPickerView> keep = self();
-    Component& entry = at(component);
-    if (entry.areSizesKnown || entry.areSizesAsked) return;
-    entry.areSizesKnown = entry.areSizesAsked = true;
-    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
-    const CGFloat width = delegate ? delegate->pickerView_widthForComponent(self(), component) : automaticDimension;
-    const CGFloat height = delegate ? delegate->pickerView_rowHeightForComponent(self(), component) : automaticDimension;
-    entry.areSizesAsked = false;
-    entry.width = given(width).value_or(automaticDimension);
-    const CGFloat givenHeight = given(height).value_or(0);
-    entry.rowHeight = givenHeight > 0 ? givenHeight : defaultRowHeight;
-}
-
-CGFloat UIPickerView::widthOfComponent(NSInteger component) const {
-    const CGFloat width = components_[static_cast<std::size_t>(component)]->width;
-    if (width != automaticDimension) return width;
-    const auto count = static_cast<CGFloat>(count_);
-    return std::max(0.0, (bounds().size.width - (count - 1) * columnGap) / count);
-}
-
-bool UIPickerView::hasRow(NSInteger row, NSInteger component) {
-    const Ref<UIPickerView> keep = self();
-    return row >= 0 && row < refreshedRows(component);
-}
-
-NSInteger UIPickerView::heldRow(NSInteger component, NSInteger row) {
-    return std::clamp<NSInteger>(row, 0, std::max<NSInteger>(refreshedRows(component) - 1, 0));
-}
-
-/// Its attributed title, or else the plain one; nothing for a row that is not there, or has gone while it was asked for.
-std::optional<std::string> UIPickerView::titleOfRow(NSInteger row, NSInteger component) {
-    const Ref<UIPickerView> keep = self();
-    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
-    if (!delegate || !hasRow(row, component)) return std::nullopt;
-    if (const auto title = delegate->pickerView_attributedTitleForRow_forComponent(keep, row, component)) return title->string();
-    return hasRow(row, component) ? delegate->pickerView_titleForRow_forComponent(keep, row, component) : std::nullopt;
-}
+// Queries
 
 NSInteger UIPickerView::numberOfComponents() {
     const Ref<UIPickerView> keep = self();
-    refreshComponents();
-    return count_;
+    return implementation_->components.refreshCount();
 }
 
-NSInteger UIPickerView::numberOfRowsInComponent(NSInteger component) { return refreshedRows(component); }
+NSInteger UIPickerView::numberOfRowsInComponent(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    return implementation_->components.refreshRows(component);
+}
 
 CGSize UIPickerView::rowSizeForComponent(NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (!isShowable() || !exists(component)) return {};
-    for (NSInteger i = 0; i < count_; ++i) refreshSizes(i);
-    return exists(component) ? CGSize{widthOfComponent(component), at(component).rowHeight} : CGSize{};
+    UIPickerComponents& components = implementation_->components;
+    if (!implementation_->isShowable() || !components.exists(component)) return {};
+    for (NSInteger i = 0; i < components.count(); ++i) components.refreshSizes(i);
+    if (!components.exists(component)) return {};
+    return {components.width(component, bounds().size.width), components.at(component).rowHeight};
 }
 
 NSInteger UIPickerView::selectedRowInComponent(NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    return exists(component) ? heldRow(component, at(component).requested) : -1;
+    UIPickerComponents& components = implementation_->components;
+    return components.exists(component) ? components.requestedRow(component) : -1;
 }
 
 Ref<UIView> UIPickerView::viewForRow_forComponent(NSInteger row, NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (isShowable()) layoutIfNeeded();
-    if (!exists(component) || !at(component).column) return nullptr;
-    return at(component).column->viewForRow(row);
+    if (implementation_->isShowable()) layoutIfNeeded();
+    if (!implementation_->components.exists(component)) return nullptr;
+    const Ref<UIPickerColumn> column = implementation_->components.at(component).column;
+    return column ? column->viewForRow(row) : nullptr;
 }
 
-NSInteger UIPickerView::rowInBandOfComponent(NSInteger component) {
+NSInteger UIPickerView::rowInSelectionIndicatorOfComponent(NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (!exists(component)) return -1;
-    const UIPickerTurn& turn = at(component).turn;
-    return turn.isTurning() ? heldRow(component, turn.rowInBand()) : selectedRowInComponent(component);
+    UIPickerComponents& components = implementation_->components;
+    if (!components.exists(component)) return -1;
+    const UIPickerColumnAxis& axis = components.at(component).axis;
+    return axis.isActive() ? components.clampedRow(component, axis.nearestRow()) : selectedRowInComponent(component);
 }
 
-// Orders
+bool UIPickerView::isTurning() const { return implementation_->components.isActive(); }
 
-void UIPickerView::reloadAllComponents() { noteStale(); }
+NSInteger UIPickerView::componentOfKeys() {
+    const Ref<UIPickerView> keep = self();
+    return implementation_->controller.componentOfKeys();
+}
+
+// Requests
+
+void UIPickerView::reloadAllComponents() { implementation_->invalidate(); }
 
 void UIPickerView::reloadComponent(NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    if (exists(component)) noteStale();
+    if (implementation_->components.exists(component)) implementation_->invalidate();
 }
 
 void UIPickerView::selectRow_inComponent_animated(NSInteger row, NSInteger component, bool animated) {
     const Ref<UIPickerView> keep = self();
-    if (!exists(component)) return;
-    const NSInteger count = refreshedRows(component);
-    const NSInteger reported = selectedRowInComponent(component);
-    const NSInteger asked = heldRow(component, row);
-    if (!exists(component)) return; // The answers may have changed the columns.
-    Component& entry = at(component);
-    entry.requested = row;
-    if (asked != reported || !entry.turn.isTurning()) {
-        const bool isAnimated = animated && asked != reported && window() && entry.column;
-        entry.turn.setRows_height_extent(count, entry.rowHeight, bounds().size.height, reported);
-        if (!entry.turn.isTurning()) entry.turn.standOnRow(isAnimated ? reported : asked);
-        if (isAnimated) {
-            entry.turn.goToRow(asked);
-            startMoving();
-        } else {
-            entry.turn.standOnRow(asked);
-        }
-    }
-    noteStale();
+    if (implementation_->controller.requestRow(row, component, animated)) implementation_->invalidate();
 }
 
 void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
     const Ref<UIPickerView> keep = self();
-    const NSInteger held = heldRow(component, row);
-    if (!exists(component)) return;
-    Component& entry = at(component);
-    entry.requested = held;
-    entry.turn.standOnRow(held);
-    noteStale();
+    UIPickerComponents& components = implementation_->components;
+    const NSInteger present = components.clampedRow(component, row);
+    if (!components.exists(component)) return;
+    components.at(component).requested = present;
+    components.at(component).axis.restOnRow(present);
+    implementation_->invalidate();
     if (const Ref<UIPickerViewDelegate> delegate = delegate_.lock()) {
-        delegate->pickerView_didSelectRow_inComponent(keep, held, component);
+        delegate->pickerView_didSelectRow_inComponent(keep, present, component);
     }
+}
+
+// Layout and drawing
+
+void UIPickerView::layoutSubviews() {
+    const Ref<UIPickerView> keep = self();
+    UIView::layoutSubviews();
+    if (implementation_->isShowable()) implementation_->controller.layout();
+}
+
+void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
+    UIView::drawRect(context, rect);
+    const UIPickerComponents& components = implementation_->components;
+    if (components.count() == 0) return;
+    const CGRect indicator = selectionIndicatorFrame();
+    if (showsSelectionIndicator_) drawSelectionIndicator(context, indicator);
+    const Ref<UIWindow> window = this->window();
+    const NSInteger component = window && window->showsFocus() && isFirstResponder() ? components.componentOfKeys() : -1;
+    if (component < 0) return;
+    const CGRect column = components.at(component).column->frame();
+    UIPickerSelectionIndicator::drawFocus(
+        context, CGRectMake(column.origin.x, indicator.origin.y, column.size.width, indicator.size.height), tintColor());
+}
+
+CGRect UIPickerView::selectionIndicatorFrame() {
+    const UIPickerComponents& components = implementation_->components;
+    if (components.count() == 0) return {};
+    const CGRect area = bounds();
+    const CGFloat height = components.highestRow();
+    constexpr CGFloat inset = UIPickerSelectionIndicator::inset;
+    return CGRectMake(area.origin.x + inset, CGRectGetMidY(area) - 0.5 * height, area.size.width - 2 * inset, height);
+}
+
+void UIPickerView::drawSelectionIndicator(UIGraphicsContext& context, CGRect frame) { UIPickerSelectionIndicator::draw(context, frame); }
+
+// Events
+
+bool UIPickerView::touchBegan(const UITouch& touch) {
+    const Ref<UIPickerView> keep = self();
+    const std::optional<bool> isTaken = implementation_->controller.touchBegan(touch);
+    return isTaken ? *isTaken : UIView::touchBegan(touch);
+}
+
+void UIPickerView::touchMoved(const UITouch& touch) {
+    const Ref<UIPickerView> keep = self();
+    if (!implementation_->controller.touchMoved(touch)) UIView::touchMoved(touch);
+}
+
+void UIPickerView::touchEnded(const UITouch& touch) {
+    const Ref<UIPickerView> keep = self();
+    if (!implementation_->controller.touchEnded(touch)) UIView::touchEnded(touch);
+}
+
+void UIPickerView::touchCancelled(const UITouch& touch) {
+    const Ref<UIPickerView> keep = self();
+    if (!implementation_->controller.touchCancelled(touch)) UIView::touchCancelled(touch);
+}
+
+bool UIPickerView::scrolled(const UIScroll& scroll) {
+    const Ref<UIPickerView> keep = self();
+    const std::optional<bool> isTaken = implementation_->controller.scrolled(scroll);
+    return isTaken ? *isTaken : UIView::scrolled(scroll);
+}
+
+bool UIPickerView::keyPressed(const UIKey& key) {
+    const Ref<UIPickerView> keep = self();
+    const UIKey pressed = key; // Callbacks may drop the key.
+    return implementation_->controller.keyPressed(pressed) || UIView::keyPressed(pressed);
+}
+
+bool UIPickerView::canBecomeFirstResponder() {
+    const Ref<UIPickerView> keep = self();
+    layoutIfNeeded();
+    return implementation_->components.componentBeside(-1, 1) >= 0;
+}
+
+void UIPickerView::focusDidChange() {
+    const Ref<UIPickerView> keep = self();
+    UIView::focusDidChange();
+    if (!isFirstResponder()) implementation_->controller.completeTyping();
+}
+
+UIAccessibilityElements UIPickerView::accessibilityElements() {
+    const Ref<UIPickerView> keep = self();
+    const Ref<UIPickerColumnElement::Wheel> parts(keep, &implementation_->parts);
+    return UIPickerColumnElement::elementsOf(keep, parts);
+}
+
+// Time
+
+bool UIPickerView::advanceToTime(NSTimeInterval time) {
+    const Ref<UIPickerView> keep = self();
+    return implementation_->controller.advanceToTime(time);
+}
+
+void UIPickerView::finishAnimations() {
+    const Ref<UIPickerView> keep = self();
+    if (isTurning()) implementation_->controller.finish();
+}
+
+void UIPickerView::didMoveToWindow() {
+    UIView::didMoveToWindow();
+    // Without a window no time passes: what moves arrives.
+    if (!window()) finishAnimations();
 }
 
 } // namespace gx

@@ -10,23 +10,37 @@ namespace {
 // The rate as a drag: a free fling follows v(t) = v0·e^(−drag·t), and so runs v0 / drag.
 const double drag = -1000.0 * std::log(UIScrollMotion::decelerationRate);
 
-// A fling that has come down to this speed is over; in rows per second. Chosen by eye: what is slower looks like standing.
+// A fling that has come down to this speed is over; in rows per second. Chosen by eye: what is
+// slower looks still.
 constexpr double restSpeed = 0.25;
-constexpr NSTimeInterval shortestFling = 0.22;
+// Chosen by eye: as long as coming to rest on the nearest row (`snapDuration`), since a shorter
+// fling looks like a jump too.
+constexpr NSTimeInterval shortestFling = UIScrollMotion::snapDuration;
 
-// How hard the end pulls back, per second: critically damped, so it swings over once and never through. Chosen so that a
-// strong fling (50 rows a second) shows about one empty row and is back within half a second.
+// How hard the end pulls back, per second: critically damped, so it swings over once and never
+// through. Chosen so that a strong fling (50 rows a second) shows about one empty row and is back
+// within half a second.
 constexpr double endStiffness = 18;
+// Chosen by eye. At most 0.006 rows of the swing are left by then: 100 · 0.5 · e^(−18 · 0.5).
 constexpr NSTimeInterval bounceDuration = 0.5;
-// No end is hit harder than this, in rows per second: it swings over by 100 / (18·e) = 2.04 rows, so that the last row
-// stays in sight.
+// No end is hit harder than this, in rows per second: it swings over by 100 / (18·e) = 2.04 rows,
+// so that the last row stays in sight.
 constexpr double hardestImpact = 100;
 
-// Frames may be timed a little before the finger that they follow, by no more than this.
+// How much of a finger's first step beyond an end the content follows. Prescribed by the phone's
+// platform.
+constexpr double rubberBandStiffness = 0.55;
+// The largest share of its extent at which a pull is taken up again. Chosen just below 1, where the
+// finger's way would be endless.
+constexpr double largestShareOfPull = 0.99;
+
+// Frames may be timed a little before the finger that they follow, by no more than this. Chosen: no
+// frame takes so long.
 constexpr NSTimeInterval furthestAhead = 1;
 
-/// The share of its way that a fling has run: drag and a constant friction that brings it to a stop at `duration`
-/// exactly, with no speed left. 0 at 0, 1 at `duration`.
+/// The share of its way that a fling has run. 0 at 0, 1 at `duration`.
+///
+/// Drag and a constant friction bring it to a stop at `duration` exactly, with no speed left.
 double flingShare(NSTimeInterval elapsed, NSTimeInterval duration) {
     const double left = std::exp(-drag * duration);
     const double whole = 1 - left - drag * duration * left;
@@ -39,8 +53,8 @@ double flingStartSpeed(NSTimeInterval duration) {
     return drag * (1 - left) / (1 - left - drag * duration * left);
 }
 
-/// The duration for which a fling over `distance` begins with `velocity`, both positive. The start speed falls
-/// as the duration grows, so the interval can be halved.
+/// The duration for which a fling over `distance` begins with `velocity`, both positive. The start
+/// speed falls as the duration grows, so the interval can be halved.
 NSTimeInterval flingDuration(double distance, double velocity) {
     NSTimeInterval shortest = shortestFling;
     NSTimeInterval longest = std::max(shortest, std::log(std::max(velocity / restSpeed, 1.0)) / drag);
@@ -58,14 +72,13 @@ double UIScrollMotion::travelOfVelocity(double velocity) { return velocity / dra
 
 double UIScrollMotion::rubberBand(double distance, double extent) {
     if (!(extent > 0) || !(distance > 0)) return 0;
-    return (1 - 1 / (0.55 * distance / extent + 1)) * extent;
+    return (1 - 1 / (rubberBandStiffness * distance / extent + 1)) * extent;
 }
 
 double UIScrollMotion::rubberBandInverse(double displayed, double extent) {
     if (!(extent > 0) || !(displayed > 0)) return 0;
-    // The band never shows more than `extent`; just below it the way would be endless.
-    const double share = std::min(displayed / extent, 0.99);
-    return (1 / (1 - share) - 1) * extent / 0.55;
+    const double share = std::min(displayed / extent, largestShareOfPull);
+    return (1 / (1 - share) - 1) * extent / rubberBandStiffness;
 }
 
 UIScrollMotion UIScrollMotion::ease(double from, double to, NSTimeInterval duration, std::optional<NSTimeInterval> start) {
@@ -86,7 +99,8 @@ UIScrollMotion UIScrollMotion::fling(double from, double velocity, double to, do
     UIScrollMotion motion = ease(from, to, 0, start);
     motion.velocity_ = velocity;
     const double travel = travelOfVelocity(velocity);
-    // An end that is met at a crawl is reached as any other row: nobody would see it bounce, only wait for the report.
+    // An end that is met at a crawl is reached as any other row: nobody would see it bounce, only
+    // wait for the report.
     const bool hitsEnd = to == end && std::fabs(travel) > std::fabs(distance) && std::fabs(velocity - drag * distance) >= restSpeed;
     if (hitsEnd) {
         motion.curve_ = Curve::Bounce;
@@ -152,11 +166,6 @@ double UIScrollMotion::flingVelocityAt(NSTimeInterval time) const {
         return elapsed < impact_ ? velocity_ * std::exp(-drag * elapsed) : 0;
     }
     return 0;
-}
-
-void UIScrollMotion::shiftOrigin(double rows) {
-    from_ -= rows;
-    to_ -= rows;
 }
 
 } // namespace gx

@@ -5,9 +5,13 @@
 
 #include "UIGraphicsContext.h"
 #include "UIKey.h"
+#include "UIScrollAxis.h"
 #include "UIWindow.h"
 
 namespace gx {
+
+UIScrollView::UIScrollView() : axis_(std::make_unique<UIScrollAxis>(UIScrollFeel::scrollView)) {}
+UIScrollView::~UIScrollView() = default;
 
 bool UIScrollView::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
@@ -21,14 +25,22 @@ bool UIScrollView::initWithCoder(const Ref<NSCoder>& coder) {
     return true;
 }
 
-// Where the content stands
+// The offset
 
 CGFloat UIScrollView::highestOffset() const { return std::max(0.0, contentSize_.height - bounds().size.height); }
 
-/// Where it is heading for, or else where it is.
-CGFloat UIScrollView::offsetAtRest() const { return UIScrollView::isMoving() ? target_ : offset(); }
+/// The axis, with the present range and offset.
+UIScrollAxis& UIScrollView::axis() const {
+    axis_->setRange({0, highestOffset(), bounds().size.height, 1});
+    axis_->setPosition(offset());
+    return *axis_;
+}
 
-CGFloat UIScrollView::held(CGFloat offset) const { return std::clamp(offset, 0.0, highestOffset()); }
+CGFloat UIScrollView::clamped(CGFloat offset) const { return axis().clamped(offset); }
+
+bool UIScrollView::isDragging() const { return axis_->state() == UIScrollAxis::State::Dragged; }
+bool UIScrollView::isDecelerating() const { return axis_->state() == UIScrollAxis::State::Gliding; }
+bool UIScrollView::hasFinger() const { return axis_->isHeld(); }
 
 void UIScrollView::moveTo(CGFloat offset) {
     if (offset == this->offset()) return;
@@ -40,30 +52,16 @@ void UIScrollView::moveTo(CGFloat offset) {
 
 void UIScrollView::setContentSize(CGSize size) {
     if (!std::isfinite(size.width) || !std::isfinite(size.height)) return;
-    const CGSize taken = {std::max(0.0, size.width), std::max(0.0, size.height)};
-    if (taken == contentSize_) return;
-    contentSize_ = taken;
+    const CGSize least = {std::max(0.0, size.width), std::max(0.0, size.height)};
+    if (least == contentSize_) return;
+    contentSize_ = least;
     setNeedsDisplay();
-    holdToContent();
+    fitToContent();
 }
 
-void UIScrollView::holdToContent() {
-    switch (state_) {
-    case State::AtRest:
-        moveTo(held(offset()));
-        break;
-    case State::Touched:
-        break; // What lies beyond an end springs back when the finger leaves.
-    case State::Dragged:
-        moveTo(bandedOffset(raw_));
-        break;
-    case State::Gliding:
-    case State::Requested:
-        if (target_ == held(target_)) break;
-        state_ = State::AtRest;
-        moveTo(held(offset()));
-        break;
-    }
+void UIScrollView::fitToContent() {
+    axis().adjustToRange();
+    moveTo(axis_->position());
 }
 
 void UIScrollView::setContentOffset(CGPoint offset) { setContentOffset_animated(offset, false); }
@@ -71,38 +69,35 @@ void UIScrollView::setContentOffset(CGPoint offset) { setContentOffset_animated(
 void UIScrollView::setContentOffset_animated(CGPoint offset, bool animated) {
     if (!std::isfinite(offset.y)) return;
     const Ref<UIView> keep = refTo<UIView>(this);
-    const CGFloat target = held(offset.y);
+    const CGFloat target = clamped(offset.y);
     if (target == this->offset() && !UIScrollView::isMoving()) return;
-    finger_.reset();
-    state_ = State::AtRest;
+    axis_->restAt(this->offset());
     endPress(false, 0);
-    if (animated && target != this->offset()) {
-        glide(State::Requested, target,
-              UIScrollMotion::ease((this->offset() - target) / motionRow, 0, UIScrollMotion::requestDuration, std::nullopt));
-    } else {
-        moveTo(target);
-    }
+    if (!animated || target == this->offset() || !canGlide()) return moveTo(target);
+    axis().easeTo(target, UIScrollMotion::requestDuration, std::nullopt, UIScrollAxis::State::Requested);
+    startMoving();
 }
 
 void UIScrollView::scrollRectToVisible_animated(CGRect rect, bool animated) {
     const CGFloat top = CGRectGetMinY(rect);
     const CGFloat lowest = CGRectGetMaxY(rect) - bounds().size.height;
     if (!std::isfinite(top) || !std::isfinite(lowest)) return;
-    const CGFloat target = std::min(std::max(offsetAtRest(), lowest), top);
-    if (target != offsetAtRest()) setContentOffset_animated({0, target}, animated);
+    const CGFloat present = axis().target();
+    const CGFloat target = std::min(std::max(present, lowest), top);
+    if (target != present) setContentOffset_animated({0, target}, animated);
 }
 
 void UIScrollView::setFrame(CGRect frame) {
     const CGFloat heightBefore = bounds().size.height;
     UIView::setFrame(frame);
-    if (bounds().size.height != heightBefore) holdToContent();
+    if (bounds().size.height != heightBefore) fitToContent();
 }
 
 void UIScrollView::setBounds(CGRect newBounds) {
     const Ref<UIView> keep = refTo<UIView>(this);
     const CGRect before = bounds();
     UIView::setBounds({before.origin, newBounds.size});
-    holdToContent();
+    fitToContent();
     if (newBounds.origin.y != before.origin.y) setContentOffset(newBounds.origin);
 }
 
@@ -114,25 +109,105 @@ void UIScrollView::didMoveToWindow() {
 
 void UIScrollView::finishAnimations() {
     const Ref<UIView> keep = refTo<UIView>(this);
-    const bool isUnderway = UIScrollView::isMoving();
-    const CGFloat target = target_;
+    const bool isGoing = UIScrollView::isMoving();
+    const CGFloat target = axis().target();
     stop();
-    if (isUnderway) moveTo(held(target));
+    if (isGoing) moveTo(clamped(target));
 }
 
 void UIScrollView::stop() {
     const Ref<UIView> keep = refTo<UIView>(this);
-    finger_.reset();
-    state_ = State::AtRest;
+    axis_->restAt(offset());
     endPress(false, 0);
-    moveTo(held(offset()));
+    moveTo(clamped(offset()));
 }
 
 void UIScrollView::revealDescendant(CGRect rect) {
     const Ref<UIView> keep = refTo<UIView>(this);
     scrollRectToVisible_animated(rect, true);
-    // For who is above, where it will be: the way there has only begun.
-    UIView::revealDescendant(CGRectOffset(rect, 0, offset() - offsetAtRest()));
+    // Views above need to know where it will be: the way there has only begun.
+    UIView::revealDescendant(CGRectOffset(rect, 0, offset() - axis().target()));
+}
+
+// Fingers
+
+bool UIScrollView::touchBegan(const UITouch& touch) {
+    const CGPoint point = convertPointFromWindow(touch.locationInWindow);
+    const bool isSecond = axis_->isHeld() && !axis_->hasFinger(touch.identifier);
+    // Taken, so that no view above uses it.
+    if (isSecond || !std::isfinite(touch.locationInWindow.y)) return true;
+    const Ref<UIView> keep = refTo<UIView>(this);
+    endPress(false, touch.timestamp); // Of the same finger, whose end was not reported.
+    const bool stopsMovement = UIScrollView::isMoving();
+    axis().touchBegan(touch.identifier, touch.locationInWindow.y, touch.timestamp);
+    isPressed_ = !stopsMovement;
+    if (isPressed_) pressBegan(point, touch.timestamp);
+    return true;
+}
+
+void UIScrollView::touchMoved(const UITouch& touch) {
+    if (!axis_->hasFinger(touch.identifier)) return;
+    const Ref<UIView> keep = refTo<UIView>(this);
+    if (!axis().touchMoved(touch.locationInWindow.y, touch.timestamp)) return moveTo(axis_->position());
+    endPress(false, touch.timestamp);
+    if (isDragging()) scrollViewWillBeginDragging();
+}
+
+void UIScrollView::touchEnded(const UITouch& touch) {
+    if (!axis_->hasFinger(touch.identifier)) return;
+    const Ref<UIView> keep = refTo<UIView>(this);
+    if (axis_->isMoveTo(touch.locationInWindow.y)) touchMoved(touch);
+    if (!axis_->hasFinger(touch.identifier)) return; // A callback has ended the touch.
+    const double velocity = isDragging() ? axis().releaseVelocityAt(touch.timestamp) : 0;
+    axis_->restAt(offset());
+    if (axis().isBeyondEnd()) {
+        springBack(touch.timestamp);
+    } else if (velocity != 0 && highestOffset() > 0 && !reducesMotion()) {
+        throwAt(velocity, touch.timestamp);
+    }
+    endPress(true, touch.timestamp);
+}
+
+void UIScrollView::touchCancelled(const UITouch& touch) {
+    if (!axis_->hasFinger(touch.identifier)) return;
+    const Ref<UIView> keep = refTo<UIView>(this);
+    axis_->restAt(offset());
+    if (axis().isBeyondEnd()) springBack(touch.timestamp);
+    endPress(false, touch.timestamp);
+}
+
+void UIScrollView::endPress(bool isTap, NSTimeInterval time) {
+    if (!isPressed_) return;
+    isPressed_ = false;
+    pressEnded(isTap, time);
+}
+
+/// Whether content may move by itself: without a window it has no clock.
+bool UIScrollView::canGlide() const { return window() && !reducesMotion(); }
+
+void UIScrollView::throwAt(double velocity, NSTimeInterval time) {
+    const CGFloat target = axis().landingNear(offset() + UIScrollMotion::travelOfVelocity(velocity));
+    if (!canGlide()) return moveTo(target);
+    axis_->flingTo(target, velocity, time);
+    startMoving();
+}
+
+void UIScrollView::springBack(NSTimeInterval time) {
+    const CGFloat target = axis().landingNear(offset());
+    if (!canGlide()) return moveTo(target);
+    axis_->easeTo(target, UIScrollMotion::snapDuration, time);
+    startMoving();
+}
+
+// The mouse wheel and the trackpad
+
+bool UIScrollView::scrolled(const UIScroll& scroll) {
+    if (scroll.isSideways() || highestOffset() <= 0) return UIView::scrolled(scroll);
+    const CGFloat points = scroll.deltaY * (scroll.unit == UIScroll::Unit::Notches ? pointsPerNotch : 1);
+    if (axis_->isHeld() || !std::isfinite(points) || points == 0) return true;
+    axis_->restAt(offset());
+    moveTo(clamped(offset() + points));
+    return true;
 }
 
 // Keys
@@ -140,7 +215,7 @@ void UIScrollView::revealDescendant(CGRect rect) {
 bool UIScrollView::keyPressed(const UIKey& key) {
     if (highestOffset() <= 0 || key.isCommand()) return UIView::keyPressed(key);
     const CGFloat page = std::max(pointsPerNotch, bounds().size.height - pointsPerNotch);
-    CGFloat target = offsetAtRest();
+    CGFloat target = axis().target();
     switch (key.code) {
     case UIKey::Code::Up:
         target -= pointsPerNotch;
@@ -163,13 +238,13 @@ bool UIScrollView::keyPressed(const UIKey& key) {
     default:
         return UIView::keyPressed(key);
     }
-    if (!finger_) setContentOffset_animated({0, target}, true);
+    if (!hasFinger()) setContentOffset_animated({0, target}, true);
     return true;
 }
 
 // Time
 
-bool UIScrollView::isMoving() const { return state_ == State::Gliding || state_ == State::Requested; }
+bool UIScrollView::isMoving() const { return axis_->isGoing(); }
 
 void UIScrollView::startMoving() {
     if (const Ref<UIWindow> window = this->window()) window->animateView(refTo<UIView>(this));
@@ -180,24 +255,12 @@ bool UIScrollView::reducesMotion() const {
     return window && window->reducesMotion();
 }
 
-void UIScrollView::glide(State state, CGFloat target, const UIScrollMotion& motion) {
-    if (!window() || reducesMotion()) {
-        moveTo(target);
-        return;
-    }
-    state_ = state;
-    target_ = target;
-    motion_ = motion;
-    startMoving();
-}
-
 bool UIScrollView::advanceToTime(NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
     if (UIScrollView::isMoving()) {
-        motion_.beginAt(time);
-        const bool isOver = motion_.isOverAt(time) || reducesMotion();
-        if (isOver) state_ = State::AtRest;
-        moveTo(isOver ? target_ : target_ + motionRow * motion_.positionAt(time));
+        const bool isOver = axis().advanceToTime(time) || reducesMotion();
+        if (isOver) axis_->restAt(axis_->target());
+        moveTo(axis_->position());
     }
     return isMoving();
 }
@@ -218,17 +281,18 @@ void UIScrollView::drawSubviews(UIGraphicsContext& context) {
     drawScrollBar(context);
 }
 
+/// A thin bar in the margin shows which part of the content is visible.
 void UIScrollView::drawScrollBar(UIGraphicsContext& context) const {
     const CGFloat highest = highestOffset();
     if (highest <= 0) return;
-    // A thin bar in the margin tells where the content stands.
+    // In points, chosen by eye.
     constexpr CGFloat thickness = 4;
     constexpr CGFloat inset = 4;
     constexpr CGFloat shortest = 32;
     const CGRect area = bounds();
     const CGFloat room = area.size.height - 2 * inset;
     const CGFloat length = std::min(room, std::max(shortest, area.size.height * area.size.height / contentSize_.height));
-    const CGFloat y = CGRectGetMinY(area) + inset + (room - length) * held(offset()) / highest;
+    const CGFloat y = CGRectGetMinY(area) + inset + (room - length) * clamped(offset()) / highest;
     context.fillRect(CGRectMake(CGRectGetMaxX(area) - inset - thickness, y, thickness, length), UIColor::tertiarySystemFillColor(),
                      0.5 * thickness);
 }

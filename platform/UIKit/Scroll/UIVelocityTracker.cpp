@@ -14,17 +14,17 @@ void UIVelocityTracker::add(NSTimeInterval time, CGFloat place) {
 }
 
 double UIVelocityTracker::velocityAt(NSTimeInterval time) const {
-    if (count_ < 2) return 0;
     const std::size_t size = samples_.size();
     const Sample& latest = samples_[(next_ + size - 1) % size];
     if (!(time - latest.time <= stillness)) return 0;
     Sample earliest = latest;
     for (std::size_t back = 2; back <= count_; ++back) {
         const Sample& sample = samples_[(next_ + size - back) % size];
-        // Of places that came out of order, only the later ones tell of a speed.
+        // Only places in the order of time give a speed.
         if (!(latest.time - sample.time <= memory && sample.time <= earliest.time)) break;
         earliest = sample;
     }
+    // With fewer than two places this is 0 / 0, which is not finite.
     const double velocity = (latest.place - earliest.place) / (latest.time - earliest.time);
     return std::isfinite(velocity) ? std::clamp(velocity, -highest, highest) : 0;
 }

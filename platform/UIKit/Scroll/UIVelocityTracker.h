@@ -14,15 +14,19 @@ class GX_EXPORT UIVelocityTracker {
 public:
     void reset();
     void add(NSTimeInterval time, CGFloat place);
-    /// In places per second; 0 if the finger had stopped before `time`.
+    /// In places per second. 0 with fewer than two places, and if the finger had stopped before
+    /// `time`.
     double velocityAt(NSTimeInterval time) const;
 
 private:
-    // Faster than any finger or flick that a screen reports; what lies beyond comes from two places at nearly one time.
+    // In places per second, faster than any finger. Chosen as a bound for two places at nearly one
+    // time.
     static constexpr double highest = 1e6;
-    // A finger that has not moved for so long is holding still.
+    // A finger that has not moved for so long is resting. Chosen: longer than the time between two
+    // reports of a slow touch screen.
     static constexpr NSTimeInterval stillness = 0.06;
-    // Older places say nothing about the speed now.
+    // Older places say nothing about the present speed. Chosen: a few reports, even of a slow touch
+    // screen.
     static constexpr NSTimeInterval memory = 0.1;
 
     struct Sample {

@@ -201,7 +201,7 @@ TEST_F(UIViewWidgetInput, AStrokeOnATrackpadScrollsByItsPoints) {
     }
     EXPECT_TRUE(wheelEvent(firstColumn, {0, -35}, {0, -70}, Qt::ScrollMomentum));
     step(0.016);
-    EXPECT_EQ(wheel->rowInBandOfComponent(0), 13); // 115 points are 2.9 rows.
+    EXPECT_EQ(wheel->rowInSelectionIndicatorOfComponent(0), 13); // 115 points are 2.9 rows.
     EXPECT_TRUE(source->notices.empty());
     EXPECT_TRUE(wheelEvent(firstColumn, {}, {}, Qt::ScrollEnd));
     step(0.016);

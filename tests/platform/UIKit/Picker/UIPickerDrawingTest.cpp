@@ -21,7 +21,7 @@ public:
         CGRect clip;
     };
     std::map<std::string, Text> texts;
-    int bands = 0;
+    int indicators = 0;
 
     void saveState() override { saved_.push_back(state_); }
     void restoreState() override {
@@ -43,7 +43,7 @@ public:
     void multiplyAlpha(double alpha) override { state_.alpha *= alpha; }
 
 protected:
-    void fillRectWithComponents(CGRect, const UIColorComponents&, CGFloat) override { ++bands; }
+    void fillRectWithComponents(CGRect, const UIColorComponents&, CGFloat) override { ++indicators; }
     void drawTextWithComponents(std::string_view text, const UIFont&, const UIColorComponents&, CGPoint origin) override {
         constexpr CGFloat halfLine = 10;
         texts[std::string(text)] = {state_.y + (origin.y + halfLine) * state_.scaleY, state_.scaleX, state_.scaleY, state_.alpha,
@@ -64,7 +64,7 @@ private:
     std::vector<State> saved_;
 };
 
-struct WheelDrawing : testing::Test {
+struct UIPickerViewDrawing : testing::Test {
     Ref<WheelSource> source = create<WheelSource>();
     Ref<UIPickerView> wheel = wheelWithSource(source);
     TestWindow window{wheel};
@@ -78,7 +78,7 @@ struct WheelDrawing : testing::Test {
 
 } // namespace
 
-TEST_F(WheelDrawing, TheRowInTheBandIsDrawnAsItIs) {
+TEST_F(UIPickerViewDrawing, TheSelectedRowIsDrawnWithoutForeshortening) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     const PlacingCanvas::Text row = drawn().at("50");
     EXPECT_DOUBLE_EQ(row.middle, 108);
@@ -87,7 +87,7 @@ TEST_F(WheelDrawing, TheRowInTheBandIsDrawnAsItIs) {
     EXPECT_DOUBLE_EQ(row.alpha, 1);
 }
 
-TEST_F(WheelDrawing, RowsTurnAwayAndFadeAlikeAboveAndBelow) {
+TEST_F(UIPickerViewDrawing, RowsTiltAndFadeAlikeAboveAndBelow) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     const auto rows = drawn();
     for (int i = 1; i <= 3; ++i) {
@@ -103,17 +103,18 @@ TEST_F(WheelDrawing, RowsTurnAwayAndFadeAlikeAboveAndBelow) {
         EXPECT_LT(below.alpha, before.alpha);
         EXPECT_DOUBLE_EQ(below.alpha, above.alpha);
     }
-    // The radius is 108 / sin 65° = 119.164…; the next row is turned by 40 / 119.164 = 0.33567 and stands at 119.164 · sin 0.33567.
+    // The radius is 108 / sin 65° = 119.164…; the next row is turned by 40 / 119.164 = 0.33567 and
+    // stands at 119.164 · sin 0.33567.
     EXPECT_NEAR(rows.at("51").middle - 108, 39.2528, 1e-3);
     EXPECT_EQ(rows.size(), 7U) << "the rows at the edge, at 65 degrees, are the last";
 }
 
-TEST_F(WheelDrawing, NoRowIsDrawnBeyondTheWheel) {
+TEST_F(UIPickerViewDrawing, NoRowIsDrawnBeyondTheWheel) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     for (const auto& [title, row] : drawn()) EXPECT_EQ(row.clip, CGRectMake(0, 0, 320, 216)) << title;
 }
 
-TEST_F(WheelDrawing, ATapMeetsTheRowThatIsDrawnUnderIt) {
+TEST_F(UIPickerViewDrawing, ATapSelectsTheRowThatIsDrawnUnderIt) {
     wheel->selectRow_inComponent_animated(50, 0, false);
     const auto rows = drawn();
     for (const auto& [title, row] : rows) {
@@ -126,28 +127,41 @@ TEST_F(WheelDrawing, ATapMeetsTheRowThatIsDrawnUnderIt) {
     EXPECT_EQ(source->notices.size(), rows.size() - 1);
 }
 
-TEST_F(WheelDrawing, TheBandIsDrawnOnlyWhereItIsWanted) {
+TEST_F(UIPickerViewDrawing, TheSelectionIndicatorIsDrawnOnlyIfItIsShown) {
     PlacingCanvas canvas;
     window->draw(canvas);
-    EXPECT_EQ(canvas.bands, 1);
+    EXPECT_EQ(canvas.indicators, 1);
     wheel->setShowsSelectionIndicator(false);
     window->draw(canvas);
-    EXPECT_EQ(canvas.bands, 1);
+    EXPECT_EQ(canvas.indicators, 1);
 }
 
-TEST_F(WheelDrawing, AWheelWithoutColumnsDrawsNothing) {
+TEST_F(UIPickerViewDrawing, HidingAndShowingTheSelectionIndicatorDrawsAgain) {
+    window.runUntilStill();
+    window.tick(0);
+    ASSERT_FALSE(window.tick(0));
+    wheel->setShowsSelectionIndicator(false);
+    EXPECT_TRUE(window.tick(0));
+    wheel->setShowsSelectionIndicator(false);
+    EXPECT_FALSE(window.tick(0)) << "the same again changes nothing";
+    wheel->setShowsSelectionIndicator(true);
+    EXPECT_TRUE(window.tick(0));
+}
+
+TEST_F(UIPickerViewDrawing, AWheelWithoutColumnsDrawsNothing) {
     source->rows = {};
     wheel->reloadAllComponents();
     window.tick(0);
     PlacingCanvas canvas;
     window->draw(canvas);
-    EXPECT_EQ(canvas.bands, 0);
+    EXPECT_EQ(canvas.indicators, 0);
     EXPECT_TRUE(canvas.texts.empty());
     EXPECT_EQ(wheel->selectionIndicatorFrame(), CGRect{});
 }
 
-TEST_F(WheelDrawing, ARowThatIsTurnedAwayBeyondTheEdgeIsNotDrawn) {
-    source->height = 216; // As high as the wheel: the rows beside the one in the band are turned away by more than 90 degrees.
+TEST_F(UIPickerViewDrawing, ARowTiltedBeyondTheEdgeIsNotDrawn) {
+    // As high as the wheel: the rows beside the selected one are tilted by more than 90 degrees.
+    source->height = 216;
     wheel->selectRow_inComponent_animated(50, 0, false);
     window.tick(0);
     ASSERT_TRUE(wheel->viewForRow_forComponent(51, 0));
@@ -156,7 +170,7 @@ TEST_F(WheelDrawing, ARowThatIsTurnedAwayBeyondTheEdgeIsNotDrawn) {
     EXPECT_TRUE(texts.contains("50"));
 }
 
-TEST_F(WheelDrawing, AViewThatWasPutElsewhereStaysThere) {
+TEST_F(UIPickerViewDrawing, AViewThatWasPutElsewhereStaysThere) {
     const auto elsewhere = create<UIView>(CGRectMake(0, 300, 100, 100)); // In no window.
     elsewhere->addSubview(wheel->viewForRow_forComponent(0, 0));
     EXPECT_FALSE(drawn().contains("0"));

@@ -34,7 +34,7 @@ std::string twoDigits(NSInteger number) { return (number < 10 ? "0" : "") + std:
 
 } // namespace
 
-TEST(UIPickerTitleSearch, a_number_is_found_by_its_value) {
+TEST(UIPickerTitleSearch, ANumberIsFoundByItsValue) {
     Search search(100, [](NSInteger row) { return std::to_string(row); });
     EXPECT_EQ(search(U"42"), (Result{42, false}));
     EXPECT_EQ(search(U"4"), (Result{4, true})) << "40 to 49 go on";
@@ -43,7 +43,7 @@ TEST(UIPickerTitleSearch, a_number_is_found_by_its_value) {
     EXPECT_EQ(search(U"007"), (Result{7, false}));
 }
 
-TEST(UIPickerTitleSearch, padded_titles_are_found_with_and_without_their_zeros) {
+TEST(UIPickerTitleSearch, PaddedTitlesAreFoundWithAndWithoutTheirZeros) {
     Search search(60, twoDigits);
     EXPECT_EQ(search(U"05"), (Result{5, false}));
     EXPECT_EQ(search(U"5"), (Result{5, true})) << "50 to 59 go on";
@@ -53,7 +53,7 @@ TEST(UIPickerTitleSearch, padded_titles_are_found_with_and_without_their_zeros) 
     EXPECT_EQ(search(U"60"), (Result{}));
 }
 
-TEST(UIPickerTitleSearch, the_beginning_of_a_number_is_no_row_yet) {
+TEST(UIPickerTitleSearch, TheBeginningOfANumberIsNoRowYet) {
     Search search(211, [](NSInteger row) { return std::to_string(row + 30); });
     EXPECT_EQ(search(U"1"), (Result{std::nullopt, true}));
     EXPECT_EQ(search(U"12"), (Result{std::nullopt, true}));
@@ -63,7 +63,7 @@ TEST(UIPickerTitleSearch, the_beginning_of_a_number_is_no_row_yet) {
     EXPECT_EQ(search(U"241"), (Result{}));
 }
 
-TEST(UIPickerTitleSearch, steps_are_taken_into_account) {
+TEST(UIPickerTitleSearch, StepsAreTakenIntoAccount) {
     Search search(21, [](NSInteger row) { return std::to_string(50 * row); }); // 0 to 1000
     EXPECT_EQ(search(U"150"), (Result{3, false}));
     EXPECT_EQ(search(U"15"), (Result{std::nullopt, true}));
@@ -71,7 +71,7 @@ TEST(UIPickerTitleSearch, steps_are_taken_into_account) {
     EXPECT_EQ(search(U"100"), (Result{2, true})) << "1000 goes on";
 }
 
-TEST(UIPickerTitleSearch, numbers_may_run_downward) {
+TEST(UIPickerTitleSearch, NumbersMayRunDownward) {
     Search search(31, [](NSInteger row) { return std::to_string(20 - row); }); // 20 to -10
     EXPECT_EQ(search(U"20"), (Result{0, false}));
     EXPECT_EQ(search(U"-4"), (Result{24, false}));
@@ -80,27 +80,28 @@ TEST(UIPickerTitleSearch, numbers_may_run_downward) {
     EXPECT_EQ(search(U"-11"), (Result{}));
 }
 
-TEST(UIPickerTitleSearch, negative_titles_may_have_any_minus) {
+TEST(UIPickerTitleSearch, NegativeTitlesMayHaveAnyMinus) {
     Search search(21, [](NSInteger row) { return row < 10 ? "\u2212" + std::to_string(10 - row) : std::to_string(row - 10); });
     EXPECT_EQ(search(U"-4"), (Result{6, false}));
     EXPECT_EQ(search(U"4"), (Result{14, false}));
     EXPECT_EQ(search(U"-"), (Result{std::nullopt, true}));
 }
 
-TEST(UIPickerTitleSearch, a_dash_for_no_value_may_come_first) {
-    Search search(201, [](NSInteger row) { return row == 0 ? "-" : std::to_string(29 + row); }); // "-", 30 to 229
+TEST(UIPickerTitleSearch, ADashForNoValueMayComeFirst) {
+    // "-", 30 to 229
+    Search search(201, [](NSInteger row) { return row == 0 ? "-" : std::to_string(29 + row); });
     EXPECT_EQ(search(U"-"), (Result{0, false}));
     EXPECT_EQ(search(U"30"), (Result{1, false}));
     EXPECT_EQ(search(U"229"), (Result{200, false}));
 }
 
-TEST(UIPickerTitleSearch, tenths_may_be_titled_with_their_separator) {
+TEST(UIPickerTitleSearch, TenthsMayBeTitledWithTheirSeparator) {
     Search search({",0", ",1", ",2", ",3", ",4", ",5", ",6", ",7", ",8", ",9"});
     EXPECT_EQ(search(U"5"), (Result{5, false}));
     EXPECT_EQ(search(U".5"), (Result{5, false}));
 }
 
-TEST(UIPickerTitleSearch, a_billion_rows_take_a_few_dozen_questions) {
+TEST(UIPickerTitleSearch, ABillionRowsTakeAFewDozenQueries) {
     Search search(1'000'000'000, [](NSInteger row) { return std::to_string(row); });
     EXPECT_EQ(search(U"123456789"), (Result{123456789, false}));
     // 30 halvings, and the ends.
@@ -110,14 +111,14 @@ TEST(UIPickerTitleSearch, a_billion_rows_take_a_few_dozen_questions) {
     EXPECT_LE(search.questions, 80);
 }
 
-TEST(UIPickerTitleSearch, the_last_of_all_rows_there_can_be_is_found) {
+TEST(UIPickerTitleSearch, TheLastOfAllRowsThereCanBeIsFound) {
     constexpr NSInteger largest = std::numeric_limits<NSInteger>::max();
     // Titles of 18 digits: each stands for ten rows.
     Search search(largest, [](NSInteger row) { return std::to_string(row / 10); });
     EXPECT_EQ(search(U"922337203685477580").row, largest - 7);
 }
 
-TEST(UIPickerTitleSearch, words_are_found_by_their_beginning) {
+TEST(UIPickerTitleSearch, WordsAreFoundByTheirBeginning) {
     Search search({"  kg", "  lb", "  lbs", "  st"});
     EXPECT_EQ(search(U"k"), (Result{0, true}));
     EXPECT_EQ(search(U"kg"), (Result{0, false}));
@@ -127,21 +128,22 @@ TEST(UIPickerTitleSearch, words_are_found_by_their_beginning) {
     EXPECT_EQ(search(U"x"), (Result{}));
 }
 
-TEST(UIPickerTitleSearch, the_row_that_is_spelled_exactly_goes_before_one_that_is_equal) {
+TEST(UIPickerTitleSearch, TheRowThatIsSpelledExactlyGoesBeforeOneThatIsEqual) {
     Search search({"a", "05", "b", "5"});
     EXPECT_EQ(search(U"5").row, 3);
     EXPECT_EQ(search(U"05").row, 1);
 }
 
-TEST(UIPickerTitleSearch, numbers_in_no_order_are_looked_for_in_the_first_rows) {
+TEST(UIPickerTitleSearch, NumbersInNoOrderAreLookedForInTheFirstRows) {
     constexpr NSInteger longest = UIPickerTitleSearch::longestWalk;
     Search search(longest + 1, [](NSInteger row) { return row == 500 ? "none" : std::to_string((row * 7919) % 100003); });
-    // 7919 · 999 = 7 911 081 = 79 · 100 003 + 10 844, and row 1000 is beyond the walk: 10 844 + 7919 = 18 763.
+    // 7919 · 999 = 7 911 081 = 79 · 100 003 + 10 844, and row 1000 is beyond the walk: 10 844 +
+    // 7919 = 18 763.
     EXPECT_EQ(search(U"10844").row, longest - 1);
     EXPECT_EQ(search(U"18763").row, std::nullopt);
 }
 
-TEST(UIPickerTitleSearch, nothing_is_found_without_a_text_titles_or_rows) {
+TEST(UIPickerTitleSearch, NothingIsFoundWithoutATextTitlesOrRows) {
     Search search(3, [](NSInteger) { return std::nullopt; });
     EXPECT_EQ(search(U"1"), (Result{}));
     EXPECT_EQ(search(U"-"), (Result{}));
@@ -151,7 +153,7 @@ TEST(UIPickerTitleSearch, nothing_is_found_without_a_text_titles_or_rows) {
     EXPECT_EQ(empty.questions, 0);
 }
 
-TEST(UIPickerTitleSearch, a_number_spells_a_title_with_something_else_behind_it) {
+TEST(UIPickerTitleSearch, ANumberSpellsATitleWithSomethingElseBehindIt) {
     Search search({"5'", "6km", "7:30", "8.5", "90"});
     EXPECT_EQ(search(U"5"), (Result{0, true}));
     EXPECT_EQ(search(U"6"), (Result{1, true}));
@@ -160,7 +162,7 @@ TEST(UIPickerTitleSearch, a_number_spells_a_title_with_something_else_behind_it)
     EXPECT_EQ(search(U"9"), (Result{std::nullopt, true})) << "this too";
 }
 
-TEST(UIPickerTitleSearch, a_separator_alone_is_no_number_yet) {
+TEST(UIPickerTitleSearch, ASeparatorAloneIsNoNumberYet) {
     Search tenths(10, [](NSInteger row) { return "," + std::to_string(row); });
     EXPECT_EQ(tenths(U"."), (Result{std::nullopt, true}));
     EXPECT_EQ(tenths(U".7"), (Result{7, false}));
@@ -169,14 +171,14 @@ TEST(UIPickerTitleSearch, a_separator_alone_is_no_number_yet) {
     EXPECT_EQ(below(U"-.7"), (Result{7, false}));
 }
 
-TEST(UIPickerTitleSearch, of_rows_that_are_spelled_alike_the_first_is_found) {
+TEST(UIPickerTitleSearch, OfRowsThatAreSpelledAlikeTheFirstIsFound) {
     Search search({"a", "5", "b", "5"});
     EXPECT_EQ(search(U"5").row, 1);
     Search padded({"a", "05", "b", "005"});
     EXPECT_EQ(padded(U"5").row, 1) << "equal, though neither is spelled so";
 }
 
-TEST(UIPickerTitleSearch, a_word_may_come_first_and_last_and_alone) {
+TEST(UIPickerTitleSearch, AWordMayComeFirstAndLastAndAlone) {
     Search last({"1", "2", "max"});
     EXPECT_EQ(last(U"2"), (Result{1, false}));
     EXPECT_EQ(last(U"m"), (Result{2, true}));
@@ -185,7 +187,7 @@ TEST(UIPickerTitleSearch, a_word_may_come_first_and_last_and_alone) {
     EXPECT_EQ(alone(U"max"), (Result{0, false}));
 }
 
-TEST(UIPickerTitleSearch, more_digits_than_a_number_has_are_found_as_they_are_spelled) {
+TEST(UIPickerTitleSearch, MoreDigitsThanANumberHasAreFoundAsTheyAreSpelled) {
     Search search({"123456789012345678", "1234567890123456789"}); // 18 and 19 digits.
     EXPECT_EQ(search(U"1234567890123456789"), (Result{1, false}));
     EXPECT_EQ(search(U"0123456789012345678"), (Result{})) << "19 digits are no number, so they are not equal to row 0";

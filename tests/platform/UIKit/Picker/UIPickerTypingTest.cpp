@@ -7,7 +7,7 @@
 
 using namespace gx;
 
-TEST(UIPickerTyping, digits_of_every_script_are_read_as_their_numbers) {
+TEST(UIPickerTyping, DigitsOfEveryScriptAreReadAsTheirNumbers) {
     EXPECT_EQ(UIPickerTyping::readableForm("0189"), U"0189");
     EXPECT_EQ(UIPickerTyping::readableForm("٠١٨٩"), U"0189") << "Arabic-Indic";
     EXPECT_EQ(UIPickerTyping::readableForm("۰۱۸۹"), U"0189") << "extended Arabic-Indic";
@@ -16,7 +16,7 @@ TEST(UIPickerTyping, digits_of_every_script_are_read_as_their_numbers) {
     EXPECT_EQ(UIPickerTyping::readableForm("０１８９"), U"0189") << "of full width";
 }
 
-TEST(UIPickerTyping, every_minus_is_one) {
+TEST(UIPickerTyping, EveryMinusIsAHyphen) {
     EXPECT_EQ(UIPickerTyping::readableForm("-4"), U"-4");
     EXPECT_EQ(UIPickerTyping::readableForm("\u22124"), U"-4");
     EXPECT_EQ(UIPickerTyping::readableForm("\u20134"), U"-4");
@@ -24,20 +24,20 @@ TEST(UIPickerTyping, every_minus_is_one) {
     EXPECT_EQ(UIPickerTyping::readableForm("\u200B\u2014"), U"\u200B\u2014") << "one beside them is none";
 }
 
-TEST(UIPickerTyping, every_separator_is_a_dot) { EXPECT_EQ(UIPickerTyping::readableForm("5,5.5٫5"), U"5.5.5.5"); }
+TEST(UIPickerTyping, EverySeparatorIsADot) { EXPECT_EQ(UIPickerTyping::readableForm("5,5.5٫5"), U"5.5.5.5"); }
 
-TEST(UIPickerTyping, so_are_those_of_full_width) { EXPECT_EQ(UIPickerTyping::readableForm("5\uFF0C5\uFF0E5"), U"5.5.5"); }
+TEST(UIPickerTyping, FullWidthSeparatorsAreDots) { EXPECT_EQ(UIPickerTyping::readableForm("5\uFF0C5\uFF0E5"), U"5.5.5"); }
 
-TEST(UIPickerTyping, letters_are_small) { EXPECT_EQ(UIPickerTyping::readableForm("KmÀÖßΣЯЁ"), U"kmàößσяё"); }
+TEST(UIPickerTyping, LettersAreLowerCase) { EXPECT_EQ(UIPickerTyping::readableForm("KmÀÖßΣЯЁ"), U"kmàößσяё"); }
 
-TEST(UIPickerTyping, letters_at_the_ends_of_their_alphabets_are_small_too_and_what_lies_beside_them_stays) {
+TEST(UIPickerTyping, FirstAndLastLettersOfAnAlphabetAreLowerCaseAndTheirNeighboursStay) {
     EXPECT_EQ(UIPickerTyping::readableForm("AZ@["), U"az@[");
     EXPECT_EQ(UIPickerTyping::readableForm("ÀÞ\u00BF×ß"), U"àþ\u00BF×ß") << "the sign for times lies among them";
     EXPECT_EQ(UIPickerTyping::readableForm("ΑΩ\u0390\u03AA"), U"αω\u0390\u03AA");
     EXPECT_EQ(UIPickerTyping::readableForm("ЀЏАЯ\u03FFа"), U"ѐџая\u03FFа");
 }
 
-TEST(UIPickerTyping, blanks_around_a_text_and_marks_of_direction_are_left_out) {
+TEST(UIPickerTyping, BlanksAroundATextAndMarksOfDirectionAreLeftOut) {
     EXPECT_EQ(UIPickerTyping::readableForm("  fl oz\u00A0"), U"fl oz");
     EXPECT_EQ(UIPickerTyping::readableForm("\u200E\u06614\u061C"), U"14");
     EXPECT_EQ(UIPickerTyping::readableForm("   "), U"");
@@ -47,7 +47,7 @@ TEST(UIPickerTyping, blanks_around_a_text_and_marks_of_direction_are_left_out) {
     EXPECT_EQ(UIPickerTyping::readableForm("\u20294\u2065\u206A"), U"\u20294\u2065\u206A") << "and one beside the marks is none";
 }
 
-TEST(UIPickerTyping, bytes_that_are_no_text_are_left_out) {
+TEST(UIPickerTyping, BytesThatAreNoTextAreLeftOut) {
     EXPECT_EQ(UIPickerTyping::readableForm("1\xFF"
                                            "2\x80"
                                            "3"),
@@ -58,14 +58,14 @@ TEST(UIPickerTyping, bytes_that_are_no_text_are_left_out) {
               U"1");
 }
 
-TEST(UIPickerTyping, separators_and_colons_end_a_column) {
+TEST(UIPickerTyping, SeparatorsAndColonsEndAColumn) {
     EXPECT_TRUE(UIPickerTyping::endsColumn(U'.'));
     EXPECT_TRUE(UIPickerTyping::endsColumn(U':'));
     EXPECT_FALSE(UIPickerTyping::endsColumn(U'5'));
     EXPECT_FALSE(UIPickerTyping::endsColumn(U'\''));
 }
 
-TEST(UIPickerTyping, so_does_the_separator_of_the_current_locale) {
+TEST(UIPickerTyping, TheSeparatorOfTheCurrentLocaleEndsAColumn) {
     const auto locale = NSLocale::localeWithIdentifier("en");
     locale->setDecimalSeparator("'");
     NSLocale::setCurrentLocale(locale);
@@ -73,7 +73,7 @@ TEST(UIPickerTyping, so_does_the_separator_of_the_current_locale) {
     NSLocale::setCurrentLocale(nullptr);
 }
 
-TEST(UIPickerTyping, a_text_is_over_a_second_after_its_last_character) {
+TEST(UIPickerTyping, ATextIsOverASecondAfterItsLastCharacter) {
     UIPickerTyping typing;
     typing.beginInComponent_onRow(1, 7);
     typing.setText_atTime(U"4", true, 10);
@@ -89,7 +89,7 @@ TEST(UIPickerTyping, a_text_is_over_a_second_after_its_last_character) {
     EXPECT_FALSE(typing.rowBefore());
 }
 
-TEST(UIPickerTyping, a_character_told_by_another_clock_is_another_text) {
+TEST(UIPickerTyping, ACharacterTimedByAnotherClockBeginsAnotherText) {
     UIPickerTyping typing;
     typing.setText_atTime(U"4", true, 1e300);
     EXPECT_TRUE(typing.isOverAt(10));
@@ -97,7 +97,7 @@ TEST(UIPickerTyping, a_character_told_by_another_clock_is_another_text) {
     EXPECT_FALSE(typing.isOverAt(10));
 }
 
-TEST(UIPickerTyping, nothing_waits_for_a_text_that_is_complete_but_it_is_known) {
+TEST(UIPickerTyping, ACompleteTextIsKeptButNoReportWaitsForIt) {
     UIPickerTyping typing;
     EXPECT_FALSE(typing.isAtComponent(0));
     typing.beginInComponent_onRow(0, 7);
@@ -113,7 +113,7 @@ TEST(UIPickerTyping, nothing_waits_for_a_text_that_is_complete_but_it_is_known) 
     EXPECT_EQ(typing.rowBefore(), 7);
 }
 
-TEST(UIPickerTyping, at_the_next_column_another_text_begins) {
+TEST(UIPickerTyping, AtTheNextColumnAnotherTextBegins) {
     UIPickerTyping typing;
     typing.beginInComponent_onRow(0, 7);
     typing.setText_atTime(U"12", true, 10);
@@ -131,7 +131,7 @@ TEST(UIPickerTyping, at_the_next_column_another_text_begins) {
     EXPECT_FALSE(typing.isAtComponent(2));
 }
 
-TEST(UIPickerTyping, what_is_ignored_is_ignored_until_a_pause) {
+TEST(UIPickerTyping, CharactersAreIgnoredUntilAPause) {
     UIPickerTyping typing;
     EXPECT_FALSE(typing.isIgnoring());
     typing.beginInComponent_onRow(0, 7);

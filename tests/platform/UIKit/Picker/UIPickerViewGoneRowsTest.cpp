@@ -10,7 +10,8 @@ using namespace gx;
 
 namespace {
 
-/// A source that takes rows away while it is asked for one, and notes whether it is asked for one that is not there.
+/// A source that takes rows away while it is asked for one, and notes whether it is asked for one
+/// that is not there.
 struct Shrinking : WheelSource {
     enum class Question { View, AttributedTitle, Title, SpokenValue };
     Question shrinksAt = Question::Title;
@@ -53,7 +54,7 @@ using Question = Shrinking::Question;
 
 } // namespace
 
-TEST(UIPickerView, asks_for_no_row_that_a_reload_in_the_middle_of_a_layout_has_taken_away) {
+TEST(UIPickerView, DoesNotQueryRowsThatAReloadDuringLayoutRemoved) {
     for (const Question question : {Question::View, Question::AttributedTitle, Question::Title}) {
         for (const auto& left : {std::vector<NSInteger>{2, 2}, {1}, {0, 0}, {}}) {
             const auto source = create<Shrinking>();
@@ -76,7 +77,7 @@ TEST(UIPickerView, asks_for_no_row_that_a_reload_in_the_middle_of_a_layout_has_t
     }
 }
 
-TEST(UIPickerView, shows_all_rows_in_sight_though_its_delegate_reloads_with_every_question) {
+TEST(UIPickerView, ShowsAllVisibleRowsThoughItsDelegateReloadsInEveryQuery) {
     const auto source = create<WheelSource>();
     const auto wheel = wheelWithSource(source);
     source->title = [&wheel](NSInteger row, NSInteger) {
@@ -88,7 +89,7 @@ TEST(UIPickerView, shows_all_rows_in_sight_though_its_delegate_reloads_with_ever
     for (const NSInteger row : {0, 1, 2}) EXPECT_TRUE(wheel->viewForRow_forComponent(row, 0)) << row;
 }
 
-TEST(UIPickerView, asks_for_no_row_that_a_reload_has_taken_away_while_it_turns) {
+TEST(UIPickerView, DoesNotQueryRowsThatAReloadRemovedDuringAMovement) {
     const auto source = create<Shrinking>();
     const auto wheel = wheelWithSource(source);
     TestWindow window(wheel);
@@ -102,7 +103,7 @@ TEST(UIPickerView, asks_for_no_row_that_a_reload_has_taken_away_while_it_turns) 
     EXPECT_LT(wheel->selectedRowInComponent(0), 20);
 }
 
-TEST(UIPickerView, asks_for_no_row_that_has_gone_while_a_typed_text_is_looked_for) {
+TEST(UIPickerView, DoesNotQueryRowsRemovedDuringATitleSearch) {
     for (const Question question : {Question::AttributedTitle, Question::Title}) {
         const auto source = create<Shrinking>();
         const auto wheel = wheelWithSource(source);
@@ -120,7 +121,7 @@ TEST(UIPickerView, asks_for_no_row_that_has_gone_while_a_typed_text_is_looked_fo
     }
 }
 
-TEST(UIPickerView, asks_for_no_row_that_has_gone_while_it_is_spoken) {
+TEST(UIPickerView, DoesNotQueryRowsRemovedDuringAnAccessibilityQuery) {
     for (const Question question : {Question::SpokenValue, Question::AttributedTitle}) {
         const auto source = create<Shrinking>();
         const auto wheel = wheelWithSource(source);

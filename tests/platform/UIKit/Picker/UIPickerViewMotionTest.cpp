@@ -21,12 +21,13 @@ struct Script {
     double fastest; // Rows a second that the column ever runs.
 };
 
-/// 180 points in 0.15 s are 1200 a second, or 30 rows. When it is let go, at 0.25 s, the column has followed 174 points, 4.35 rows,
-/// and runs 30 / 2.002 = 14.98 rows: from row 500 to 519.33, and so to 519. At 0.5 s it stands at 510.347 and still makes
-/// 18.42 rows a second.
+/// 180 points in 0.15 s are 1200 a second, or 30 rows. When it is let go, at 0.25 s, the column has
+/// followed 174 points, 4.35 rows, and runs 30 / 2.002 = 14.98 rows: from row 500 to 519.33, and so
+/// to 519. At 0.5 s it stands at 510.347 and still makes 18.42 rows a second.
 void flingOf30Rows(WheelStage& stage) { stage.fling(0.1, 0.15, 180); }
 
-/// What happens without a finger happens at sixths of a second, where all of these frame rates have a frame.
+/// What happens without a finger happens at sixths of a second, where all of these frame rates have
+/// a frame.
 const Script scripts[] = {
     {"drag", 500,
      [](WheelStage& stage) {
@@ -34,7 +35,8 @@ const Script scripts[] = {
          stage.letGo(1, 180);
      },
      504, 7.5},
-    {"fling", 500, flingOf30Rows, 519, 31}, // One that lasts as long as it may starts a little faster, to arrive.
+    // One that lasts as long as it may starts a little faster, to arrive.
+    {"fling", 500, flingOf30Rows, 519, 31},
     {"flings in succession", 500,
      [](WheelStage& stage) {
          flingOf30Rows(stage);
@@ -50,7 +52,8 @@ const Script scripts[] = {
      510, 31},
     {"bounce", 985, [](WheelStage& stage) { stage.fling(0.1, 0.1, 240); }, 999, 60},
     {"bounce at the first row", 14, [](WheelStage& stage) { stage.fling(0.1, 0.1, -240); }, 0, 60},
-    {"request", 500, [](WheelStage& stage) { stage.request(1.0 / 6, 512); }, 512, 120}, // 3 · 12 / 0.3
+    // 3 · 12 / 0.3
+    {"request", 500, [](WheelStage& stage) { stage.request(1.0 / 6, 512); }, 512, 120},
     {"notches", 500,
      [](WheelStage& stage) {
          stage.notch(1.0 / 6);
@@ -67,7 +70,8 @@ std::vector<WheelStage::Frame> play(const Script& script, int framesPerSecond) {
     return stage.play(framesPerSecond, longest);
 }
 
-/// Where a wheel of 100000 rows lands that stood on row 500, all from a fling of 30 rows a second on.
+/// Where a wheel of 100000 rows lands that stood on row 500, all from a fling of 30 rows a second
+/// on.
 double landingAfterFling(const std::function<void(WheelStage&)>& write) {
     WheelStage stage(100000, 500);
     flingOf30Rows(stage);
@@ -118,8 +122,9 @@ TEST(UIPickerViewMotion, NoFrameShowsMoreWayThanTheSpeedAllows) {
     }
 }
 
-TEST(UIPickerViewMotion, AGrabbedColumnStandsWhereTheLastFrameShowedIt) {
-    // Caught during a fling, over the last row, and during a request; with a frame, just before one and just after.
+TEST(UIPickerViewMotion, ACaughtColumnStopsWhereTheLastFrameShowedIt) {
+    // Caught during a fling, over the last row, and during a request; with a frame, just before one
+    // and just after.
     struct Grab {
         const Script* script;
         double time;
@@ -156,13 +161,14 @@ TEST(UIPickerViewMotion, AColumnCaughtBeyondItsEndFollowsTheFingerFromThere) {
 }
 
 TEST(UIPickerViewMotion, FlingsInSuccessionAddUp) {
-    // Alone the second one would run from 510.347 by 114 points and 14.98 rows to 528.18; with the first one's 18.42 rows a second
-    // to 537.38.
+    // Alone the second one would run from 510.347 by 114 points and 14.98 rows to 528.18; with the
+    // first one's 18.42 rows a second to 537.38.
     EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.1, 120); }), 537);
 }
 
-TEST(UIPickerViewMotion, AFingerThatHoldsAFlingForLongerThanAQuarterOfASecondHasStoppedIt) {
-    // 300 points in a quarter of a second: from 510.347 by 294 points to 541.88, or alone to 532.68.
+TEST(UIPickerViewMotion, AFingerThatHoldsAFlingForMoreThanAQuarterSecondStopsIt) {
+    // 300 points in a quarter of a second: from 510.347 by 294 points to 541.88, or alone to
+    // 532.68.
     EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.25, 300); }), 542);
     EXPECT_EQ(landingAfterFling([](WheelStage& stage) {
                   stage.drag(0.5, 0.25, 300);
@@ -172,20 +178,22 @@ TEST(UIPickerViewMotion, AFingerThatHoldsAFlingForLongerThanAQuarterOfASecondHas
 }
 
 TEST(UIPickerViewMotion, AFlingTheOtherWayTakesNothingFromTheOneItCatches) {
-    EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.1, -120); }), 493); // 510.347 − 2.85 − 14.98 = 492.51
+    // 510.347 − 2.85 − 14.98 = 492.51
+    EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.1, -120); }), 493);
 }
 
 TEST(UIPickerViewMotion, AFingerTooSlowToFlingByARowGuidesTheColumnAlone) {
-    // 81 points a second run 1.01 rows, 79 run 0.99: 510.347 by 10.2 points and by 2.025 + 18.42 rows a second to 520.82, or
-    // by 9.8 points and 0.99 rows to 511.58.
+    // 81 points a second run 1.01 rows, 79 run 0.99: 510.347 by 10.2 points and by 2.025 + 18.42
+    // rows a second to 520.82, or by 9.8 points and 0.99 rows to 511.58.
     EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.2, 16.2); }), 521);
     EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.2, 15.8); }), 512);
 }
 
-TEST(UIPickerViewMotion, AFlingTakesOverNothingFromARequest) {
+TEST(UIPickerViewMotion, AFlingAddsNothingOfARequestsSpeed) {
     WheelStage stage(1000, 500);
     stage.request(1.0 / 6, 512);
-    stage.fling(1.0 / 3, 0.1, 120); // Caught at 512 − 12 · (4 / 9)³ = 510.947, and alone from there to 528.78.
+    // Caught at 512 − 12 · (4 / 9)³ = 510.947, and alone from there to 528.78.
+    stage.fling(1.0 / 3, 0.1, 120);
     EXPECT_EQ(stage.play(60, longest).back().position, 529);
 }
 
@@ -202,12 +210,14 @@ TEST(UIPickerViewMotion, FlingsAddUpTo250RowsASecond) {
 }
 
 TEST(UIPickerViewMotion, AFingerThatIsFasterAloneKeepsItsSpeed) {
-    // 800 points in 0.05 s are 400 rows a second: from 510.347 by 794 points and 199.80 rows to 730.00, and no further.
+    // 800 points in 0.05 s are 400 rows a second: from 510.347 by 794 points and 199.80 rows to
+    // 730.00, and no further.
     EXPECT_EQ(landingAfterFling([](WheelStage& stage) { stage.fling(0.5, 0.05, 800); }), 730);
 }
 
-TEST(UIPickerViewMotion, AFlingAgainstAnEndSwingsOverOnceAsFarAsItsSpeedTellsAndComesBack) {
-    // 60 rows a second, 8.15 rows before the end: 43.68 are left there, which swing over by 43.68 / (18 · e) = 0.8928 rows.
+TEST(UIPickerViewMotion, AFlingAgainstAnEndSwingsOverOnceAccordingToItsSpeed) {
+    // 60 rows a second, 8.15 rows before the end: 43.68 are left there, which swing over by 43.68 /
+    // (18 · e) = 0.8928 rows.
     const auto frames = play(scripts[4], 144);
     const auto turn = std::max_element(frames.begin(), frames.end(), [](const auto& a, const auto& b) { return a.position < b.position; });
     EXPECT_LE(turn->position, 999.8928);
@@ -220,7 +230,8 @@ TEST(UIPickerViewMotion, AFlingAgainstAnEndSwingsOverOnceAsFarAsItsSpeedTellsAnd
 }
 
 TEST(UIPickerViewMotion, EvenTheWildestFlingSwingsOverAnEndByLittleMoreThanTwoRows) {
-    // A million points a second; the finger itself takes the column half of the way. At most 100 / (18 · e) = 2.0437 rows.
+    // A million points a second; the finger itself takes the column half of the way. At most 100 /
+    // (18 · e) = 2.0437 rows.
     for (const double way : {1.0, -1.0}) {
         WheelStage stage(10001, 5000);
         stage.fling(0.1, 0.1, way * 100000);
@@ -268,7 +279,7 @@ TEST(UIPickerViewMotion, TimeThatRunsBackwardRunsBackOnTheCurveAndNotBeforeItsSt
     EXPECT_EQ(stage.source->notices.size(), 1U);
 }
 
-TEST(UIPickerViewMotion, AClockThatBeginsAnewRunsAMovementAnewFromItsStart) {
+TEST(UIPickerViewMotion, AClockThatStartsAgainRunsAMovementAgainFromItsStart) {
     for (const double begin : {-1e6, 0.0, 990.0}) {
         WheelStage stage(1000, 500);
         flingOf30Rows(stage);
@@ -285,7 +296,7 @@ TEST(UIPickerViewMotion, AClockThatBeginsAnewRunsAMovementAnewFromItsStart) {
     }
 }
 
-TEST(UIPickerViewMotion, OneFrameAtAWildTimeHoldsUpNoMovement) {
+TEST(UIPickerViewMotion, OneFrameAtAWildTimeDelaysNoMovement) {
     WheelStage stage(1000, 500);
     stage.notch(0);
     stage.play(60, 0);
@@ -303,7 +314,8 @@ TEST(UIPickerViewMotion, AFlingCaughtBeforeItBeganHasNoSpeedToAdd) {
     WheelStage stage(1000, 500);
     flingOf30Rows(stage);
     stage.play(60, 0.5);
-    // The finger's clock runs a second behind: 75 points in 1/16 s, 1200 a second, from 510.347 on, alone to 527.06.
+    // The finger's clock runs a second behind: 75 points in 1/16 s, 1200 a second, from 510.347 on,
+    // alone to 527.06.
     stage.window->touchBegan_at_time(1, {160, 108}, WheelStage::clock(-0.5));
     stage.window->touchMoved_at_time(1, {160, 33}, WheelStage::clock(-0.4375));
     stage.window->touchEnded_at_time(1, {160, 33}, WheelStage::clock(-0.4375));

@@ -21,7 +21,7 @@ TEST(UIScrollMotion, TheRubberBandFollowsLessAndLessAndNeverFurtherThanItsExtent
     EXPECT_EQ(UIScrollMotion::rubberBand(100, 0), 0);
 }
 
-TEST(UIScrollMotion, TheRubberBandCanBeTakenUpWhereItStands) {
+TEST(UIScrollMotion, TheRubberBandHasAnInverse) {
     for (const double way : {0.1, 10.0, 100.0, 1000.0}) {
         EXPECT_NEAR(UIScrollMotion::rubberBandInverse(UIScrollMotion::rubberBand(way, 216), 216), way, way * 1e-12);
     }
@@ -39,7 +39,7 @@ TEST(UIScrollMotion, AnEaseRunsFromItsStartToItsEndInItsTime) {
     EXPECT_EQ(motion.positionAt(1e9), 10);
 }
 
-TEST(UIScrollMotion, WithoutAStartItBeginsWhenItIsFirstAskedAbout) {
+TEST(UIScrollMotion, WithoutAStartItBeginsWithTheFirstFrame) {
     UIScrollMotion motion = UIScrollMotion::ease(0, 1, 0.3, std::nullopt);
     EXPECT_FALSE(motion.isOverAt(1e9));
     motion.beginAt(50);
@@ -49,7 +49,8 @@ TEST(UIScrollMotion, WithoutAStartItBeginsWhenItIsFirstAskedAbout) {
 
 namespace {
 
-/// Follows a motion at 1000 frames a second and answers its longest time; checks that it never moves faster than `fastest`.
+/// Follows a motion at 1000 frames a second and returns its duration. Checks that it never moves
+/// faster than `fastest`.
 double follow(const UIScrollMotion& motion, double fastest) {
     double before = motion.positionAt(0);
     for (int i = 1; i < 20000; ++i) {
@@ -70,7 +71,8 @@ TEST(UIScrollMotion, AFlingBeginsWithTheFingersSpeedAndEndsOnItsRowWithoutAJump)
         const double to = std::round(UIScrollMotion::travelOfVelocity(velocity));
         const UIScrollMotion motion = UIScrollMotion::fling(0, velocity, to, std::copysign(1e6, velocity), 0);
         const double startSpeed = (motion.positionAt(1e-4) - motion.positionAt(0)) / 1e-4;
-        // A row more than the travel makes it start a little faster, at most as much faster as the way is longer.
+        // A row more than the travel makes it start a little faster, at most as much faster as the
+        // way is longer.
         EXPECT_NEAR(startSpeed / velocity, 1, 0.35) << velocity;
         const double seconds = follow(motion, std::fabs(startSpeed));
         EXPECT_EQ(motion.positionAt(seconds), to);
@@ -102,14 +104,14 @@ TEST(UIScrollMotion, AFlingAgainstAnEndSwingsOverItOnceAndComesBack) {
 
 TEST(UIScrollMotion, TheCurveIsTheSameAtAnyFrameRate) {
     const UIScrollMotion motion = UIScrollMotion::fling(0, 40, 20, 1e6, 0);
-    // Asked at any moment, before or after any other, the answer is one.
+    // At any time the position is the same, whatever was read before.
     const double late = motion.positionAt(1.5);
     const double early = motion.positionAt(0.5);
     EXPECT_EQ(motion.positionAt(0.5), early);
     EXPECT_EQ(motion.positionAt(1.5), late);
 }
 
-TEST(UIScrollMotion, TimeThatIsNoNumberOrRunsBackwardStandsStill) {
+TEST(UIScrollMotion, TimeThatIsNoNumberOrRunsBackwardMovesNothing) {
     const UIScrollMotion motion = UIScrollMotion::fling(0, 40, 20, 1e6, 10);
     EXPECT_EQ(motion.positionAt(9), 0);
     EXPECT_EQ(motion.positionAt(std::nan("")), 0);
@@ -118,7 +120,8 @@ TEST(UIScrollMotion, TimeThatIsNoNumberOrRunsBackwardStandsStill) {
 
 TEST(UIScrollMotion, TheSpeedOfAFlingIsTheSlopeOfItsCurve) {
     const UIScrollMotion free = UIScrollMotion::fling(0, 40, 20, 1e6, 10);
-    const UIScrollMotion back = UIScrollMotion::fling(0, -50, -5, -5, 10); // meets the end after 0.11 s
+    // meets the end after 0.11 s
+    const UIScrollMotion back = UIScrollMotion::fling(0, -50, -5, -5, 10);
     for (const double time : {10.0, 10.01, 10.05, 10.1}) {
         EXPECT_NEAR(free.flingVelocityAt(time), (free.positionAt(time + 1e-6) - free.positionAt(time)) / 1e-6, 1e-3) << time;
         EXPECT_NEAR(back.flingVelocityAt(time), (back.positionAt(time + 1e-6) - back.positionAt(time)) / 1e-6, 1e-3) << time;
@@ -138,7 +141,7 @@ TEST(UIScrollMotion, TheTimeLeftRunsFromItsDurationToNothing) {
     EXPECT_EQ(UIScrollMotion::ease(0, 5, 0.5, std::nullopt).timeLeftAt(11), 0.5) << "it has not begun";
 }
 
-TEST(UIScrollMotion, WhatIsNoFlingHasNoSpeedToKeep) {
+TEST(UIScrollMotion, OnlyAFlingHasASpeed) {
     const UIScrollMotion fling = UIScrollMotion::fling(0, 40, 20, 1e6, 10);
     EXPECT_EQ(fling.flingVelocityAt(9.99), 0) << "not begun";
     EXPECT_EQ(fling.flingVelocityAt(20), 0) << "over";
@@ -152,7 +155,8 @@ TEST(UIScrollMotion, WhatIsNoFlingHasNoSpeedToKeep) {
 }
 
 TEST(UIScrollMotion, NoEndIsHitHarderThanWith100RowsASecond) {
-    // Over by 100 / (18 · e) = 2.0437 rows; 90 rows a second that are left at the end swing over by 1.8394.
+    // Over by 100 / (18 · e) = 2.0437 rows; 90 rows a second that are left at the end swing over by
+    // 1.8394.
     const auto over = [](double velocity) {
         const UIScrollMotion motion = UIScrollMotion::fling(0, velocity, 5, 5, 0);
         double highest = 0;
@@ -167,7 +171,8 @@ TEST(UIScrollMotion, NoEndIsHitHarderThanWith100RowsASecond) {
 }
 
 TEST(UIScrollMotion, AnEndThatIsReachedAtACrawlIsNoBounce) {
-    // 20 rows a second run 9.990 rows; with the end 0.01 before that, 3.5 seconds would pass until it is hit.
+    // 20 rows a second run 9.990 rows; with the end 0.01 before that, 3.5 seconds would pass until
+    // it is hit.
     const UIScrollMotion crawl = UIScrollMotion::fling(0, 20, 9.98, 9.98, 0);
     EXPECT_TRUE(crawl.isOverAt(2.3));
     for (double time = 0; time < 3; time += 0.01) EXPECT_LE(crawl.positionAt(time), 9.98);
@@ -196,7 +201,7 @@ TEST(UIScrollMotion, AStartThatLiesMoreThanASecondAfterAFrameIsThatFrame) {
     EXPECT_TRUE(seen.isOverAt(8.8001));
 }
 
-TEST(UIScrollMotion, ABandWithoutRoomOrPullShowsNothing) {
+TEST(UIScrollMotion, ARubberBandWithoutExtentOrPullIs0) {
     EXPECT_EQ(UIScrollMotion::rubberBandInverse(5, 0), 0);
     EXPECT_EQ(UIScrollMotion::rubberBandInverse(0, 216), 0);
     EXPECT_EQ(UIScrollMotion::rubberBandInverse(-5, 216), 0);
@@ -204,7 +209,7 @@ TEST(UIScrollMotion, ABandWithoutRoomOrPullShowsNothing) {
     EXPECT_EQ(UIScrollMotion::rubberBand(-5, 216), 0);
 }
 
-TEST(UIScrollMotion, BeforeItBeginsItStandsAtItsStart) {
+TEST(UIScrollMotion, BeforeItBeginsItIsAtItsStart) {
     const UIScrollMotion motion = UIScrollMotion::ease(3, 0, 0.3, std::nullopt);
     EXPECT_EQ(motion.positionAt(1000), 3);
     EXPECT_FALSE(motion.isOverAt(1000));

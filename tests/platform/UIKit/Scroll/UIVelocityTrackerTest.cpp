@@ -6,7 +6,7 @@
 
 using namespace gx;
 
-TEST(UIVelocityTracker, takes_the_speed_from_the_places_of_the_last_tenth_of_a_second) {
+TEST(UIVelocityTracker, TakesTheSpeedFromThePlacesOfTheLastTenthOfASecond) {
     UIVelocityTracker tracker;
     EXPECT_EQ(tracker.velocityAt(10), 0);
     tracker.add(10, 0);
@@ -21,7 +21,7 @@ TEST(UIVelocityTracker, takes_the_speed_from_the_places_of_the_last_tenth_of_a_s
     EXPECT_EQ(tracker.velocityAt(10.2875), 0);
 }
 
-TEST(UIVelocityTracker, a_finger_that_rests_has_no_speed) {
+TEST(UIVelocityTracker, AFingerThatRestsHasNoSpeed) {
     UIVelocityTracker tracker;
     tracker.add(10, 0);
     tracker.add(10.05, 10);
@@ -29,7 +29,7 @@ TEST(UIVelocityTracker, a_finger_that_rests_has_no_speed) {
     EXPECT_EQ(tracker.velocityAt(10.111), 0);
 }
 
-TEST(UIVelocityTracker, places_that_come_out_of_order_never_turn_the_speed_around) {
+TEST(UIVelocityTracker, PlacesOutOfOrderNeverReverseTheSpeed) {
     UIVelocityTracker tracker;
     tracker.add(10.02, 0);
     tracker.add(10.01, 10);
@@ -38,11 +38,31 @@ TEST(UIVelocityTracker, places_that_come_out_of_order_never_turn_the_speed_aroun
     EXPECT_NEAR(tracker.velocityAt(10.06), 200, 1e-6);
 }
 
-TEST(UIVelocityTracker, places_at_one_time_and_at_no_time_have_no_speed) {
+TEST(UIVelocityTracker, PlacesAtOneTimeAndAtNoTimeHaveNoSpeed) {
     UIVelocityTracker tracker;
     tracker.add(10, 0);
     tracker.add(10, 10);
     EXPECT_EQ(tracker.velocityAt(10), 0);
     tracker.add(std::nan(""), 20);
     EXPECT_EQ(tracker.velocityAt(10), 0);
+}
+
+TEST(UIVelocityTracker, PlacesBeforeAResetDoNotCount) {
+    UIVelocityTracker tracker;
+    for (int i = 0; i < 8; ++i) tracker.add(10 + 0.001 * i, 10 * i);
+    tracker.reset();
+    EXPECT_EQ(tracker.velocityAt(10.02), 0) << "no place";
+    tracker.add(10.02, 20);
+    EXPECT_EQ(tracker.velocityAt(10.02), 0) << "one place";
+    tracker.add(10.03, 22);
+    EXPECT_NEAR(tracker.velocityAt(10.03), 200, 1e-6) << "two places";
+}
+
+TEST(UIVelocityTracker, TakesTheSpeedOfTheEightLatestPlaces) {
+    UIVelocityTracker tracker;
+    // Two quick places, then eight that are 1 point in 0.01 s apart.
+    tracker.add(9.98, -1000);
+    tracker.add(9.99, -500);
+    for (int i = 0; i < 8; ++i) tracker.add(10 + 0.01 * i, i);
+    EXPECT_NEAR(tracker.velocityAt(10.07), 100, 1e-6);
 }

@@ -176,7 +176,7 @@ TEST_F(ContrastWheelTest, TheMarkOfTheFocusLiesOverTheOutline) {
 TEST_F(ContrastWheelTest, AWheelInMidSpinGoesOnInTheOtherLookWithTheNextFrame) {
     window.fling({160, 108}, {160, 8}, 10); // To row 10.
     window.run(0.1);
-    const NSInteger before = wheel->rowInBandOfComponent(0);
+    const NSInteger before = wheel->rowInSelectionIndicatorOfComponent(0);
     EXPECT_FALSE(startingWith("text " + std::to_string(before) + " ", callsOfDrawing()).empty());
     window->setUserInterfaceStyle(dark);
     EXPECT_TRUE(window.tick(TestWindow::frame));

@@ -135,7 +135,7 @@ TEST_F(ReducedMotionWheelTest, TypedTextSelectsAtOnceAndStillReportsWhenItIsComp
     wheel->becomeFirstResponder();
     window.typeCharacter("7");
     window.tick(TestWindow::frame);
-    EXPECT_EQ(wheel->rowInBandOfComponent(0), 7);
+    EXPECT_EQ(wheel->rowInSelectionIndicatorOfComponent(0), 7);
     EXPECT_TRUE(source->notices.empty()) << "another digit may follow";
     window.run(1.1);
     EXPECT_EQ(source->notices, (Notices{{7, 0}}));

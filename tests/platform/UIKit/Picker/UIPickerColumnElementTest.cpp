@@ -1,4 +1,4 @@
-// What a screen reader finds in a wheel, and what its orders turn.
+// What a screen reader finds in a wheel, and how it adjusts it.
 
 #include "TestWindow.h"
 #include "UILabel.h"
@@ -9,7 +9,7 @@ using Notices = std::vector<WheelSource::Notice>;
 
 namespace {
 
-/// Also answers what a screen reader asks.
+/// Also gives accessibility texts.
 class SpeakingSource : public WheelSource {
 public:
     std::optional<std::string> name;
@@ -33,7 +33,7 @@ public:
     }
 };
 
-struct WheelAccessibility : testing::Test {
+struct UIPickerColumnElementTest : testing::Test {
     Ref<SpeakingSource> source = create<SpeakingSource>();
     Ref<UIPickerView> wheel = wheelWithSource(source);
 
@@ -49,13 +49,13 @@ struct WheelAccessibility : testing::Test {
     }
 };
 
-struct WheelAccessibilityInWindow : WheelAccessibility {
+struct UIPickerColumnElementInWindow : UIPickerColumnElementTest {
     TestWindow window{wheel};
 };
 
 } // namespace
 
-TEST_F(WheelAccessibility, EachColumnThatCanBeTurnedIsOneElement) {
+TEST_F(UIPickerColumnElementTest, EachColumnThatCanBeSpunIsOneElement) {
     // The second has one row, the third none, the fourth rows without titles: nothing to turn.
     source->rows = {100, 1, 0, 5, 2};
     source->title = [](NSInteger row, NSInteger component) { return component == 3 ? std::nullopt : std::optional(std::to_string(row)); };
@@ -66,20 +66,20 @@ TEST_F(WheelAccessibility, EachColumnThatCanBeTurnedIsOneElement) {
     EXPECT_EQ(element(1)->count(), 2);
 }
 
-TEST_F(WheelAccessibility, NothingElseInTheWheelIsRead) {
+TEST_F(UIPickerColumnElementTest, NothingElseInTheWheelIsAnElement) {
     const auto unit = create<UILabel>(CGRectMake(0, 0, 50, 20));
     unit->setText("km");
     wheel->addSubview(unit);
     EXPECT_EQ(parts(), std::vector<NSInteger>{0});
 }
 
-TEST_F(WheelAccessibility, AnEmptyWheelHasNoElements) {
+TEST_F(UIPickerColumnElementTest, AnEmptyWheelHasNoElements) {
     wheel->setFrame({});
     EXPECT_EQ(parts(), std::vector<NSInteger>{});
     EXPECT_TRUE(create<UIPickerView>(CGRectMake(0, 0, 320, 216))->accessibilityElements().empty());
 }
 
-TEST_F(WheelAccessibility, TheWheelsLabelNamesAColumnThatTheDelegateDoesNot) {
+TEST_F(UIPickerColumnElementTest, AColumnWithoutALabelHasTheWheelsLabel) {
     EXPECT_EQ(element()->label(), std::nullopt);
     wheel->setAccessibilityLabel("Number");
     EXPECT_EQ(element()->label(), "Number");
@@ -87,7 +87,7 @@ TEST_F(WheelAccessibility, TheWheelsLabelNamesAColumnThatTheDelegateDoesNot) {
     EXPECT_EQ(element()->label(), "Column 0");
 }
 
-TEST_F(WheelAccessibility, TheValueIsTheDelegatesOrElseTheRowsTitle) {
+TEST_F(UIPickerColumnElementTest, TheValueIsTheDelegatesOrElseTheRowsTitle) {
     wheel->selectRow_inComponent_animated(42, 0, false);
     EXPECT_EQ(element()->value(), "42");
     EXPECT_EQ(element()->index(), 42);
@@ -95,7 +95,7 @@ TEST_F(WheelAccessibility, TheValueIsTheDelegatesOrElseTheRowsTitle) {
     EXPECT_EQ(element()->value(), "row 42 of 0");
 }
 
-TEST_F(WheelAccessibility, OfARowsViewItIsWhatThereIsToBeRead) {
+TEST_F(UIPickerColumnElementTest, TheValueOfARowsViewIsItsLabels) {
     const auto view = create<UIView>();
     for (const char* text : {"partly", "cloudy"}) {
         const auto label = create<UILabel>(CGRectMake(0, 0, 50, 20));
@@ -107,7 +107,7 @@ TEST_F(WheelAccessibility, OfARowsViewItIsWhatThereIsToBeRead) {
     EXPECT_EQ(element()->value(), "partly, cloudy");
 }
 
-TEST_F(WheelAccessibilityInWindow, ARowThatIsOutOfSightIsReadByItsTitle) {
+TEST_F(UIPickerColumnElementInWindow, TheValueOfARowOutOfSightIsItsTitle) {
     window.fling({160, 190}, {160, 20}, 3);
     window.run(0.3);
     ASSERT_FALSE(wheel->viewForRow_forComponent(0, 0)) << "it should have spun further";
@@ -119,9 +119,9 @@ TEST_F(WheelAccessibilityInWindow, ARowThatIsOutOfSightIsReadByItsTitle) {
     window.runUntilStill();
 }
 
-TEST_F(WheelAccessibilityInWindow, AColumnsFrameIsItsStrip) { EXPECT_EQ(element()->frame(), CGRectMake(120, 0, 80, 216)); }
+TEST_F(UIPickerColumnElementInWindow, AColumnsFrameIsItsStrip) { EXPECT_EQ(element()->frame(), CGRectMake(120, 0, 80, 216)); }
 
-TEST_F(WheelAccessibilityInWindow, AnIncrementTurnsByOneRowAndIsReportedOnceAtRest) {
+TEST_F(UIPickerColumnElementInWindow, AnIncrementMovesByOneRowAndIsReportedOnceAtRest) {
     wheel->selectRow_inComponent_animated(10, 0, false);
     element()->increment();
     window.tick(TestWindow::frame);
@@ -136,7 +136,7 @@ TEST_F(WheelAccessibilityInWindow, AnIncrementTurnsByOneRowAndIsReportedOnceAtRe
     EXPECT_EQ(source->notices, (Notices{{11, 0}, {10, 0}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, QuickIncrementsAddUpToOneReport) {
+TEST_F(UIPickerColumnElementInWindow, QuickIncrementsAddUpToOneReport) {
     wheel->selectRow_inComponent_animated(10, 0, false);
     for (int i = 0; i < 3; ++i) {
         element()->increment();
@@ -146,7 +146,7 @@ TEST_F(WheelAccessibilityInWindow, QuickIncrementsAddUpToOneReport) {
     EXPECT_EQ(source->notices, (Notices{{13, 0}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, AnIncrementIsWholeWhateverPartOfANotchIsWaiting) {
+TEST_F(UIPickerColumnElementInWindow, AnIncrementIsWholeWhateverPartOfANotchIsWaiting) {
     wheel->selectRow_inComponent_animated(10, 0, false);
     window.scrollNotches({160, 108}, -0.5);
     element()->increment();
@@ -154,7 +154,7 @@ TEST_F(WheelAccessibilityInWindow, AnIncrementIsWholeWhateverPartOfANotchIsWaiti
     EXPECT_EQ(source->notices, (Notices{{11, 0}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, AtTheEndsNothingTurnsAndNothingIsReported) {
+TEST_F(UIPickerColumnElementInWindow, AtTheEndsNothingMovesAndNothingIsReported) {
     element()->decrement();
     window.runUntilStill();
     wheel->selectRow_inComponent_animated(99, 0, false);
@@ -170,7 +170,7 @@ TEST_F(WheelAccessibilityInWindow, AtTheEndsNothingTurnsAndNothingIsReported) {
     EXPECT_EQ(source->notices, (Notices{{99, 0}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, AnIndexIsTurnedToHeldToTheRows) {
+TEST_F(UIPickerColumnElementInWindow, AnIndexIsClampedToTheRows) {
     element()->setIndex(57);
     window.runUntilStill();
     element()->setIndex(57);
@@ -183,7 +183,7 @@ TEST_F(WheelAccessibilityInWindow, AnIndexIsTurnedToHeldToTheRows) {
     EXPECT_EQ(source->notices, (Notices{{57, 0}, {99, 0}, {0, 0}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, AFingerOnTheColumnGoesBefore) {
+TEST_F(UIPickerColumnElementInWindow, AColumnUnderAFingerIsNotAdjusted) {
     window.down({160, 108});
     element()->increment();
     window.up({160, 108});
@@ -192,7 +192,7 @@ TEST_F(WheelAccessibilityInWindow, AFingerOnTheColumnGoesBefore) {
     EXPECT_EQ(element()->index(), 0);
 }
 
-TEST_F(WheelAccessibilityInWindow, AStepCompletesANumberThatIsTyped) {
+TEST_F(UIPickerColumnElementInWindow, AStepCompletesATypedNumber) {
     wheel->becomeFirstResponder();
     window.type("4");
     window.run(0.5);
@@ -213,7 +213,7 @@ TEST_F(WheelAccessibilityInWindow, AStepCompletesANumberThatIsTyped) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}, {7, 0}, {70, 0}, {2, 0}, {1, 0}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, AStepOfAnotherColumnCompletesANumberToo) {
+TEST_F(UIPickerColumnElementInWindow, AStepOfAnotherColumnCompletesATypedNumber) {
     source->rows = {100, 100};
     wheel->reloadAllComponents();
     window.tick(0);
@@ -226,7 +226,7 @@ TEST_F(WheelAccessibilityInWindow, AStepOfAnotherColumnCompletesANumberToo) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}, {1, 1}}));
 }
 
-TEST_F(WheelAccessibilityInWindow, WhoIsToldOfATypedNumberMayTakeTheColumnAway) {
+TEST_F(UIPickerColumnElementInWindow, TheReportOfATypedNumberMayRemoveTheColumn) {
     wheel->becomeFirstResponder();
     window.type("4");
     window.run(0.5);
@@ -240,7 +240,7 @@ TEST_F(WheelAccessibilityInWindow, WhoIsToldOfATypedNumberMayTakeTheColumnAway) 
     EXPECT_FALSE(wheel->isTurning());
 }
 
-TEST_F(WheelAccessibility, WithoutAWindowATurnArrivesAtOnce) {
+TEST_F(UIPickerColumnElementTest, WithoutAWindowAStepArrivesAtOnce) {
     element()->decrement();
     EXPECT_EQ(source->notices, Notices{}) << "at the end there is nothing to turn";
     element()->increment();
@@ -250,14 +250,14 @@ TEST_F(WheelAccessibility, WithoutAWindowATurnArrivesAtOnce) {
     EXPECT_EQ(element()->index(), 5);
 }
 
-TEST_F(WheelAccessibility, AWheelThatTakesNoTouchesTakesNoOrders) {
+TEST_F(UIPickerColumnElementTest, AWheelWithoutUserInteractionIsNotAdjusted) {
     wheel->setUserInteractionEnabled(false);
     EXPECT_FALSE(element()->isEnabled());
     element()->increment();
     EXPECT_EQ(source->notices, Notices{});
 }
 
-TEST_F(WheelAccessibility, AColumnThatAReloadTakesAwayIsGoneUntilItComesBack) {
+TEST_F(UIPickerColumnElementTest, AColumnThatAReloadRemovesDoesNotExistUntilItComesBack) {
     source->rows = {100, 100};
     wheel->reloadAllComponents();
     const auto second = element(1);
@@ -280,7 +280,7 @@ TEST_F(WheelAccessibility, AColumnThatAReloadTakesAwayIsGoneUntilItComesBack) {
     EXPECT_EQ(second->count(), 7);
 }
 
-TEST(UIPickerViewAccessibility, AHandleFollowsItsColumnToAnotherPlace) {
+TEST(UIPickerColumnElement, AnElementFollowsItsColumnToAnotherPlace) {
     struct Movable : UIPickerView {
         using UIPickerView::exchangeComponents;
     };
@@ -306,7 +306,38 @@ TEST(UIPickerViewAccessibility, AHandleFollowsItsColumnToAnotherPlace) {
     EXPECT_FALSE(last->exists()) << "there is no such column yet";
 }
 
-TEST_F(WheelAccessibility, AHiddenWheelsColumnsAreNowhere) {
+TEST(UIPickerColumnElement, TheFirstColumnCanBeExchangedToo) {
+    struct Movable : UIPickerView {
+        using UIPickerView::exchangeComponents;
+    };
+    const auto source = create<WheelSource>();
+    source->rows = {100, 7, 8};
+    const auto wheel = create<Movable>(CGRectMake(0, 0, 320, 216));
+    wheel->setDataSource(source);
+    wheel->setDelegate(source);
+    TestWindow window(wheel);
+    const auto elements = wheel->accessibilityElements();
+    wheel->becomeFirstResponder();
+    window.press(UIKey::Code::Right);
+    ASSERT_EQ(wheel->componentOfKeys(), 1);
+    const auto exchange = [&](NSInteger one, NSInteger other) {
+        std::swap(source->rows[static_cast<std::size_t>(one)], source->rows[static_cast<std::size_t>(other)]);
+        wheel->exchangeComponents(one, other);
+        wheel->reloadAllComponents();
+    };
+    exchange(0, 1);
+    EXPECT_EQ(elements.at(0)->count(), 100);
+    EXPECT_EQ(elements.at(1)->count(), 7);
+    EXPECT_EQ(wheel->componentOfKeys(), 0) << "the choice of the keys goes along";
+    exchange(2, 0);
+    EXPECT_EQ(elements.at(1)->count(), 7);
+    EXPECT_EQ(elements.at(2)->count(), 8);
+    EXPECT_EQ(wheel->componentOfKeys(), 2);
+    exchange(0, 1);
+    EXPECT_EQ(wheel->componentOfKeys(), 2) << "it is neither of the two";
+}
+
+TEST_F(UIPickerColumnElementTest, AHiddenWheelsColumnsDoNotExist) {
     const auto column = element();
     wheel->setHidden(true);
     EXPECT_FALSE(column->exists());
@@ -314,7 +345,7 @@ TEST_F(WheelAccessibility, AHiddenWheelsColumnsAreNowhere) {
     EXPECT_FALSE(column->isEnabled());
 }
 
-TEST_F(WheelAccessibility, WithoutItsDelegateAColumnHasTheWheelsLabelAndNoValue) {
+TEST_F(UIPickerColumnElementTest, WithoutItsDelegateAColumnHasTheWheelsLabelAndNoValue) {
     const auto column = element();
     wheel->setAccessibilityLabel("Number");
     source = nullptr;
@@ -323,7 +354,7 @@ TEST_F(WheelAccessibility, WithoutItsDelegateAColumnHasTheWheelsLabelAndNoValue)
     EXPECT_EQ(column->index(), 0) << "it stands where it stood";
 }
 
-TEST_F(WheelAccessibility, WhoIsToldOfATurnMayDropTheWheel) {
+TEST_F(UIPickerColumnElementTest, TheReportOfAStepMayDropTheWheel) {
     const auto column = element();
     source->whenTold = [this](NSInteger, NSInteger) { wheel.reset(); };
     column->increment();
@@ -340,7 +371,7 @@ TEST_F(WheelAccessibility, WhoIsToldOfATurnMayDropTheWheel) {
     EXPECT_EQ(source->notices, (Notices{{1, 0}}));
 }
 
-TEST(UIPickerViewAccessibility, ADelegateThatOnlyGivesTitlesIsReadByThem) {
+TEST(UIPickerColumnElement, TheValueOfADelegateWithTitlesAloneIsTheTitle) {
     const auto source = create<WheelSource>();
     const auto wheel = wheelWithSource(source);
     wheel->setAccessibilityLabel("Number");

@@ -9,7 +9,7 @@ namespace gx {
 
 namespace {
 
-/// The next code point of a text, taken off it; nothing for bytes that are none.
+/// Takes the next code point off a text; nothing for bytes that are none.
 std::optional<char32_t> takeCodePoint(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
@@ -26,7 +26,7 @@ std::optional<char32_t> takeCodePoint(std::string_view& text) {
     return point;
 }
 
-/// Where the ten digits of a script begin.
+/// The zeros of scripts whose ten digits follow each other, as in Unicode's category Nd.
 constexpr char32_t zeros[] = {
     U'0',   0x0660, 0x06F0, 0x07C0, 0x0966, 0x09E6, 0x0A66, 0x0AE6, 0x0B66, 0x0BE6, 0x0C66, 0x0CE6, 0x0D66,
     0x0DE6, 0x0E50, 0x0ED0, 0x0F20, 0x1040, 0x1090, 0x17E0, 0x1810, 0x1946, 0x19D0, 0x1A80, 0x1A90, 0x1B50,
@@ -46,7 +46,8 @@ bool isMinus(char32_t point) { return point == 0x2212 || (point >= 0x2010 && poi
 // A comma and a dot, those of wide type, and the Arabic separator.
 bool isSeparator(char32_t point) { return point == U',' || point == U'.' || point == 0xFF0C || point == 0xFF0E || point == 0x066B; }
 
-/// Small letters of the Latin, Greek and Cyrillic alphabets, as far as each lies at one distance from its capital.
+/// Small letters of the Latin, Greek and Cyrillic alphabets, as far as each lies at one distance
+/// from its capital.
 char32_t lowerCase(char32_t point) {
     const bool isCapital = (point >= U'A' && point <= U'Z') || (point >= 0xC0 && point <= 0xDE && point != 0xD7) ||
                            (point >= 0x391 && point <= 0x3A9) || (point >= 0x410 && point <= 0x42F);

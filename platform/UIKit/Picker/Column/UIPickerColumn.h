@@ -6,10 +6,11 @@
 
 namespace gx {
 
-/// One column of a wheel on the screen: the views of the rows in sight, drawn as a cylinder.
+/// One column of a wheel on the screen: the views of its visible rows, drawn as a cylinder.
 ///
-/// Its coordinates are those of its rows: row r lies at (r − anchor) · row height, and its bounds' origin says
-/// which of them are in sight. The foreshortening is drawing only.
+/// Its coordinates are those of its rows: row r lies at (r − anchor) · row height, and its bounds'
+/// origin says which of them are visible. The foreshortening is drawing only: it never enters
+/// frames. `UIPickerRows` binds the rows, `UIPickerColumnAxis` says where they are.
 class UIPickerColumn : public UIView {
 public:
     /// A view that shows a row, and whether the delegate made it.
@@ -21,41 +22,42 @@ public:
 
     bool initWithFrame(CGRect frame) override;
 
-    /// Takes no rows in sight that are further away, however low the rows: nobody could tell them apart.
+    /// In rows: those further away from the middle are not shown, however low rows are. Chosen:
+    /// they could not be told apart.
     static constexpr double highestReach = 100;
 
     CGFloat rowHeight() const { return rowHeight_; }
     void setRowHeight(CGFloat height);
     /// Which part of the rows is in the middle.
     void scrollToAnchor_offset(NSInteger anchor, double offset);
-    CGSize rowSize() const { return {bounds().size.width, rowHeight_}; }
 
-    /// The rows in sight, `last` exclusive, of `count` rows.
+    /// Of `count` rows those that are visible, `last` exclusive.
     struct Range {
         NSInteger first = 0;
         NSInteger last = 0;
     };
     Range rowsInSight(NSInteger count) const;
-    /// How many rows show all of themselves while one stands in the band; at least 1.
+    /// How many rows are entirely visible while one is selected; at least 1.
     NSInteger rowsWhollyInSight() const;
-    /// Where on the wheel the row lies that is drawn at `y` of the column's frame, in rows from the anchor;
-    /// nothing beside the cylinder.
+    /// The row that is drawn at `y` of the column's frame, in rows from the anchor, with its
+    /// fraction. Nothing beside the cylinder.
     std::optional<double> offsetDrawnAt(CGFloat y) const;
 
     /// The view that shows a row now, or nothing.
     Ref<UIView> viewForRow(NSInteger row) const;
-    /// Whether any row in sight shows something.
+    /// Whether any visible row shows something.
     bool showsSomething() const override;
 
     /// Puts the rows outside the range into the pool.
     void recycleRowsOutside(Range range);
-    /// Takes the entry of this row or, without one, a pooled view that suits; the row is no longer shown.
+    /// Takes the entry of this row or, without one, a pooled view of that kind. The row is no
+    /// longer shown.
     Row takeRow(NSInteger row, bool isDelegates);
     /// Shows a row by this view.
     void showRow(Row row);
-    /// Gives a taken view back that was not used.
+    /// Puts a taken view back that was not used.
     void pool(Row row);
-    /// Lets go of views beyond what a moving column needs, or of all.
+    /// Removes pooled views beyond the size.
     void trimPool(std::size_t size);
     void removeAllRows();
 

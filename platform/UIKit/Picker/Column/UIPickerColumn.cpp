@@ -10,27 +10,32 @@ namespace gx {
 
 namespace {
 
-// The look of the cylinder, chosen by eye on a wheel of 216 points with rows of 40: how far the rows at the edge are turned
-// away (in radians, 65 degrees), and how much fainter a row is that has just left the band.
+// The look of the cylinder, chosen by eye on a wheel of 216 points with rows of 40.
+
+// How far the rows at the edge are tilted away: in radians, 65 degrees.
 constexpr double edgeAngle = 1.1344640137963142;
-constexpr double fadeOutsideBand = 0.42;
-// At high contrast: just enough to tell the row in the band from the others.
-constexpr double slightFadeOutsideBand = 0.2;
-// How far the eye is from the cylinder, in its radii: rows that turn away also move away, and so narrow toward the wheel's middle.
+// How much fainter a row is that has just left the selection indicator.
+constexpr double fadeOutside = 0.42;
+// The same at high contrast: just enough to tell the selected row from the others.
+constexpr double slightFadeOutside = 0.2;
+// How far the eye is from the cylinder, in its radii. Rows that tilt away also move away, and so
+// narrow toward the wheel's middle.
 constexpr double eyeDistance = 3;
 
-/// How much of its colour a row has that is `rows` away from the band and turned away so that its height is shortened.
+/// The alpha of a row that is `rows` away from the selection indicator and tilted away, so that its
+/// height is shortened.
 double alphaOfRow(double rows, double shortening, UIAccessibilityContrast contrast) {
     const double left = std::min(std::fabs(rows), 1.0);
-    if (contrast == UIAccessibilityContrast::High) return 1 - slightFadeOutsideBand * left;
-    return (1 - fadeOutsideBand * left) * shortening;
+    if (contrast == UIAccessibilityContrast::High) return 1 - slightFadeOutside * left;
+    return (1 - fadeOutside * left) * shortening;
 }
 
 } // namespace
 
 bool UIPickerColumn::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
-    setUserInteractionEnabled(false); // The wheel takes the touches, to know which column a finger belongs to.
+    // The wheel takes the touches, to know which column a finger belongs to.
+    setUserInteractionEnabled(false);
     return true;
 }
 
@@ -59,7 +64,8 @@ void UIPickerColumn::scrollToAnchor_offset(NSInteger anchor, double offset) {
 
 UIPickerColumn::Range UIPickerColumn::rowsInSight(NSInteger count) const {
     if (count <= 0 || bounds().size.height <= 0) return {};
-    // The anchor is one of the rows, so the distances to the ends are safe; the offset may be as large as both together.
+    // The anchor is one of the rows, so the distances to the ends are safe; the offset may be as
+    // large as both together.
     const NSInteger toFirst = -anchor_;
     const NSInteger toEnd = count - anchor_;
     // A row reaches half a row to either side of its middle.
@@ -143,16 +149,19 @@ void UIPickerColumn::removeAllRows() {
 }
 
 void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
-    // In the column's coordinates the middle of the band lies here; offset 0 is the middle of the anchor row.
+    // The middle of the selection indicator, in the column's coordinates. Offset 0 is the middle of
+    // the anchor row.
     const CGFloat middle = (offset_ + 0.5) * rowHeight_;
     const Ref<UIView> wheel = superview();
     const CGRect area = convertRect_fromView(wheel ? wheel->bounds() : CGRectZero, wheel);
     const CGFloat vanishing = CGRectGetMidX(area);
-    // Rows end at the wheel's top and bottom. To the sides they may leave a narrow column, toward the middle.
+    // Rows end at the wheel's top and bottom. To the sides they may leave a narrow column, toward
+    // the middle.
     context.clipToRect(area);
     for (std::size_t i = 0; i < shown_.size(); ++i) {
-        const Row entry = shown_[i];                         // Drawing may change the rows.
-        if (entry.view->superview().get() != this) continue; // The delegate has put its view elsewhere.
+        // Drawing may change the rows, and a delegate may have put its view elsewhere.
+        const Row entry = shown_[i];
+        if (entry.view->superview().get() != this) continue;
         const double rows = static_cast<double>(entry.row - anchor_) - offset_;
         const double angle = rows * rowHeight_ / radius();
         if (std::fabs(angle) >= edgeAngle + 0.5 * rowHeight_ / radius()) continue;

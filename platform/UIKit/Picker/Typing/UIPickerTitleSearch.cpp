@@ -8,14 +8,14 @@ namespace gx {
 
 namespace {
 
-/// A whole number as it is spelled, with as many digits.
+/// A whole number as it is spelled, with leading zeros.
 struct Spelled {
     NSInteger value = 0;
     int digits = 0;
     bool isNegative = false;
 };
 
-/// More digits would not fit.
+/// What fits into an NSInteger.
 constexpr int mostDigits = 18;
 
 std::optional<Spelled> spelledNumber(const std::u32string& text) {

@@ -1,0 +1,96 @@
+#include "UIPickerTypeSelect.h"
+
+namespace gx {
+
+UIPickerTitleSearch::Result UIPickerTypeSelect::rowsSpelled(const std::u32string& text, NSInteger component) {
+    const auto titles = [this, component](NSInteger row) { return wheel_.titleOfRow(row, component); };
+    return UIPickerTitleSearch::resultOfText_amongRows(text, wheel_.rowCount(component), titles);
+}
+
+void UIPickerTypeSelect::typeCharacter(char32_t character, NSTimeInterval time) {
+    if (typing_.isOverAt(time)) complete();
+    const NSInteger component = wheel_.componentOfKeys();
+    if (component < 0 || wheel_.isHeld(component)) return;
+    if (typing_.isIgnoring()) return typing_.ignoreFromTime(time);
+    if (!typing_.isAtComponent(component)) complete();
+    if (UIPickerTyping::endsColumn(character) && typeSeparator(character, component, time)) return;
+    typeText(character, component, time);
+}
+
+/// Returns whether the separator leads away from the column.
+bool UIPickerTypeSelect::typeSeparator(char32_t separator, NSInteger component, NSTimeInterval time) {
+    const std::u32string text = typing_.text();
+    // A title may have one of its own, as 36.5 has after 36.
+    if (!text.empty() && rowsSpelled(text + separator, component).canGrow) return false;
+    const NSInteger next = wheel_.componentAfter(component);
+    // As the .5 of 3.5, where rows begin at 30.
+    const bool isOfNothing = !text.empty() && !rowsSpelled(text, component).row;
+    if (next >= 0 && !isOfNothing) {
+        complete();
+        // Also a column of one row: what is typed next is meant for it.
+        wheel_.chooseComponent(next);
+        typing_.goOnToComponent_atTime(next, separator != U':', time);
+        return true;
+    }
+    // A title may begin with one, as .5 does in a column of tenths.
+    if (text.empty() || (!isOfNothing && rowsSpelled(std::u32string(1, separator), component).canGrow)) return false;
+    complete();
+    typing_.ignoreFromTime(time);
+    return true;
+}
+
+void UIPickerTypeSelect::typeText(char32_t character, NSInteger component, NSTimeInterval time) {
+    // A column may offer other rows once those beside it are reported. So they land first.
+    wheel_.finishOthers(component);
+    if (wheel_.componentOfKeys() != component) return;
+    if (typing_.isComplete() && typeBehindComplete(character, component, time)) return;
+    if (typing_.text().empty()) typing_.beginInComponent_onRow(component, wheel_.landingRow(component));
+    std::u32string text = typing_.text() + character;
+    const UIPickerTitleSearch::Result found = rowsSpelled(text, component);
+    if (!wheel_.canSpin(component)) return; // A callback has changed the columns.
+    if (found.row || found.canGrow) {
+        typing_.setText_atTime(std::move(text), found.canGrow, time);
+        if (found.row) wheel_.spinToRow(*found.row, component);
+    } else if (text.size() > 1) {
+        // Of a number that is not there no part counts: 300 is not 30.
+        if (const auto row = typing_.rowBefore()) wheel_.spinToRow(*row, component);
+        complete();
+        typing_.ignoreFromTime(time);
+    }
+    wheel_.startMoving();
+}
+
+/// What follows a text that nothing can go on with. Returns whether that was it.
+///
+/// - Digits of a fraction go on to the column behind, as hundredths do behind tenths. Behind the
+///   last one they are ignored.
+/// - What follows a mark that ends a title goes on too, as the inches of 5'9.
+bool UIPickerTypeSelect::typeBehindComplete(char32_t character, NSInteger component, NSTimeInterval time) {
+    const bool isFraction = typing_.isFraction();
+    const char32_t last = typing_.text().back();
+    if (!isFraction && last >= U'0' && last <= U'9') return false;
+    const NSInteger next = wheel_.componentAfter(component);
+    if (next == component + 1) {
+        const UIPickerTitleSearch::Result found = rowsSpelled(std::u32string(1, character), next);
+        if (!wheel_.canSpin(component)) return true;
+        if (found.row || found.canGrow) {
+            complete();
+            wheel_.chooseComponent(next);
+            typing_.goOnToComponent_atTime(next, isFraction, time);
+            typeText(character, next, time);
+            return true;
+        }
+    }
+    if (!isFraction) return false;
+    complete();
+    typing_.ignoreFromTime(time);
+    return true;
+}
+
+void UIPickerTypeSelect::complete() {
+    const bool isReportNeeded = typing_.component().has_value();
+    typing_.clear();
+    if (isReportNeeded) wheel_.reportLandings();
+}
+
+} // namespace gx
