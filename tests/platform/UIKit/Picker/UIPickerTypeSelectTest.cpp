@@ -1,0 +1,103 @@
+// Type-to-select without a wheel: what it calls, and in which order.
+
+#include "UIPickerTypeSelect.h"
+
+#include <gtest/gtest.h>
+
+using namespace gx;
+using Calls = std::vector<std::string>;
+
+namespace {
+
+/// Two columns of rows 0 to 99, titled by their numbers.
+class RecordingWheel final : public UIPickerTypeSelect::Wheel {
+public:
+    Calls calls;
+    NSInteger chosen = 0;
+    bool isHeldByFinger = false;
+
+    Calls takeCalls() { return std::move(calls); }
+
+    NSInteger componentOfKeys() override { return chosen; }
+    NSInteger componentAfter(NSInteger component) override { return component == 0 ? 1 : -1; }
+    void chooseComponent(NSInteger component) override {
+        chosen = component;
+        calls.push_back("choose " + std::to_string(component));
+    }
+    bool canSpin(NSInteger) override { return true; }
+    bool isHeld(NSInteger) override { return isHeldByFinger; }
+    NSInteger rowCount(NSInteger) override { return 100; }
+    std::optional<std::string> titleOfRow(NSInteger row, NSInteger) override { return std::to_string(row); }
+    NSInteger landingRow(NSInteger) override { return 50; }
+    void spinToRow(NSInteger row, NSInteger component) override {
+        calls.push_back("spin " + std::to_string(row) + " in " + std::to_string(component));
+    }
+    void startMoving() override { calls.push_back("start"); }
+    void finishOthers(NSInteger component) override { calls.push_back("finish all but " + std::to_string(component)); }
+    void reportLandings() override { calls.push_back("report"); }
+};
+
+struct UIPickerTypeSelectTest : testing::Test {
+    RecordingWheel wheel;
+    UIPickerTypeSelect typeSelect{wheel};
+};
+
+} // namespace
+
+TEST_F(UIPickerTypeSelectTest, SpinsWithEachCharacterAndReportsOnceComplete) {
+    typeSelect.typeCharacter(U'1', 10);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 0", "spin 1 in 0", "start"}));
+    EXPECT_EQ(typeSelect.waitingComponent(), 0) << "12 may follow";
+    typeSelect.typeCharacter(U'2', 10.5);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 0", "spin 12 in 0", "start"}));
+    EXPECT_EQ(typeSelect.waitingComponent(), std::nullopt) << "no title goes on";
+}
+
+TEST_F(UIPickerTypeSelectTest, ACompletedTextIsReportedOnce) {
+    typeSelect.typeCharacter(U'1', 10);
+    wheel.takeCalls();
+    typeSelect.complete();
+    EXPECT_EQ(wheel.takeCalls(), Calls{"report"});
+    typeSelect.complete();
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
+}
+
+TEST_F(UIPickerTypeSelectTest, AForgottenTextLeavesTheReportToOthers) {
+    typeSelect.typeCharacter(U'1', 10);
+    wheel.takeCalls();
+    typeSelect.forget();
+    EXPECT_EQ(typeSelect.waitingComponent(), std::nullopt);
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
+}
+
+TEST_F(UIPickerTypeSelectTest, ASeparatorCompletesTheColumnAndChoosesTheNext) {
+    typeSelect.typeCharacter(U'1', 10);
+    wheel.takeCalls();
+    typeSelect.typeCharacter(U':', 10.1);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"report", "choose 1"}));
+    typeSelect.typeCharacter(U'5', 10.2);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 1", "spin 5 in 1", "start"}));
+}
+
+TEST_F(UIPickerTypeSelectTest, ATextThatNoTitleSpellsGoesBackAndIsIgnoredUntilAPause) {
+    typeSelect.typeCharacter(U'1', 10);
+    wheel.takeCalls();
+    typeSelect.typeCharacter(U'k', 10.1);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 0", "spin 50 in 0", "report", "start"}));
+    typeSelect.typeCharacter(U'2', 10.2);
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
+    typeSelect.typeCharacter(U'3', 11.3);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 0", "spin 3 in 0", "start"}));
+}
+
+TEST_F(UIPickerTypeSelectTest, AColumnUnderAFingerIgnoresCharacters) {
+    wheel.isHeldByFinger = true;
+    typeSelect.typeCharacter(U'1', 10);
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
+}
+
+TEST_F(UIPickerTypeSelectTest, WithoutAColumnCharactersAreIgnored) {
+    wheel.chosen = -1;
+    typeSelect.typeCharacter(U'1', 10);
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
+}
