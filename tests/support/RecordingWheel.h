@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "CastTo.h"
 #include "GXMultiValuePickerView.h"
 
 /// A wheel that notes, as given, every request that reaches it from outside: "select 3 in 0",
@@ -18,7 +19,7 @@ public:
     static void uninstall() { gx::GXMultiValuePickerView::setFactory(nullptr); }
     template <class Picker>
     static RecordingWheel& under(const gx::Ref<Picker>& picker) {
-        return dynamic_cast<RecordingWheel&>(*picker->pickerView());
+        return *castTo<RecordingWheel>(picker->pickerView());
     }
     /// What was noted since the last call of this.
     std::vector<std::string> takeCalls() { return std::move(calls); }

@@ -6,6 +6,7 @@
 #include <map>
 #include <utility>
 
+#include "CastTo.h"
 #include "PickerViewTest.h"
 #include "UILabel.h"
 
@@ -38,13 +39,13 @@ struct UIPickerViewRows : testing::Test {
 
 TEST_F(UIPickerViewRows, AnAttributedTitleGoesBeforeAPlainOne) {
     source->attributed = NSAttributedString::attributedStringWithString_attributes("rich", {nullptr, UIColor::blackColor()});
-    const auto label = std::dynamic_pointer_cast<UILabel>(wheel->viewForRow_forComponent(0, 0));
+    const auto label = castTo<UILabel>(wheel->viewForRow_forComponent(0, 0));
     ASSERT_TRUE(label);
     EXPECT_EQ(label->attributedText(), source->attributed);
     EXPECT_EQ(source->titleQuestions, 0);
     source->attributed = nullptr;
     wheel->reloadAllComponents();
-    const auto plain = std::dynamic_pointer_cast<UILabel>(wheel->viewForRow_forComponent(0, 0));
+    const auto plain = castTo<UILabel>(wheel->viewForRow_forComponent(0, 0));
     EXPECT_EQ(plain->text(), "0");
     EXPECT_FALSE(plain->attributedText());
 }

@@ -6,6 +6,7 @@
 #include <map>
 #include <utility>
 
+#include "CastTo.h"
 #include "PickerViewTest.h"
 #include "UILabel.h"
 
@@ -122,12 +123,12 @@ TEST_F(UIPickerViewTest, AReloadIsLaidOutOnceAndBindsEachVisibleRowOnce) {
 TEST_F(UIPickerViewTest, RowsShowTheDelegatesTitlesAfterAReload) {
     source->title = [](NSInteger row, NSInteger) { return "a" + std::to_string(row); };
     wheel->reloadAllComponents();
-    const auto label = std::dynamic_pointer_cast<UILabel>(wheel->viewForRow_forComponent(1, 0));
+    const auto label = castTo<UILabel>(wheel->viewForRow_forComponent(1, 0));
     ASSERT_TRUE(label);
     EXPECT_EQ(label->text(), "a1");
     source->title = [](NSInteger row, NSInteger) { return "b" + std::to_string(row); };
     wheel->reloadAllComponents();
-    EXPECT_EQ(std::dynamic_pointer_cast<UILabel>(wheel->viewForRow_forComponent(1, 0))->text(), "b1");
+    EXPECT_EQ(castTo<UILabel>(wheel->viewForRow_forComponent(1, 0))->text(), "b1");
 }
 
 // Places
@@ -380,7 +381,7 @@ TEST(UIPickerView, ADelegateWithDefaultsLeavesEverythingToTheWheel) {
     wheel->setDataSource(source);
     wheel->setDelegate(silent);
     EXPECT_EQ(wheel->rowSizeForComponent(0), CGSizeMake(320, 32));
-    const auto label = std::dynamic_pointer_cast<UILabel>(wheel->viewForRow_forComponent(0, 0));
+    const auto label = castTo<UILabel>(wheel->viewForRow_forComponent(0, 0));
     ASSERT_TRUE(label);
     EXPECT_FALSE(label->showsSomething());
     wheel->turnToRow_inComponent(3, 0);
