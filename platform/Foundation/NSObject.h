@@ -48,6 +48,12 @@ private:
     std::function<void()> wakeHandler_;
 };
 
+/// Stands for a class in `isKindOfClass`: one for each class that may be asked about, known by its
+/// address.
+struct NSClass {
+    const char* name;
+};
+
 /// The root of everything that is shared by reference.
 ///
 /// Construction has two phases, because the set-up of a class calls operations that its subclasses
@@ -65,6 +71,11 @@ public:
 
     /// Returns false to refuse construction; `create` then returns nothing.
     virtual bool init();
+
+    /// Whether the object is of the class that `kind` stands for, or of one derived from it. It asks
+    /// the object and needs no RTTI. A class that may be asked about has a static member `kind` and
+    /// overrides this.
+    virtual bool isKindOfClass(const NSClass& /*kind*/) const { return false; }
 
     /// Calls `selector` in the next pass of the main run loop or, with `waitUntilDone`, at once.
     ///
@@ -89,6 +100,12 @@ template <class T>
 Ref<T> refTo(T* object) {
     const Ref<NSObject> owner = object ? object->weak_from_this().lock() : nullptr;
     return owner ? Ref<T>(owner, object) : nullptr;
+}
+
+/// The object as a T, or nothing if it is none.
+template <class T, class Object>
+Ref<T> asKindOf(const Ref<Object>& object) {
+    return object && object->isKindOfClass(T::kind) ? std::static_pointer_cast<T>(object) : nullptr;
 }
 
 /// How an object without arguments is made. Classes that take arguments have overloads beside them.

@@ -6,6 +6,8 @@
 
 namespace gx {
 
+const NSClass UIImageView::kind = {"UIImageView"};
+
 bool UIImageView::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     setUserInteractionEnabled(false);

@@ -17,6 +17,9 @@ enum UIViewContentMode {
 /// your own.
 class GX_EXPORT UIImageView : public UIView {
 public:
+    static const NSClass kind;
+    bool isKindOfClass(const NSClass& asked) const override { return &asked == &kind || UIView::isKindOfClass(asked); }
+
     bool initWithFrame(CGRect frame) override;
     /// Also restores "contentMode".
     bool initWithCoder(const Ref<NSCoder>& coder) override;

@@ -35,6 +35,8 @@ void UILabel::initLabel() {
     setUserInteractionEnabled(false);
 }
 
+const NSClass UILabel::kind = {"UILabel"};
+
 bool UILabel::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     initLabel();

@@ -24,6 +24,9 @@ enum NSTextAlignment {
 /// Invariant: setting a plain text drops the attributed one, and the other way round.
 class GX_EXPORT UILabel : public UIView {
 public:
+    static const NSClass kind;
+    bool isKindOfClass(const NSClass& asked) const override { return &asked == &kind || UIView::isKindOfClass(asked); }
+
     bool initWithFrame(CGRect frame) override;
     /// Also restores "text", "textAlignment" and "fontSize".
     bool initWithCoder(const Ref<NSCoder>& coder) override;
