@@ -12,7 +12,8 @@
 inline constexpr gx::CGRect upright = {{0, 0}, {320, 216}};
 inline constexpr gx::CGRect lying = {{0, 0}, {568, 200}};
 
-/// Does with a composite what can be done with any picker, and checks that it answers as one without a wheel and without rows.
+/// Does with a composite what can be done with any picker, and checks that it returns what one
+/// without a wheel and without rows.
 inline void expectEveryOperationIsSafe(const gx::Ref<gx::GXBasePickerView>& picker) {
     const auto notices = gx::create<PickerNotices>();
     const auto font = gx::GXStyleSheet::globalStyleSheet()->pickerValueFont();

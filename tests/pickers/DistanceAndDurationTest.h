@@ -12,7 +12,8 @@ struct DistanceAndDuration : testing::Test {
 
     gx::Ref<gx::GXMultiValuePickerView> distanceWheel() const { return picker->distancePicker()->pickerView(); }
     gx::Ref<gx::GXMultiValuePickerView> durationWheel() const { return picker->durationPicker()->pickerView(); }
-    /// Gives the composite a delegate and leads the inner pickers' notices through the composite again.
+    /// Gives the composite a delegate and leads the inner pickers' notices through the composite
+    /// again.
     void relay() {
         picker->setDelegate(notices);
         picker->distancePicker()->setDelegate(picker);

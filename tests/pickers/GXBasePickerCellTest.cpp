@@ -104,6 +104,14 @@ TEST_P(PickerCell, OneMadeWithAFrameHasItsPickerToo) {
     EXPECT_EQ(cell->pickerView()->frame(), CGRectMake(0, 0, 300, 200));
 }
 
+TEST_P(PickerCell, ThePickerFollowsNewBounds) {
+    const auto cell = GetParam().make();
+    cell->setBounds(CGRectMake(0, 0, 280, 180));
+    EXPECT_EQ(cell->pickerView()->frame(), CGRectMake(0, 0, 280, 180));
+    cell->setBounds(CGRectMake(3, 4, 100, 50));
+    EXPECT_EQ(cell->pickerView()->frame(), CGRectMake(3, 4, 100, 50));
+}
+
 TEST_P(PickerCell, OneFromAnInterfaceGetsItsPickerWhenItAwakes) {
     const auto coder = create<NSCoder>();
     coder->encodeCGRect_forKey(CGRectMake(0, 90, 300, 200), "frame");
@@ -240,7 +248,7 @@ TEST(BasePickerCell, APickerMayTakeItselfAndTheCellAwayWhileItIsMoved) {
 
 // Single cells
 
-TEST(BpmPickerCell, AFreshOneShows160AndIsTurnedByAFinger) {
+TEST(BpmPickerCell, AFreshOneShows160AndFollowsAFinger) {
     const auto cell = create<GXBpmPickerCell>(UITableViewCellStyleDefault, GXBpmPickerCell::cellIdentifier());
     cell->setFrame(CGRectMake(0, 0, 320, 216));
     const auto notices = create<PickerNotices>();

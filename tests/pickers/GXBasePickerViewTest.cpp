@@ -4,14 +4,13 @@
 
 #include "GXStyleSheet.h"
 #include "PickerTest.h"
-#include "TestWindow.h"
 #include "UILabel.h"
+#include "UITextEngine.h"
 
 using namespace gx;
 
 namespace {
 using BasePicker = PickerTest<GXBasePickerView>;
-constexpr NSInteger highest = std::numeric_limits<NSInteger>::max();
 constexpr NSInteger lowest = std::numeric_limits<NSInteger>::min();
 } // namespace
 
@@ -105,7 +104,8 @@ TEST_F(BasePicker, WithoutARangeThereAreNoRowsAndTheWidthIsMeasuredOnTheRowBefor
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 50.0);
     picker->setMinValue(boxed(-99998));
     picker->setMaxValue(boxed(-99998));
-    // The row before the first is -99999: 6 code points of 10 points, times 1.8 in single precision.
+    // The row before the first is -99999: 6 code points of 10 points, times 1.8 in single
+    // precision.
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 60 * 1.7999999523162842);
 }
 
@@ -118,7 +118,8 @@ TEST_F(BasePicker, ATitleBeyond32BitsWraps) {
 
 TEST_F(BasePicker, ColumnsAreAtLeast50WideAndElse1Point8TimesTheirLastTitle) {
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 50.0); // "99" gives 36
-    picker->setMaxValue(boxed(1000));                                               // "999" gives 54
+    // "999" gives 54
+    picker->setMaxValue(boxed(1000));
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 30 * 1.7999999523162842);
 }
 
@@ -272,172 +273,4 @@ TEST_F(BasePicker, WithoutAWheelEveryOperationIsSafe) {
     EXPECT_EQ(picker->currentValue().intValue(), 5);
     picker->pickerView_didSelectRow_inComponent(nullptr, 2, 0);
     EXPECT_EQ(notices->list.back().value.intValue(), 3);
-}
-
-// The user's turns
-
-TEST_F(BasePicker, ATurnStoresTheRowsValueAs64BitsAndSendsOneNotice) {
-    EXPECT_EQ(turn(37), Calls{}) << "the wheel is not selected again";
-    EXPECT_EQ(picker->currentValue().type(), NSNumber::Type::Integer);
-    EXPECT_EQ(picker->currentValue().integerValue(), 37);
-    ASSERT_EQ(notices->list.size(), 1U);
-    EXPECT_EQ(notices->list[0].picker, picker);
-    EXPECT_TRUE(notices->list[0].value.isIdenticalTo(picker->currentValue()));
-    EXPECT_EQ(notices->list[0].component, 0);
-}
-
-TEST(BasePickerSubclass, WhateverColumnIsTurnedComponent0IsReported) {
-    const auto picker = create<ThreeColumns>(CGRectMake(0, 0, 320, 216));
-    const auto notices = create<PickerNotices>();
-    picker->setDelegate(notices);
-    picker->pickerView()->turnToRow_inComponent(8, 2);
-    ASSERT_EQ(notices->list.size(), 1U);
-    EXPECT_EQ(notices->list[0].component, 0);
-    EXPECT_EQ(notices->list[0].value.integerValue(), 8);
-}
-
-TEST(BasePickerSubclass, OverridesTakeEffectInTheBasesOwnRules) {
-    class Words : public GXBasePickerView {
-    public:
-        int informed = 0;
-        int selected = 0;
-        NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) override { return 3; }
-        std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger) override {
-            return row == 2 ? "twelve chars" : "short";
-        }
-        void selectCurrentValue() override { ++selected; }
-        void informDelegateOfValueChange() override { ++informed; }
-    };
-    const auto picker = create<Words>(CGRectMake(0, 0, 320, 216));
-    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 120 * 1.7999999523162842);
-    EXPECT_EQ(std::dynamic_pointer_cast<UILabel>(picker->pickerView()->viewForRow_forComponent(0, 0))->text(), "short");
-    picker->setMinValue(boxed(1));
-    picker->setMaxValue(boxed(1));
-    picker->setStepSize(boxed(1));
-    picker->setCurrentValue(boxed(1));
-    EXPECT_EQ(picker->selected, 4);
-    picker->pickerView()->turnToRow_inComponent(1, 0);
-    EXPECT_EQ(picker->informed, 1);
-}
-
-TEST_F(BasePicker, AFingerTurnsTheWheelAndTheDelegateIsToldOnce) {
-    TestWindow window(picker);
-    window.drag({160, 108}, {160, 108 - 126}); // three rows of 40 and the slop
-    window.runUntilStill();
-    ASSERT_EQ(notices->list.size(), 1U);
-    EXPECT_EQ(notices->list[0].value.integerValue(), 3);
-    EXPECT_EQ(picker->currentValue().integerValue(), 3);
-}
-
-TEST_F(BasePicker, ATurnAsksAndMeasuresNoMoreThanItsLayoutNeeds) {
-    struct Engine : UIFixedWidthTextEngine {
-        int asked = 0;
-        CGSize sizeOfText_font(std::string_view text, const UIFont& font) override {
-            ++asked;
-            return UIFixedWidthTextEngine::sizeOfText_font(text, font);
-        }
-    };
-    wheel().setRightLabelText("bpm");
-    picker->layoutIfNeeded();
-    const auto engine = create<Engine>();
-    UITextEngine::setShared(engine);
-    wheel().turnToRow_inComponent(5, 0);
-    EXPECT_EQ(engine->asked, 0) << "the turn itself places nothing";
-    wheel().layoutIfNeeded();
-    UITextEngine::setShared(nullptr);
-    // The column's width; for the right label the widest title, the column's width once more, and its own text; for the empty left label
-    // the widest title.
-    EXPECT_EQ(engine->asked, 5);
-}
-
-// Delegates
-
-TEST_F(BasePicker, ADelegateThatDiedIsSkipped) {
-    notices = nullptr;
-    turn(3);
-    EXPECT_EQ(picker->currentValue().integerValue(), 3);
-    EXPECT_FALSE(picker->delegate().lock());
-}
-
-TEST_F(BasePicker, ADelegateMaySetValuesInItsNotice) {
-    notices->whenTold = [&](const PickerNotices::Notice&) {
-        picker->setMaxValue(boxed(50));
-        picker->setCurrentValue(boxed(40));
-    };
-    turn(3);
-    EXPECT_EQ(notices->list.size(), 1U);
-    EXPECT_EQ(picker->currentValue().intValue(), 40);
-    EXPECT_EQ(selected(), 40);
-    EXPECT_EQ(rows(), 50);
-}
-
-TEST_F(BasePicker, ADelegateMayReplaceItselfInItsNotice) {
-    const auto other = create<PickerNotices>();
-    notices->whenTold = [&](const PickerNotices::Notice&) {
-        picker->setDelegate(other);
-        notices = nullptr;
-    };
-    turn(3);
-    turn(4);
-    EXPECT_EQ(other->list.size(), 1U);
-}
-
-TEST_F(BasePicker, ADelegateMayDropTheLastReferenceToThePickerInItsNotice) {
-    const WeakRef<GXBasePickerView> weak = picker;
-    const Ref<GXMultiValuePickerView> wheel = picker->pickerView();
-    notices->whenTold = [&](const PickerNotices::Notice&) {
-        notices->list.clear();
-        picker = nullptr;
-    };
-    wheel->turnToRow_inComponent(3, 0);
-    EXPECT_TRUE(weak.expired());
-    wheel->turnToRow_inComponent(4, 0);
-}
-
-// Extremes
-
-TEST_F(BasePicker, TheLargestAndSmallestIntegersNeverLeaveTheWheelWithoutItsRows) {
-    for (const NSInteger minimum : {lowest, NSInteger{-1}, NSInteger{0}, highest}) {
-        for (const NSInteger maximum : {lowest, NSInteger{0}, highest}) {
-            for (const NSInteger step : {lowest, NSInteger{1}, highest}) {
-                picker->setMinValue(boxedInteger(minimum));
-                picker->setMaxValue(boxedInteger(maximum));
-                picker->setStepSize(boxedInteger(step));
-                picker->setCurrentValue(boxedInteger(highest));
-                picker->setCurrentValue(boxedInteger(lowest));
-                picker->layoutIfNeeded();
-                const NSInteger count = rows();
-                EXPECT_GE(count, 0);
-                EXPECT_GE(selected(), 0);
-                EXPECT_LE(selected(), std::max<NSInteger>(count - 1, 0));
-                turn(count - 1);
-            }
-        }
-    }
-}
-
-TEST_F(BasePicker, AMinimumAboveTheMaximumGivesNoRows) {
-    picker->setMinValue(boxed(200));
-    EXPECT_EQ(rows(), 0);
-    picker->layoutIfNeeded();
-    TestWindow window(picker);
-    window.drag({160, 108}, {160, 20});
-    EXPECT_FALSE(window.scrollNotches({160, 108}, 1));
-    EXPECT_TRUE(notices->list.empty()) << "there is no row to turn to";
-    turn(0);
-    EXPECT_EQ(notices->list.size(), 1U) << "a program that says so all the same is taken at its word";
-    EXPECT_EQ(notices->list[0].value.integerValue(), 200);
-}
-
-TEST_F(BasePicker, EmptyAndNaNNumbersReadAs0) {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    picker->setMinValue(NSNumber());
-    EXPECT_EQ(rows(), 100);
-    picker->setCurrentValue(NSNumber());
-    EXPECT_EQ(selected(), 0);
-    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxedDouble(nan)); }), (Calls{"select 0 in 0"})) << "no number is not below";
-    picker->setMaxValue(boxedDouble(nan));
-    EXPECT_EQ(rows(), 0);
-    picker->setMaxValue(boxedDouble(1e300));
-    EXPECT_EQ(rows(), highest);
 }

@@ -30,7 +30,7 @@ TEST_F(BpmPicker, AFreshOneShows160Among24RowsWithItsUnit) {
 
 TEST_F(BpmPicker, TheLastRowReports230AndNoRowReports240) {
     turn(23);
-    turn(24); // held to the last row
+    turn(24); // clamped to the last row
     ASSERT_EQ(notices->list.size(), 2U);
     for (const auto& notice : notices->list) {
         EXPECT_EQ(notice.value.integerValue(), 230);

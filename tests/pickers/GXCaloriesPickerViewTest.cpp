@@ -17,7 +17,7 @@ TEST_F(CaloriesPicker, ItIsSetUpStepByStepThroughTheSetters) {
     }
 }
 
-TEST_F(CaloriesPicker, AFreshOneHasTenThousandRowsAndStandsOnTheFirst) {
+TEST_F(CaloriesPicker, AFreshOneHasTenThousandRowsAndSelectsTheFirst) {
     EXPECT_EQ(rows(), 10000);
     EXPECT_EQ(selected(), 0);
     EXPECT_EQ(title(9999), "99990");

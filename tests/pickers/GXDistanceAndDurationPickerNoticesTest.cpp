@@ -5,7 +5,7 @@
 
 using namespace gx;
 
-// Who is told what
+// Notices
 
 TEST_F(DistanceAndDuration, WithoutADelegateTurnsAreTakenAndNobodyIsTold) {
     TestWindow window(picker);

@@ -64,7 +64,7 @@ TEST_F(DistanceAndDuration, TheTwoOverlapAroundTheMiddleWithTheDurationOnTop) {
     EXPECT_TRUE(picker->hitTest({139, 108})->isDescendantOfView(picker->distancePicker()));
 }
 
-TEST_F(DistanceAndDuration, TheyFollowATurnedScreenAndBack) {
+TEST_F(DistanceAndDuration, TheyFollowASelectionedScreenAndBack) {
     picker->setFrame(lying);
     expectFrames(CGRectMake(0, 0, 289, 200), CGRectMake(264, 0, 304, 200));
     picker->setFrame(upright);
@@ -117,19 +117,4 @@ TEST_F(DistanceAndDuration, EveryOperationIsSafe) {
     cleared->setDistancePicker(nullptr);
     cleared->setDurationPicker(nullptr);
     expectEveryOperationIsSafe(cleared);
-}
-
-TEST_F(DistanceAndDuration, OneBandSpansBothWheels) {
-    picker->layoutIfNeeded();
-    RecordingCanvas canvas;
-    picker->renderInContext(canvas);
-    std::vector<std::string> fills;
-    for (const std::string& call : canvas.painted()) {
-        if (call.starts_with("fill")) fills.push_back(call.substr(0, call.find(" with")));
-    }
-    // 8 points from either edge of 320, and as high as a row around the middle of 216.
-    EXPECT_EQ(fills, (std::vector<std::string>{"fill 8 88 304 40"}));
-    picker->setDistancePicker(nullptr);
-    picker->renderInContext(canvas); // Without it there is nothing to go by, and no band.
-    EXPECT_EQ(std::count_if(canvas.calls.begin(), canvas.calls.end(), [](const auto& call) { return call.starts_with("fill"); }), 1);
 }

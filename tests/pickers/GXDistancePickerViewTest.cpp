@@ -29,8 +29,8 @@ TEST_F(DistancePicker, ItIsSetUpStepByStepThroughTheSetters) {
     EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source",                  // the wheel
                                           "reload", "select 0 in 0", "select 0 in 2", // maximum
                                           "reload", "select 0 in 0", "select 0 in 2", // minimum
-                                          "select 3 in 0", "select 1 in 2", "reload", // current value
-                                          "right mi", "separator . after 0"}));
+                                          // current value
+                                          "select 3 in 0", "select 1 in 2", "reload", "right mi", "separator . after 0"}));
 }
 
 TEST_F(DistancePicker, ItStartsAt5000MetresOf300000InBoxesOfTheirOwnTypes) {
@@ -249,7 +249,8 @@ TEST_F(DistancePicker, OnTheMinimumsMileDigitsBeginAtTheFirstOneThatIsNotBelowIt
 }
 
 TEST_F(DistancePicker, OfferedDigitsAreRoundedUpAsFloatsAndSelectedOnesAsDoubles) {
-    // A tenth of a mile, as a float 0.100000001490…: times ten it is 1 as a float, and above 1 as a double.
+    // A tenth of a mile, as a float 0.100000001490…: times ten it is 1 as a float, and above 1 as a
+    // double.
     picker->setMinValue(boxedDouble(160.9344));
     picker->setCurrentValue(boxed(350)); // 0.217… mi
     EXPECT_EQ(title(0, 2), "1");
@@ -259,14 +260,14 @@ TEST_F(DistancePicker, OfferedDigitsAreRoundedUpAsFloatsAndSelectedOnesAsDoubles
 
 // Selection
 
-TEST_F(MetricDistancePicker, EachSetterOrdersTheWheelInItsOwnSequence) {
+TEST_F(MetricDistancePicker, EachSetterCallsTheWheelInItsOwnSequence) {
     EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(12345)); }), (Calls{"select 12 in 0", "select 3 in 2", "reload"}));
     EXPECT_EQ(callsOf([&] { picker->setMinValue(boxed(1500)); }), (Calls{"reload", "select 11 in 0", "select 3 in 2"}));
     EXPECT_EQ(callsOf([&] { picker->setMaxValue(boxed(20000)); }), (Calls{"reload", "select 11 in 0", "select 3 in 2"}));
     EXPECT_EQ(callsOf([&] { picker->setStepSize(boxed(2)); }), (Calls{"reload", "select 5 in 0", "select 3 in 2"})) << "12 / 2 − 1";
 }
 
-TEST_F(MetricDistancePicker, KilometresAreNotHeldToTheRowsThereAre) {
+TEST_F(MetricDistancePicker, KilometresAreNotClampedToTheRowsThereAre) {
     picker->setMinValue(boxed(1500));
     EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(1200)); }), (Calls{"select 0 in 0", "select -3 in 2", "reload"}));
     EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(500)); }), (Calls{"select -1 in 0", "select 5 in 2", "reload"}));
@@ -290,11 +291,16 @@ TEST_F(DistancePicker, DigitsOfMilesBelowTheFirstOneOfferedStandOnThat) {
     picker->setNumberOfFractionUnits(2);
     picker->setMinValue(boxed(1000)); // offers 7 and 3
     const std::vector<std::pair<int, Calls>> cases{
-        {1000, {"select 0 in 0", "select 0 in 2", "select 0 in 3", "reload"}}, // 0.621: 6 − 7, 2 − 3
-        {1130, {"select 0 in 0", "select 0 in 2", "select 0 in 3", "reload"}}, // 0.702: 7 − 7, 0 − 3
-        {1200, {"select 0 in 0", "select 0 in 2", "select 1 in 3", "reload"}}, // 0.745: 7 − 7, 4 − 3
-        {1300, {"select 0 in 0", "select 1 in 2", "select 0 in 3", "reload"}}, // 0.807: 8 − 7, so 0 as it is
-        {1700, {"select 1 in 0", "select 0 in 2", "select 5 in 3", "reload"}}, // 1.056: the first tenth, but not of the first mile
+        // 0.621: 6 − 7, 2 − 3
+        {1000, {"select 0 in 0", "select 0 in 2", "select 0 in 3", "reload"}},
+        // 0.702: 7 − 7, 0 − 3
+        {1130, {"select 0 in 0", "select 0 in 2", "select 0 in 3", "reload"}},
+        // 0.745: 7 − 7, 4 − 3
+        {1200, {"select 0 in 0", "select 0 in 2", "select 1 in 3", "reload"}},
+        // 0.807: 8 − 7, so 0 as it is
+        {1300, {"select 0 in 0", "select 1 in 2", "select 0 in 3", "reload"}},
+        // 1.056: the first tenth, but not of the first mile
+        {1700, {"select 1 in 0", "select 0 in 2", "select 5 in 3", "reload"}},
         {2000, {"select 1 in 0", "select 2 in 2", "select 4 in 3", "reload"}}, // 1.242
     };
     for (const auto& [value, calls] : cases) {
@@ -304,14 +310,15 @@ TEST_F(DistancePicker, DigitsOfMilesBelowTheFirstOneOfferedStandOnThat) {
 
 TEST_F(DistancePicker, MilesGoByTheRowThatTheWheelThenStandsOn) {
     picker->setMinValue(boxed(1000));
-    picker->setMaxValue(boxed(1000)); // no whole miles, so the wheel stands on row 0
+    picker->setMaxValue(boxed(1000)); // no whole miles, so the wheel shows row 0
     EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(5000)); }), (Calls{"select 3 in 0", "select 0 in 2", "reload"})) << "1 − 7";
 }
 
 // Widths and columns that do not exist
 
 TEST_F(DistancePicker, ColumnsAreAtMostAThirdOfTheWheelAndTheSeparator3Wide) {
-    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 30 * 1.7999999523162842); // "185"
+    // "185"
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 30 * 1.7999999523162842);
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 1), 3.0);
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 2), 50.0);
     const auto narrow = create<UIPickerView>(CGRectMake(0, 0, 100, 216));

@@ -36,11 +36,15 @@ using Titles = std::vector<std::string>;
 // Set-up
 
 TEST_F(DurationPicker, ItIsSetUpStepByStepThroughTheSetters) {
-    EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source",                                   // the wheel
-                                          "reload", "select 0 in 0", "select 0 in 0", "select 0 in 2", // minimum
-                                          "reload", "select 0 in 0", "select 0 in 0", "select 0 in 2", // maximum
-                                          "select 0 in 0", "select 0 in 0", "select 5 in 2",           // current value
-                                          "right hh:mm", "separator : after 0", "separator  after 2", "reload"}));
+    // the wheel
+    EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source",
+                                          // minimum
+                                          "reload", "select 0 in 0", "select 0 in 0", "select 0 in 2",
+                                          // maximum
+                                          "reload", "select 0 in 0", "select 0 in 0", "select 0 in 2",
+                                          // current value
+                                          "select 0 in 0", "select 0 in 0", "select 5 in 2", "right hh:mm", "separator : after 0",
+                                          "separator  after 2", "reload"}));
     for (const NSNumber& number : {picker->minValue(), picker->maxValue(), picker->currentValue()}) {
         EXPECT_EQ(number.type(), NSNumber::Type::Int);
     }

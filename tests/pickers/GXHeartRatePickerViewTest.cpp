@@ -55,7 +55,8 @@ TEST_F(HeartRatePicker, AFreshOneShows120And160BetweenItsLabels) {
     EXPECT_EQ(selectedTitle(average), "120");
     EXPECT_EQ(selected(maximum), 135);
     EXPECT_EQ(selectedTitle(maximum), "160");
-    // Columns of 54, 5 and 54 points with gaps of 5 make 123, from 98.5 on; titles and labels are 30 wide.
+    // Columns of 54, 5 and 54 points with gaps of 5 make 123, from 98.5 on; titles and labels are
+    // 30 wide.
     EXPECT_NEAR(CGRectGetMinX(wheel().leftDescLabel()->frame()), 98.5 + 54 - 30 - 10 - 30, 1e-5);
     EXPECT_NEAR(CGRectGetMinX(wheel().rightDescLabel()->frame()), 167.5 + 30 + 10, 1e-5);
 }
@@ -134,7 +135,8 @@ TEST_F(HeartRatePicker, WithoutRowsTheWidthIsMeasuredOnTheNumberBelowTheMinimum)
     EXPECT_EQ(title(-1, maximum), "24");
     picker->setMinValue(boxed(-99999));
     picker->setMaxValue(boxed(-99999));
-    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), maximum), 70 * 1.7999999523162842); // "-100000"
+    // "-100000"
+    EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), maximum), 70 * 1.7999999523162842);
 }
 
 TEST_F(HeartRatePicker, ATitleBeyond32BitsWraps) {

@@ -52,7 +52,7 @@ TEST_F(HeartRateTurns, BothAreToldAlsoIfNothingHasChanged) {
     EXPECT_EQ(told(), (Told{{160, 1}, {120, 0}}));
 }
 
-TEST_F(HeartRateTurns, ATurnOfAnyOtherColumnChangesNothingAndTellsNobody) {
+TEST_F(HeartRateTurns, ASelectionInAnyOtherColumnChangesNothingAndTellsNobody) {
     EXPECT_EQ(turn(7, spacer), Calls{});
     for (const NSInteger component : {-1, 1, 3, 4, 5, 6, 7}) {
         picker->pickerView_didSelectRow_inComponent(picker->pickerView(), 9, component);
@@ -170,7 +170,7 @@ TEST_F(HeartRateTurns, WithoutAGapTheRatesMayBeEqualAndWithANegativeOneTheyMayCr
 
 // Fingers
 
-TEST_F(HeartRateTurns, AFingerOnTheAverageMovesTheMaximumAlongAndBothAreToldOnce) {
+TEST_F(HeartRateTurns, AFingerOnTheAverageMovesTheMaximumAlongAndBothAreReportedOnce) {
     setRates(120, 121);
     TestWindow window(picker);
     window.drag({125, 108}, {125, 108 - 126}); // three rows of 40 and the slop
@@ -232,7 +232,7 @@ TEST_F(HeartRateTurns, ADelegateMayDropTheLastReferenceToThePickerInItsFirstNoti
         picker = nullptr;
         ++count;
     };
-    GXHeartRatePickerView* const called = picker.get(); // Whoever calls holds nothing either.
+    GXHeartRatePickerView* const called = picker.get(); // The caller holds nothing either.
     called->pickerView_didSelectRow_inComponent(nullptr, 3, average);
     EXPECT_EQ(count, 2);
     notices->list.clear();

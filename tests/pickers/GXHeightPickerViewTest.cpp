@@ -63,7 +63,7 @@ TEST_F(HeightPicker, ItShowsFeetInchesAndAUnit) {
     for (const NSInteger component : {0, 1, 2}) EXPECT_EQ(picker->rowSizeForComponent(component), (CGSize{60, 40}));
 }
 
-TEST_F(HeightPicker, ColumnsThatDoNotExistAnswerLikeTheUnits) {
+TEST_F(HeightPicker, ColumnsThatDoNotExistAreLikeTheUnits) {
     for (const bool isMetric : {true, false}) {
         picker->setIsMetric(isMetric);
         for (const NSInteger component : {-1, 3, 4, 5, 6, 7}) {

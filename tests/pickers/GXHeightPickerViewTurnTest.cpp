@@ -14,7 +14,7 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 // The user's turns
 
-TEST_F(MetricHeightPicker, ATurnStoresWholeCentimetresAndTellsOnce) {
+TEST_F(MetricHeightPicker, ASelectionStoresWholeCentimetresAndTellsOnce) {
     picker->setHeightInCm(175.6);
     EXPECT_EQ(turn(55, 0), (Calls{"select 55 in 0", "reload"}));
     expectTold(175, true);
@@ -24,7 +24,7 @@ TEST_F(MetricHeightPicker, ATurnStoresWholeCentimetresAndTellsOnce) {
     expectTold(220, true);
 }
 
-TEST_F(HeightPicker, ATurnStoresFeetAndInchesAddedInSinglePrecision) {
+TEST_F(HeightPicker, ASelectionStoresFeetAndInchesAddedInSinglePrecision) {
     picker->setHeightInCm(100);
     EXPECT_EQ(turn(10, 1), (Calls{"select 1 in 0", "select 10 in 1", "reload"}));
     expectTold(177.79998779296875, false); // 5 × 30.48 + 10 × 2.54
@@ -58,10 +58,12 @@ TEST_F(HeightPicker, EveryOtherHeightThatIsPickedStaysPicked) {
 TEST_F(MetricHeightPicker, AUnitSwitchShowsTheHeightInTheNewUnitAndThenTakesTheHeightOfItsRows) {
     picker->setHeightInCm(180);
     pass();
-    EXPECT_EQ(turn(1, 1), (Calls{"select 1 in 0", "select 11 in 1", "reload",    // the unit
-                                 "select 1 in 0", "select 11 in 1",              // on the new columns
-                                 "select 1 in 0", "select 11 in 1", "reload"})); // the height of the rows
-    expectTold(180.33999633789062, false);                                       // 152.4 + 27.94
+    EXPECT_EQ(turn(1, 1), (Calls{"select 1 in 0", "select 11 in 1", "reload", // the unit
+                                                                              // on the new columns
+                                 "select 1 in 0", "select 11 in 1",
+                                 // the height of the rows
+                                 "select 1 in 0", "select 11 in 1", "reload"}));
+    expectTold(180.33999633789062, false); // 152.4 + 27.94
     EXPECT_EQ(callsOf(pass), (Calls{"select 1 in 2", "select 1 in 2"}));
     EXPECT_EQ(shown(0) + shown(1) + shown(2), "5'11\"ft");
 
@@ -71,7 +73,7 @@ TEST_F(MetricHeightPicker, AUnitSwitchShowsTheHeightInTheNewUnitAndThenTakesTheH
     EXPECT_EQ(shown(0) + shown(1), "180cm");
 }
 
-TEST_F(MetricHeightPicker, TheUnitThatIsShownPickedAgainIsToldOfToo) {
+TEST_F(MetricHeightPicker, TheUnitThatIsShownPickedAgainNotifiesToo) {
     picker->setHeightInCm(175.6);
     pass();
     turn(0, 1);
@@ -101,9 +103,10 @@ TEST_F(HeightPicker, AnyOtherColumnTakesTheHeightOfTheRows) {
     EXPECT_TRUE(picker->isMetric()) << "the imperial unit column is none here";
 }
 
-// Fingers. Metric columns of 100 and 60 points with a gap of 5 start at 77.5, imperial ones of 60 points each at 65.
+// Fingers. Metric columns of 100 and 60 points with a gap of 5 start at 77.5, imperial ones of 60
+// points each at 65.
 
-TEST_F(MetricHeightPicker, AFingerTurnsEachColumnAndIsToldOfOnce) {
+TEST_F(MetricHeightPicker, AFingerTurnsEachColumnAndNotifiesOnce) {
     picker->setHeightInCm(180);
     pass();
     TestWindow window(picker);
@@ -165,7 +168,7 @@ TEST_F(HeightPicker, ADelegateMayDropTheLastReferenceToThePickerInItsNotice) {
         notices->list.clear();
         picker = nullptr;
     };
-    GXHeightPickerView* const wheel = picker.get(); // Whoever turns it holds nothing either.
+    GXHeightPickerView* const wheel = picker.get(); // The caller holds nothing either.
     wheel->turnToRow_inComponent(0, 2);
     EXPECT_TRUE(weak.expired());
 }

@@ -207,7 +207,7 @@ TEST_F(FiveIcons, AShorterListShowsItsLastRowUntilALongerOneBringsTheRequestedRo
 
 // The value
 
-TEST_F(FiveIcons, ATurnStoresTheIndexAndTellsTheDelegate) {
+TEST_F(FiveIcons, ASelectionStoresTheIndexAndTellsTheDelegate) {
     turn(3);
     EXPECT_EQ(picker->currentValue().integerValue(), 3);
     ASSERT_EQ(notices->list.size(), 1U);

@@ -84,7 +84,8 @@ TEST_F(MultiValue, OfSeveralColumnsTheRightLabelStarts10PointsAfterTheWidestTitl
     source->widths = {80, 5, 60};
     connect();
     wheel->setRightLabelText("km");
-    // The columns span 80 + 5 + 5 + 5 + 60 = 155, from 82.5; the last starts at 177.5, its widest title ends 40 further.
+    // The columns span 80 + 5 + 5 + 5 + 60 = 155, from 82.5; the last starts at 177.5, its widest
+    // title ends 40 further.
     EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(227.5, 98, 20, 20));
 }
 
@@ -92,7 +93,8 @@ TEST_F(MultiValue, TheLeftLabelEnds10PointsBeforeTheWidestTitleOfTheFirst) {
     source->widths = {80, 80};
     connect();
     wheel->setLeftLabelText("AVG");
-    // The columns span 165 from 77.5; the first ends at 157.5, its widest title begins at 117.5, the label is 30 wide.
+    // The columns span 165 from 77.5; the first ends at 157.5, its widest title begins at 117.5,
+    // the label is 30 wide.
     EXPECT_EQ(wheel->leftDescLabel()->frame(), CGRectMake(77.5, 98, 30, 20));
     wheel->setFrame(CGRectMake(0, 0, 305, 216)); // Now the first column ends at 150.
     wheel->layoutIfNeeded();
@@ -115,7 +117,7 @@ TEST_F(MultiValue, LabelsArePlacedOnceBothSourcesAreThere) {
     EXPECT_FALSE(CGRectIsNull(wheel->leftDescLabel()->frame()));
 }
 
-TEST_F(MultiValue, LayoutReloadAndEitherSourcePlaceTheLabelsAnew) {
+TEST_F(MultiValue, LayoutReloadAndEitherSourcePlaceTheLabelsAgain) {
     connect();
     wheel->setRightLabelText("bpm");
     const auto rightX = [&] { return CGRectGetMinX(wheel->rightDescLabel()->frame()); };
@@ -351,7 +353,7 @@ TEST_F(MultiValue, AReloadInTheMiddleOfALayoutPlacesTheLabelsAllTheSame) {
     EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(210, 98, 30, 20)) << "160 + 0.5 · 80 + 10; centred on 108";
 }
 
-TEST_F(MultiValue, LabelsThatFollowAnywayAreNotPlacedAnew) {
+TEST_F(MultiValue, LabelsThatFollowAnywayAreNotPlacedAgain) {
     connect();
     TestWindow window(wheel);
     window.tick(0);
@@ -379,7 +381,7 @@ TEST_F(MultiValue, AWheelFromACoderHasItsLabels) {
     EXPECT_TRUE(restored->rightDescLabel());
 }
 
-TEST(GXMultiValuePickerView, a_data_source_without_a_delegate_leaves_the_labels_where_they_are) {
+TEST(GXMultiValuePickerView, ADataSourceWithoutADelegateLeavesTheLabelsWhereTheyAre) {
     class OneRow : public NSObject, public UIPickerViewDataSource {
     public:
         NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>&) override { return 1; }

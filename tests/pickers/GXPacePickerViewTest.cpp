@@ -38,11 +38,11 @@ std::string written(const std::optional<GXPacePickerView::Components>& component
 // Set-up
 
 TEST_F(PacePicker, ItIsSetUpStepByStepThroughTheSetters) {
-    EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source",                    // the wheel
-                                          "reload", "select 0 in 0", "select 0 in 2",   // maximum
-                                          "reload", "select 0 in 0", "select 0 in 2",   // minimum
-                                          "select 0 in 0", "select 3 in 2", "reload 2", // current value
-                                          "right min/mi", "separator : after 0", "reload"}));
+    EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source",                  // the wheel
+                                          "reload", "select 0 in 0", "select 0 in 2", // maximum
+                                          "reload", "select 0 in 0", "select 0 in 2", // minimum
+                                          // current value
+                                          "select 0 in 0", "select 3 in 2", "reload 2", "right min/mi", "separator : after 0", "reload"}));
     for (const auto& [number, value] :
          {std::pair(picker->maxValue(), 0.2777777777777778), {picker->minValue(), 11.11111111111111}, {picker->currentValue(), 10.0}}) {
         EXPECT_EQ(number.type(), NSNumber::Type::Double);
@@ -221,7 +221,7 @@ TEST_F(PacePicker, SeparatorsAre5WideAndAnyOtherColumnIsLikeThem) {
 
 // From the value to the wheel
 
-TEST_F(MetricPacePicker, EachSetterOrdersTheWheelInItsOwnSequence) {
+TEST_F(MetricPacePicker, EachSetterCallsTheWheelInItsOwnSequence) {
     EXPECT_EQ(callsOf([&] { picker->setCurrentValue(pace(4, 25)); }), (Calls{"select 3 in 0", "select 5 in 2", "reload 2"}));
     EXPECT_EQ(callsOf([&] { picker->setMinValue(pace(2, 10)); }), (Calls{"reload", "select 2 in 0", "select 5 in 2"}));
     EXPECT_EQ(callsOf([&] { picker->setMaxValue(pace(20, 0)); }), (Calls{"reload", "select 2 in 0", "select 5 in 2"}));
@@ -252,7 +252,7 @@ TEST_F(MetricPacePicker, AValueBeyondTheRangeBecomesTheBound) {
     EXPECT_TRUE(notices->list.empty());
 }
 
-TEST(PacePickerSubclass, ItHearsOfTheValueThatABoundMakes) {
+TEST(PacePickerSubclass, ItSeesTheValueThatABoundMakes) {
     class Listening : public GXPacePickerView {
     public:
         std::vector<double> heard;

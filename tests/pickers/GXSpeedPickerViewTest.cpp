@@ -28,8 +28,8 @@ TEST_F(SpeedPicker, ItIsSetUpStepByStepThroughTheSetters) {
     EXPECT_EQ(wheel().takeCalls(), (Calls{"delegate", "data source",                  // the wheel
                                           "reload", "select 0 in 0", "select 0 in 2", // maximum
                                           "reload", "select 0 in 0", "select 0 in 2", // minimum
-                                          "select 6 in 0", "select 2 in 2",           // current value
-                                          "right mph", "separator . after 0"}));
+                                          // current value
+                                          "select 6 in 0", "select 2 in 2", "right mph", "separator . after 0"}));
     for (const auto& [number, value] :
          {std::pair(picker->maxValue(), 13.8888889), {picker->minValue(), 0.0}, {picker->currentValue(), 2.7777777799999996}}) {
         EXPECT_EQ(number.type(), NSNumber::Type::Double);

@@ -96,7 +96,7 @@ TEST_F(WeatherAndTemperature, TheTwoMeetLeftOfTheMiddle) {
     EXPECT_TRUE(picker->hitTest({130, 108})->isDescendantOfView(picker->temperaturePicker()));
 }
 
-TEST_F(WeatherAndTemperature, TheyFollowATurnedScreenAndBack) {
+TEST_F(WeatherAndTemperature, TheyFollowASelectionedScreenAndBack) {
     picker->setFrame(lying);
     expectFrames(CGRectMake(0, 0, 254, 200), CGRectMake(254, 0, 314, 200));
     picker->setFrame(upright);
@@ -151,7 +151,7 @@ TEST_F(WeatherAndTemperature, EveryOperationIsSafe) {
     expectEveryOperationIsSafe(cleared);
 }
 
-// Who is told what
+// Notices
 
 TEST_F(WeatherAndTemperature, WithoutADelegateTurnsAreTakenAndNobodyIsTold) {
     TestWindow window(picker);

@@ -12,7 +12,8 @@ using WeightPicker = PickerTest<GXWeightPickerView>;
 constexpr auto unknownUnit = static_cast<GXWeightUnit>(7);
 constexpr auto highestUnit = static_cast<GXWeightUnit>(18446744073709551615U);
 
-/// A pound is 0.45359237 kg and a stone 6.35029318 kg; what is kept is the next float that is not below.
+/// A pound is 0.45359237 kg and a stone 6.35029318 kg; what is kept is the next float that is not
+/// below.
 constexpr float kilogramsOf34Pounds = 15.422141F;
 constexpr float kilogramsOf771Pounds = 349.71973F;
 constexpr float kilogramsOf3Stones = 19.05088F;
@@ -167,7 +168,8 @@ TEST_F(WeightPicker, AUnitRelabelsAndReloadsButNeitherReselectsNorChangesBounds)
     EXPECT_EQ(picker->maxValue().intValue(), 350);
     EXPECT_EQ(callsOf([&] { picker->setWeightUnit(GXWeightUnitStone); }), (Calls{"right st", "reload"}));
     EXPECT_EQ(callsOf([&] { picker->setWeightUnit(GXWeightUnitStone); }), (Calls{"right st", "reload"})) << "also the same one";
-    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(70)); }), (Calls{"select 8 in 0", "select 0 in 2"})); // 11.023 st
+    // 11.023 st
+    EXPECT_EQ(callsOf([&] { picker->setCurrentValue(boxed(70)); }), (Calls{"select 8 in 0", "select 0 in 2"}));
     EXPECT_TRUE(notices->list.empty());
 }
 

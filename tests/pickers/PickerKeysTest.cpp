@@ -47,7 +47,7 @@ using Values = std::vector<double>;
 
 } // namespace
 
-TEST(PickerKeys, a_decimal_separator_goes_on_to_the_tenths) {
+TEST(PickerKeys, ADecimalSeparatorGoesOnToTheTenths) {
     const auto picker = make<GXDistancePickerView>();
     picker->setIsMetric(true);
     Typed typed(picker);
@@ -58,7 +58,7 @@ TEST(PickerKeys, a_decimal_separator_goes_on_to_the_tenths) {
     EXPECT_EQ(typed.told(), (Values{42500, 42700}));
 }
 
-TEST(PickerKeys, hundredths_follow_tenths) {
+TEST(PickerKeys, HundredthsFollowTenths) {
     const auto picker = make<GXDistancePickerView>();
     picker->setIsMetric(true);
     picker->setNumberOfFractionUnits(2);
@@ -71,7 +71,7 @@ TEST(PickerKeys, hundredths_follow_tenths) {
     }
 }
 
-TEST(PickerKeys, a_number_that_is_not_there_leaves_the_value_as_it_was) {
+TEST(PickerKeys, ANumberThatIsNotThereLeavesTheValueAsItWas) {
     const auto distance = make<GXDistancePickerView>();
     distance->setIsMetric(true);
     distance->setCurrentValue(NSNumber::numberWithDouble(12300));
@@ -110,14 +110,15 @@ TEST(PickerKeys, a_number_that_is_not_there_leaves_the_value_as_it_was) {
     EXPECT_EQ(kilograms.told(), Values{});
 }
 
-TEST(PickerKeys, feet_and_inches_are_typed_with_any_mark_between_them) {
+TEST(PickerKeys, FeetAndInchesAreTypedWithAnyMarkBetweenThem) {
     const auto picker = make<GXHeightPickerView>();
     picker->setIsMetric(false);
     picker->setHeightInCm(165);
     TestWindow window(picker);
     window.tick(0);
     EXPECT_TRUE(window.press(Code::Tab));
-    using Rows = std::pair<NSInteger, NSInteger>; // Of the feet, which begin at 4, and of the inches.
+    // Of the feet, which begin at 4, and of the inches.
+    using Rows = std::pair<NSInteger, NSInteger>;
     for (const auto& [text, rows] : {std::pair("6'1", Rows{2, 1}), {"5.9", {1, 9}}, {"4:10", {0, 10}}, {"5'9\"", {1, 9}}}) {
         window.press(Code::Left);
         window.press(Code::Left);
@@ -127,7 +128,7 @@ TEST(PickerKeys, feet_and_inches_are_typed_with_any_mark_between_them) {
     }
 }
 
-TEST(PickerKeys, tenths_below_the_minimum_are_there_once_the_whole_unit_has_left_it) {
+TEST(PickerKeys, TenthsBelowTheMinimumAreThereOnceTheWholeUnitHasLeftIt) {
     const auto picker = make<GXDistancePickerView>();
     picker->setIsMetric(true);
     picker->setMinValue(NSNumber::numberWithInt(700));
@@ -140,7 +141,7 @@ TEST(PickerKeys, tenths_below_the_minimum_are_there_once_the_whole_unit_has_left
     EXPECT_EQ(picker->currentValue().doubleValue(), 5200);
 }
 
-TEST(PickerKeys, a_colon_goes_from_hours_to_minutes) {
+TEST(PickerKeys, AColonGoesFromHoursToMinutes) {
     const auto picker = make<GXDurationPickerView>();
     Typed typed(picker);
     const NSInteger components = picker->pickerView()->numberOfComponents();
@@ -155,7 +156,7 @@ TEST(PickerKeys, a_colon_goes_from_hours_to_minutes) {
     EXPECT_EQ(titleIn(2), "30");
 }
 
-TEST(PickerKeys, temperatures_below_zero_begin_with_a_minus) {
+TEST(PickerKeys, TemperaturesBelowZeroBeginWithAMinus) {
     const auto picker = make<GXTemperaturePickerView>();
     picker->setIsMetric(true);
     picker->setMinValue(NSNumber::numberWithInt(-20));
@@ -168,7 +169,7 @@ TEST(PickerKeys, temperatures_below_zero_begin_with_a_minus) {
     EXPECT_EQ(typed.told(), (Values{36}));
 }
 
-TEST(PickerKeys, steps_are_typed_and_what_lies_between_them_is_not_there) {
+TEST(PickerKeys, StepsAreTypedAndWhatLiesBetweenThemIsNotThere) {
     const auto picker = make<GXTemperaturePickerView>(); // -20 to 55 degrees in steps of 5
     picker->setIsMetric(true);
     Typed typed(picker);
@@ -178,7 +179,7 @@ TEST(PickerKeys, steps_are_typed_and_what_lies_between_them_is_not_there) {
     EXPECT_EQ(typed.told(), (Values{}));
 }
 
-TEST(PickerKeys, a_heart_rate_of_three_digits_is_typed) {
+TEST(PickerKeys, AHeartRateOfThreeDigitsIsTyped) {
     const auto picker = make<GXHeartRatePickerView>();
     Typed typed(picker);
     ASSERT_NE(picker->currentAvgHeartRate().integerValue(), 143);
@@ -187,7 +188,7 @@ TEST(PickerKeys, a_heart_rate_of_three_digits_is_typed) {
     EXPECT_EQ(picker->currentAvgHeartRate().integerValue(), 143);
 }
 
-TEST(PickerKeys, the_unit_of_a_weight_is_chosen_by_its_letters) {
+TEST(PickerKeys, TheUnitOfAWeightIsChosenByItsLetters) {
     const auto picker = make<GXWeightPickerView>();
     Typed typed(picker);
     const auto& wheel = picker->pickerView();
@@ -202,7 +203,7 @@ TEST(PickerKeys, the_unit_of_a_weight_is_chosen_by_its_letters) {
     }
 }
 
-TEST(PickerKeys, a_height_of_centimetres_is_typed_though_it_titles_its_rows_in_colours) {
+TEST(PickerKeys, AHeightOfCentimetresIsTypedThoughItTitlesItsRowsInColours) {
     const auto picker = make<GXHeightPickerView>();
     picker->setIsMetric(true);
     picker->setHeightInCm(180);
@@ -213,8 +214,9 @@ TEST(PickerKeys, a_height_of_centimetres_is_typed_though_it_titles_its_rows_in_c
     EXPECT_EQ(picker->heightInCm(), 165);
 }
 
-TEST(PickerKeys, the_unit_of_a_height_stays_chosen_while_feet_and_inches_come_and_go) {
-    const auto pass = [] { NSRunLoop::mainRunLoop()->runPass(); }; // Shows the unit on its new column.
+TEST(PickerKeys, TheUnitOfAHeightStaysChosenWhileFeetAndInchesComeAndGo) {
+    // Shows the unit on its new column.
+    const auto pass = [] { NSRunLoop::mainRunLoop()->runPass(); };
     const auto picker = make<GXHeightPickerView>();
     picker->setIsMetric(true);
     picker->setHeightInCm(165);
@@ -239,7 +241,7 @@ TEST(PickerKeys, the_unit_of_a_height_stays_chosen_while_feet_and_inches_come_an
     }
 }
 
-TEST(PickerKeys, the_inches_of_a_height_are_not_chosen_as_its_unit) {
+TEST(PickerKeys, TheInchesOfAHeightAreNotChosenAsItsUnit) {
     const auto picker = make<GXHeightPickerView>();
     picker->setHeightInCm(165);
     TestWindow window(picker);

@@ -14,15 +14,15 @@
 
 using namespace gx;
 
-// An application's own wheel hears of every order, and may then let go of the picker that gives it. The picker has more to do, and lives
-// until it has done it.
+// An application's own wheel sees every call, and may then drop the last reference to the picker
+// that calls it. The picker lives until it has returned.
 
 namespace {
 
 constexpr CGRect usual = {{0, 0}, {320, 216}};
 
-struct HearingWheel : GXMultiValuePickerView {
-    std::function<void()> whenOrdered;
+struct NotifyingWheel : GXMultiValuePickerView {
+    std::function<void()> whenCalled;
 
     void reloadAllComponents() override {
         tell();
@@ -51,50 +51,51 @@ struct HearingWheel : GXMultiValuePickerView {
 
 private:
     void tell() {
-        if (const auto told = std::exchange(whenOrdered, nullptr)) told();
+        if (const auto told = std::exchange(whenCalled, nullptr)) told();
     }
 };
 
 template <class Picker>
 struct Owner {
-    Ref<HearingWheel> wheel;
+    Ref<NotifyingWheel> wheel;
     Ref<Picker> picker;
 
     Owner() {
-        GXMultiValuePickerView::setFactory([this](CGRect frame) { return wheel = create<HearingWheel>(frame); });
+        GXMultiValuePickerView::setFactory([this](CGRect frame) { return wheel = create<NotifyingWheel>(frame); });
         picker = create<Picker>(usual);
         GXMultiValuePickerView::setFactory({});
     }
 };
 
-/// Gives the order to a picker whose wheel lets go of it when it first hears of it.
-template <class Picker, class Order>
-void expectToOutliveItsOrder(Order order) {
+/// Calls a picker whose wheel drops it at its first call.
+template <class Picker, class Call>
+void expectToOutliveItsCall(Call call) {
     Owner<Picker> owner;
     const WeakRef<Picker> weak = owner.picker;
-    bool isHeard = false;
+    bool isCalled = false;
     bool isAlive = false;
-    owner.wheel->whenOrdered = [&] {
-        isHeard = true;
+    owner.wheel->whenCalled = [&] {
+        isCalled = true;
         owner.picker = nullptr;
         isAlive = !weak.expired();
     };
-    order(*owner.picker);
-    EXPECT_TRUE(isHeard);
+    call(*owner.picker);
+    EXPECT_TRUE(isCalled);
     EXPECT_TRUE(isAlive) << "while there is more to do";
     EXPECT_TRUE(weak.expired()) << "and no longer";
 }
 
-struct HearingHeightPicker : GXHeightPickerView {
-    std::function<void()> whenOrdered;
+struct NotifyingHeightPicker : GXHeightPickerView {
+    std::function<void()> whenCalled;
 
     void selectRow_inComponent_animated(NSInteger row, NSInteger component, bool animated) override {
-        if (const auto told = std::exchange(whenOrdered, nullptr)) told();
+        if (const auto told = std::exchange(whenCalled, nullptr)) told();
         GXHeightPickerView::selectRow_inComponent_animated(row, component, animated);
     }
 };
 
-/// Answers for a wheel of two columns that it owns, and lets go of it with the first title that it is asked for.
+/// The data source and delegate of a wheel of two components that it owns, and drops when it is
+/// asked for a title.
 struct WheelOwner : NSObject, UIPickerViewDataSource, GXMultiValuePickerViewDelegate {
     struct Wheel : GXMultiValuePickerView {
         bool* isGone = nullptr;
@@ -113,8 +114,8 @@ struct WheelOwner : NSObject, UIPickerViewDataSource, GXMultiValuePickerViewDele
     }
 };
 
-/// Gives the order to a wheel that has been laid out, whose owner lets go of it meanwhile.
-void expectWheelToOutlive(void (*order)(GXMultiValuePickerView&, const Ref<WheelOwner>&)) {
+/// Calls a wheel that has been laid out, whose owner drops it meanwhile.
+void expectWheelToOutlive(void (*call)(GXMultiValuePickerView&, const Ref<WheelOwner>&)) {
     const auto owner = std::make_shared<WheelOwner>();
     owner->wheel->isGone = &owner->isGone;
     owner->wheel->setDataSource(owner);
@@ -122,7 +123,7 @@ void expectWheelToOutlive(void (*order)(GXMultiValuePickerView&, const Ref<Wheel
     owner->wheel->setSeparatorText_afterComponent(":", 0);
     owner->wheel->layoutIfNeeded();
     owner->letsGo = true;
-    order(*owner->wheel, owner);
+    call(*owner->wheel, owner);
     EXPECT_TRUE(owner->isGone);
 }
 
@@ -130,72 +131,72 @@ NSNumber number(double value) { return NSNumber::numberWithDouble(value); }
 
 } // namespace
 
-TEST(PickerLifetime, a_picker_outlives_new_bounds_and_fonts) {
+TEST(PickerLifetime, APickerOutlivesNewBoundsAndFonts) {
     const auto font = GXStyleSheetFont::fontWithFamily_size_weight_color("", 12, UIFontWeight::Regular, UIColor::labelColor());
-    expectToOutliveItsOrder<GXBasePickerView>([](GXBasePickerView& picker) { picker.setMinValue(number(5)); });
-    expectToOutliveItsOrder<GXBasePickerView>([](GXBasePickerView& picker) { picker.setMaxValue(number(50)); });
-    expectToOutliveItsOrder<GXBasePickerView>([](GXBasePickerView& picker) { picker.setStepSize(number(2)); });
-    expectToOutliveItsOrder<GXBasePickerView>([&](GXBasePickerView& picker) { picker.setCustomValueFont(font); });
-    expectToOutliveItsOrder<GXBasePickerView>([&](GXBasePickerView& picker) { picker.setCustomLabelFont(font); });
+    expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setMinValue(number(5)); });
+    expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setMaxValue(number(50)); });
+    expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setStepSize(number(2)); });
+    expectToOutliveItsCall<GXBasePickerView>([&](GXBasePickerView& picker) { picker.setCustomValueFont(font); });
+    expectToOutliveItsCall<GXBasePickerView>([&](GXBasePickerView& picker) { picker.setCustomLabelFont(font); });
 }
 
-TEST(PickerLifetime, a_distance_picker_outlives_its_orders) {
+TEST(PickerLifetime, ADistancePickerOutlivesItsCalls) {
     using Picker = GXDistancePickerView;
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setIsMetric(true); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentValue(number(7000)); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setIsMetric(true); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentValue(number(7000)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
 }
 
-TEST(PickerLifetime, a_speed_picker_outlives_its_orders) {
+TEST(PickerLifetime, ASpeedPickerOutlivesItsCalls) {
     using Picker = GXSpeedPickerView;
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setIsMetric(true); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setIsMetric(true); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
 }
 
-TEST(PickerLifetime, a_pace_picker_outlives_its_orders) {
+TEST(PickerLifetime, APacePickerOutlivesItsCalls) {
     using Picker = GXPacePickerView;
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setIsMetric(true); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentValue(number(5)); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentValue(number(1000)); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setIsMetric(true); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentValue(number(5)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentValue(number(1000)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
 }
 
-TEST(PickerLifetime, a_duration_picker_outlives_its_orders) {
+TEST(PickerLifetime, ADurationPickerOutlivesItsCalls) {
     using Picker = GXDurationPickerView;
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setType(GXDurationTypeHoursMinutesSeconds); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentValue(number(-1)); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setType(GXDurationTypeHoursMinutesSeconds); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentValue(number(-1)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.selectCurrentValue(); });
 }
 
-TEST(PickerLifetime, a_weight_picker_outlives_its_orders) {
+TEST(PickerLifetime, AWeightPickerOutlivesItsCalls) {
     using Picker = GXWeightPickerView;
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setWeightUnit(GXWeightUnitPound); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setWeightUnitSelectable(true); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.updateMinMaxWeight(); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentValue(number(80)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setWeightUnit(GXWeightUnitPound); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setWeightUnitSelectable(true); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.updateMinMaxWeight(); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentValue(number(80)); });
 }
 
-TEST(PickerLifetime, a_temperature_picker_outlives_its_orders) {
-    expectToOutliveItsOrder<GXTemperaturePickerView>([](GXTemperaturePickerView& picker) { picker.setIsMetric(true); });
+TEST(PickerLifetime, ATemperaturePickerOutlivesItsCalls) {
+    expectToOutliveItsCall<GXTemperaturePickerView>([](GXTemperaturePickerView& picker) { picker.setIsMetric(true); });
 }
 
-TEST(PickerLifetime, a_heart_rate_picker_outlives_its_orders) {
+TEST(PickerLifetime, AHeartRatePickerOutlivesItsCalls) {
     using Picker = GXHeartRatePickerView;
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentAvgHeartRate(number(100)); });
-    expectToOutliveItsOrder<Picker>([](Picker& picker) { picker.setCurrentMaxHeartRate(number(200)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentAvgHeartRate(number(100)); });
+    expectToOutliveItsCall<Picker>([](Picker& picker) { picker.setCurrentMaxHeartRate(number(200)); });
 }
 
-TEST(PickerLifetime, a_wheel_may_be_taken_from_its_heart_rate_picker_by_a_question) {
+TEST(PickerLifetime, AWheelMayBeTakenFromItsHeartRatePickerByAQuery) {
     Owner<GXHeartRatePickerView> owner;
-    owner.wheel->whenOrdered = [&] { owner.picker->setPickerView(nullptr); };
+    owner.wheel->whenCalled = [&] { owner.picker->setPickerView(nullptr); };
     owner.picker->setCurrentAvgHeartRate(number(100));
     EXPECT_EQ(owner.picker->currentAvgHeartRate().integerValue(), 100);
-    EXPECT_EQ(owner.wheel->selectedRowInComponent(0), 75) << "100 above the minimum of 25: the order has been given";
+    EXPECT_EQ(owner.wheel->selectedRowInComponent(0), 75) << "100 above the minimum of 25: the call has been made";
 }
 
-TEST(PickerLifetime, a_wheel_may_be_taken_from_its_picker_by_a_new_bound) {
+TEST(PickerLifetime, AWheelMayBeTakenFromItsPickerByANewBound) {
     Owner<GXBasePickerView> owner;
-    owner.wheel->whenOrdered = [&] {
+    owner.wheel->whenCalled = [&] {
         owner.picker->setPickerView(nullptr);
         owner.wheel->removeFromSuperview();
         owner.wheel = nullptr;
@@ -205,7 +206,7 @@ TEST(PickerLifetime, a_wheel_may_be_taken_from_its_picker_by_a_new_bound) {
     EXPECT_EQ(owner.picker->pickerView(), nullptr);
 }
 
-TEST(PickerLifetime, a_wheel_may_leave_its_picker_while_that_is_made) {
+TEST(PickerLifetime, AWheelMayLeaveItsPickerWhileThatIsMade) {
     struct LeavingWheel : GXMultiValuePickerView {
         void setDelegate(WeakRef<UIPickerViewDelegate> delegate) override {
             if (const auto picker = std::dynamic_pointer_cast<GXBasePickerView>(delegate.lock())) picker->setPickerView(nullptr);
@@ -222,12 +223,12 @@ TEST(PickerLifetime, a_wheel_may_leave_its_picker_while_that_is_made) {
     EXPECT_EQ(wheel->numberOfRowsInComponent(0), 100) << "which the picker answers for all the same";
 }
 
-TEST(PickerLifetime, a_height_picker_outlives_its_orders) {
+TEST(PickerLifetime, AHeightPickerOutlivesItsCalls) {
     for (const bool isMetric : {false, true}) {
-        auto picker = create<HearingHeightPicker>(usual);
-        const WeakRef<HearingHeightPicker> weak = picker;
+        auto picker = create<NotifyingHeightPicker>(usual);
+        const WeakRef<NotifyingHeightPicker> weak = picker;
         bool isAlive = false;
-        picker->whenOrdered = [&] {
+        picker->whenCalled = [&] {
             picker = nullptr;
             isAlive = !weak.expired();
         };
@@ -237,7 +238,7 @@ TEST(PickerLifetime, a_height_picker_outlives_its_orders) {
     }
 }
 
-TEST(PickerLifetime, a_cell_outlives_the_making_of_its_picker) {
+TEST(PickerLifetime, ACellOutlivesTheMakingOfItsPicker) {
     auto cell = create<GXBpmPickerCell>(create<NSCoder>());
     const WeakRef<GXBpmPickerCell> weak = cell;
     bool isAlive = false;
@@ -252,7 +253,7 @@ TEST(PickerLifetime, a_cell_outlives_the_making_of_its_picker) {
     EXPECT_TRUE(weak.expired());
 }
 
-TEST(PickerLifetime, a_wheel_outlives_the_placing_of_its_labels) {
+TEST(PickerLifetime, AWheelOutlivesThePlacingOfItsLabels) {
     using Wheel = GXMultiValuePickerView;
     using Owned = Ref<WheelOwner>;
     expectWheelToOutlive([](Wheel& wheel, const Owned&) { wheel.setupLeftLabelFrame(); });

@@ -1,5 +1,5 @@
-// What holds for every picker whatever an application and a user do: tried at random. A failure prints its seed;
-// GX_SEED=… repeats it.
+// What holds for every picker whatever an application and a user do: tried at random. A failure
+// prints its seed; GX_SEED=… repeats it.
 
 #include <cmath>
 #include <cstdlib>
@@ -67,7 +67,7 @@ private:
     std::mt19937_64 engine_;
 };
 
-/// Whatever happens, each column stands on a row that exists, and shows it.
+/// Whatever happens, each component has selected a row that exists, and shows it.
 void expectRowsThatExist(UIPickerView& wheel) {
     wheel.layoutIfNeeded();
     for (NSInteger i = 0; i < wheel.numberOfComponents(); ++i) {
@@ -254,9 +254,13 @@ TEST(PickerProperties, AHeightPickerAlwaysStandsOnRowsThatExist) {
     NSRunLoop::mainRunLoop()->runPass();
 }
 
-TEST(PickerProperties, AfterATurnADistanceLiesInItsRange) { expectToStayInRange<GXDistancePickerView>(0, 300000, false, distanceOption); }
-TEST(PickerProperties, AfterATurnADurationLiesInItsRange) { expectToStayInRange<GXDurationPickerView>(0, 3.6e7, false, durationOption); }
-TEST(PickerProperties, AfterATurnAPaceLiesInItsRange) { expectToStayInRange<GXPacePickerView>(0.3, 11, true, paceOption); }
-TEST(PickerProperties, AfterATurnASpeedLiesInItsRange) {
+TEST(PickerProperties, AfterASelectionADistanceLiesInItsRange) {
+    expectToStayInRange<GXDistancePickerView>(0, 300000, false, distanceOption);
+}
+TEST(PickerProperties, AfterASelectionADurationLiesInItsRange) {
+    expectToStayInRange<GXDurationPickerView>(0, 3.6e7, false, durationOption);
+}
+TEST(PickerProperties, AfterASelectionAPaceLiesInItsRange) { expectToStayInRange<GXPacePickerView>(0.3, 11, true, paceOption); }
+TEST(PickerProperties, AfterASelectionASpeedLiesInItsRange) {
     expectToStayInRange<GXSpeedPickerView>(0, 20, false, noOption<GXSpeedPickerView>);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-// The notation of the tables in tests/reference, which is described at the head of make_tables.py there.
+// The notation of the tables in tests/reference, which is described at the head of make_tables.py
+// there.
 
 #include <gtest/gtest.h>
 

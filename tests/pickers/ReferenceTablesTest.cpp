@@ -1,5 +1,6 @@
-// Drives the pickers through the tables of tests/reference, which an independent model of the rules wrote; the format is
-// described at the head of make_tables.py there. A state is compared word by word in the notation of the tables.
+// Drives the pickers through the tables of tests/reference, which an independent model of the rules
+// wrote; the format is described at the head of make_tables.py there. A state is compared word by
+// word in the notation of the tables.
 
 #include <gtest/gtest.h>
 
@@ -83,7 +84,8 @@ private:
         return {};
     }
 
-    /// The values of the notices, the last one first: the heart rate tells its maximum before its average.
+    /// The values of the notices, the last one first: the heart rate tells its maximum before its
+    /// average.
     std::string lastTold() const {
         std::string values;
         for (auto told = told_.rbegin(); told != told_.rend(); ++told) values += told->substr(told->find(' ', 5));

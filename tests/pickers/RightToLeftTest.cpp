@@ -1,4 +1,5 @@
-// Where one reads from right to left: numbers keep their columns, and the labels beside them change sides.
+// Where one reads from right to left: numbers keep their columns, and the labels beside them change
+// sides.
 
 #include "GXDistancePickerView.h"
 #include "GXHeartRatePickerView.h"
@@ -34,7 +35,8 @@ TEST_F(RightToLeft, TheUnitOfABasePickerStandsLeftOfItsTitlesAtTheSameDistance) 
     const auto& wheel = base->pickerView();
     wheel->setRightLabelText("bpm");
     wheel->setLeftLabelText("rate");
-    // The column is 50 wide, from 135 to 185, and its widest title, "99", begins at 165: 10 before that the unit of 30 ends.
+    // The column is 50 wide, from 135 to 185, and its widest title, "99", begins at 165: 10 before
+    // that the unit of 30 ends.
     EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(125, 98, 30, 20));
     // The other label begins 10 after the titles' end.
     EXPECT_EQ(wheel->leftDescLabel()->frame(), CGRectMake(195, 98, 40, 20));
@@ -58,7 +60,8 @@ TEST_F(RightToLeft, TheNamesOfTheHeartRatesColumnsStayBesideThem) {
     const auto rates = picker<GXHeartRatePickerView>();
     const auto& wheel = rates->pickerView();
     EXPECT_FALSE(wheel->labelsFollowReading());
-    // Columns of 54, 5 and 54 points with gaps of 5 make 123, from 98.5 on; titles and labels are 30 wide.
+    // Columns of 54, 5 and 54 points with gaps of 5 make 123, from 98.5 on; titles and labels are
+    // 30 wide.
     EXPECT_EQ(wheel->leftDescLabel()->text(), "AVG");
     EXPECT_NEAR(CGRectGetMinX(wheel->leftDescLabel()->frame()), 98.5 + 54 - 30 - 10 - 30, 1e-4);
     EXPECT_EQ(wheel->rightDescLabel()->text(), "MAX");

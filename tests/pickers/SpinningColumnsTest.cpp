@@ -1,4 +1,5 @@
-// One column turns while another still spins: both values end as the rules give them, each told once.
+// One column turns while another still spins: both values end as the rules give them, each told
+// once.
 
 #include "GXDistancePickerView.h"
 #include "GXDurationPickerView.h"
@@ -20,7 +21,8 @@ CGPoint middleOf(UIPickerView& wheel, NSInteger component) {
     return {CGRectGetMidX(wheel.convertRect_fromView(view->bounds(), view)), 108};
 }
 
-/// Flings one column, over 21 rows if it has them: 94 points of way and 1500 points a second, which run 749.25 points, in rows of 40.
+/// Flings one column, over 21 rows if it has them: 94 points of way and 1500 points a second, which
+/// run 749.25 points, in rows of 40.
 void spin(TestWindow& window, UIPickerView& wheel, NSInteger component) {
     const CGPoint from = {middleOf(wheel, component).x, 150};
     window.fling(from, {from.x, 50}, 4);
@@ -110,7 +112,8 @@ TEST_F(SpinningHeartRate, TheAverageLandsWhileTheMaximumSpins) {
 }
 
 TEST_F(SpinningHeartRate, AnAverageThatNeedsRoomTakesTheMaximumFromTheUsersHand) {
-    turnBoth(2, 0, 50); // 170 asks for 171, another row than the 160 that the maximum reports: its turn is over
+    // 170 asks for 171, another row than the 160 that the maximum reports: its movement is over
+    turnBoth(2, 0, 50);
     EXPECT_EQ(told(), (Values{171, 170}));
     EXPECT_EQ(picker->pickerView()->selectedRowInComponent(2), 171 - 25);
 }

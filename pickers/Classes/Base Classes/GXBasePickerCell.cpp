@@ -24,14 +24,16 @@ void GXBasePickerCell::awakeFromNib() {
 }
 
 void GXBasePickerCell::setUp() {
-    const Ref<UIView> keep = refTo<UIView>(this); // An application's wheels are made with the picker.
+    // An application's wheels are made with the picker.
+    const Ref<UIView> keep = refTo<UIView>(this);
     initGXBasePickerCell();
-    if (!pickerView_) makePicker();
+    if (!pickerView()) makePicker();
 }
 
 void GXBasePickerCell::initGXBasePickerCell() { styleGXBasePickerCell(); }
 
 void GXBasePickerCell::styleGXBasePickerCell() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     contentView()->setBackgroundColor(UIColor::clearColor());
     setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor());
 }
@@ -46,7 +48,17 @@ void GXBasePickerCell::showPicker(const Ref<GXBasePickerView>& picker) {
 void GXBasePickerCell::setFrame(CGRect frame) {
     const Ref<UIView> keep = refTo<UIView>(this);
     UITableViewCell::setFrame(frame);
-    if (const Ref<GXBasePickerView> picker = pickerView_) picker->setFrame(bounds());
+    fillWithPicker();
+}
+
+void GXBasePickerCell::setBounds(CGRect newBounds) {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    UITableViewCell::setBounds(newBounds);
+    fillWithPicker();
+}
+
+void GXBasePickerCell::fillWithPicker() {
+    if (const Ref<GXBasePickerView> picker = pickerView()) picker->setFrame(bounds());
 }
 
 } // namespace gx

@@ -5,14 +5,19 @@
 
 namespace gx {
 
-/// A table cell that shows a picker over its whole area. This one has no picker; each kind of picker has a cell of its own.
+/// A table cell that shows a picker over its whole area. This one has no picker; each kind of
+/// picker has a cell of its own.
 ///
-/// An application registers a cell under its `cellIdentifier` and talks to the cell's `pickerView` as to a picker that stands free. A cell
-/// that is used again keeps its picker, and the picker its values, fonts and delegate: set all that differs from row to row.
+/// An application registers a cell under its `cellIdentifier` and uses the cell's `pickerView` like
+/// a picker that stands free. The picker is made once, with the cell's bounds: at construction in
+/// code, in `awakeFromNib` for a cell from an interface.
 ///
-/// The picker is made once, with the cell's bounds: at construction in code, in `awakeFromNib` for a cell from an interface.
+/// A cell that is used again keeps its picker, and the picker its values, fonts and delegate: set
+/// all that differs from row to row.
 ///
-/// A cell of another picker overrides `makePicker`, and has a `cellIdentifier` of its own.
+/// To derive: override `makePicker`, and declare a `cellIdentifier` of your own. A cell without one
+/// would be registered in place of other cells without one; debug builds stop there.
+/// `docs/own-picker.md` shows both.
 class GXBasePickerCell : public UITableViewCell {
 public:
     /// What an application registers the class under.
@@ -23,11 +28,12 @@ public:
     void awakeFromNib() override;
 
     /// Held strongly. The setter stores only; the cell shows what is in its content view.
-    const Ref<GXBasePickerView>& pickerView() const { return pickerView_; }
-    void setPickerView(Ref<GXBasePickerView> pickerView) { pickerView_ = std::move(pickerView); }
+    virtual const Ref<GXBasePickerView>& pickerView() const { return pickerView_; }
+    virtual void setPickerView(Ref<GXBasePickerView> pickerView) { pickerView_ = std::move(pickerView); }
 
     /// The picker takes the new bounds, be it inside the cell or not.
     void setFrame(CGRect frame) override;
+    void setBounds(CGRect bounds) override;
 
     /// Styles the cell.
     virtual void initGXBasePickerCell();
@@ -35,13 +41,21 @@ public:
     virtual void styleGXBasePickerCell();
 
 protected:
-    /// Called once the cell is styled, unless it has a picker already: makes the picker and shows it. Here there is none.
+    /// Called once the cell is styled, unless it has a picker already: makes the picker and shows
+    /// it. Here there is none.
     virtual void makePicker();
     /// Takes a picker and puts it into the content view.
     void showPicker(const Ref<GXBasePickerView>& picker);
+    /// Makes a picker with the cell's bounds and shows it.
+    template <class Picker>
+    void showNewPicker() {
+        const Ref<UIView> keep = refTo<UIView>(this);
+        showPicker(create<Picker>(bounds()));
+    }
 
 private:
     void setUp();
+    void fillWithPicker();
 
     Ref<GXBasePickerView> pickerView_;
 };

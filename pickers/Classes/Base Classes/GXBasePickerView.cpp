@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "GXAccessibilityText.h"
 #include "GXFontFitting.h"
 #include "GXStyleSheet.h"
 #include "GXValueText.h"
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 #include "NSArithmetic.h"
 #include "NSLayoutConstraint.h"
 
@@ -13,8 +14,8 @@ namespace gx {
 
 namespace {
 
-// A column's width: a single-precision factor on the width of its widest title, and the least that a finger hits. Prescribed by the
-// product.
+// A column's width: a single-precision factor on the width of its widest title, and the least that
+// a finger hits. Prescribed by the product.
 constexpr float widthFactor = 1.8F;
 constexpr CGFloat smallestWidth = 50;
 
@@ -22,23 +23,30 @@ constexpr CGFloat smallestWidth = 50;
 
 bool GXBasePickerView::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
-    rowHeight_ = static_cast<float>(GXStyleSheet::globalStyleSheet()->pickerRowHeight());
-    initGXBasePickerView();
+    setUp();
     return true;
 }
 
 bool GXBasePickerView::initWithCoder(const Ref<NSCoder>& coder) {
     if (!UIView::initWithCoder(coder)) return false;
-    rowHeight_ = static_cast<float>(GXStyleSheet::globalStyleSheet()->pickerRowHeight());
-    initGXBasePickerView();
+    setUp();
     return true;
 }
 
 bool GXBasePickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    if (!UIView::initWithFrame(frame)) return false;
-    rowHeight_ = rowHeight;
+    givenRowHeight_ = rowHeight;
+    return GXBasePickerView::initWithFrame(frame);
+}
+
+void GXBasePickerView::setUp() {
+    const Ref<GXBasePickerView> keep = self(); // An application's wheel may drop what made it.
+    rowHeight_ = initialRowHeight();
     initGXBasePickerView();
-    return true;
+    didInitialize();
+}
+
+float GXBasePickerView::initialRowHeight() const {
+    return givenRowHeight_ ? *givenRowHeight_ : static_cast<float>(GXStyleSheet::globalStyleSheet()->pickerRowHeight());
 }
 
 void GXBasePickerView::initGXBasePickerView() {
@@ -48,7 +56,7 @@ void GXBasePickerView::initGXBasePickerView() {
     currentValue_ = NSNumber::numberWithInt(0);
 
     const Ref<GXMultiValuePickerView> wheel = GXMultiValuePickerView::wheelWithFrame(bounds());
-    pickerView_ = wheel;
+    setPickerView(wheel);
     wheel->setDelegate(self());
     wheel->setDataSource(self());
     wheel->setTranslatesAutoresizingMaskIntoConstraints(false);
@@ -58,13 +66,22 @@ void GXBasePickerView::initGXBasePickerView() {
     }
 }
 
+void GXBasePickerView::reloadData() {
+    const Ref<GXBasePickerView> keep = self();
+    // First the rows: the reload gives the labels the fonts that their texts are then measured
+    // with.
+    reloadAllComponents(pickerView());
+    showTexts();
+    for (const Ref<GXBasePickerView>& picker : innerPickers()) picker->reloadData();
+}
+
 // The value model
 
 void GXBasePickerView::storeBound(NSNumber& bound, NSNumber value) {
     if (value.isIdenticalTo(bound)) return;
     const Ref<GXBasePickerView> keep = self();
     bound = std::move(value);
-    reloadAllComponents(pickerView_);
+    reloadAllComponents(pickerView());
     selectCurrentValue();
 }
 
@@ -77,43 +94,60 @@ void GXBasePickerView::setStepSize(NSNumber value) {
     storeBound(stepSize_, std::move(value));
 }
 
+void GXBasePickerView::storeStep(std::int32_t& stored, std::int32_t step) {
+    if (step == stored) return;
+    stored = step;
+    reloadAllComponents(pickerView());
+}
+
 void GXBasePickerView::setCurrentValue(NSNumber value) {
     currentValue_ = std::move(value);
     selectCurrentValue();
 }
 
+void GXBasePickerView::setClampedValueAndInformDelegate(double value) {
+    const Ref<GXBasePickerView> keep = self();
+    const double maximum = maxValue().doubleValue();
+    const double minimum = minValue().doubleValue();
+    if (value > maximum) value = maximum;
+    if (value < minimum) value = minimum;
+    setCurrentValue(NSNumber::numberWithDouble(value));
+    informDelegateOfValueChange();
+}
+
 void GXBasePickerView::setCustomValueFont(Ref<GXStyleSheetFont> font) {
     const Ref<GXBasePickerView> keep = self();
-    customValueFont_ = std::move(font);
-    if (const Ref<GXMultiValuePickerView> wheel = pickerView_) wheel->setCustomValueFont(customValueFont_);
-    reloadAllComponents(pickerView_);
+    customValueFont_ = font;
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView()) wheel->setCustomValueFont(std::move(font));
+    reloadAllComponents(pickerView());
 }
 
 void GXBasePickerView::setCustomLabelFont(Ref<GXStyleSheetFont> font) {
     const Ref<GXBasePickerView> keep = self();
-    customLabelFont_ = std::move(font);
-    if (const Ref<GXMultiValuePickerView> wheel = pickerView_) wheel->setCustomLabelFont(customLabelFont_);
-    reloadAllComponents(pickerView_);
+    customLabelFont_ = font;
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView()) wheel->setCustomLabelFont(std::move(font));
+    reloadAllComponents(pickerView());
 }
 
 NSInteger GXBasePickerView::valueOfRow(NSInteger row) const {
-    return wrappingAdd(minValue_.integerValue(), wrappingMultiply(stepSize_.integerValue(), row));
+    return wrappingAdd(minValue().integerValue(), wrappingMultiply(stepSize().integerValue(), row));
 }
 
 void GXBasePickerView::selectCurrentValue() {
-    // The bound is tested as floats but the row counted in integers, so a current value of 0.5 above a minimum of 0.7 is
-    // below it, while both stand on row 0.
-    if (currentValue_.floatValue() < minValue_.floatValue()) return;
-    const NSInteger distance = wrappingSubtract(currentValue_.integerValue(), minValue_.integerValue());
-    const NSInteger row = quotient(distance, stepSize_.integerValue());
-    selectRow_inComponent(pickerView_, row, 0);
+    // The bound is tested as floats but the row counted in integers, so a current value of 0.5
+    // above a minimum of 0.7 is below it, while both show row 0.
+    if (currentValue().floatValue() < minValue().floatValue()) return;
+    const NSInteger distance = wrappingSubtract(currentValue().integerValue(), minValue().integerValue());
+    const NSInteger row = quotient(distance, stepSize().integerValue());
+    selectRow_inComponent(pickerView(), row, 0);
 }
 
 void GXBasePickerView::informDelegateOfValueChange() {
     const Ref<GXBasePickerView> keep = self();
-    if (const Ref<GXBasePickerViewDelegate> delegate = delegate_.lock()) {
-        const NSNumber value = currentValue_; // The delegate may set another one while it reads this.
-        delegate->pickerView_didChangeCurrentValue_forComponent(keep, value, 0);
+    if (const Ref<GXBasePickerViewDelegate> told = delegate().lock()) {
+        // The delegate may set another one while it reads this.
+        const NSNumber value = currentValue();
+        told->pickerView_didChangeCurrentValue_forComponent(keep, value, 0);
     }
 }
 
@@ -121,7 +155,7 @@ void GXBasePickerView::informDelegateOfValueChange() {
 
 std::string GXBasePickerView::currentValueText() {
     const Ref<GXBasePickerView> keep = self();
-    if (const Ref<GXMultiValuePickerView> wheel = pickerView_) {
+    if (const Ref<GXMultiValuePickerView> wheel = pickerView()) {
         return joinedBySpace(textOfSelectedRows(wheel, *this), wheel->rightLabelText().value_or(std::string()));
     }
     std::string text;
@@ -135,7 +169,7 @@ std::string GXBasePickerView::currentValueText() {
 
 void GXBasePickerView::addPickersToFit(std::vector<Ref<GXBasePickerView>>& found) {
     if (CGRectIsEmpty(bounds())) return;
-    if (pickerView_) found.push_back(self());
+    if (pickerView()) found.push_back(self());
     for (const Ref<GXBasePickerView>& picker : innerPickers()) picker->addPickersToFit(found);
 }
 
@@ -146,7 +180,7 @@ void GXBasePickerView::sizeFontsToFit() {
     std::vector<Ref<GXMultiValuePickerView>> wheels;
     for (const Ref<GXBasePickerView>& picker : pickers) {
         picker->layoutIfNeeded();
-        if (picker->pickerView_) wheels.push_back(picker->pickerView_);
+        if (picker->pickerView()) wheels.push_back(picker->pickerView());
     }
     chooseLargestFonts(wheels, [&pickers](const Ref<GXStyleSheetFont>& valueFont, const Ref<GXStyleSheetFont>& labelFont) {
         for (const Ref<GXBasePickerView>& picker : pickers) {
@@ -156,12 +190,12 @@ void GXBasePickerView::sizeFontsToFit() {
     });
 }
 
-// Answers to the wheel
+// What the wheel asks
 
 NSInteger GXBasePickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }
 
 NSInteger GXBasePickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger) {
-    return quotient(wrappingSubtract(maxValue_.integerValue(), minValue_.integerValue()), stepSize_.integerValue());
+    return quotient(wrappingSubtract(maxValue().integerValue(), minValue().integerValue()), stepSize().integerValue());
 }
 
 std::optional<std::string> GXBasePickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger) {
@@ -171,9 +205,9 @@ std::optional<std::string> GXBasePickerView::pickerView_titleForRow_forComponent
 CGFloat GXBasePickerView::pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
     const NSInteger rows = pickerView_numberOfRowsInComponent(pickerView, component);
     const auto title = pickerView_titleForRow_forComponent(pickerView, wrappingSubtract<NSInteger>(rows, 1), component);
-    // In the label font, although the rows are drawn in the value font: columns keep their widths when only the values
-    // are emphasised.
-    const Ref<GXStyleSheetFont> font = customLabelFont_ ? customLabelFont_ : GXStyleSheet::globalStyleSheet()->pickerLabelFont();
+    // In the label font, although the rows are drawn in the value font: columns keep their widths
+    // when only the values are emphasised.
+    const Ref<GXStyleSheetFont> font = customLabelFont() ? customLabelFont() : GXStyleSheet::globalStyleSheet()->pickerLabelFont();
     const CGFloat width = title ? sizeWithAttributes(*title, {font ? font->font() : nullptr, std::nullopt}).width : 0;
     return std::max(width * CGFloat{widthFactor}, smallestWidth);
 }
@@ -182,16 +216,17 @@ CGFloat GXBasePickerView::pickerView_rowHeightForComponent(const Ref<UIPickerVie
 
 Ref<UIView> GXBasePickerView::pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                              NSInteger component, const Ref<UIView>& view) {
-    Ref<UILabel> label = std::dynamic_pointer_cast<UILabel>(view);
+    const Ref<GXBasePickerView> keep = self();
+    Ref<UILabel> label = asKindOf<UILabel>(view);
     if (!label) {
         label = create<UILabel>(CGRectNull);
         label->setBackgroundColor(UIColor::clearColor());
     }
-    setStyleSheetFont(label, customValueFont_ ? customValueFont_ : GXStyleSheet::globalStyleSheet()->pickerValueFont());
+    setStyleSheetFont(label, customValueFont() ? customValueFont() : GXStyleSheet::globalStyleSheet()->pickerValueFont());
     if (component == 0) {
         label->setTextAlignment(NSTextAlignmentRight);
     } else {
-        const bool isLast = component == numberOfComponentsInPickerView(pickerView_) - 1;
+        const bool isLast = component == numberOfComponentsInPickerView(this->pickerView()) - 1;
         label->setTextAlignment(isLast ? NSTextAlignmentLeft : NSTextAlignmentCenter);
     }
     label->setText(pickerView_titleForRow_forComponent(pickerView, row, component));
@@ -204,10 +239,23 @@ void GXBasePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerVie
     informDelegateOfValueChange();
 }
 
-// Answers to a screen reader
+// What several pickers of more than one component do
+
+std::optional<std::string> GXBasePickerView::selectedTitle(const Ref<UIPickerView>& pickerView, NSInteger component) {
+    const NSInteger row = selectedRowInComponent(pickerView, component);
+    return pickerView_titleForRow_forComponent(pickerView, row, component);
+}
+
+CGFloat GXBasePickerView::widthOfDigits(const Ref<UIPickerView>& pickerView, NSInteger component) {
+    const CGFloat width = GXBasePickerView::pickerView_widthForComponent(pickerView, component);
+    return widthWithinAThirdOfWheel(width, pickerView ? pickerView : this->pickerView());
+}
+
+// Accessibility texts
 
 std::optional<std::string> GXBasePickerView::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) {
-    return spokenLabel(accessibilityLabel(), spokenMeasurement(), spokenPartOfComponent(component));
+    const Ref<GXBasePickerView> keep = self();
+    return accessibilityLabelText(accessibilityLabel(), accessibilityMeasurement(), accessibilityPartOfComponent(component));
 }
 
 std::optional<std::string> GXBasePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView,
@@ -215,16 +263,16 @@ std::optional<std::string> GXBasePickerView::pickerView_accessibilityValueForRow
     return pickerView_titleForRow_forComponent(pickerView, row, component);
 }
 
-std::string GXBasePickerView::spokenTitle(NSInteger component, SpokenRow row) {
-    const NSInteger shown = component == row.component ? row.row : selectedRowInComponent(pickerView_, component);
-    return pickerView_titleForRow_forComponent(pickerView_, shown, component).value_or(std::string());
+std::string GXBasePickerView::reportedTitle(NSInteger component, RowInComponent instead) {
+    const NSInteger row = component == instead.component ? instead.row : selectedRowInComponent(pickerView(), component);
+    return pickerView_titleForRow_forComponent(pickerView(), row, component).value_or(std::string());
 }
 
-GXSpokenNumber GXBasePickerView::spokenNumber(NSInteger wholeComponent, std::string fraction, SpokenRow row) {
-    const Ref<GXMultiValuePickerView> wheel = pickerView_;
+GXAccessibilityNumber GXBasePickerView::reportedNumber(NSInteger wholeComponent, std::string fraction, RowInComponent instead) {
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
     const Ref<UILabel> separator = wheel ? wheel->separatorAfterComponent(static_cast<NSUInteger>(wholeComponent)) : nullptr;
     std::string between = separator ? separator->text().value_or(std::string()) : std::string();
-    return {spokenTitle(wholeComponent, row), std::move(between), std::move(fraction)};
+    return {reportedTitle(wholeComponent, instead), std::move(between), std::move(fraction)};
 }
 
 } // namespace gx

@@ -7,13 +7,15 @@ namespace gx {
 
 class GXBasePickerView;
 
-/// Is told when the user has turned a picker's wheel.
+/// Is notified of what the user picks.
 class GXBasePickerViewDelegate {
 public:
     virtual ~GXBasePickerViewDelegate() = default;
 
-    /// Called after a turn by the user, never after a setter; the value is in the picker's base unit, whatever
-    /// unit it shows. The call may do anything to the picker, drop the last reference to it included.
+    /// Called when the user has selected a row, never after a setter. The value is in the picker's
+    /// base unit, whatever unit it shows.
+    ///
+    /// The call may do anything to the picker, drop the last reference to it included.
     virtual void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>& pickerView, const NSNumber& value,
                                                                NSInteger component) = 0;
 };

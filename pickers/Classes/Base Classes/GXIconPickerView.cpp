@@ -1,21 +1,14 @@
 #include "GXIconPickerView.h"
 
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 #include "NSArithmetic.h"
 #include "UIImageView.h"
 
 namespace gx {
 
-bool GXIconPickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXIconPickerView();
-    return true;
-}
-
-bool GXIconPickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXIconPickerView();
-    return true;
+void GXIconPickerView::didInitialize() {
+    GXBasePickerView::didInitialize();
+    if (!givenRowHeight()) initGXIconPickerView();
 }
 
 void GXIconPickerView::initGXIconPickerView() { setIconImages(std::make_shared<const Images>()); }
@@ -26,12 +19,15 @@ void GXIconPickerView::setIconImages(Ref<const Images> images) {
     reloadAllComponents(pickerView());
 }
 
-NSInteger GXIconPickerView::imageCount() const { return iconImages_ ? static_cast<NSInteger>(iconImages_->size()) : 0; }
+NSInteger GXIconPickerView::imageCount() const {
+    const Ref<const Images>& images = iconImages();
+    return images ? static_cast<NSInteger>(images->size()) : 0;
+}
 
 Ref<UIImage> GXIconPickerView::imageOfRow(NSInteger row) const {
     const NSInteger index = wrappingAdd(minValue().integerValue(), row);
     if (index < 0 || index >= imageCount()) return nullptr;
-    return (*iconImages_)[static_cast<std::size_t>(index)];
+    return (*iconImages())[static_cast<std::size_t>(index)];
 }
 
 std::string GXIconPickerView::currentValueText() {
@@ -40,7 +36,7 @@ std::string GXIconPickerView::currentValueText() {
     return pickerView_accessibilityValueForRow_forComponent(pickerView(), row, 0).value_or(std::string());
 }
 
-// Answers to the wheel
+// What the wheel asks
 
 NSInteger GXIconPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }
 
@@ -58,7 +54,7 @@ CGFloat GXIconPickerView::pickerView_widthForComponent(const Ref<UIPickerView>&,
 
 Ref<UIView> GXIconPickerView::pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>&, NSInteger row, NSInteger,
                                                                              const Ref<UIView>& view) {
-    Ref<UIImageView> imageView = std::dynamic_pointer_cast<UIImageView>(view);
+    Ref<UIImageView> imageView = asKindOf<UIImageView>(view);
     if (!imageView) {
         const Ref<GXMultiValuePickerView> wheel = pickerView();
         imageView = create<UIImageView>(CGRect{{0, 0}, wheel ? wheel->rowSizeForComponent(0) : CGSize{}});
@@ -68,7 +64,7 @@ Ref<UIView> GXIconPickerView::pickerView_viewForRow_forComponent_reusingView(con
     return imageView;
 }
 
-// Answers to a screen reader
+// Accessibility texts
 
 std::optional<std::string> GXIconPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                               NSInteger) {

@@ -7,28 +7,29 @@
 
 namespace gx {
 
-/// Picks one image out of a list, such as a weather icon. The value is the image's index in the list.
+/// Picks one image out of a list, such as a weather icon. The value is the image's index in the
+/// list.
 ///
-/// Row r shows image minimum + r: the minimum hides the images before it, and keeping it within the list is the application's duty.
-/// Beyond the list there are no rows; a negative minimum brings rows without an image before the first. The maximum plays no part. The
-/// values follow the base picker's step while the images do not, so leave that at 1.
+/// Row r shows image minimum + r: the minimum hides the images before it, and keeping it within the
+/// list is the application's duty.
+/// - Beyond the list there are no rows; a negative minimum brings rows without an image before the
+///   first.
+/// - The maximum plays no part.
+/// - The values follow the base picker's step while the images do not, so leave that at 1.
 class GXIconPickerView : public GXBasePickerView {
 public:
     using Images = std::vector<Ref<UIImage>>;
 
-    /// Both begin with an empty list. A picker made with a row height has none, which shows the same: no rows.
-    bool initWithFrame(CGRect frame) override;
-    bool initWithCoder(const Ref<NSCoder>& coder) override;
-
-    /// The images to pick from, shared with the application; an empty entry shows nothing. The setter does nothing for the very list that
-    /// is held already; any other one, also of the same images, reloads the wheel. The selection stays.
-    const Ref<const Images>& iconImages() const { return iconImages_; }
+    /// The images to pick from, shared with the application; an empty entry shows nothing. The
+    /// setter does nothing for the very list that is held already; any other one, also of the same
+    /// images, reloads the wheel. The selection stays.
+    virtual const Ref<const Images>& iconImages() const { return iconImages_; }
     virtual void setIconImages(Ref<const Images> images);
 
     /// What the chosen image's own label says; empty for one without.
     std::string currentValueText() override;
 
-    // Answers to the wheel
+    // What the wheel asks
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     /// The images from the minimum on; negative for a minimum beyond the list.
@@ -46,10 +47,12 @@ public:
                                                                                 NSInteger component) override;
 
 protected:
-    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Icon; }
+    void didInitialize() override;
+    /// Gives it an empty list. One made with a row height has none, which shows the same: no rows.
+    virtual void initGXIconPickerView();
+    std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Icon; }
 
 private:
-    void initGXIconPickerView();
     NSInteger imageCount() const;
     Ref<UIImage> imageOfRow(NSInteger row) const;
 

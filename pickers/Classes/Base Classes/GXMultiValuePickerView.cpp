@@ -16,14 +16,19 @@ GXMultiValuePickerView::Factory& sharedFactory() {
     return factory;
 }
 
-/// Drawn on the column that follows, if there is one. It keeps the size that its text had when it was set, so it draws from the middle of
-/// its bounds, and whole: a font that came later may need less room or more.
+/// Drawn on the component that follows, if there is one.
+///
+/// It keeps the size that its text had when it was set, so it draws from the middle of its bounds,
+/// and whole: a font that came later may need less room or more.
 class SeparatorLabel : public UILabel {
 public:
-    void setComponent(NSUInteger component) { component_ = component; }
+    void setWheel_component(WeakRef<UIPickerView> wheel, NSUInteger component) {
+        wheel_ = std::move(wheel);
+        component_ = component;
+    }
     void drawRect(UIGraphicsContext& context, CGRect rect) override {
-        const auto wheel = std::dynamic_pointer_cast<UIPickerView>(superview());
-        const NSInteger last = wheel ? wheel->numberOfComponents() - 1 : 0;
+        const Ref<UIPickerView> wheel = wheel_.lock();
+        const NSInteger last = wheel && superview() == wheel ? wheel->numberOfComponents() - 1 : 0;
         if (last <= 0 || component_ >= static_cast<NSUInteger>(last)) return;
         UILabel::drawRect(context, CGRectMake(CGRectGetMidX(rect) - 0.5 * textWidth_, rect.origin.y, textWidth_, rect.size.height));
     }
@@ -35,6 +40,7 @@ protected:
     }
 
 private:
+    WeakRef<UIPickerView> wheel_;
     NSUInteger component_ = 0;
     CGFloat textWidth_ = 0;
 };
@@ -75,6 +81,7 @@ bool GXMultiValuePickerView::initWithCoder(const Ref<NSCoder>& coder) {
 }
 
 void GXMultiValuePickerView::initGXMultiValuePickerView() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     setShowsSelectionIndicator(true);
     leftDescLabel_ = createLabel<UILabel>(labelFont());
     addSubview(leftDescLabel_);
@@ -82,7 +89,7 @@ void GXMultiValuePickerView::initGXMultiValuePickerView() {
     addSubview(rightDescLabel_);
 }
 
-// Fonts: asked for at every use, since the application may change the style sheet at any time.
+// Fonts: computed at every use, since the application may change the style sheet at any time.
 
 Ref<GXStyleSheetFont> GXMultiValuePickerView::labelFont() const {
     return customLabelFont_ ? customLabelFont_ : GXStyleSheet::globalStyleSheet()->pickerLabelFont();
@@ -93,6 +100,7 @@ Ref<GXStyleSheetFont> GXMultiValuePickerView::valueFont() const {
 }
 
 void GXMultiValuePickerView::setCustomLabelFont(Ref<GXStyleSheetFont> font) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     customLabelFont_ = std::move(font);
     setStyleSheetFont(leftDescLabel_, labelFont());
     setStyleSheetFont(rightDescLabel_, labelFont());
@@ -103,12 +111,14 @@ void GXMultiValuePickerView::setCustomValueFont(Ref<GXStyleSheetFont> font) { cu
 // Texts
 
 void GXMultiValuePickerView::setLeftLabelText(std::optional<std::string> text) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     leftLabelText_ = std::move(text);
     leftDescLabel_->setText(leftLabelText_);
     if (!areLabelsPlacedByLayout()) setupLeftLabelFrame();
 }
 
 void GXMultiValuePickerView::setRightLabelText(std::optional<std::string> text) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     rightLabelText_ = std::move(text);
     rightDescLabel_->setText(rightLabelText_);
     if (!areLabelsPlacedByLayout()) setupRightLabelFrame();
@@ -121,15 +131,17 @@ void GXMultiValuePickerView::setLabelsFollowReading(bool follow) {
 }
 
 void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::string> text, NSUInteger component) {
+    const Ref<UIView> keep = refTo<UIView>(this);
     if (!sources()) return;
-    Ref<UILabel>& entry = separators_[component];
-    if (!entry) {
+    Ref<UILabel> label = separatorAfterComponent(component);
+    if (!label) {
         const auto created = createLabel<SeparatorLabel>(valueFont());
-        created->setComponent(component);
-        entry = created;
-        addSubview(entry);
+        created->setWheel_component(refTo<UIPickerView>(this), component);
+        // A style sheet that is asked for the font may have set one meanwhile.
+        const auto [entry, isNew] = separators_.try_emplace(component, created);
+        label = entry->second;
+        if (isNew) addSubview(label);
     }
-    const Ref<UILabel> label = entry;
     label->setText(std::move(text));
     label->sizeToFit();
     if (!areLabelsPlacedByLayout()) updateSeparatorFrames();
@@ -159,17 +171,19 @@ void GXMultiValuePickerView::setDataSource(WeakRef<UIPickerViewDataSource> dataS
 }
 
 void GXMultiValuePickerView::reloadAllComponents() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     UIPickerView::reloadAllComponents();
     if (!areLabelsPlacedByLayout()) reloadLabelFrames();
 }
 
 void GXMultiValuePickerView::layoutSubviews() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     UIPickerView::layoutSubviews();
     reloadLabelFrames();
 }
 
-/// Placing a label needs the rows laid out. Where that is due, the layout places all labels itself, and doing
-/// it once more would only measure every text twice.
+/// Placing a label needs the rows laid out. Where a layout is needed, it places all labels itself,
+/// and doing it once more would only measure every text twice.
 bool GXMultiValuePickerView::areLabelsPlacedByLayout() {
     if (!sources() || !isLayoutDue() || isLayingOut()) return false;
     layoutIfNeeded();
@@ -190,8 +204,8 @@ GXMultiValuePickerView::Sources GXMultiValuePickerView::sources() const { return
 
 CGRect GXMultiValuePickerView::rowRectOfComponent(NSInteger component) {
     Ref<UIView> view = viewForRow_forComponent(selectedRowInComponent(component), component);
-    // While the column spins, the row it reports may be far out of sight. Every row in sight has the same left and
-    // right edge, so the label stays where it is.
+    // While the column spins, the row it reports may be far out of sight. Every row in sight has
+    // the same left and right edge, so the label stays where it is.
     if (!view) view = viewForRow_forComponent(rowInSelectionIndicatorOfComponent(component), component);
     return convertRect_fromView(view ? view->bounds() : CGRectZero, view);
 }
@@ -199,7 +213,7 @@ CGRect GXMultiValuePickerView::rowRectOfComponent(NSInteger component) {
 CGFloat GXMultiValuePickerView::widestTitleWidth(const Sources& sources, NSInteger component) {
     const Ref<UIPickerView> wheel = refTo<UIPickerView>(this);
     const NSInteger rows = sources.dataSource->pickerView_numberOfRowsInComponent(wheel, component);
-    // The last title is taken to be the widest: the numbers of a column grow.
+    // The last title is taken to be the widest: the numbers of a component grow.
     const auto title = sources.delegate->pickerView_titleForRow_forComponent(wheel, wrappingSubtract<NSInteger>(rows, 1), component);
     return sizeOfText(title, valueFont()).width;
 }
@@ -211,9 +225,9 @@ void GXMultiValuePickerView::setupLeftLabelFrame() {
     const Sources sources = this->sources();
     if (!sources) return;
     if (areSidesChanged()) {
-        placeRightOfColumns(sources, leftDescLabel_);
+        placeRightOfComponents(sources, leftDescLabel_);
     } else {
-        placeLeftOfColumns(sources, leftDescLabel_);
+        placeLeftOfComponents(sources, leftDescLabel_);
     }
 }
 
@@ -222,27 +236,35 @@ void GXMultiValuePickerView::setupRightLabelFrame() {
     const Sources sources = this->sources();
     if (!sources) return;
     if (areSidesChanged()) {
-        placeLeftOfColumns(sources, rightDescLabel_);
+        placeLeftOfComponents(sources, rightDescLabel_);
     } else {
-        placeRightOfColumns(sources, rightDescLabel_);
+        placeRightOfComponents(sources, rightDescLabel_);
     }
 }
 
-void GXMultiValuePickerView::placeLeftOfColumns(const Sources& sources, const Ref<UILabel>& label) {
+/// The label takes the font, so that it draws as it measures.
+CGSize GXMultiValuePickerView::sizeInCurrentFont(const Ref<UILabel>& label) const {
+    const Ref<GXStyleSheetFont> font = labelFont();
+    setStyleSheetFont(label, font);
+    return sizeOfText(label->text(), font);
+}
+
+void GXMultiValuePickerView::placeLeftOfComponents(const Sources& sources, const Ref<UILabel>& label) {
     const CGRect row = rowRectOfComponent(0);
     const CGFloat title = widestTitleWidth(sources, 0);
-    const CGSize size = sizeOfText(label->text(), labelFont());
+    const CGSize size = sizeInCurrentFont(label);
     label->setFrame({{CGRectGetMaxX(row) - title - labelGap - size.width, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
 }
 
-void GXMultiValuePickerView::placeRightOfColumns(const Sources& sources, const Ref<UILabel>& label) {
+void GXMultiValuePickerView::placeRightOfComponents(const Sources& sources, const Ref<UILabel>& label) {
     const NSInteger count = numberOfComponents();
     const NSInteger last = count - 1;
     const CGRect row = rowRectOfComponent(last);
     const CGFloat title = widestTitleWidth(sources, last);
     const CGFloat width = sources.delegate->pickerView_widthForComponent(refTo<UIPickerView>(this), last);
-    const CGSize size = sizeOfText(label->text(), labelFont());
-    // A single column is centred and its titles are right-aligned; the last of several is left-aligned.
+    const CGSize size = sizeInCurrentFont(label);
+    // A single column is centred and its titles are right-aligned; the last of several is
+    // left-aligned.
     const CGFloat x = count == 1 ? CGRectGetMidX(bounds()) + 0.5 * width + labelGap : CGRectGetMinX(row) + title + labelGap;
     label->setFrame({{x, CGRectGetMidY(bounds()) - 0.5 * size.height}, size});
 }

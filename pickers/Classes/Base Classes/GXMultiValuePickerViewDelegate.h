@@ -4,12 +4,18 @@
 
 namespace gx {
 
-/// The delegate of a `GXMultiValuePickerView`. The wheel places its labels by titles and widths, so here both
-/// are required. The wheel asks for them also outside a reload: whenever a label has to be placed.
+/// The delegate of a `GXMultiValuePickerView`.
+///
+/// The wheel places its labels by titles and widths, so here both are required. The wheel asks for
+/// them also outside a reload: whenever it places a label.
+///
+/// It asks about the last row of the first and of the last component, whether they exist or not. A
+/// wheel without components asks its data source and this delegate about the components -1 and 0:
+/// the last one of none, and the first. Return anything there, such as a width of 0 and no title.
 class GXMultiValuePickerViewDelegate : public UIPickerViewDelegate {
 public:
     CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override = 0;
-    /// `row` is −1 when the wheel asks for the last title of a component without rows.
+    /// `row` is -1 for the last title of a component without rows.
     std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                    NSInteger component) override = 0;
 };

@@ -8,7 +8,8 @@ namespace gx {
 
 namespace {
 
-// Fractions are read so far: finer digits change no double, and this is the largest power of ten that a double holds exactly.
+// Fractions are read so far: finer digits change no double, and this is the largest power of ten
+// that a double holds exactly.
 constexpr double finestScale = 1e22;
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
@@ -21,7 +22,7 @@ std::string_view withoutBlanks(const std::optional<std::string>& title) {
     return start == std::string_view::npos ? std::string_view{} : text.substr(start);
 }
 
-/// Takes a sign off the text; answers whether it was a minus.
+/// Takes a sign off the text; returns whether it was a minus.
 bool takeMinus(std::string_view& text) {
     const bool isNegative = text.substr(0, 1) == "-";
     if (isNegative || text.substr(0, 1) == "+") text.remove_prefix(1);
@@ -43,7 +44,8 @@ NSInteger integerValueOfTitle(const std::optional<std::string>& title) {
 double doubleValueOfTitle(const std::optional<std::string>& title) {
     std::string_view text = withoutBlanks(title);
     const bool isNegative = takeMinus(text);
-    // The digits are gathered into one whole number and divided once, so that there is but one rounding.
+    // The digits are gathered into one whole number and divided once, so that there is but one
+    // rounding.
     double digits = 0;
     double scale = 1;
     bool isFraction = false;

@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXBpmPickerCell::cellIdentifier() { return "GXBpmPickerCellIdentifier"; }
 
-void GXBpmPickerCell::initGXBpmPickerCell() { showPicker(create<GXBpmPickerView>(bounds())); }
+void GXBpmPickerCell::initGXBpmPickerCell() { showNewPicker<GXBpmPickerView>(); }
 
 } // namespace gx

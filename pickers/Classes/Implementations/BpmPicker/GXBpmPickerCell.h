@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXBpmPickerCell();
+    virtual void initGXBpmPickerCell();
 
 protected:
     void makePicker() override { initGXBpmPickerCell(); }

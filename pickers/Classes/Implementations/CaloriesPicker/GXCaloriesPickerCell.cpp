@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXCaloriesPickerCell::cellIdentifier() { return "GXCaloriesPickerCellIdentifier"; }
 
-void GXCaloriesPickerCell::initGXCaloriesPickerCell() { showPicker(create<GXCaloriesPickerView>(bounds())); }
+void GXCaloriesPickerCell::initGXCaloriesPickerCell() { showNewPicker<GXCaloriesPickerView>(); }
 
 } // namespace gx

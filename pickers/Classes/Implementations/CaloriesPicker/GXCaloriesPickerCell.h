@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXCaloriesPickerCell();
+    virtual void initGXCaloriesPickerCell();
 
 protected:
     void makePicker() override { initGXCaloriesPickerCell(); }

@@ -1,28 +1,18 @@
 #include "GXCaloriesPickerView.h"
 
-#include "GXWheelOrders.h"
+#include "GXAccessibilityText.h"
+#include "GXWheelCalls.h"
 
 namespace gx {
 
-bool GXCaloriesPickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXCaloriesPickerView();
-    return true;
-}
+namespace {
 
-bool GXCaloriesPickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXCaloriesPickerView();
-    return true;
-}
+/// The quantity that the unit beside the wheel is named for.
+constexpr std::int32_t labelledQuantity = 100;
 
-bool GXCaloriesPickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
-    initGXCaloriesPickerView();
-    return true;
-}
+} // namespace
 
-const Ref<GXCaloriesFormatter>& GXCaloriesPickerView::caloriesFormatter() {
+Ref<GXCaloriesFormatter> GXCaloriesPickerView::caloriesFormatter() {
     if (!caloriesFormatter_) caloriesFormatter_ = create<GXCaloriesFormatter>(0, isMetric(), true);
     return caloriesFormatter_;
 }
@@ -32,15 +22,21 @@ void GXCaloriesPickerView::initGXCaloriesPickerView() {
     setMaxValue(NSNumber::numberWithInt(100000));
     setStepSize(NSNumber::numberWithInt(10));
     setCurrentValue(NSNumber::numberWithInt(0));
-    setRightLabelText(pickerView(), caloriesFormatter()->unit(NSNumber::numberWithInt(100)));
+    showTexts();
     if (const Ref<GXMultiValuePickerView> wheel = pickerView()) wheel->setDataSource(self());
 }
 
-// Answers to a screen reader
+void GXCaloriesPickerView::showTexts() {
+    const Ref<GXBasePickerView> keep = self();
+    const Ref<GXCaloriesFormatter> formatter = caloriesFormatter();
+    if (formatter) setRightLabelText(pickerView(), formatter->unit(NSNumber::numberWithInt(labelledQuantity)));
+}
+
+// Accessibility texts
 
 std::optional<std::string> GXCaloriesPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                   NSInteger component) {
-    return spokenQuantity({spokenTitle(component, {row, component}), {}, {}}, GXSpokenUnit::Kilocalorie);
+    return accessibilityQuantity({reportedTitle(component, {row, component}), {}, {}}, GXAccessibilityUnit::Kilocalorie);
 }
 
 } // namespace gx

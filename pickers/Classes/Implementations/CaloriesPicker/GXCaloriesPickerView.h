@@ -7,27 +7,28 @@ namespace gx {
 
 /// Picks an amount of energy: 0 to 99990 in steps of 10, starting at 0.
 ///
-/// The unit beside the wheel is the formatter's, and is fixed at construction: neither another unit system nor
-/// another formatter changes it. Who wants another one sets `pickerView()->setRightLabelText`.
+/// The unit beside the wheel is the formatter's, and is fixed at construction: neither another unit
+/// system nor another formatter changes it. Who wants another one sets
+/// `pickerView()->setRightLabelText`.
 class GXCaloriesPickerView : public GXBasePickerView {
 public:
-    bool initWithFrame(CGRect frame) override;
-    bool initWithCoder(const Ref<NSCoder>& coder) override;
-    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
-
     /// Made when first asked for, for the unit system of that moment.
-    const Ref<GXCaloriesFormatter>& caloriesFormatter();
+    virtual Ref<GXCaloriesFormatter> caloriesFormatter();
     /// Stores only.
-    void setCaloriesFormatter(Ref<GXCaloriesFormatter> formatter) { caloriesFormatter_ = std::move(formatter); }
+    virtual void setCaloriesFormatter(Ref<GXCaloriesFormatter> formatter) { caloriesFormatter_ = std::move(formatter); }
     std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                                 NSInteger component) override;
 
 protected:
-    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Calories; }
+    void didInitialize() override {
+        GXBasePickerView::didInitialize();
+        initGXCaloriesPickerView();
+    }
+    virtual void initGXCaloriesPickerView();
+    void showTexts() override;
+    std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Calories; }
 
 private:
-    void initGXCaloriesPickerView();
-
     Ref<GXCaloriesFormatter> caloriesFormatter_;
 };
 

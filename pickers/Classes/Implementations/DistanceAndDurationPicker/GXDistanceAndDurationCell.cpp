@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXDistanceAndDurationCell::cellIdentifier() { return "GXDistanceAndDurationCellIdentifier"; }
 
-void GXDistanceAndDurationCell::initGXDistanceAndDurationCell() { showPicker(create<GXDistanceAndDurationPicker>(bounds())); }
+void GXDistanceAndDurationCell::initGXDistanceAndDurationCell() { showNewPicker<GXDistanceAndDurationPicker>(); }
 
 } // namespace gx

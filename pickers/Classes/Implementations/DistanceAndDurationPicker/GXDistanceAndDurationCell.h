@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXDistanceAndDurationCell();
+    virtual void initGXDistanceAndDurationCell();
 
 protected:
     void makePicker() override { initGXDistanceAndDurationCell(); }

@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXDistancePickerCell::cellIdentifier() { return "GXDistancePickerCellIdentifier"; }
 
-void GXDistancePickerCell::initGXDistancePickerCell() { showPicker(create<GXDistancePickerView>(bounds())); }
+void GXDistancePickerCell::initGXDistancePickerCell() { showNewPicker<GXDistancePickerView>(); }
 
 } // namespace gx

@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXDistancePickerCell();
+    virtual void initGXDistancePickerCell();
 
 protected:
     void makePicker() override { initGXDistancePickerCell(); }

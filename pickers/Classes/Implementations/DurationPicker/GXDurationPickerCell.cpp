@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXDurationPickerCell::cellIdentifier() { return "GXDurationPickerCellIdentifier"; }
 
-void GXDurationPickerCell::initGXDurationPickerCell() { showPicker(create<GXDurationPickerView>(bounds())); }
+void GXDurationPickerCell::initGXDurationPickerCell() { showNewPicker<GXDurationPickerView>(); }
 
 } // namespace gx

@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXDurationPickerCell();
+    virtual void initGXDurationPickerCell();
 
 protected:
     void makePicker() override { initGXDurationPickerCell(); }

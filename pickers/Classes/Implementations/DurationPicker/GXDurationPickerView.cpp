@@ -1,54 +1,27 @@
 #include "GXDurationPickerView.h"
 
 #include <algorithm>
-#include <array>
 
+#include "GXDurationLayout.h"
 #include "GXLocalization.h"
+#include "GXPickerComponents.h"
 #include "GXTitleReading.h"
 #include "GXValueText.h"
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 #include "NSArithmetic.h"
 
 namespace gx {
 
 namespace {
 
-// The components of values, from the highest unit to the lowest.
-constexpr NSInteger firstComponent = 0;
-constexpr NSInteger secondComponent = 2;
-constexpr NSInteger thirdComponent = 4;
+constexpr NSInteger highest = GXDurationLayout::highest;
+constexpr NSInteger middle = GXDurationLayout::middle;
+constexpr NSInteger lowest = GXDurationLayout::lowest;
 
-// Prescribed by the product; the middle one of three columns is as narrow as its two digits allow.
-constexpr CGFloat separatorWidth = 5;
+/// The middle one of three is as narrow as its two digits allow. Prescribed by the product.
 constexpr CGFloat middleWidth = 30;
 
-bool holdsValues(NSInteger component) { return component == firstComponent || component == secondComponent || component == thirdComponent; }
-
-/// With at least two characters, as in "%02ld".
-std::string twoDigits(NSInteger value) {
-    const std::string digits = std::to_string(value);
-    return digits.size() < 2 ? "0" + digits : digits;
-}
-
 } // namespace
-
-bool GXDurationPickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXDurationPickerView();
-    return true;
-}
-
-bool GXDurationPickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXDurationPickerView();
-    return true;
-}
-
-bool GXDurationPickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
-    initGXDurationPickerView();
-    return true;
-}
 
 void GXDurationPickerView::initGXDurationPickerView() {
     type_ = GXDurationTypeHoursMinutes;
@@ -58,57 +31,43 @@ void GXDurationPickerView::initGXDurationPickerView() {
     setMinValue(NSNumber::numberWithInt(0));
     setMaxValue(NSNumber::numberWithInt(356400000));
     setCurrentValue(NSNumber::numberWithInt(300000));
-    showLayout();
+    showTexts();
     reloadAllComponents(pickerView());
 }
 
 // Layout and steps
 
-bool GXDurationPickerView::hasHours() const { return type_ == GXDurationTypeHoursMinutes || type_ == GXDurationTypeHoursMinutesSeconds; }
+GXDurationLayout GXDurationPickerView::layout() const { return GXDurationLayout(type()); }
 
 void GXDurationPickerView::setType(NSInteger type) {
-    if (type == type_) return;
+    if (type == this->type()) return;
     const Ref<GXBasePickerView> keep = self();
     type_ = type;
-    showLayout();
+    showTexts();
     reloadAllComponents(pickerView());
     selectCurrentValue();
 }
 
-void GXDurationPickerView::showLayout() {
-    static constexpr std::array names = {"hh:mm", "hh:mm:ss", "mm:ss"};
-    if (type_ < GXDurationTypeHoursMinutes || type_ > GXDurationTypeMinutesSeconds) return;
-    const std::string name = names[static_cast<std::size_t>(type_)];
-    const bool hasThree = type_ == GXDurationTypeHoursMinutesSeconds;
+void GXDurationPickerView::showTexts() {
+    const Ref<GXBasePickerView> keep = self();
+    const std::optional<std::string> name = layout().name();
+    if (!name) return;
     const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
-    setRightLabelText(pickerView(), localization->localizedStringWithKey_comment(name, name));
-    setSeparatorText_afterComponent(pickerView(), ":", firstComponent);
-    // A separator once shown stays, so a layout without the third column empties it.
-    setSeparatorText_afterComponent(pickerView(), hasThree ? ":" : "", secondComponent);
+    setRightLabelText(pickerView(), localization->localizedStringWithKey_comment(*name, *name));
+    setSeparatorText_afterComponent(pickerView(), ":", highest);
+    // A separator once shown stays, so a layout of two units empties it.
+    setSeparatorText_afterComponent(pickerView(), layout().hasThreeUnits() ? ":" : "", middle);
 }
 
-void GXDurationPickerView::storeStep(std::int32_t& step, std::int32_t value) {
-    const std::int32_t checked = checkStepSize(value);
-    if (checked == step) return;
-    step = checked;
-    reloadAllComponents(pickerView());
-}
-
-void GXDurationPickerView::setHoursStepSize(std::int32_t step) { storeStep(hoursStepSize_, step); }
-
-void GXDurationPickerView::setMinutesStepSize(std::int32_t step) { storeStep(minutesStepSize_, step); }
-
-void GXDurationPickerView::setSecondsStepSize(std::int32_t step) { storeStep(secondsStepSize_, step); }
-
-std::int32_t GXDurationPickerView::checkStepSize(std::int32_t step) const { return std::max(step, 1); }
+std::int32_t GXDurationPickerView::checkStepSize(std::int32_t step) const { return stepOfAtLeastOne(step); }
 
 std::string GXDurationPickerView::currentValueText() {
     const Ref<GXBasePickerView> keep = self();
     const Ref<GXMultiValuePickerView> wheel = pickerView();
     const std::string time = withoutLeadingZero(textOfSelectedRows(wheel, *this));
     if (time.empty()) return time;
-    if (type_ == GXDurationTypeHoursMinutes) return joinedBySpace(time, "h");
-    return type_ == GXDurationTypeMinutesSeconds ? joinedBySpace(time, "min") : time;
+    if (type() == GXDurationTypeHoursMinutes) return joinedBySpace(time, "h");
+    return layout().hasMinutesAndSecondsAlone() ? joinedBySpace(time, "min") : time;
 }
 
 // Units
@@ -123,41 +82,19 @@ std::int32_t GXDurationPickerView::secondsFromMilliseconds(NSInteger millisecond
     return narrowTo32Bits(milliseconds / 1000 % 60);
 }
 
-std::optional<GXDurationPickerView::Unit> GXDurationPickerView::unitOfComponent(NSInteger component) const {
-    if (hasHours()) {
-        if (component == firstComponent) return Unit::Hours;
-        return component == secondComponent ? Unit::Minutes : Unit::Seconds;
-    }
-    if (type_ == GXDurationTypeMinutesSeconds) return component == firstComponent ? Unit::Minutes : Unit::Seconds;
-    return std::nullopt;
-}
-
 std::int32_t GXDurationPickerView::value_forComponent(NSInteger milliseconds, NSInteger component) const {
-    const std::optional<Unit> unit = unitOfComponent(component);
+    const std::optional<GXDurationUnit> unit = layout().unitOfComponent(component);
     if (!unit) return 0;
-    switch (*unit) {
-    case Unit::Hours:
-        return std::max(hoursFromMilliseconds(milliseconds), 0);
-    case Unit::Minutes:
-        return std::max(minutesFromMilliseconds(milliseconds), 0);
-    case Unit::Seconds:
-        return std::max(secondsFromMilliseconds(milliseconds), 0);
-    }
-    return 0;
+    if (*unit == GXDurationUnit::Hours) return std::max(hoursFromMilliseconds(milliseconds), 0);
+    const bool isMinutes = *unit == GXDurationUnit::Minutes;
+    return std::max(isMinutes ? minutesFromMilliseconds(milliseconds) : secondsFromMilliseconds(milliseconds), 0);
 }
 
 std::int32_t GXDurationPickerView::stepSizeForComponent(NSInteger component) const {
-    const std::optional<Unit> unit = unitOfComponent(component);
+    const std::optional<GXDurationUnit> unit = layout().unitOfComponent(component);
     if (!unit) return 1;
-    switch (*unit) {
-    case Unit::Hours:
-        return std::max(hoursStepSize_, 1);
-    case Unit::Minutes:
-        return std::max(minutesStepSize_, 1);
-    case Unit::Seconds:
-        return std::max(secondsStepSize_, 1);
-    }
-    return 1;
+    if (*unit == GXDurationUnit::Hours) return stepOfAtLeastOne(hoursStepSize());
+    return stepOfAtLeastOne(*unit == GXDurationUnit::Minutes ? minutesStepSize() : secondsStepSize());
 }
 
 std::int32_t GXDurationPickerView::minValueForComponent(NSInteger component) const {
@@ -172,50 +109,39 @@ std::int32_t GXDurationPickerView::currentValueForComponent(NSInteger component)
     return value_forComponent(currentValue().integerValue(), component);
 }
 
-bool GXDurationPickerView::isOnMinimum(NSInteger component) const {
-    return currentValueForComponent(component) == minValueForComponent(component);
-}
+// What the components offer
 
-bool GXDurationPickerView::isOnMaximum(NSInteger component) const {
-    return currentValueForComponent(component) == maxValueForComponent(component);
-}
-
-// What the columns offer
-
-NSInteger GXDurationPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) {
-    return type_ == GXDurationTypeHoursMinutesSeconds ? 5 : 3;
-}
+NSInteger GXDurationPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return layout().hasThreeUnits() ? 5 : 3; }
 
 NSInteger GXDurationPickerView::rowsOfHighestUnit() const {
-    const std::int32_t range = wrappingSubtract(maxValueForComponent(firstComponent), minValueForComponent(firstComponent));
-    const std::int32_t rows = quotient(range, stepSizeForComponent(firstComponent));
-    return maxValueForComponent(secondComponent) != 0 ? wrappingAdd(rows, 1) : rows;
+    const std::int32_t range = wrappingSubtract(maxValueForComponent(highest), minValueForComponent(highest));
+    const std::int32_t rows = quotient(range, stepSizeForComponent(highest));
+    return maxValueForComponent(middle) != 0 ? wrappingAdd(rows, 1) : rows;
 }
 
 NSInteger GXDurationPickerView::rowsOfMiddleUnit() const {
-    const bool isHighestTheMaximums = isOnMaximum(firstComponent);
-    std::int32_t end = isHighestTheMaximums ? maxValueForComponent(secondComponent) : 60;
-    if (isOnMinimum(firstComponent)) end = wrappingSubtract(end, minValueForComponent(secondComponent));
-    const std::int32_t rows = quotient(end, stepSizeForComponent(secondComponent));
-    const bool isMaximumsOffered =
-        isHighestTheMaximums && type_ == GXDurationTypeHoursMinutesSeconds && maxValueForComponent(thirdComponent) != 0;
+    const bool isHighestTheMaximums = isOnMaximum(highest);
+    std::int32_t end = isHighestTheMaximums ? maxValueForComponent(middle) : 60;
+    if (isOnMinimum(highest)) end = wrappingSubtract(end, minValueForComponent(middle));
+    const std::int32_t rows = quotient(end, stepSizeForComponent(middle));
+    const bool isMaximumsOffered = isHighestTheMaximums && layout().hasThreeUnits() && maxValueForComponent(lowest) != 0;
     return isMaximumsOffered ? wrappingAdd(rows, 1) : rows;
 }
 
 NSInteger GXDurationPickerView::rowsOfLowestUnit() const {
-    const bool areHigherTheMaximums = isOnMaximum(firstComponent) && isOnMaximum(secondComponent);
-    std::int32_t end = areHigherTheMaximums ? maxValueForComponent(thirdComponent) : 60;
-    if (isOnMinimum(firstComponent) && isOnMinimum(secondComponent)) end = wrappingSubtract(end, minValueForComponent(thirdComponent));
-    return quotient(end, stepSizeForComponent(thirdComponent));
+    const bool areHigherTheMaximums = isOnMaximum(highest) && isOnMaximum(middle);
+    std::int32_t end = areHigherTheMaximums ? maxValueForComponent(lowest) : 60;
+    if (isOnMinimum(highest) && isOnMinimum(middle)) end = wrappingSubtract(end, minValueForComponent(lowest));
+    return quotient(end, stepSizeForComponent(lowest));
 }
 
 NSInteger GXDurationPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
     switch (component) {
-    case firstComponent:
+    case highest:
         return rowsOfHighestUnit();
-    case secondComponent:
+    case middle:
         return rowsOfMiddleUnit();
-    case thirdComponent:
+    case lowest:
         return rowsOfLowestUnit();
     default:
         return 1;
@@ -224,75 +150,79 @@ NSInteger GXDurationPickerView::pickerView_numberOfRowsInComponent(const Ref<UIP
 
 std::optional<std::string> GXDurationPickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                      NSInteger component) {
-    if (!holdsValues(component)) return std::nullopt;
+    if (!GXDurationLayout::holdsValues(component)) return std::nullopt;
     bool isFromMinimum = false;
     switch (component) {
     // Minutes above seconds are titled from 0: with a minimum of 1:30 their first row reads 00.
-    case firstComponent:
-        isFromMinimum = hasHours();
+    case highest:
+        isFromMinimum = layout().hasHours();
         break;
-    case secondComponent:
-        isFromMinimum = isOnMinimum(firstComponent);
+    case middle:
+        isFromMinimum = isOnMinimum(highest);
         break;
     default:
-        isFromMinimum = isOnMinimum(firstComponent) && isOnMinimum(secondComponent);
+        isFromMinimum = isOnMinimum(highest) && isOnMinimum(middle);
         break;
     }
     const NSInteger first = isFromMinimum ? minValueForComponent(component) : 0;
-    return twoDigits(wrappingAdd(wrappingMultiply<NSInteger>(stepSizeForComponent(component), row), first));
+    return paddedToTwoCharacters(wrappingAdd(wrappingMultiply<NSInteger>(stepSizeForComponent(component), row), first));
 }
 
 CGFloat GXDurationPickerView::pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
-    if (component % 2 != 0) return separatorWidth;
-    if (component == secondComponent && type_ == GXDurationTypeHoursMinutesSeconds) return middleWidth;
+    if (component % 2 != 0) return colonWidth;
+    if (component == middle && layout().hasThreeUnits()) return middleWidth;
     return GXBasePickerView::pickerView_widthForComponent(pickerView, component);
 }
 
 // From the wheel to the value
 
-/// The number that a column stands on. In single precision, as all sums that follow: each operation rounds.
-float GXDurationPickerView::valueTurnedTo(NSInteger component, float minimum) {
+/// The number that a component has selected. In single precision, as all sums that follow: each
+/// operation rounds.
+float GXDurationPickerView::selectedValue(NSInteger component, float minimum) {
     const auto row = static_cast<float>(selectedRowInComponent(pickerView(), component));
     return row * static_cast<float>(stepSizeForComponent(component)) + minimum;
 }
 
-float GXDurationPickerView::secondsTurnedTo() {
+float GXDurationPickerView::selectedSeconds() {
     const NSInteger minimum = minValue().integerValue();
     const auto hours = static_cast<float>(hoursFromMilliseconds(minimum));
     const auto minutes = static_cast<float>(minutesFromMilliseconds(minimum));
     const auto seconds = static_cast<float>(secondsFromMilliseconds(minimum));
-    // The value is still that of before the turn, whose columns the user saw.
-    const bool isHighestTheMinimums = isOnMinimum(firstComponent);
-    const bool isMiddleTheMinimums = isOnMinimum(secondComponent);
+    // The value is still that of before the selection, whose rows the user saw.
+    const bool isHighestTheMinimums = isOnMinimum(highest);
+    const bool isMiddleTheMinimums = isOnMinimum(middle);
 
-    if (type_ == GXDurationTypeMinutesSeconds) {
-        const float total = valueTurnedTo(firstComponent, minutes) * 60.0F;
-        return total + valueTurnedTo(secondComponent, isHighestTheMinimums ? seconds : 0.0F);
+    if (layout().hasMinutesAndSecondsAlone()) {
+        const float total = selectedValue(highest, minutes) * 60.0F;
+        return total + selectedValue(middle, isHighestTheMinimums ? seconds : 0.0F);
     }
-    if (!hasHours()) return 0;
+    if (!layout().hasHours()) return 0;
 
-    float total = valueTurnedTo(firstComponent, hours) * 3600.0F;
-    total += valueTurnedTo(secondComponent, isHighestTheMinimums ? minutes : 0.0F) * 60.0F;
-    // 1. With seconds: they start at the minimum's wherever the minutes are the minimum's, whatever the hours.
-    if (type_ == GXDurationTypeHoursMinutesSeconds) return total + valueTurnedTo(thirdComponent, isMiddleTheMinimums ? seconds : 0.0F);
-    // 2. Without: there the minimum's seconds go along unseen, so that its own minute is not below it.
+    float total = selectedValue(highest, hours) * 3600.0F;
+    total += selectedValue(middle, isHighestTheMinimums ? minutes : 0.0F) * 60.0F;
+    // 1. With seconds: they start at the minimum's wherever the minutes are the minimum's, whatever
+    //    the hours.
+    if (layout().hasThreeUnits()) return total + selectedValue(lowest, isMiddleTheMinimums ? seconds : 0.0F);
+    // 2. Without: there the minimum's seconds go along unseen, so that its own minute is not below
+    //    it.
     return isMiddleTheMinimums ? total + seconds : total;
 }
 
 void GXDurationPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger, NSInteger component) {
     const Ref<GXBasePickerView> keep = self();
-    setCurrentValue(NSNumber::numberWithFloat(secondsTurnedTo() * 1000.0F));
+    setCurrentValue(NSNumber::numberWithFloat(selectedSeconds() * 1000.0F));
     informDelegateOfValueChange();
-    const bool hasThree = type_ == GXDurationTypeHoursMinutesSeconds;
-    if (component == firstComponent) reloadComponent(pickerView, secondComponent);
-    if ((component == firstComponent || component == secondComponent) && hasThree) reloadComponent(pickerView, thirdComponent);
+    const bool hasThree = layout().hasThreeUnits();
+    if (component == highest) reloadComponent(pickerView, middle);
+    if ((component == highest || component == middle) && hasThree) reloadComponent(pickerView, lowest);
     selectCurrentValue();
 }
 
 // From the value to the wheel
 
-/// The bounds are applied in turn, each by the setter, which comes back here; so with the minimum above the maximum one would lead to the
-/// other for ever. A bound is therefore not tested again within itself, nor the minimum within the maximum: the maximum is the last word.
+/// The bounds are applied in turn, each by the setter, which comes back here. With the minimum
+/// above the maximum one would lead to the other for ever, so a bound is not tested again within
+/// itself, nor the minimum within the maximum: the maximum is the last word.
 void GXDurationPickerView::clampCurrentValue() {
     if (clamping_ == Clamping::None && currentValue().integerValue() < minValue().integerValue()) {
         setCurrentValueToBound(minValue().integerValue(), Clamping::ToMinimum);
@@ -314,9 +244,9 @@ void GXDurationPickerView::selectCurrentValue() {
     const Ref<GXBasePickerView> keep = self();
     clampCurrentValue();
     const NSInteger milliseconds = currentValue().integerValue();
-    if (hasHours()) {
+    if (layout().hasHours()) {
         selectUnits(milliseconds);
-    } else if (type_ == GXDurationTypeMinutesSeconds) {
+    } else if (layout().hasMinutesAndSecondsAlone()) {
         selectMinutesAndSeconds(milliseconds);
     }
 }
@@ -327,63 +257,43 @@ void GXDurationPickerView::selectRowOfUnit(std::int32_t value, NSInteger compone
 }
 
 void GXDurationPickerView::selectUnits(NSInteger milliseconds) {
-    const std::int32_t hours = wrappingSubtract(hoursFromMilliseconds(milliseconds), minValueForComponent(firstComponent));
-    selectRowOfUnit(hours, firstComponent);
+    const std::int32_t hours = wrappingSubtract(hoursFromMilliseconds(milliseconds), minValueForComponent(highest));
+    selectRowOfUnit(hours, highest);
 
     std::int32_t minutes = minutesFromMilliseconds(milliseconds);
-    if (isOnMinimum(firstComponent)) minutes = wrappingSubtract(minutes, minValueForComponent(secondComponent));
+    if (isOnMinimum(highest)) minutes = wrappingSubtract(minutes, minValueForComponent(middle));
     // Once more: the minutes' rows depend on the hours.
-    selectRowOfUnit(hours, firstComponent);
-    selectRowOfUnit(minutes, secondComponent);
-    if (type_ != GXDurationTypeHoursMinutesSeconds) return;
+    selectRowOfUnit(hours, highest);
+    selectRowOfUnit(minutes, middle);
+    if (!layout().hasThreeUnits()) return;
 
     std::int32_t seconds = secondsFromMilliseconds(milliseconds);
-    if (isOnMinimum(secondComponent)) seconds = wrappingSubtract(seconds, minValueForComponent(thirdComponent));
-    selectRowOfUnit(seconds, thirdComponent);
+    if (isOnMinimum(middle)) seconds = wrappingSubtract(seconds, minValueForComponent(lowest));
+    selectRowOfUnit(seconds, lowest);
 }
 
 void GXDurationPickerView::selectMinutesAndSeconds(NSInteger milliseconds) {
-    // Divided before the minimum is taken off, unlike the hours: with a step of 5 and a minimum of 10 minutes, 20 minutes ask for row 4 −
-    // 10, and so stand on the first.
-    const std::int32_t steps = quotient(minutesFromMilliseconds(milliseconds), stepSizeForComponent(firstComponent));
-    selectRow_inComponent(pickerView(), std::max(wrappingSubtract(steps, minValueForComponent(firstComponent)), 0), firstComponent);
+    // Divided before the minimum is subtracted, unlike the hours: with a step of 5 and a minimum of
+    // 10 minutes, 20 minutes ask for row 4 - 10, and so select the first.
+    const std::int32_t steps = quotient(minutesFromMilliseconds(milliseconds), stepSizeForComponent(highest));
+    selectRow_inComponent(pickerView(), std::max(wrappingSubtract(steps, minValueForComponent(highest)), 0), highest);
 
     std::int32_t seconds = secondsFromMilliseconds(milliseconds);
-    if (isOnMinimum(firstComponent)) seconds = wrappingSubtract(seconds, minValueForComponent(secondComponent));
-    selectRowOfUnit(seconds, secondComponent);
+    if (isOnMinimum(highest)) seconds = wrappingSubtract(seconds, minValueForComponent(middle));
+    selectRowOfUnit(seconds, middle);
 }
 
-// Answers to a screen reader
+// Accessibility texts
 
-std::optional<GXSpokenName> GXDurationPickerView::spokenPartOfComponent(NSInteger component) {
-    const std::optional<Unit> unit = holdsValues(component) ? unitOfComponent(component) : std::nullopt;
-    if (!unit) return std::nullopt;
-    switch (*unit) {
-    case Unit::Hours:
-        return GXSpokenName::Hours;
-    case Unit::Minutes:
-        return GXSpokenName::Minutes;
-    case Unit::Seconds:
-        return GXSpokenName::Seconds;
-    }
-    return std::nullopt;
+std::optional<GXAccessibilityName> GXDurationPickerView::accessibilityPartOfComponent(NSInteger component) {
+    return layout().accessibilityPartOfComponent(component);
 }
 
 std::optional<std::string> GXDurationPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                   NSInteger component) {
-    const auto number = [this, row, component](NSInteger column) { return integerValueOfTitle(spokenTitle(column, {row, component})); };
-    switch (type_) {
-    case GXDurationTypeHoursMinutes:
-        return spokenSum({{number(firstComponent), GXSpokenUnit::Hour}, {number(secondComponent), GXSpokenUnit::Minute}});
-    case GXDurationTypeHoursMinutesSeconds:
-        return spokenSum({{number(firstComponent), GXSpokenUnit::Hour},
-                          {number(secondComponent), GXSpokenUnit::Minute},
-                          {number(thirdComponent), GXSpokenUnit::Second}});
-    case GXDurationTypeMinutesSeconds:
-        return spokenSum({{number(firstComponent), GXSpokenUnit::Minute}, {number(secondComponent), GXSpokenUnit::Second}});
-    default:
-        return std::nullopt;
-    }
+    const Ref<GXBasePickerView> keep = self();
+    const auto number = [this, row, component](NSInteger asked) { return integerValueOfTitle(reportedTitle(asked, {row, component})); };
+    return layout().accessibilityText(number(highest), number(middle), number(lowest));
 }
 
 } // namespace gx

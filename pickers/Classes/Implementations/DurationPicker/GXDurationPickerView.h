@@ -1,53 +1,52 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXDurationType.h"
 
 namespace gx {
 
-/// The layouts that `GXDurationPickerView::type` knows.
-inline constexpr NSInteger GXDurationTypeHoursMinutes = 0;
-inline constexpr NSInteger GXDurationTypeHoursMinutesSeconds = 1;
-inline constexpr NSInteger GXDurationTypeMinutesSeconds = 2;
+class GXDurationLayout;
 
-/// Picks a duration as hours and minutes, hours, minutes and seconds, or minutes and seconds, each on a wheel of its own with ":" between
-/// them. From 0 up to 99 hours, starting at 5 minutes. It has no unit systems.
+/// Picks a duration as hours and minutes, hours, minutes and seconds, or minutes and seconds, each
+/// number in a component of its own with ":" between them. From 0 up to 99 hours, starting at 5
+/// minutes. It has no unit systems.
 ///
-/// Values are milliseconds, any boxed number, read by their integer part; empty and NaN numbers read as 0. The value is held to the range
-/// whenever it is selected, so also when the application sets it, and is then stored as a boxed integer; with the minimum above the
-/// maximum it becomes the maximum. Units beyond 32 bits wrap around.
+/// Values are milliseconds, any boxed number, read by their integer part; empty and NaN numbers
+/// read as 0. The value is clamped to the range whenever it is selected, so also when the
+/// application sets it, and is then stored as a boxed integer; with the minimum above the maximum
+/// it becomes the maximum. Units beyond 32 bits wrap around.
 ///
-/// A turn stores a boxed float. That holds every second up to 37 hours; longer durations to some milliseconds, so that there a second
-/// that was picked may come back as the one before (40:00:05 is 40:00:04.992).
+/// A selection by the user stores a boxed float. That holds every second up to 37 hours; longer
+/// durations to some milliseconds, so that there a second that was picked may come back as the one
+/// before (40:00:05 is 40:00:04.992).
 ///
-/// The delegate is told once after each turn, for component 0, whatever column was turned, with the value held to the range.
+/// The delegate is notified once after each selection, for component 0, whatever the component,
+/// with the clamped value.
 ///
 /// Where the rules look uneven, the user sees this:
-/// - The maximum is exclusive: a unit equal to the maximum's is offered only if a lower unit of the maximum is not 0, and on the maximum's
-///   own higher units the lowest one stops a step before it.
-/// - While the higher units are the minimum's, the lower ones begin at the minimum's. Seconds go by the minutes alone when they are
-///   selected or read, so a minimum of 1:10:30 moves them at 2:10 as well; and in hours and minutes they are carried along unseen.
-/// - In minutes and seconds, the minutes are titled from 00 although they are counted from the minimum's; minutes wrap at 60, so that
-/// layout
-///   needs a maximum below an hour.
+/// - The maximum is exclusive: a unit equal to the maximum's is offered only if a lower unit of the
+///   maximum is not 0, and on the maximum's own higher units the lowest one stops a step before it.
+/// - While the higher units are the minimum's, the lower ones begin at the minimum's. Seconds go by
+///   the minutes alone when they are selected or read, so a minimum of 1:10:30 moves them at 2:10
+///   as well; in hours and minutes they are carried along unseen.
+/// - In minutes and seconds, the minutes are titled from 00 although they are counted from the
+///   minimum's; minutes wrap at 60, so that layout needs a maximum below an hour.
 class GXDurationPickerView : public GXBasePickerView {
 public:
-    bool initWithFrame(CGRect frame) override;
-    bool initWithCoder(const Ref<NSCoder>& coder) override;
-    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
-
-    /// Default `GXDurationTypeHoursMinutes`. A change puts the layout's name and separators on the wheel, reloads and selects. An unknown
-    /// type is stored and leaves those texts; its columns have no rows and a turn of it is 0.
-    NSInteger type() const { return type_; }
+    /// Default `GXDurationTypeHoursMinutes`. A change puts the layout's name and separators on the
+    /// wheel, reloads and selects. An unknown type is stored and leaves those texts; its components
+    /// have no rows, and a selection there is 0.
+    virtual NSInteger type() const { return type_; }
     virtual void setType(NSInteger type);
 
-    /// From one row to the next. Defaults 1, 1 and 5; a step below 1 becomes 1. A change reloads but selects nothing: the rows selected may
-    /// stand for another value until the next selection.
-    std::int32_t hoursStepSize() const { return hoursStepSize_; }
-    virtual void setHoursStepSize(std::int32_t step);
-    std::int32_t minutesStepSize() const { return minutesStepSize_; }
-    virtual void setMinutesStepSize(std::int32_t step);
-    std::int32_t secondsStepSize() const { return secondsStepSize_; }
-    virtual void setSecondsStepSize(std::int32_t step);
+    /// From one row to the next. Defaults 1, 1 and 5; a step below 1 becomes 1. A change reloads
+    /// but selects nothing: the selected rows may show another value until the next selection.
+    virtual std::int32_t hoursStepSize() const { return hoursStepSize_; }
+    virtual void setHoursStepSize(std::int32_t step) { storeStep(hoursStepSize_, checkStepSize(step)); }
+    virtual std::int32_t minutesStepSize() const { return minutesStepSize_; }
+    virtual void setMinutesStepSize(std::int32_t step) { storeStep(minutesStepSize_, checkStepSize(step)); }
+    virtual std::int32_t secondsStepSize() const { return secondsStepSize_; }
+    virtual void setSecondsStepSize(std::int32_t step) { storeStep(secondsStepSize_, checkStepSize(step)); }
     /// The step, at least 1.
     virtual std::int32_t checkStepSize(std::int32_t step) const;
 
@@ -56,20 +55,21 @@ public:
     virtual std::int32_t minutesFromMilliseconds(NSInteger milliseconds) const;
     virtual std::int32_t secondsFromMilliseconds(NSInteger milliseconds) const;
 
-    /// What the type shows of a duration in a component, at least 0: the component that is neither of the higher units is that of seconds.
+    /// What the type shows of a duration in a component, at least 0: the component that is neither
+    /// of the higher units is that of seconds.
     virtual std::int32_t value_forComponent(NSInteger milliseconds, NSInteger component) const;
     virtual std::int32_t stepSizeForComponent(NSInteger component) const;
     virtual std::int32_t minValueForComponent(NSInteger component) const;
     virtual std::int32_t maxValueForComponent(NSInteger component) const;
 
-    /// Holds the value to the range first: `setCurrentValue` is called with the bound.
+    /// Clamps the value first: `setCurrentValue` is called with the bound.
     void selectCurrentValue() override;
     /// "0:27 h", "0:27:30" or "27:30 min", by the type, and without a zero before the first number.
     /// The units are those of the international system, which are alike in all languages.
     std::string currentValueText() override;
 
-    // Answers to the wheel. Components 0, 2 and, with seconds below minutes below hours, 4 hold values; any other one is a row without a
-    // title, between them a separator of 5 points.
+    // What the wheel asks. Components 0, 2 and, with three units, 4 hold values; any other one is a
+    // row without a title, those between are separators of 5 points.
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
@@ -82,28 +82,29 @@ public:
                                                                                 NSInteger component) override;
 
 protected:
-    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Duration; }
-    std::optional<GXSpokenName> spokenPartOfComponent(NSInteger component) override;
+    void didInitialize() override {
+        GXBasePickerView::didInitialize();
+        initGXDurationPickerView();
+    }
+    virtual void initGXDurationPickerView();
+    void showTexts() override;
+    std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Duration; }
+    std::optional<GXAccessibilityName> accessibilityPartOfComponent(NSInteger component) override;
 
 private:
-    enum class Unit { Hours, Minutes, Seconds };
     /// The bound that the value is being set to.
     enum class Clamping { None, ToMinimum, ToMaximum };
 
-    void initGXDurationPickerView();
-    bool hasHours() const;
-    std::optional<Unit> unitOfComponent(NSInteger component) const;
-    void showLayout();
-    void storeStep(std::int32_t& step, std::int32_t value);
+    GXDurationLayout layout() const;
 
     std::int32_t currentValueForComponent(NSInteger component) const;
-    bool isOnMinimum(NSInteger component) const;
-    bool isOnMaximum(NSInteger component) const;
+    bool isOnMinimum(NSInteger component) const { return currentValueForComponent(component) == minValueForComponent(component); }
+    bool isOnMaximum(NSInteger component) const { return currentValueForComponent(component) == maxValueForComponent(component); }
     NSInteger rowsOfHighestUnit() const;
     NSInteger rowsOfMiddleUnit() const;
     NSInteger rowsOfLowestUnit() const;
-    float secondsTurnedTo();
-    float valueTurnedTo(NSInteger component, float minimum);
+    float selectedSeconds();
+    float selectedValue(NSInteger component, float minimum);
 
     void clampCurrentValue();
     void setCurrentValueToBound(NSInteger bound, Clamping clamping);

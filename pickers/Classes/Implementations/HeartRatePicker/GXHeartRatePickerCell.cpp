@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXHeartRatePickerCell::cellIdentifier() { return "GXHeartRatePickerCellIdentifier"; }
 
-void GXHeartRatePickerCell::initGXHeartRatePickerCell() { showPicker(create<GXHeartRatePickerView>(bounds())); }
+void GXHeartRatePickerCell::initGXHeartRatePickerCell() { showNewPicker<GXHeartRatePickerView>(); }
 
 } // namespace gx

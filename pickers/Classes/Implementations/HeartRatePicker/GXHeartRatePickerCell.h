@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXHeartRatePickerCell();
+    virtual void initGXHeartRatePickerCell();
 
 protected:
     void makePicker() override { initGXHeartRatePickerCell(); }

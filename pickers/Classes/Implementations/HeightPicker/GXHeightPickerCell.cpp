@@ -24,9 +24,10 @@ void GXHeightPickerCell::awakeFromNib() {
 }
 
 void GXHeightPickerCell::initPicker() {
-    if (pickerView_) return;
+    if (pickerView()) return;
+    const Ref<UIView> keep = refTo<UIView>(this);
     pickerView_ = create<GXHeightPickerView>(bounds());
-    addPinnedPicker(contentView(), pickerView_);
+    addPinnedPicker(contentView(), pickerView());
 }
 
 } // namespace gx

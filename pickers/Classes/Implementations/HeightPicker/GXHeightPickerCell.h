@@ -5,11 +5,12 @@
 
 namespace gx {
 
-/// A table cell with a `GXHeightPickerView`. It stands apart from the other picker cells, as its picker does from theirs: it has no
-/// background of its own, and its picker is placed by the layout alone.
+/// A table cell with a `GXHeightPickerView`. It stands apart from the other picker cells, as its
+/// picker does from theirs: it has no background of its own, and its picker is placed by the layout
+/// alone.
 ///
-/// The picker is made once, with the cell's bounds, and kept when the cell is used again: at construction in code, in `awakeFromNib` for a
-/// cell from an interface.
+/// The picker is made once, with the cell's bounds, and kept when the cell is used again: at
+/// construction in code, in `awakeFromNib` for a cell from an interface.
 class GXHeightPickerCell : public UITableViewCell {
 public:
     /// What an application registers the class under.
@@ -20,10 +21,10 @@ public:
     void awakeFromNib() override;
 
     /// Held strongly.
-    const Ref<GXHeightPickerView>& pickerView() const { return pickerView_; }
+    virtual const Ref<GXHeightPickerView>& pickerView() const { return pickerView_; }
 
     /// Makes the picker and pins it to the content view. Does nothing if there is one.
-    void initPicker();
+    virtual void initPicker();
 
 private:
     Ref<GXHeightPickerView> pickerView_;

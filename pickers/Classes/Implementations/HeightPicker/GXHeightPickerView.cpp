@@ -2,8 +2,8 @@
 
 #include <cmath>
 
+#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
-#include "GXSpeech.h"
 #include "GXValueText.h"
 #include "NSArithmetic.h"
 
@@ -20,8 +20,8 @@ constexpr NSInteger inchRows = 12;
 constexpr NSInteger unitRows = 2;
 constexpr NSInteger unitRowMetric = 0;
 constexpr NSInteger unitRowImperial = 1;
-constexpr NSInteger metricUnitColumn = 1;
-constexpr NSInteger imperialUnitColumn = 2;
+constexpr NSInteger metricUnitComponent = 1;
+constexpr NSInteger imperialUnitComponent = 2;
 
 constexpr CGFloat centimetreWidth = 100;
 constexpr CGFloat otherWidth = 60;
@@ -79,45 +79,48 @@ void GXHeightPickerView::setHeightInCm(CGFloat height) {
 }
 
 void GXHeightPickerView::setIsMetric(bool isMetric) {
-    if (isMetric != isMetric_) exchangeComponents(metricUnitColumn, imperialUnitColumn);
+    if (isMetric != isMetric_) exchangeComponents(metricUnitComponent, imperialUnitComponent);
     isMetric_ = isMetric;
     reload();
 }
 
+void GXHeightPickerView::reloadData() { reloadAllComponents(); }
+
 void GXHeightPickerView::reload() {
     const Ref<GXHeightPickerView> keep = refTo(this);
-    // The rows are asked for before the wheel knows the new columns. It keeps the requests, so that the right rows appear with the reload.
+    // The rows are asked for before the wheel knows the new columns. It keeps the requests, so that
+    // the right rows appear with the reload.
     calculatePickerValues();
     reloadAllComponents();
     performSelectorOnMainThread_waitUntilDone(&GXHeightPickerView::reload2ndStage, false);
 }
 
 void GXHeightPickerView::reload2ndStage() {
-    if (isMetric_) {
-        selectRow_inComponent_animated(unitRowMetric, metricUnitColumn, false);
+    if (isMetric()) {
+        selectRow_inComponent_animated(unitRowMetric, metricUnitComponent, false);
     } else {
-        selectRow_inComponent_animated(unitRowImperial, imperialUnitColumn, false);
+        selectRow_inComponent_animated(unitRowImperial, imperialUnitComponent, false);
     }
 }
 
 void GXHeightPickerView::calculatePickerValues() {
     const Ref<GXHeightPickerView> keep = refTo(this);
-    if (isMetric_) {
-        const bool isGiven = heightInCm_ > 0;
-        const auto row = truncateTo<NSInteger>(heightInCm_ - static_cast<double>(lowestCentimetres));
+    if (isMetric()) {
+        const bool isGiven = heightInCm() > 0;
+        const auto row = truncateTo<NSInteger>(heightInCm() - static_cast<double>(lowestCentimetres));
         selectRow_inComponent_animated(isGiven ? row : defaultCentimetreRow, 0, false);
         return;
     }
     NSInteger feetRow = defaultFeetRow;
     NSInteger inchRow = defaultInchRow;
-    if (heightInCm_ >= static_cast<double>(lowestCentimetres)) { // False for what is no number.
-        const double feet = std::floor(heightInCm_ * feetPerCentimetre);
+    if (heightInCm() >= static_cast<double>(lowestCentimetres)) { // False for what is no number.
+        const double feet = std::floor(heightInCm() * feetPerCentimetre);
         if (feet < lowestFeet) {
             feetRow = inchRow = 0;
         } else if (feet < lowestFeet + feetRows) {
             feetRow = truncateTo<NSInteger>(feet) - lowestFeet;
             // Up to 12, which the wheel shows as 11: 182 cm read 5 feet 11 inches and not 6 feet.
-            inchRow = truncateTo<NSInteger>(std::round(heightInCm_ * inchesPerCentimetre - feet * inchesPerFoot));
+            inchRow = truncateTo<NSInteger>(std::round(heightInCm() * inchesPerCentimetre - feet * inchesPerFoot));
         } else {
             feetRow = feetRows - 1;
             inchRow = inchRows - 1;
@@ -129,7 +132,7 @@ void GXHeightPickerView::calculatePickerValues() {
 
 void GXHeightPickerView::recalculateHeight() {
     const Ref<GXHeightPickerView> keep = refTo(this);
-    if (isMetric_) {
+    if (isMetric()) {
         setHeightInCm(static_cast<CGFloat>(wrappingAdd(selectedRowInComponent(0), lowestCentimetres)));
     } else {
         const float feet = static_cast<float>(wrappingAdd(selectedRowInComponent(0), lowestFeet)) * centimetresPerFoot;
@@ -137,8 +140,8 @@ void GXHeightPickerView::recalculateHeight() {
         const float height = feet + inches;
         setHeightInCm(CGFloat{height});
     }
-    if (const Ref<GXHeightPickerViewDelegate> told = heightDelegate_.lock()) {
-        told->heightPickerView_didSelectHeightInCm_metric(keep, heightInCm_, isMetric_);
+    if (const Ref<GXHeightPickerViewDelegate> told = heightDelegate().lock()) {
+        told->heightPickerView_didSelectHeightInCm_metric(keep, heightInCm(), isMetric());
     }
 }
 
@@ -150,29 +153,29 @@ Ref<NSAttributedString> GXHeightPickerView::styleString(std::optional<std::strin
 std::string GXHeightPickerView::currentValueText() {
     const Ref<GXHeightPickerView> keep = refTo(this);
     const auto titleOf = [this](NSInteger component) {
-        return titleOfRow(selectedRowInComponent(component), columnOf(component)).value_or(std::string());
+        return titleOfRow(selectedRowInComponent(component), shownIn(component)).value_or(std::string());
     };
-    if (!isMetric_) return joinedBySpace(titleOf(0), titleOf(1));
+    if (!isMetric()) return joinedBySpace(titleOf(0), titleOf(1));
     // The row of the unit follows only in a later pass of the run loop.
-    return joinedBySpace(titleOf(0), titleOfRow(unitRowMetric, Column::Unit).value_or(std::string()));
+    return joinedBySpace(titleOf(0), titleOfRow(unitRowMetric, Shown::Unit).value_or(std::string()));
 }
 
-// Answers to the wheel
+// What the wheel asks
 
-GXHeightPickerView::Column GXHeightPickerView::columnOf(NSInteger component) const {
-    if (component == 0) return isMetric_ ? Column::Centimetres : Column::Feet;
-    return component == 1 && !isMetric_ ? Column::Inches : Column::Unit;
+GXHeightPickerView::Shown GXHeightPickerView::shownIn(NSInteger component) const {
+    if (component == 0) return isMetric() ? Shown::Centimetres : Shown::Feet;
+    return component == 1 && !isMetric() ? Shown::Inches : Shown::Unit;
 }
 
-std::optional<std::string> GXHeightPickerView::titleOfRow(NSInteger row, Column column) const {
-    switch (column) {
-    case Column::Centimetres:
+std::optional<std::string> GXHeightPickerView::titleOfRow(NSInteger row, Shown shown) const {
+    switch (shown) {
+    case Shown::Centimetres:
         return std::to_string(narrowTo32Bits(wrappingAdd(row, lowestCentimetres)));
-    case Column::Feet:
+    case Shown::Feet:
         return std::to_string(narrowTo32Bits(wrappingAdd(row, lowestFeet))) + "'";
-    case Column::Inches:
+    case Shown::Inches:
         return std::to_string(narrowTo32Bits(row)) + "\"";
-    case Column::Unit:
+    case Shown::Unit:
         break;
     }
     const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
@@ -180,66 +183,66 @@ std::optional<std::string> GXHeightPickerView::titleOfRow(NSInteger row, Column 
                                 : localization->localizedStringWithKey_comment("ft", "unit ft (feet)");
 }
 
-NSInteger GXHeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return isMetric_ ? 2 : 3; }
+NSInteger GXHeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return isMetric() ? 2 : 3; }
 
 NSInteger GXHeightPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
-    switch (columnOf(component)) {
-    case Column::Centimetres:
+    switch (shownIn(component)) {
+    case Shown::Centimetres:
         return centimetreRows;
-    case Column::Feet:
+    case Shown::Feet:
         return feetRows;
-    case Column::Inches:
+    case Shown::Inches:
         return inchRows;
-    case Column::Unit:
+    case Shown::Unit:
         break;
     }
     return unitRows;
 }
 
 CGFloat GXHeightPickerView::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger component) {
-    return columnOf(component) == Column::Centimetres ? centimetreWidth : otherWidth;
+    return shownIn(component) == Shown::Centimetres ? centimetreWidth : otherWidth;
 }
 
 CGFloat GXHeightPickerView::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) { return rowHeight; }
 
 Ref<NSAttributedString> GXHeightPickerView::pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                           NSInteger component) {
-    return styleString(titleOfRow(row, columnOf(component)));
+    return styleString(titleOfRow(row, shownIn(component)));
 }
 
 void GXHeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) {
     const Ref<GXHeightPickerView> keep = refTo(this);
-    if (component == (isMetric_ ? metricUnitColumn : imperialUnitColumn)) {
+    if (component == (isMetric() ? metricUnitComponent : imperialUnitComponent)) {
         setIsMetric(row == unitRowMetric);
         calculatePickerValues();
     }
     recalculateHeight();
 }
 
-// Answers to a screen reader
+// Accessibility texts
 
 std::optional<std::string> GXHeightPickerView::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) {
-    const auto partOf = [](Column column) {
-        switch (column) {
-        case Column::Centimetres:
-            return GXSpokenName::Centimetres;
-        case Column::Feet:
-            return GXSpokenName::Feet;
-        case Column::Inches:
-            return GXSpokenName::Inches;
-        case Column::Unit:
+    const auto partOf = [](Shown shown) {
+        switch (shown) {
+        case Shown::Centimetres:
+            return GXAccessibilityName::Centimetres;
+        case Shown::Feet:
+            return GXAccessibilityName::Feet;
+        case Shown::Inches:
+            return GXAccessibilityName::Inches;
+        case Shown::Unit:
             break;
         }
-        return GXSpokenName::Unit;
+        return GXAccessibilityName::Unit;
     };
-    return spokenLabel(accessibilityLabel(), GXSpokenName::Height, partOf(columnOf(component)));
+    return accessibilityLabelText(accessibilityLabel(), GXAccessibilityName::Height, partOf(shownIn(component)));
 }
 
 std::optional<std::string> GXHeightPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                 NSInteger component) {
-    const auto rowOf = [this, row, component](NSInteger column) { return column == component ? row : selectedRowInComponent(column); };
-    if (isMetric_) return spokenSum({{wrappingAdd(rowOf(0), lowestCentimetres), GXSpokenUnit::Centimetre}});
-    return spokenSum({{wrappingAdd(rowOf(0), lowestFeet), GXSpokenUnit::Foot}, {rowOf(1), GXSpokenUnit::Inch}});
+    const auto rowOf = [this, row, component](NSInteger asked) { return asked == component ? row : selectedRowInComponent(asked); };
+    if (isMetric()) return accessibilitySum({{wrappingAdd(rowOf(0), lowestCentimetres), GXAccessibilityUnit::Centimetre}});
+    return accessibilitySum({{wrappingAdd(rowOf(0), lowestFeet), GXAccessibilityUnit::Foot}, {rowOf(1), GXAccessibilityUnit::Inch}});
 }
 
 } // namespace gx

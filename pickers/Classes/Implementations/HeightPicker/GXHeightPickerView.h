@@ -1,38 +1,56 @@
 #pragma once
 
+#include <concepts>
+
 #include "GXHeightPickerViewDelegate.h"
+#include "GXHeldWeakly.h"
 #include "UIPickerView.h"
 
 namespace gx {
 
-/// Picks a body height: 120 to 220 cm, or 4 feet to 6 feet 11 inches. The last column chooses between the two.
+/// Picks a body height: 120 to 220 cm, or 4 feet to 6 feet 11 inches. The last component chooses
+/// between the two.
 ///
-/// Unlike the other pickers it is itself a wheel, and its own data source and delegate: leave those as they are and set `heightDelegate`.
-/// It has no bounds and no step.
+/// Unlike the other pickers it is itself a wheel, and its own data source and delegate: leave those
+/// as they are and set `heightDelegate`. It has no bounds and no step.
 ///
-/// `heightInCm` is the truth and the rows follow from it; a turn by the user replaces it by the height of the rows that the wheel shows
-/// then. Switching units is such a turn: 180 cm become 5 feet 11 inches and with that 180.34 cm. A fresh picker selects nothing until a
-/// height or a unit is set; then a height of 0 shows as 180 cm or 5 feet 10 inches, and stays 0 until the user turns.
+/// `heightInCm` is the truth and the rows follow from it. A selection by the user replaces it by
+/// the height of the rows that the wheel shows then. Switching units is such a selection: 180 cm
+/// become 5 feet 11 inches and with that 180.34 cm.
 ///
-/// The unit column is set right by a later pass of the main run loop, once the wheel has taken the new columns. Keys and screen readers
-/// that turn it stay with it.
+/// A fresh picker selects nothing until a height or a unit is set; then a height of 0 shows as 180
+/// cm or 5 feet 10 inches, and stays 0 until the user selects a row.
+///
+/// The row of the unit is selected in a later pass of the main run loop, once the wheel has taken
+/// the new components. Keys and screen readers that use the unit's component stay with it.
 class GXHeightPickerView : public UIPickerView, public UIPickerViewDataSource, public UIPickerViewDelegate {
 public:
     bool initWithFrame(CGRect frame) override;
-    /// Sets up a picker that was loaded from an interface; one made with a coder is a bare wheel until then.
+    /// Sets up a picker that was loaded from an interface; one made with a coder is a bare wheel
+    /// until then.
     void awakeFromNib() override;
     ~GXHeightPickerView() override;
 
-    /// In centimetres. Default 0. Takes any number: what lies outside the wheel is kept, see `calculatePickerValues`. Also an equal height
-    /// selects its rows again.
-    CGFloat heightInCm() const { return heightInCm_; }
+    /// In centimetres. Default 0. Takes any number: what lies outside the wheel is kept, see
+    /// `calculatePickerValues`. Also an equal height selects its rows again.
+    virtual CGFloat heightInCm() const { return heightInCm_; }
     virtual void setHeightInCm(CGFloat height);
-    /// Centimetres, or feet and inches, which is the default. The stored height stays; also an equal flag selects its rows again.
-    bool isMetric() const { return isMetric_; }
+    /// Centimetres, or feet and inches, which is the default. The stored height stays; also an
+    /// equal flag selects its rows again.
+    virtual bool isMetric() const { return isMetric_; }
     virtual void setIsMetric(bool isMetric);
     /// Held weakly.
-    WeakRef<GXHeightPickerViewDelegate> heightDelegate() const { return heightDelegate_; }
+    virtual WeakRef<GXHeightPickerViewDelegate> heightDelegate() const { return heightDelegate_; }
     virtual void setHeightDelegate(WeakRef<GXHeightPickerViewDelegate> delegate) { heightDelegate_ = std::move(delegate); }
+    /// A delegate that nothing else holds would be gone at once: debug builds stop here.
+    template <std::derived_from<GXHeightPickerViewDelegate> Delegate>
+    void setHeightDelegate(Ref<Delegate>&& delegate) {
+        setHeightDelegate(heldWeakly<GXHeightPickerViewDelegate>(delegate));
+    }
+
+    /// Reads the rows again, in the localiser's language of this moment. Height, selected rows and
+    /// a movement stay.
+    virtual void reloadData();
 
     /// The height as the wheel shows it: "176 cm", or "5' 9\"". It needs no window.
     ///
@@ -41,20 +59,23 @@ public:
 
     /// Makes the picker its own data source and delegate, and its rows black. Selects nothing.
     virtual void setupSelf();
-    /// Selects the rows of the height, reloads the wheel and leaves the unit's row to the next pass of the run loop.
+    /// Selects the rows of the height, reloads the wheel and leaves the unit's row to the next pass
+    /// of the run loop.
     virtual void reload();
     /// Selects the row of the unit that is shown now.
     virtual void reload2ndStage();
     /// Selects the rows of the height, as follows:
     /// - metric: whole centimetres, a fraction cut off; a height that is not above 0 shows 180;
-    /// - imperial: the whole feet below, and the nearest inch. A height below 120 cm shows 5 feet 10 inches, one from there to 4 feet
-    ///   shows 4 feet, one of 7 feet or more 6 feet 11 inches.
+    /// - imperial: the whole feet below, and the nearest inch. A height below 120 cm shows 5 feet
+    ///   10 inches, one from there to 4 feet shows 4 feet, one of 7 feet or more 6 feet 11 inches.
     ///
-    /// What is no number shows like 0. Rows that do not exist are asked of the wheel as they are: centimetres beyond either end, and a
-    /// twelfth inch, which shows as the eleventh and not as the next foot.
+    /// What is no number shows like 0. Rows that do not exist are asked of the wheel as they are:
+    /// centimetres beyond either end, and a twelfth inch, which shows as the eleventh and not as
+    /// the next foot.
     virtual void calculatePickerValues();
-    /// Stores the height of the rows that the wheel shows, and informs the delegate. Feet and inches are added in single precision; so 5
-    /// feet become 152.39999 cm, a hair less, and the wheel then shows 4 feet 11 inches. Every other height stays on its rows.
+    /// Stores the height of the rows that the wheel shows, and informs the delegate. Feet and
+    /// inches are added in single precision; so 5 feet become 152.39999 cm, a hair less, and the
+    /// wheel then shows 4 feet 11 inches. Every other height stays on its rows.
     virtual void recalculateHeight();
     /// A row's title, in the tint colour of this moment. Nothing for no text.
     virtual Ref<NSAttributedString> styleString(std::optional<std::string> text) const;
@@ -62,7 +83,7 @@ public:
     /// Shows the rows in the new tint.
     void tintColorDidChange() override;
 
-    // Answers to the wheel: centimetres and unit, or feet, inches and unit
+    // What the wheel asks: centimetres and unit, or feet, inches and unit
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
@@ -73,19 +94,20 @@ public:
     /// Switches the unit, if its column was turned, and then takes the height of the rows.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
 
-    /// "Height, centimetres", in the words of the shared localiser; the picker's own `accessibilityLabel`, if one was set, instead of
-    /// "Height".
+    /// "Height, centimetres", in the words of the shared localiser; the picker's own
+    /// `accessibilityLabel`, if one was set, instead of "Height".
     std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    /// The whole height, such as "5 feet 9 inches": as the wheel reports it, but for the component, which stands on `row`. On the column
-    /// of the unit, it is the height in the unit shown.
+    /// The whole height, such as "5 feet 9 inches": as the wheel reports it, but for the component,
+    /// which stands on `row`. On the column of the unit, it is the height in the unit shown.
     std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                                 NSInteger component) override;
 
 private:
-    /// What a column shows. The unit column comes after those of the values, and so does every column that does not exist.
-    enum class Column { Centimetres, Feet, Inches, Unit };
-    Column columnOf(NSInteger component) const;
-    std::optional<std::string> titleOfRow(NSInteger row, Column column) const;
+    /// What a component shows. The unit comes after the values, and so does every component that
+    /// does not exist.
+    enum class Shown { Centimetres, Feet, Inches, Unit };
+    Shown shownIn(NSInteger component) const;
+    std::optional<std::string> titleOfRow(NSInteger row, Shown shown) const;
 
     CGFloat heightInCm_ = 0;
     bool isMetric_ = false;

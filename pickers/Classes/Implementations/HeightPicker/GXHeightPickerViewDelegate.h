@@ -7,13 +7,15 @@ namespace gx {
 
 class GXHeightPickerView;
 
-/// Is told when the user has turned a height picker.
+/// Is notified of the height that the user picks.
 class GXHeightPickerViewDelegate {
 public:
     virtual ~GXHeightPickerViewDelegate() = default;
 
-    /// Called once after each turn by the user, also one of the unit column, never after a setter. `height` is in centimetres whatever the
-    /// unit; `metric` is false for feet and inches. The call may do anything to the picker, drop the last reference to it included.
+    /// Called once after each selection by the user, also of a unit, never after a setter. `height`
+    /// is in centimetres whatever the unit; `metric` is false for feet and inches.
+    ///
+    /// The call may do anything to the picker, drop the last reference to it included.
     virtual void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>& pickerView, CGFloat height, bool metric) = 0;
 };
 

@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXPacePickerCell::cellIdentifier() { return "GXPacePickerCellIdentifier"; }
 
-void GXPacePickerCell::initGXPacePickerCell() { showPicker(create<GXPacePickerView>(bounds())); }
+void GXPacePickerCell::initGXPacePickerCell() { showNewPicker<GXPacePickerView>(); }
 
 } // namespace gx

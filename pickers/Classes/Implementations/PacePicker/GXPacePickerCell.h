@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXPacePickerCell();
+    virtual void initGXPacePickerCell();
 
 protected:
     void makePicker() override { initGXPacePickerCell(); }

@@ -6,6 +6,6 @@ namespace gx {
 
 std::string GXSpeedPickerCell::cellIdentifier() { return "GXSpeedPickerCellIdentifier"; }
 
-void GXSpeedPickerCell::initGXSpeedPickerCell() { showPicker(create<GXSpeedPickerView>(bounds())); }
+void GXSpeedPickerCell::initGXSpeedPickerCell() { showNewPicker<GXSpeedPickerView>(); }
 
 } // namespace gx

@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXSpeedPickerCell();
+    virtual void initGXSpeedPickerCell();
 
 protected:
     void makePicker() override { initGXSpeedPickerCell(); }

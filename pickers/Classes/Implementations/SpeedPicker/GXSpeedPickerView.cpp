@@ -3,22 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "GXAccessibilityText.h"
+#include "GXPickerComponents.h"
 #include "GXTitleReading.h"
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 #include "NSArithmetic.h"
-#include "NSLocale.h"
 
 namespace gx {
 
 namespace {
-
-constexpr NSInteger wholeComponent = 0;
-constexpr NSInteger separatorComponent = 1;
-constexpr NSInteger tenthsComponent = 2;
-
-// Of a separator column, and of one that does not exist. Prescribed by the product.
-constexpr CGFloat separatorWidth = 3;
-constexpr CGFloat unknownWidth = 40;
 
 // Prescribed by the product, as rounded as they are; none is the exact reciprocal of another.
 constexpr double kphPerMps = 3.6;
@@ -35,43 +28,29 @@ std::int32_t tenthsDigit(double speed) { return truncateTo<std::int32_t>(std::ro
 
 } // namespace
 
-bool GXSpeedPickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXSpeedPickerView();
-    return true;
-}
-
-bool GXSpeedPickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXSpeedPickerView();
-    return true;
-}
-
-bool GXSpeedPickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
-    initGXSpeedPickerView();
-    return true;
-}
-
 void GXSpeedPickerView::initGXSpeedPickerView() {
     setMaxValue(NSNumber::numberWithDouble(13.8888889)); // 50 km/h
     setMinValue(NSNumber::numberWithDouble(0.0));
     setCurrentValue(NSNumber::numberWithDouble(2.7777777799999996)); // 10 km/h
+    showTexts();
+}
+
+void GXSpeedPickerView::showTexts() {
+    const Ref<GXBasePickerView> keep = self();
     showUnit();
-    const Ref<NSLocale> locale = NSLocale::currentLocale();
-    setSeparatorText_afterComponent(pickerView(), locale->objectForKey(NSLocaleDecimalSeparator), wholeComponent);
+    showDecimalSeparator(pickerView());
 }
 
 // Properties
 
-const Ref<GXSpeedFormatter>& GXSpeedPickerView::speedFormatter() {
+Ref<GXSpeedFormatter> GXSpeedPickerView::speedFormatter() {
     if (!speedFormatter_) speedFormatter_ = create<GXSpeedFormatter>(1, isMetric(), true);
     return speedFormatter_;
 }
 
 void GXSpeedPickerView::showUnit() {
     const Ref<GXSpeedFormatter> formatter = speedFormatter();
-    setRightLabelText(pickerView(), formatter->unit(NSNumber::numberWithInteger(labelledQuantity)));
+    if (formatter) setRightLabelText(pickerView(), formatter->unit(NSNumber::numberWithInteger(labelledQuantity)));
 }
 
 double GXSpeedPickerView::displayed(const NSNumber& value) const {
@@ -116,17 +95,17 @@ double GXSpeedPickerView::kphToMps(double speed) const { return speed * mpsPerKp
 
 double GXSpeedPickerView::mphToMps(double speed) const { return speed * mpsPerMph; }
 
-// What the columns offer
+// What the components offer
 
-bool GXSpeedPickerView::isOnMinimumsWholeNumber() const { return wholePart(currentSpeedInMphOrKph_) == wholePart(minSpeedInMphOrKph_); }
+bool GXSpeedPickerView::isOnMinimumsWholeNumber() const { return wholePart(currentSpeedInMphOrKph()) == wholePart(minSpeedInMphOrKph()); }
 
 NSInteger GXSpeedPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 3; }
 
 NSInteger GXSpeedPickerView::rowsOfTenths() const {
     // 1. The minimum's whole number goes first: a maximum with the same one does not shorten it.
-    if (isOnMinimumsWholeNumber()) return 10 - tenthsDigit(minSpeedInMphOrKph_);
+    if (isOnMinimumsWholeNumber()) return 10 - tenthsDigit(minSpeedInMphOrKph());
     // 2. The maximum's tenth is offered.
-    if (wholePart(currentSpeedInMphOrKph_) == wholePart(maxSpeedInMphOrKph_)) return tenthsDigit(maxSpeedInMphOrKph_) + 1;
+    if (wholePart(currentSpeedInMphOrKph()) == wholePart(maxSpeedInMphOrKph())) return tenthsDigit(maxSpeedInMphOrKph()) + 1;
     // 3. Any other whole number.
     return 10;
 }
@@ -134,7 +113,7 @@ NSInteger GXSpeedPickerView::rowsOfTenths() const {
 NSInteger GXSpeedPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return wrappingAdd<NSInteger>(wholePart(std::floor(maxSpeedInMphOrKph_ - minSpeedInMphOrKph_)), 1);
+        return wrappingAdd<NSInteger>(wholePart(std::floor(maxSpeedInMphOrKph() - minSpeedInMphOrKph())), 1);
     case tenthsComponent:
         return rowsOfTenths();
     default:
@@ -147,10 +126,10 @@ std::optional<std::string> GXSpeedPickerView::pickerView_titleForRow_forComponen
     NSInteger first = 0;
     switch (component) {
     case wholeComponent:
-        first = wholePart(minSpeedInMphOrKph_);
+        first = wholePart(minSpeedInMphOrKph());
         break;
     case tenthsComponent:
-        first = isOnMinimumsWholeNumber() ? tenthsDigit(minSpeedInMphOrKph_) : 0;
+        first = isOnMinimumsWholeNumber() ? tenthsDigit(minSpeedInMphOrKph()) : 0;
         break;
     default:
         return std::nullopt;
@@ -162,41 +141,32 @@ CGFloat GXSpeedPickerView::pickerView_widthForComponent(const Ref<UIPickerView>&
     switch (component) {
     case wholeComponent:
     case tenthsComponent:
-        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, component),
-                                        pickerView ? pickerView : this->pickerView());
+        return widthOfDigits(pickerView, component);
     case separatorComponent:
-        return separatorWidth;
+        return decimalSeparatorWidth;
     default:
-        return unknownWidth;
+        return unknownComponentWidth;
     }
 }
 
 // From the wheel to the value
 
-double GXSpeedPickerView::numberSelectedInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
-    const NSInteger row = selectedRowInComponent(pickerView, component);
-    return doubleValueOfTitle(pickerView_titleForRow_forComponent(pickerView, row, component));
+double GXSpeedPickerView::selectedNumber(const Ref<UIPickerView>& pickerView, NSInteger component) {
+    return doubleValueOfTitle(selectedTitle(pickerView, component));
 }
 
 void GXSpeedPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger, NSInteger) {
     const Ref<GXBasePickerView> keep = self();
-    // The tenths are titled for the value before the turn, as the user saw them.
-    const double whole = numberSelectedInComponent(pickerView, wholeComponent);
-    const double tenths = numberSelectedInComponent(pickerView, tenthsComponent);
+    // The tenths are titled for the value before the selection, as the user saw them.
+    const double whole = selectedNumber(pickerView, wholeComponent);
+    const double tenths = selectedNumber(pickerView, tenthsComponent);
     checkMetricAndInformDelegate(whole + tenths / 10.0);
     reloadComponent(this->pickerView(), tenthsComponent);
     selectCurrentValue();
 }
 
 void GXSpeedPickerView::checkMetricAndInformDelegate(double speed) {
-    const Ref<GXBasePickerView> keep = self();
-    double value = isMetric() ? kphToMps(speed) : mphToMps(speed);
-    const double maximum = maxValue().doubleValue();
-    const double minimum = minValue().doubleValue();
-    if (value > maximum) value = maximum;
-    if (value < minimum) value = minimum;
-    setCurrentValue(NSNumber::numberWithDouble(value));
-    informDelegateOfValueChange();
+    setClampedValueAndInformDelegate(isMetric() ? kphToMps(speed) : mphToMps(speed));
 }
 
 // From the value to the wheel
@@ -204,24 +174,24 @@ void GXSpeedPickerView::checkMetricAndInformDelegate(double speed) {
 void GXSpeedPickerView::selectCurrentValue() {
     const Ref<GXBasePickerView> keep = self();
     // The difference is cut off, not the two speeds: 6.2 above a minimum of 5.5 is on the row of 5.
-    const NSInteger above = wholePart(std::max(currentSpeedInMphOrKph_ - minSpeedInMphOrKph_, 0.0));
+    const NSInteger above = wholePart(std::max(currentSpeedInMphOrKph() - minSpeedInMphOrKph(), 0.0));
     const NSInteger wholeRow = quotient(above, stepSize().integerValue());
     selectRow_inComponent(pickerView(), wholeRow, wholeComponent);
-    std::int32_t tenthsRow = tenthsDigit(currentSpeedInMphOrKph_);
-    // On the first row the minimum is divided by ten here, and not multiplied as for the tenths offered: with the minimum 5.5, 6.2 is on
-    // row 2 − 1.
-    if (wholeRow == 0) tenthsRow -= truncateTo<std::int32_t>(std::round(minSpeedInMphOrKph_ / 10.0)) % 10;
+    std::int32_t tenthsRow = tenthsDigit(currentSpeedInMphOrKph());
+    // On the first row the minimum is divided by ten here, and not multiplied as for the tenths
+    // offered: with the minimum 5.5, 6.2 is on row 2 − 1.
+    if (wholeRow == 0) tenthsRow -= truncateTo<std::int32_t>(std::round(minSpeedInMphOrKph() / 10.0)) % 10;
     selectRow_inComponent(pickerView(), tenthsRow, tenthsComponent);
 }
 
-// Answers to a screen reader
+// Accessibility texts
 
-std::optional<GXSpokenName> GXSpeedPickerView::spokenPartOfComponent(NSInteger component) {
+std::optional<GXAccessibilityName> GXSpeedPickerView::accessibilityPartOfComponent(NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return isMetric() ? GXSpokenName::KilometresPerHour : GXSpokenName::MilesPerHour;
+        return isMetric() ? GXAccessibilityName::KilometresPerHour : GXAccessibilityName::MilesPerHour;
     case tenthsComponent:
-        return GXSpokenName::Tenths;
+        return GXAccessibilityName::Tenths;
     default:
         return std::nullopt;
     }
@@ -229,9 +199,9 @@ std::optional<GXSpokenName> GXSpeedPickerView::spokenPartOfComponent(NSInteger c
 
 std::optional<std::string> GXSpeedPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                NSInteger component) {
-    const SpokenRow at = {row, component};
-    return spokenQuantity(spokenNumber(wholeComponent, spokenTitle(tenthsComponent, at), at),
-                          isMetric() ? GXSpokenUnit::KilometrePerHour : GXSpokenUnit::MilePerHour);
+    const RowInComponent at = {row, component};
+    return accessibilityQuantity(reportedNumber(wholeComponent, reportedTitle(tenthsComponent, at), at),
+                                 isMetric() ? GXAccessibilityUnit::KilometrePerHour : GXAccessibilityUnit::MilePerHour);
 }
 
 } // namespace gx

@@ -5,40 +5,45 @@
 
 namespace gx {
 
-/// Picks a speed to one decimal place, in kilometres or miles per hour: a wheel of whole numbers, the locale's decimal separator and a
-/// wheel of tenths. From 0 to 50 km/h, starting at 10 km/h, in miles per hour until `setIsMetric`.
+/// Picks a speed to one decimal place, in kilometres or miles per hour: a component of whole
+/// numbers, the locale's decimal separator and a component of tenths. From 0 to 50 km/h, starting
+/// at 10 km/h, in miles per hour until `setIsMetric`.
 ///
-/// Values are metres per second in both unit systems, any boxed number; a turn stores a boxed double. Beside them the picker keeps copies
-/// in the unit shown, and all rows are worked out from those; each setter of a value and of the unit system refreshes them. What the user
-/// turns to is held to the range, what the application sets is not: its rows are handed to the wheel as they are, also negative ones.
-/// Empty and NaN numbers read as row 0, and what is too large for a row or a tenth is held to the integers there are.
+/// Values are metres per second in both unit systems, any boxed number. Beside them the picker
+/// keeps copies in the unit shown, and all rows are worked out from those; each setter of a value
+/// and of the unit system refreshes them.
+/// - A selection by the user stores a boxed double, clamped to the range.
+/// - What the application sets is not clamped: its rows are passed to the wheel as they are, also
+///   negative ones.
+/// - Empty and NaN numbers read as row 0, and what is too large for a row or a tenth is clamped to
+///   the integers there are.
 ///
-/// The delegate is told once after each turn, for component 0, whatever column was turned.
+/// The delegate is notified once after each selection, for component 0, whatever the component.
 ///
 /// Where the rules look uneven, the user sees this:
-/// - The conversion factors are rounded decimals. A whole number of miles per hour comes back a hair lower, so picking 5.0 mph shows
-///   4.0 afterwards, while 5.0 km/h stays. The stored value is the one that was picked.
-/// - With a minimum that has tenths, the row of whole numbers goes by the difference to the minimum, and can be one below the value's
-///   own; on the first row, the tenths are moved by a tenth of the minimum, rounded, although they begin at the minimum's tenths.
-/// - Rows of whole numbers are 1 apart whatever `stepSize` is, while selecting divides by it: leave it at 1.
+/// - The conversion factors are rounded decimals. A whole number of miles per hour comes back a
+///   hair lower, so picking 5.0 mph shows 4.0 afterwards, while 5.0 km/h stays. The stored value is
+///   the one that was picked.
+/// - With a minimum that has tenths, the row of whole numbers goes by the difference to the
+///   minimum, and can be one below the value's own; on the first row, the tenths are moved by a
+///   tenth of the minimum, rounded, although they begin at the minimum's tenths.
+/// - Rows of whole numbers are 1 apart whatever `stepSize` is, while selecting divides by it: leave
+///   it at 1.
 class GXSpeedPickerView : public GXBasePickerView {
 public:
-    bool initWithFrame(CGRect frame) override;
-    bool initWithCoder(const Ref<NSCoder>& coder) override;
-    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
-
-    /// The values in the unit shown. The setters store only; the next setter of the value itself overwrites them.
-    double minSpeedInMphOrKph() const { return minSpeedInMphOrKph_; }
+    /// The values in the unit shown. The setters store only; the next setter of the value itself
+    /// overwrites them.
+    virtual double minSpeedInMphOrKph() const { return minSpeedInMphOrKph_; }
     virtual void setMinSpeedInMphOrKph(double speed) { minSpeedInMphOrKph_ = speed; }
-    double maxSpeedInMphOrKph() const { return maxSpeedInMphOrKph_; }
+    virtual double maxSpeedInMphOrKph() const { return maxSpeedInMphOrKph_; }
     virtual void setMaxSpeedInMphOrKph(double speed) { maxSpeedInMphOrKph_ = speed; }
-    double currentSpeedInMphOrKph() const { return currentSpeedInMphOrKph_; }
+    virtual double currentSpeedInMphOrKph() const { return currentSpeedInMphOrKph_; }
     virtual void setCurrentSpeedInMphOrKph(double speed) { currentSpeedInMphOrKph_ = speed; }
 
-    /// Names the unit. Held strongly; made when first asked for, for the unit system of that moment, and switched by `setIsMetric`. The
-    /// setter stores only.
-    const Ref<GXSpeedFormatter>& speedFormatter();
-    void setSpeedFormatter(Ref<GXSpeedFormatter> formatter) { speedFormatter_ = std::move(formatter); }
+    /// Names the unit. Held strongly; made when first asked for, for the unit system of that
+    /// moment, and switched by `setIsMetric`. The setter stores only.
+    virtual Ref<GXSpeedFormatter> speedFormatter();
+    virtual void setSpeedFormatter(Ref<GXSpeedFormatter> formatter) { speedFormatter_ = std::move(formatter); }
 
     /// Metres per second. Each refreshes its copy first, also for the box that is stored already.
     void setMinValue(NSNumber value) override;
@@ -51,13 +56,14 @@ public:
     virtual double mpsToMph(double speed) const;
     virtual double kphToMps(double speed) const;
     virtual double mphToMps(double speed) const;
-    /// Takes a speed in the unit shown: converts it, holds it to the range (the minimum, should it lie above the maximum), sets it and
-    /// informs the delegate.
+    /// Takes a speed in the unit shown: converts it, clamps it to the range (the minimum, should it
+    /// lie above the maximum), sets it and informs the delegate.
     virtual void checkMetricAndInformDelegate(double speed);
 
     void selectCurrentValue() override;
 
-    // Answers to the wheel. Components: whole numbers, separator, tenths; any other one is a row without a title.
+    // What the wheel asks. Components: whole numbers, separator, tenths; any other one is a row
+    // without a title.
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
@@ -71,16 +77,21 @@ public:
                                                                                 NSInteger component) override;
 
 protected:
-    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Speed; }
-    std::optional<GXSpokenName> spokenPartOfComponent(NSInteger component) override;
+    void didInitialize() override {
+        GXBasePickerView::didInitialize();
+        initGXSpeedPickerView();
+    }
+    virtual void initGXSpeedPickerView();
+    void showTexts() override;
+    std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Speed; }
+    std::optional<GXAccessibilityName> accessibilityPartOfComponent(NSInteger component) override;
 
 private:
-    void initGXSpeedPickerView();
     void showUnit();
     double displayed(const NSNumber& value) const;
     bool isOnMinimumsWholeNumber() const;
     NSInteger rowsOfTenths() const;
-    double numberSelectedInComponent(const Ref<UIPickerView>& pickerView, NSInteger component);
+    double selectedNumber(const Ref<UIPickerView>& pickerView, NSInteger component);
 
     double minSpeedInMphOrKph_ = 0;
     double maxSpeedInMphOrKph_ = 0;

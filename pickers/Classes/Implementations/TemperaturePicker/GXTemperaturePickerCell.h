@@ -4,13 +4,14 @@
 
 namespace gx {
 
-/// A table cell with a `GXTemperaturePickerView`, its rows as high as the style sheet says when the cell is made.
+/// A table cell with a `GXTemperaturePickerView`, its rows as high as the style sheet says when the
+/// cell is made.
 class GXTemperaturePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXTemperaturePickerCell();
+    virtual void initGXTemperaturePickerCell();
 
 protected:
     void makePicker() override { initGXTemperaturePickerCell(); }

@@ -1,8 +1,9 @@
 #include "GXTemperaturePickerView.h"
 
+#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
 #include "GXUnitConverter.h"
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 #include "NSArithmetic.h"
 
 namespace gx {
@@ -15,24 +16,6 @@ float inFahrenheit(const NSNumber& wholeCelsius) {
 
 } // namespace
 
-bool GXTemperaturePickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXTemperaturePickerView();
-    return true;
-}
-
-bool GXTemperaturePickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXTemperaturePickerView();
-    return true;
-}
-
-bool GXTemperaturePickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
-    initGXTemperaturePickerView();
-    return true;
-}
-
 void GXTemperaturePickerView::initGXTemperaturePickerView() {
     setMinValue(NSNumber::numberWithInteger(-20));
     setMaxValue(NSNumber::numberWithInteger(60));
@@ -42,9 +25,13 @@ void GXTemperaturePickerView::initGXTemperaturePickerView() {
 }
 
 void GXTemperaturePickerView::updateTemperaturUnitLabel() {
+    const Ref<GXBasePickerView> keep = self();
     const std::string unit = isMetric() ? "°C" : "°F";
-    setRightLabelText(pickerView(), GXLocalization::sharedLocalization()->localizedStringWithKey_comment(unit, unit));
+    const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
+    setRightLabelText(pickerView(), localization->localizedStringWithKey_comment(unit, unit));
 }
+
+void GXTemperaturePickerView::showTexts() { updateTemperaturUnitLabel(); }
 
 void GXTemperaturePickerView::setIsMetric(bool isMetric) {
     if (isMetric == this->isMetric()) return;
@@ -78,7 +65,7 @@ void GXTemperaturePickerView::selectCurrentValue() {
     selectRow_inComponent(pickerView(), quotient(distance, stepSize().integerValue()), 0);
 }
 
-// Answers to the wheel
+// What the wheel asks
 
 NSInteger GXTemperaturePickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
     if (isMetric()) return GXBasePickerView::pickerView_numberOfRowsInComponent(pickerView, component);
@@ -98,12 +85,12 @@ void GXTemperaturePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPi
     informDelegateOfValueChange();
 }
 
-// Answers to a screen reader
+// Accessibility texts
 
 std::optional<std::string> GXTemperaturePickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&,
                                                                                                      NSInteger row, NSInteger component) {
-    return spokenQuantity({spokenTitle(component, {row, component}), {}, {}},
-                          isMetric() ? GXSpokenUnit::DegreeCelsius : GXSpokenUnit::DegreeFahrenheit);
+    return accessibilityQuantity({reportedTitle(component, {row, component}), {}, {}},
+                                 isMetric() ? GXAccessibilityUnit::DegreeCelsius : GXAccessibilityUnit::DegreeFahrenheit);
 }
 
 } // namespace gx

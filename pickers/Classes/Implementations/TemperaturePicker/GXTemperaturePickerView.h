@@ -4,49 +4,59 @@
 
 namespace gx {
 
-/// Picks a temperature in whole degrees: -20 to 55 °C in steps of 5, starting at 20 °C, or with `isMetric` false (the default) the same
-/// range as -4 to 131 °F.
+/// Picks a temperature in whole degrees: -20 to 55 °C in steps of 5, starting at 20 °C, or with
+/// `isMetric` false (the default) the same range as -4 to 131 °F.
 ///
-/// Minimum, maximum, step and current value are degrees Celsius in both units; only the wheel changes with the unit. The bounds and the
-/// step are read by their integer parts. A value that was picked is a boxed float.
+/// Minimum, maximum, step and current value are degrees Celsius in both units; only the wheel
+/// changes with the unit. The bounds and the step are read by their integer parts. A value that was
+/// picked is a boxed float.
 ///
-/// The Fahrenheit rows begin at the Fahrenheit equivalent of the minimum and lie the step apart in Fahrenheit degrees, so that their titles
-/// are as even as the Celsius ones. They do not lie where the Celsius rows do: a value is shown on the row at or below it, and picking that
-/// row in the other unit can change it by part of a step (20 °C shows as 66 °F, and 66 °F, once picked, as 15 °C). Where the minimum is no
-/// whole degree of Fahrenheit, sums of fractions in single precision can end below the row that was picked: the value stays as picked, and
-/// the wheel shows the row before (from -16 °C in steps of 2, 65 °F goes back to 63).
+/// The Fahrenheit rows begin at the Fahrenheit equivalent of the minimum and lie the step apart in
+/// Fahrenheit degrees, so that their titles are as even as the Celsius ones. They do not lie where
+/// the Celsius rows do:
+/// - A value is shown on the row at or below it, and picking that row in the other unit can change
+///   it by part of a step: 20 °C shows as 66 °F, and 66 °F, once picked, as 15 °C.
+/// - Where the minimum is no whole degree of Fahrenheit, sums of fractions in single precision can
+///   end below the row that was picked: the value stays as picked, and the wheel shows the row
+///   before (from -16 °C in steps of 2, 65 °F goes back to 63).
 ///
-/// Nothing is clamped: a value below the minimum asks the wheel for a negative row, one above the maximum for a row beyond the last.
+/// Nothing is clamped: a value below the minimum asks the wheel for a negative row, one above the
+/// maximum for a row beyond the last.
 class GXTemperaturePickerView : public GXBasePickerView {
 public:
-    bool initWithFrame(CGRect frame) override;
-    bool initWithCoder(const Ref<NSCoder>& coder) override;
-    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
-
-    /// Celsius or Fahrenheit. The current value stays what it is, in degrees Celsius. The flag that is set already does nothing.
+    /// Celsius or Fahrenheit. The current value stays what it is, in degrees Celsius. The flag that
+    /// is set already does nothing.
     void setIsMetric(bool isMetric) override;
     /// Puts "°C" or "°F" beside the wheel, in the user's language of this moment.
     virtual void updateTemperaturUnitLabel();
 
-    /// Turns the wheel to the row at or below the current value, fractions of a degree cut off in Celsius and kept in Fahrenheit.
+    /// Turns the wheel to the row at or below the current value, fractions of a degree cut off in
+    /// Celsius and kept in Fahrenheit.
     void selectCurrentValue() override;
 
-    // Answers to the wheel
+    // What the wheel asks
 
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    /// In Fahrenheit the whole part of the row's temperature, toward zero: a minimum of -0.4 °F gives 0, 4, 9 and so on.
+    /// In Fahrenheit the whole part of the row's temperature, toward zero: a minimum of -0.4 °F
+    /// gives 0, 4, 9 and so on.
     std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                    NSInteger component) override;
-    /// Stores the row's temperature, its fraction in Fahrenheit included, selects it and informs the delegate in degrees Celsius.
+    /// Stores the row's temperature, its fraction in Fahrenheit included, selects it and informs
+    /// the delegate in degrees Celsius.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
     std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                                 NSInteger component) override;
 
 protected:
-    std::optional<GXSpokenName> spokenMeasurement() const override { return GXSpokenName::Temperature; }
+    void didInitialize() override {
+        GXBasePickerView::didInitialize();
+        initGXTemperaturePickerView();
+    }
+    virtual void initGXTemperaturePickerView();
+    void showTexts() override;
+    std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Temperature; }
 
 private:
-    void initGXTemperaturePickerView();
     float celsiusOfRow(NSInteger row) const;
     float fahrenheitOfRow(NSInteger row) const;
     float minimumInFahrenheit() const;

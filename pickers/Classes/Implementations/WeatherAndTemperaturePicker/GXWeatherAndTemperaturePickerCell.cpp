@@ -6,8 +6,6 @@ namespace gx {
 
 std::string GXWeatherAndTemperaturePickerCell::cellIdentifier() { return "GXWeatherAndTemperaturePickerCellIdentifier"; }
 
-void GXWeatherAndTemperaturePickerCell::initGXWeatherAndTemperatureCell() {
-    showPicker(create<GXWeatherAndTemperaturePickerView>(bounds()));
-}
+void GXWeatherAndTemperaturePickerCell::initGXWeatherAndTemperatureCell() { showNewPicker<GXWeatherAndTemperaturePickerView>(); }
 
 } // namespace gx

@@ -11,7 +11,7 @@ public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXWeatherAndTemperatureCell();
+    virtual void initGXWeatherAndTemperatureCell();
 
 protected:
     void makePicker() override { initGXWeatherAndTemperatureCell(); }

@@ -6,45 +6,38 @@ namespace gx {
 
 namespace {
 
-/// Where before the middle the two pickers meet: an icon needs less room than a number and its unit. Prescribed by the product.
+/// Where before the middle the two pickers meet: an icon needs less room than a number and its
+/// unit. Prescribed by the product.
 constexpr CGFloat seamBeforeMiddle = 30;
-
-float imageRowHeight() { return static_cast<float>(GXStyleSheet::globalStyleSheet()->pickerImageRowHeight()); }
 
 } // namespace
 
-bool GXWeatherAndTemperaturePickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXWeatherAndTemperaturePickerViewWithRowHeight(imageRowHeight());
-    return true;
-}
-
-bool GXWeatherAndTemperaturePickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXWeatherAndTemperaturePickerViewWithRowHeight(imageRowHeight());
-    return true;
-}
-
-bool GXWeatherAndTemperaturePickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    // The height is that of the inner pickers' rows; this one has none.
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXWeatherAndTemperaturePickerViewWithRowHeight(rowHeight);
-    return true;
-}
-
 void GXWeatherAndTemperaturePickerView::initGXBasePickerView() {}
 
+void GXWeatherAndTemperaturePickerView::didInitialize() {
+    GXBasePickerView::didInitialize();
+    const auto imageRowHeight = [] { return static_cast<float>(GXStyleSheet::globalStyleSheet()->pickerImageRowHeight()); };
+    const std::optional<float> given = givenRowHeight();
+    initGXWeatherAndTemperaturePickerViewWithRowHeight(given ? *given : imageRowHeight());
+}
+
+float GXWeatherAndTemperaturePickerView::initialRowHeight() const {
+    return static_cast<float>(GXStyleSheet::globalStyleSheet()->pickerRowHeight());
+}
+
 void GXWeatherAndTemperaturePickerView::initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight) {
-    weatherPicker_ = create<GXIconPickerView>(weatherFrame(), rowHeight);
-    temperaturePicker_ = create<GXTemperaturePickerView>(temperatureFrame(), rowHeight);
-    addSubview(weatherPicker_);
-    addSubview(temperaturePicker_);
+    const Ref<GXIconPickerView> weather = create<GXIconPickerView>(weatherFrame(), rowHeight);
+    setWeatherPicker(weather);
+    const Ref<GXTemperaturePickerView> temperature = create<GXTemperaturePickerView>(temperatureFrame(), rowHeight);
+    setTemperaturePicker(temperature);
+    addSubview(weather);
+    addSubview(temperature);
 }
 
 std::vector<Ref<GXBasePickerView>> GXWeatherAndTemperaturePickerView::innerPickers() const {
     std::vector<Ref<GXBasePickerView>> pickers;
-    if (weatherPicker_) pickers.push_back(weatherPicker_);
-    if (temperaturePicker_) pickers.push_back(temperaturePicker_);
+    if (weatherPicker()) pickers.push_back(weatherPicker());
+    if (temperaturePicker()) pickers.push_back(temperaturePicker());
     return pickers;
 }
 
@@ -57,27 +50,28 @@ CGRect GXWeatherAndTemperaturePickerView::temperatureFrame() const {
     return CGRectMake(middle - seamBeforeMiddle, 0, middle + seamBeforeMiddle, CGRectGetHeight(bounds()));
 }
 
-// In each of these the inner pickers are held by copies: what is told to the first may replace it, or the second.
+// In each of these the inner pickers are held by copies: what is told to the first may replace it,
+// or the second.
 
 void GXWeatherAndTemperaturePickerView::setFrame(CGRect frame) {
     const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setFrame(frame);
-    if (const Ref<GXIconPickerView> picker = weatherPicker_) picker->setFrame(weatherFrame());
-    if (const Ref<GXTemperaturePickerView> picker = temperaturePicker_) picker->setFrame(temperatureFrame());
+    if (const Ref<GXIconPickerView> picker = weatherPicker()) picker->setFrame(weatherFrame());
+    if (const Ref<GXTemperaturePickerView> picker = temperaturePicker()) picker->setFrame(temperatureFrame());
 }
 
 void GXWeatherAndTemperaturePickerView::setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) {
     const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setDelegate(delegate);
-    if (const Ref<GXIconPickerView> picker = weatherPicker_) picker->setDelegate(delegate);
-    if (const Ref<GXTemperaturePickerView> picker = temperaturePicker_) picker->setDelegate(delegate);
+    if (const Ref<GXIconPickerView> picker = weatherPicker()) picker->setDelegate(delegate);
+    if (const Ref<GXTemperaturePickerView> picker = temperaturePicker()) picker->setDelegate(delegate);
 }
 
 void GXWeatherAndTemperaturePickerView::setIsMetric(bool isMetric) {
     const Ref<GXBasePickerView> keep = self();
     GXBasePickerView::setIsMetric(isMetric);
-    if (const Ref<GXIconPickerView> picker = weatherPicker_) picker->setIsMetric(isMetric);
-    if (const Ref<GXTemperaturePickerView> picker = temperaturePicker_) picker->setIsMetric(isMetric);
+    if (const Ref<GXIconPickerView> picker = weatherPicker()) picker->setIsMetric(isMetric);
+    if (const Ref<GXTemperaturePickerView> picker = temperaturePicker()) picker->setIsMetric(isMetric);
 }
 
 } // namespace gx

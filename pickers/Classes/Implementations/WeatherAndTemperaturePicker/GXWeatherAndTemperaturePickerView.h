@@ -5,35 +5,34 @@
 
 namespace gx {
 
-/// Picks a workout's weather: an icon and a temperature, on two pickers side by side with rows of the same height.
+/// Picks a workout's weather: an icon and a temperature, on two pickers side by side with rows of
+/// the same height.
 ///
-/// It has no wheel and no numbers of its own: the images, the chosen index and the temperature belong to the inner pickers and are set
-/// there. Its own setters of numbers and fonts only store, and show nothing.
+/// It has no wheel and no numbers of its own: the images, the chosen index and the temperature
+/// belong to the inner pickers and are set there. Its own setters of numbers and fonts only store,
+/// and show nothing.
 ///
-/// It tells nobody anything, but hands its delegate to the inner pickers. They report to it straight, each as the sender and for component
-/// 0, so compare the sender with `weatherPicker` and `temperaturePicker`. Before `setDelegate`, nothing is reported.
+/// It tells nobody anything, but hands its delegate to the inner pickers. They report to it
+/// straight, each as the sender and for component 0, so compare the sender with `weatherPicker` and
+/// `temperaturePicker`. Before `setDelegate`, nothing is reported.
 ///
-/// The two meet 30 points left of the middle. In less than 60 points there is no room for the icons: the weather picker's frame then has a
-/// negative width.
+/// The two meet 30 points left of the middle. In less than 60 points there is no room for the
+/// icons: the weather picker's frame then has a negative width.
 class GXWeatherAndTemperaturePickerView : public GXBasePickerView {
 public:
-    /// Rows are as high as the style sheet says of images at this moment.
-    bool initWithFrame(CGRect frame) override;
-    bool initWithCoder(const Ref<NSCoder>& coder) override;
-    /// The rows of both inner pickers are `rowHeight` points high.
-    bool initWithFrame_rowHeight(CGRect frame, float rowHeight) override;
-
-    /// Held strongly. It has no rows until it is given its images. The setters of both pickers store only: neither subviews nor frames,
-    /// delegate or unit system follow. Without one, what concerns it does nothing.
-    const Ref<GXIconPickerView>& weatherPicker() const { return weatherPicker_; }
-    void setWeatherPicker(Ref<GXIconPickerView> picker) { weatherPicker_ = std::move(picker); }
-    const Ref<GXTemperaturePickerView>& temperaturePicker() const { return temperaturePicker_; }
-    void setTemperaturePicker(Ref<GXTemperaturePickerView> picker) { temperaturePicker_ = std::move(picker); }
+    /// Held strongly. It has no rows until it is given its images. The setters of both pickers
+    /// store only: neither subviews nor frames, delegate or unit system follow. Without one, what
+    /// concerns it does nothing.
+    virtual const Ref<GXIconPickerView>& weatherPicker() const { return weatherPicker_; }
+    virtual void setWeatherPicker(Ref<GXIconPickerView> picker) { weatherPicker_ = std::move(picker); }
+    virtual const Ref<GXTemperaturePickerView>& temperaturePicker() const { return temperaturePicker_; }
+    virtual void setTemperaturePicker(Ref<GXTemperaturePickerView> picker) { temperaturePicker_ = std::move(picker); }
 
     /// Places the inner pickers by the new bounds.
     void setFrame(CGRect frame) override;
     /// Also hands the delegate, or nothing, to the inner pickers.
     void setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) override;
+    using GXBasePickerView::setDelegate;
     /// Also sets the flag of the inner pickers; the weather picker only stores it.
     void setIsMetric(bool isMetric) override;
 
@@ -41,9 +40,14 @@ protected:
     /// Does nothing, so that there is neither a wheel nor a range.
     void initGXBasePickerView() override;
     std::vector<Ref<GXBasePickerView>> innerPickers() const override;
+    void didInitialize() override;
+    /// Makes the inner pickers. Their rows are as high as the initialiser was told, else as the
+    /// style sheet says of images.
+    virtual void initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight);
+    /// The style sheet's, also where the initialiser was told one: that is the inner pickers'.
+    float initialRowHeight() const override;
 
 private:
-    void initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight);
     CGRect weatherFrame() const;
     CGRect temperatureFrame() const;
 

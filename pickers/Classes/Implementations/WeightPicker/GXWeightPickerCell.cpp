@@ -8,6 +8,7 @@ namespace gx {
 std::string GXWeightPickerCell::cellIdentifier() { return "GXWeightPickerCell"; }
 
 void GXWeightPickerCell::initGXWeightPickerCell() {
+    const Ref<UIView> keep = refTo<UIView>(this);
     setPickerView(create<GXWeightPickerView>(bounds()));
     addPinnedPicker(contentView(), pickerView());
 }

@@ -4,13 +4,14 @@
 
 namespace gx {
 
-/// A table cell with a `GXWeightPickerView`, pinned to the content view: whatever moves it, the next layout makes it fill that again.
+/// A table cell with a `GXWeightPickerView`, pinned to the content view: whatever moves it, the
+/// next layout makes it fill that again.
 class GXWeightPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.
-    void initGXWeightPickerCell();
+    virtual void initGXWeightPickerCell();
 
 protected:
     void makePicker() override { initGXWeightPickerCell(); }

@@ -2,23 +2,21 @@
 
 #include <cmath>
 
+#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerComponents.h"
 #include "GXUnitConverter.h"
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 #include "NSArithmetic.h"
-#include "NSLocale.h"
 
 namespace gx {
 
 namespace {
 
-constexpr NSInteger wholeColumn = 0;
-constexpr NSInteger separatorColumn = 1;
-constexpr NSInteger tenthsColumn = 2;
-constexpr NSInteger unitColumn = 3;
+/// Where other pickers have the hundredths.
+constexpr NSInteger unitComponent = hundredthsComponent;
 
-// What the product prescribes for the columns.
-constexpr CGFloat separatorWidth = 3;
+// Widths in points. Prescribed by the product.
 constexpr CGFloat tenthsWidth = 20;
 constexpr CGFloat unitWidth = 60;
 
@@ -79,14 +77,14 @@ std::optional<std::string> nameOfUnit(GXWeightUnit unit) {
 
 // A unit that is none of the three is shown like stones.
 
-GXSpokenUnit spokenUnit(GXWeightUnit unit) {
-    if (unit == GXWeightUnitKilogram) return GXSpokenUnit::Kilogram;
-    return unit == GXWeightUnitPound ? GXSpokenUnit::Pound : GXSpokenUnit::Stone;
+GXAccessibilityUnit spokenUnit(GXWeightUnit unit) {
+    if (unit == GXWeightUnitKilogram) return GXAccessibilityUnit::Kilogram;
+    return unit == GXWeightUnitPound ? GXAccessibilityUnit::Pound : GXAccessibilityUnit::Stone;
 }
 
-GXSpokenName spokenNameOfUnit(GXWeightUnit unit) {
-    if (unit == GXWeightUnitKilogram) return GXSpokenName::Kilograms;
-    return unit == GXWeightUnitPound ? GXSpokenName::Pounds : GXSpokenName::Stones;
+GXAccessibilityName spokenNameOfUnit(GXWeightUnit unit) {
+    if (unit == GXWeightUnitKilogram) return GXAccessibilityName::Kilograms;
+    return unit == GXWeightUnitPound ? GXAccessibilityName::Pounds : GXAccessibilityName::Stones;
 }
 
 bool isKnown(GXWeightUnit unit) { return unit <= GXWeightUnitStone; }
@@ -98,29 +96,17 @@ GXWeightUnit unitOfRow(NSInteger row) {
 
 } // namespace
 
-bool GXWeightPickerView::initWithFrame(CGRect frame) {
-    if (!GXBasePickerView::initWithFrame(frame)) return false;
-    initGXWeightPickerView();
-    return true;
-}
-
-bool GXWeightPickerView::initWithCoder(const Ref<NSCoder>& coder) {
-    if (!GXBasePickerView::initWithCoder(coder)) return false;
-    initGXWeightPickerView();
-    return true;
-}
-
-bool GXWeightPickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
-    if (!GXBasePickerView::initWithFrame_rowHeight(frame, rowHeight)) return false;
-    initGXWeightPickerView();
-    return true;
-}
-
 void GXWeightPickerView::initGXWeightPickerView() {
     setWeightUnitSelectable(false);
     updateMinMaxWeight();
-    setSeparatorText_afterComponent(pickerView(), NSLocale::currentLocale()->objectForKey(NSLocaleDecimalSeparator), wholeColumn);
+    showDecimalSeparator(pickerView());
     reloadAllComponents(pickerView());
+}
+
+void GXWeightPickerView::showTexts() {
+    const Ref<GXBasePickerView> keep = self();
+    updateCurrentRightLabel();
+    showDecimalSeparator(pickerView());
 }
 
 // The unit
@@ -140,16 +126,18 @@ void GXWeightPickerView::setWeightUnitSelectable(bool selectable) {
 }
 
 void GXWeightPickerView::updateCurrentRightLabel() {
-    if (weightUnitSelectable_) {
+    const Ref<GXBasePickerView> keep = self();
+    if (weightUnitSelectable()) {
         setRightLabelText(pickerView(), std::nullopt);
-    } else if (isKnown(weightUnit_)) {
-        setRightLabelText(pickerView(), nameOfUnit(weightUnit_));
+    } else if (isKnown(weightUnit())) {
+        const std::optional<std::string> name = nameOfUnit(weightUnit());
+        setRightLabelText(pickerView(), name);
     }
 }
 
 void GXWeightPickerView::updateMinMaxWeight() {
     const Ref<GXBasePickerView> keep = self();
-    switch (weightUnit_) {
+    switch (weightUnit()) {
     case GXWeightUnitKilogram:
         setMinValue(NSNumber::numberWithInt(15));
         setMaxValue(NSNumber::numberWithInt(350));
@@ -168,34 +156,35 @@ void GXWeightPickerView::updateMinMaxWeight() {
 void GXWeightPickerView::selectCurrentValue() {
     const Ref<GXBasePickerView> keep = self();
     if (currentValue().floatValue() < minValue().floatValue()) return;
-    float weight = weightInUnit(currentValue().floatValue(), weightUnit_);
-    // Pounds alone are held to the wheel; kilograms and stones beyond it keep their value.
+    float weight = weightInUnit(currentValue().floatValue(), weightUnit());
+    // Pounds alone are clamped to the wheel; kilograms and stones beyond it keep their value.
     if (weightUnit_ == GXWeightUnitPound && weight > endOfPounds) {
         setCurrentValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(lastPounds)));
         weight = lastPounds;
     }
     const float whole = std::floor(weight);
-    const auto row = truncateTo<NSInteger>(whole - static_cast<float>(wholeNumbersOf(weightUnit_).first));
-    // A fraction of 0.95 or more is tenth 10, which the wheel shows as 9: 72.96 kg reads 72.9 and not 73.0.
+    const auto row = truncateTo<NSInteger>(whole - static_cast<float>(wholeNumbersOf(weightUnit()).first));
+    // A fraction of 0.95 or more is tenth 10, which the wheel shows as 9: 72.96 kg reads 72.9 and
+    // not 73.0.
     const auto tenth = truncateTo<NSInteger>(std::round((weight - whole) * 10.0F));
-    selectRow_inComponent(pickerView(), row, wholeColumn);
-    selectRow_inComponent(pickerView(), tenth, tenthsColumn);
-    if (weightUnitSelectable_ && isKnown(weightUnit_)) {
-        selectRow_inComponent(pickerView(), static_cast<NSInteger>(weightUnit_), unitColumn);
+    selectRow_inComponent(pickerView(), row, wholeComponent);
+    selectRow_inComponent(pickerView(), tenth, tenthsComponent);
+    if (weightUnitSelectable() && isKnown(weightUnit())) {
+        selectRow_inComponent(pickerView(), static_cast<NSInteger>(weightUnit()), unitComponent);
     }
 }
 
-// Answers to the wheel
+// What the wheel asks
 
-NSInteger GXWeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return weightUnitSelectable_ ? 4 : 3; }
+NSInteger GXWeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return weightUnitSelectable() ? 4 : 3; }
 
 NSInteger GXWeightPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
     switch (component) {
-    case wholeColumn:
-        return wholeNumbersOf(weightUnit_).rows;
-    case separatorColumn:
+    case wholeComponent:
+        return wholeNumbersOf(weightUnit()).rows;
+    case separatorComponent:
         return 1;
-    case tenthsColumn:
+    case tenthsComponent:
         return 10;
     default:
         return 3;
@@ -205,12 +194,13 @@ NSInteger GXWeightPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPic
 std::optional<std::string> GXWeightPickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                    NSInteger component) {
     switch (component) {
-    case wholeColumn:
-        return std::to_string(narrowTo32Bits(wrappingAdd(row, wholeNumbersOf(weightUnit_).first)));
-    case tenthsColumn:
+    case wholeComponent:
+        return std::to_string(narrowTo32Bits(wrappingAdd(row, wholeNumbersOf(weightUnit()).first)));
+    case tenthsComponent:
         return std::to_string(narrowTo32Bits(row));
-    case unitColumn:
-        if (const auto name = nameOfUnit(unitOfRow(row))) return "  " + *name; // Apart from the tenths.
+    case unitComponent:
+        // Apart from the tenths.
+        if (const auto name = nameOfUnit(unitOfRow(row))) return "  " + *name;
         return std::nullopt;
     default:
         return std::nullopt;
@@ -219,36 +209,36 @@ std::optional<std::string> GXWeightPickerView::pickerView_titleForRow_forCompone
 
 CGFloat GXWeightPickerView::pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
     switch (component) {
-    case wholeColumn:
-        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, wholeColumn), this->pickerView());
-    case separatorColumn:
-        return separatorWidth;
-    case unitColumn:
+    case wholeComponent:
+        return widthWithinAThirdOfWheel(GXBasePickerView::pickerView_widthForComponent(pickerView, wholeComponent), this->pickerView());
+    case separatorComponent:
+        return decimalSeparatorWidth;
+    case unitComponent:
         return unitWidth;
     default:
         return tenthsWidth;
     }
 }
 
-// The user's turns
+// The user's selections
 
 void GXWeightPickerView::storeWeight(NSInteger wholeRow, NSInteger tenths) {
-    const NSInteger whole = wrappingAdd(wholeRow, wholeNumbersOf(weightUnit_).first);
-    setCurrentValue(boxedKilograms(static_cast<double>(whole) + static_cast<double>(tenths) / 10.0, weightUnit_));
+    const NSInteger whole = wrappingAdd(wholeRow, wholeNumbersOf(weightUnit()).first);
+    setCurrentValue(boxedKilograms(static_cast<double>(whole) + static_cast<double>(tenths) / 10.0, weightUnit()));
 }
 
 void GXWeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) {
     const Ref<GXBasePickerView> keep = self();
     switch (component) {
-    case wholeColumn:
-        storeWeight(row, selectedRowInComponent(pickerView(), tenthsColumn));
+    case wholeComponent:
+        storeWeight(row, selectedRowInComponent(pickerView(), tenthsComponent));
         break;
-    case tenthsColumn:
-        storeWeight(selectedRowInComponent(pickerView(), wholeColumn), row);
+    case tenthsComponent:
+        storeWeight(selectedRowInComponent(pickerView(), wholeComponent), row);
         break;
-    case unitColumn:
+    case unitComponent:
         setWeightUnit(unitOfRow(row));
-        reloadComponent(pickerView(), wholeColumn);
+        reloadComponent(pickerView(), wholeComponent);
         selectCurrentValue();
         break;
     default:
@@ -257,16 +247,16 @@ void GXWeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerV
     informDelegateOfValueChange();
 }
 
-// Answers to a screen reader
+// Accessibility texts
 
-std::optional<GXSpokenName> GXWeightPickerView::spokenPartOfComponent(NSInteger component) {
+std::optional<GXAccessibilityName> GXWeightPickerView::accessibilityPartOfComponent(NSInteger component) {
     switch (component) {
-    case wholeColumn:
-        return spokenNameOfUnit(weightUnit_);
-    case tenthsColumn:
-        return GXSpokenName::Tenths;
-    case unitColumn:
-        return GXSpokenName::Unit;
+    case wholeComponent:
+        return spokenNameOfUnit(weightUnit());
+    case tenthsComponent:
+        return GXAccessibilityName::Tenths;
+    case unitComponent:
+        return GXAccessibilityName::Unit;
     default:
         return std::nullopt;
     }
@@ -274,9 +264,9 @@ std::optional<GXSpokenName> GXWeightPickerView::spokenPartOfComponent(NSInteger 
 
 std::optional<std::string> GXWeightPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                 NSInteger component) {
-    const SpokenRow at = {row, component};
-    const GXWeightUnit unit = component == unitColumn ? unitOfRow(row) : weightUnit_;
-    return spokenQuantity(spokenNumber(wholeColumn, spokenTitle(tenthsColumn, at), at), spokenUnit(unit));
+    const RowInComponent at = {row, component};
+    const GXWeightUnit unit = component == unitComponent ? unitOfRow(row) : weightUnit();
+    return accessibilityQuantity(reportedNumber(wholeComponent, reportedTitle(tenthsComponent, at), at), spokenUnit(unit));
 }
 
 } // namespace gx

@@ -1,9 +1,8 @@
-// What pickers say to a screen reader: the names of their columns and the value that stands on them.
+// Accessibility texts of the pickers: the names of their components and the value that these show.
 
 #include <array>
 
-#include <gtest/gtest.h>
-
+#include "AccessibilityTextTest.h"
 #include "GXBpmPickerView.h"
 #include "GXCaloriesPickerView.h"
 #include "GXDistanceAndDurationPicker.h"
@@ -12,73 +11,15 @@
 #include "GXHeartRatePickerView.h"
 #include "GXHeightPickerView.h"
 #include "GXIconPickerView.h"
-#include "GXLocalization.h"
 #include "GXPacePickerView.h"
 #include "GXSpeedPickerView.h"
 #include "GXTemperaturePickerView.h"
 #include "GXWeightPickerCell.h"
 #include "GXWeightPickerView.h"
-#include "NSLocale.h"
-#include "NSRunLoop.h"
-#include "PickerTest.h"
 
 using namespace gx;
 
-namespace {
-
-constexpr CGRect place = {{0, 0}, {320, 216}};
-
-/// Puts language and locale back.
-struct PickerSpeech : testing::Test {
-    ~PickerSpeech() override {
-        NSLocale::setCurrentLocale(nullptr);
-        GXLocalization::setSharedLocalization(nullptr);
-        NSRunLoop::mainRunLoop()->runPass(); // The height picker sets its unit right there.
-    }
-    static void speak(const std::string& language) {
-        NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier(language));
-        GXLocalization::sharedLocalization()->setLanguage(language);
-    }
-};
-
-using Texts = std::vector<std::string>;
-
-Texts labelsOf(const Ref<UIView>& view) {
-    Texts texts;
-    for (const auto& element : view->accessibilityElements()) texts.push_back(element->label().value_or("(none)"));
-    return texts;
-}
-Texts valuesOf(const Ref<UIView>& view) {
-    Texts texts;
-    for (const auto& element : view->accessibilityElements()) texts.push_back(element->value().value_or("(none)"));
-    return texts;
-}
-/// The one value that all columns say.
-std::string valueOf(const Ref<UIView>& view) {
-    const Texts values = valuesOf(view);
-    EXPECT_FALSE(values.empty());
-    for (const std::string& value : values) EXPECT_EQ(value, values[0]);
-    return values.empty() ? "" : values[0];
-}
-
-template <class Picker>
-Ref<Picker> metricPicker(const NSNumber& value) {
-    const auto picker = create<Picker>(place);
-    picker->setIsMetric(true);
-    picker->setCurrentValue(value);
-    return picker;
-}
-Ref<GXDurationPickerView> durationOfType(NSInteger type, int milliseconds) {
-    const auto picker = create<GXDurationPickerView>(place);
-    picker->setType(type);
-    picker->setSecondsStepSize(1);
-    picker->setCurrentValue(boxed(milliseconds));
-    return picker;
-}
-
-} // namespace
-
-TEST_F(PickerSpeech, Distance) {
+TEST_F(PickerAccessibilityText, Distance) {
     const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
     EXPECT_EQ(labelsOf(picker), (Texts{"Distance, kilometres", "Distance, tenths"}));
     EXPECT_EQ(valueOf(picker), "5.3 kilometres");
@@ -92,14 +33,14 @@ TEST_F(PickerSpeech, Distance) {
     EXPECT_EQ(valueOf(picker), "1.05 miles");
 }
 
-TEST_F(PickerSpeech, DistanceInGerman) {
+TEST_F(PickerAccessibilityText, DistanceInGerman) {
     speak("de");
     const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
     EXPECT_EQ(labelsOf(picker), (Texts{"Distanz, Kilometer", "Distanz, Zehntel"}));
     EXPECT_EQ(valueOf(picker), "5,3 Kilometer");
 }
 
-TEST_F(PickerSpeech, ADistanceIsSaidInEveryLanguage) {
+TEST_F(PickerAccessibilityText, ADistanceHasATextInEveryLanguage) {
     const std::vector<std::array<std::string, 3>> expected = {
         {"en", "Distance, tenths", "5.3 kilometres"},   {"de", "Distanz, Zehntel", "5,3 Kilometer"},
         {"fr", "Distance, dixièmes", "5,3 kilomètres"}, {"es", "Distancia, décimas", "5,3 kilómetros"},
@@ -117,7 +58,7 @@ TEST_F(PickerSpeech, ADistanceIsSaidInEveryLanguage) {
     }
 }
 
-TEST_F(PickerSpeech, ATurnSaysTheWholeMeasurementAnew) {
+TEST_F(PickerAccessibilityText, ASelectionUpdatesTheWholeMeasurement) {
     const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
     picker->accessibilityElements().at(0)->increment();
     EXPECT_EQ(valueOf(picker), "6.3 kilometres");
@@ -126,14 +67,14 @@ TEST_F(PickerSpeech, ATurnSaysTheWholeMeasurementAnew) {
     EXPECT_NEAR(picker->currentValue().doubleValue(), 6200, 1e-6);
 }
 
-TEST_F(PickerSpeech, AnotherRowIsSaidAsIfItsColumnStoodThere) {
+TEST_F(PickerAccessibilityText, AnotherRowIsReadAsIfItsComponentHadSelectedIt) {
     const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
     const Ref<UIPickerView> wheel = picker->pickerView();
     EXPECT_EQ(picker->pickerView_accessibilityValueForRow_forComponent(wheel, 12, 0), "12.3 kilometres");
     EXPECT_EQ(picker->pickerView_accessibilityValueForRow_forComponent(wheel, 9, 2), "5.9 kilometres");
 }
 
-TEST_F(PickerSpeech, ALabelOfTheApplicationsReplacesTheMeasurement) {
+TEST_F(PickerAccessibilityText, ALabelOfTheApplicationsReplacesTheMeasurement) {
     const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
     picker->setAccessibilityLabel("Run");
     EXPECT_EQ(labelsOf(picker), (Texts{"Run, kilometres", "Run, tenths"}));
@@ -142,7 +83,7 @@ TEST_F(PickerSpeech, ALabelOfTheApplicationsReplacesTheMeasurement) {
     EXPECT_EQ(labelsOf(bpm), Texts{"Cadence"});
 }
 
-TEST_F(PickerSpeech, Speed) {
+TEST_F(PickerAccessibilityText, Speed) {
     const auto picker = metricPicker<GXSpeedPickerView>(boxedDouble(12.5 / 3.6));
     EXPECT_EQ(labelsOf(picker), (Texts{"Speed, kilometres per hour", "Speed, tenths"}));
     EXPECT_EQ(valueOf(picker), "12.5 kilometres per hour");
@@ -155,8 +96,9 @@ TEST_F(PickerSpeech, Speed) {
     EXPECT_EQ(valueOf(german), "12,5 Kilometer pro Stunde");
 }
 
-TEST_F(PickerSpeech, Pace) {
-    const auto picker = metricPicker<GXPacePickerView>(boxedDouble(1000.0 / 315)); // 5:15 per kilometre.
+TEST_F(PickerAccessibilityText, Pace) {
+    // 5:15 per kilometre.
+    const auto picker = metricPicker<GXPacePickerView>(boxedDouble(1000.0 / 315));
     EXPECT_EQ(labelsOf(picker), (Texts{"Pace, minutes", "Pace, seconds"}));
     EXPECT_EQ(valueOf(picker), "5 minutes 15 seconds per kilometre");
     picker->setCurrentValue(boxedDouble(1000.0 / 300));
@@ -168,7 +110,7 @@ TEST_F(PickerSpeech, Pace) {
     EXPECT_EQ(valueOf(picker), "8 Minuten pro Meile");
 }
 
-TEST_F(PickerSpeech, Duration) {
+TEST_F(PickerAccessibilityText, Duration) {
     const auto hours = durationOfType(GXDurationTypeHoursMinutes, 80 * 60000);
     EXPECT_EQ(labelsOf(hours), (Texts{"Duration, hours", "Duration, minutes"}));
     EXPECT_EQ(valueOf(hours), "1 hour 20 minutes");
@@ -185,7 +127,7 @@ TEST_F(PickerSpeech, Duration) {
     EXPECT_EQ(valueOf(hours), "1 godzina 20 minut");
 }
 
-TEST_F(PickerSpeech, APartOfADurationThatIsZeroIsNotSaid) {
+TEST_F(PickerAccessibilityText, APartOfADurationThatIsZeroHasNoText) {
     EXPECT_EQ(valueOf(durationOfType(GXDurationTypeHoursMinutes, 3600000)), "1 hour");
     EXPECT_EQ(valueOf(durationOfType(GXDurationTypeHoursMinutes, 300000)), "5 minutes");
     EXPECT_EQ(valueOf(durationOfType(GXDurationTypeHoursMinutesSeconds, 3605000)), "1 hour 5 seconds");
@@ -193,7 +135,7 @@ TEST_F(PickerSpeech, APartOfADurationThatIsZeroIsNotSaid) {
     EXPECT_EQ(valueOf(durationOfType(GXDurationTypeHoursMinutesSeconds, 0)), "0 seconds");
 }
 
-TEST_F(PickerSpeech, HeartRate) {
+TEST_F(PickerAccessibilityText, HeartRate) {
     const auto picker = create<GXHeartRatePickerView>(place);
     picker->setCurrentAvgHeartRate(boxed(142));
     picker->setCurrentMaxHeartRate(boxed(181));
@@ -211,7 +153,7 @@ TEST_F(PickerSpeech, HeartRate) {
     EXPECT_EQ(labelsOf(picker), (Texts{"Pulse, average", "Pulse, maximum"}));
 }
 
-TEST_F(PickerSpeech, BeatsPerMinuteAndCalories) {
+TEST_F(PickerAccessibilityText, BeatsPerMinuteAndCalories) {
     const auto bpm = create<GXBpmPickerView>(place);
     const auto calories = create<GXCaloriesPickerView>(place);
     calories->setCurrentValue(boxed(450));
@@ -226,7 +168,7 @@ TEST_F(PickerSpeech, BeatsPerMinuteAndCalories) {
     EXPECT_EQ(valueOf(calories), "450 Kilokalorien");
 }
 
-TEST_F(PickerSpeech, Weight) {
+TEST_F(PickerAccessibilityText, Weight) {
     const auto picker = create<GXWeightPickerView>(place);
     picker->setCurrentValue(boxedDouble(72.5));
     EXPECT_EQ(labelsOf(picker), (Texts{"Weight, kilograms", "Weight, tenths"}));
@@ -247,7 +189,7 @@ TEST_F(PickerSpeech, Weight) {
     EXPECT_EQ(valueOf(german), "72,5 Kilogramm");
 }
 
-TEST_F(PickerSpeech, Height) {
+TEST_F(PickerAccessibilityText, Height) {
     const auto picker = create<GXHeightPickerView>(place);
     picker->setIsMetric(true);
     picker->setHeightInCm(176);
@@ -267,7 +209,7 @@ TEST_F(PickerSpeech, Height) {
     EXPECT_EQ(valueOf(picker), "5 Fuß 1 Zoll");
 }
 
-TEST_F(PickerSpeech, TheColumnsOfAHeightKeepTheirHandlesWhenTheUnitSwitches) {
+TEST_F(PickerAccessibilityText, TheColumnsOfAHeightKeepTheirHandlesWhenTheUnitSwitches) {
     const auto picker = create<GXHeightPickerView>(place);
     picker->setIsMetric(true);
     picker->setHeightInCm(165);
@@ -296,7 +238,7 @@ TEST_F(PickerSpeech, TheColumnsOfAHeightKeepTheirHandlesWhenTheUnitSwitches) {
     EXPECT_EQ(picker->heightInCm(), 165);
 }
 
-TEST_F(PickerSpeech, Temperature) {
+TEST_F(PickerAccessibilityText, Temperature) {
     const auto picker = metricPicker<GXTemperaturePickerView>(boxed(15));
     EXPECT_EQ(labelsOf(picker), Texts{"Temperature"});
     EXPECT_EQ(valueOf(picker), "15 degrees Celsius");
@@ -310,7 +252,7 @@ TEST_F(PickerSpeech, Temperature) {
     EXPECT_EQ(valueOf(picker), "minus 4 Grad Fahrenheit");
 }
 
-TEST_F(PickerSpeech, Icon) {
+TEST_F(PickerAccessibilityText, Icon) {
     const auto sunny = UIImage::imageWithPixels_width_height_scale({0, 0, 0, 255}, 1, 1, 1);
     sunny->setAccessibilityLabel("sunny");
     const auto cloudy = UIImage::imageWithPixels_width_height_scale({0, 0, 0, 255}, 1, 1, 1);
@@ -330,89 +272,4 @@ TEST_F(PickerSpeech, Icon) {
     picker->setAccessibilityLabel(std::nullopt);
     speak("de");
     EXPECT_EQ(labelsOf(picker), Texts{"Symbol"});
-}
-
-TEST_F(PickerSpeech, ANumberOfNothingIsItsTitle) {
-    const auto picker = create<GXBasePickerView>(place);
-    picker->setCurrentValue(boxed(42));
-    EXPECT_EQ(picker->accessibilityElements().at(0)->label(), std::nullopt);
-    EXPECT_EQ(valueOf(picker), "42");
-    picker->setAccessibilityLabel("Laps");
-    EXPECT_EQ(labelsOf(picker), Texts{"Laps"});
-}
-
-TEST_F(PickerSpeech, ANumberWithoutATitleIsNotSaid) {
-    struct Untitled : GXDistancePickerView {
-        std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) override {
-            return std::nullopt;
-        }
-    };
-    const auto picker = metricPicker<Untitled>(boxed(5300));
-    EXPECT_EQ(picker->pickerView_accessibilityValueForRow_forComponent(picker->pickerView(), 5, 0), std::nullopt);
-}
-
-TEST_F(PickerSpeech, ACompositeOffersTheColumnsOfBothPickers) {
-    const auto picker = create<GXDistanceAndDurationPicker>(place);
-    picker->setIsMetric(true);
-    EXPECT_EQ(labelsOf(picker), (Texts{"Distance, kilometres", "Distance, tenths", "Duration, hours", "Duration, minutes"}));
-    EXPECT_EQ(valuesOf(picker), (Texts{"5.0 kilometres", "5.0 kilometres", "5 minutes", "5 minutes"}));
-}
-
-TEST_F(PickerSpeech, APickersCellIsItsColumns) {
-    const auto cell = create<GXWeightPickerCell>(place);
-    cell->pickerView()->setCurrentValue(boxedDouble(72.5));
-    EXPECT_EQ(labelsOf(cell), (Texts{"Weight, kilograms", "Weight, tenths"}));
-}
-
-TEST_F(PickerSpeech, AnApplicationsLocaliserSaysItItsOwnWay) {
-    struct OwnWords : GXLocalization {
-        std::optional<std::string> accessibilityTextForName(GXSpokenName name) const override {
-            if (name == GXSpokenName::Tenths) return std::nullopt;
-            return name == GXSpokenName::Distance ? std::optional<std::string>("Way") : GXLocalization::accessibilityTextForName(name);
-        }
-        std::optional<std::string> accessibilityTextForNumber_unit(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
-            if (unit != GXSpokenUnit::Kilometre) return std::nullopt;
-            return number.whole + " point " + number.fraction + " clicks";
-        }
-    };
-    GXLocalization::setSharedLocalization(create<OwnWords>());
-    const auto picker = metricPicker<GXDistancePickerView>(boxed(5300));
-    EXPECT_EQ(labelsOf(picker), (Texts{"Way, kilometres", "Way"}));
-    EXPECT_EQ(valueOf(picker), "5 point 3 clicks");
-}
-
-TEST_F(PickerSpeech, ALocaliserMayLeaveOutPatternsAndQuantities) {
-    struct FewWords : GXLocalization {
-        bool hasQuantities = true;
-        std::optional<std::string> accessibilityTextForName(GXSpokenName name) const override {
-            const bool isLeftOut = name == GXSpokenName::NameAndPart || name == GXSpokenName::PerKilometre;
-            return isLeftOut ? std::nullopt : GXLocalization::accessibilityTextForName(name);
-        }
-        std::optional<std::string> accessibilityTextForNumber_unit(const GXSpokenNumber& number, GXSpokenUnit unit) const override {
-            return hasQuantities ? GXLocalization::accessibilityTextForNumber_unit(number, unit) : std::nullopt;
-        }
-    };
-    const auto localization = create<FewWords>();
-    GXLocalization::setSharedLocalization(localization);
-    const auto picker = metricPicker<GXPacePickerView>(boxedDouble(1000.0 / 315)); // 5:15 per kilometre.
-    EXPECT_EQ(labelsOf(picker), (Texts{"Pace", "Pace"}));
-    EXPECT_EQ(valueOf(picker), "5 minutes 15 seconds");
-    localization->hasQuantities = false;
-    EXPECT_EQ(valuesOf(picker), (Texts{"05", "15"})) << "the titles are left to be said";
-}
-
-TEST_F(PickerSpeech, AColumnThatHoldsNoPartIsCalledByTheMeasurementAlone) {
-    const auto nameOf = [](const Ref<GXBasePickerView>& picker, NSInteger component) {
-        return picker->pickerView_accessibilityLabelForComponent(picker->pickerView(), component);
-    };
-    for (const NSInteger component : {1, 99}) {
-        EXPECT_EQ(nameOf(create<GXDistancePickerView>(place), component), "Distance");
-        EXPECT_EQ(nameOf(create<GXSpeedPickerView>(place), component), "Speed");
-        EXPECT_EQ(nameOf(create<GXPacePickerView>(place), component), "Pace");
-        EXPECT_EQ(nameOf(create<GXWeightPickerView>(place), component), "Weight");
-        EXPECT_EQ(nameOf(create<GXDurationPickerView>(place), component), "Duration");
-    }
-    const auto duration = create<GXDurationPickerView>(place);
-    duration->setType(99);
-    EXPECT_EQ(duration->pickerView_accessibilityValueForRow_forComponent(duration->pickerView(), 0, 0), std::nullopt);
 }

@@ -1,11 +1,14 @@
-#include "GXWheelOrders.h"
+#include "GXWheelCalls.h"
 
 #include <algorithm>
 #include <cmath>
 
+#include "GXPickerComponents.h"
+#include "NSLocale.h"
+
 namespace gx {
 
-// The wheel is held by value for the time of the order, in which a callback may take it away from its picker.
+// The wheel is passed by value: a callback may take it away from its picker during the call.
 // NOLINTBEGIN(performance-unnecessary-value-param)
 
 void reloadAllComponents(Ref<GXMultiValuePickerView> wheel) {
@@ -28,8 +31,17 @@ void setRightLabelText(Ref<GXMultiValuePickerView> wheel, std::optional<std::str
     if (wheel) wheel->setRightLabelText(std::move(text));
 }
 
+void setLeftLabelText(Ref<GXMultiValuePickerView> wheel, std::optional<std::string> text) {
+    if (wheel) wheel->setLeftLabelText(std::move(text));
+}
+
 void setSeparatorText_afterComponent(Ref<GXMultiValuePickerView> wheel, std::optional<std::string> text, NSUInteger component) {
     if (wheel) wheel->setSeparatorText_afterComponent(std::move(text), component);
+}
+
+void showDecimalSeparator(Ref<GXMultiValuePickerView> wheel) {
+    const Ref<NSLocale> locale = NSLocale::currentLocale();
+    setSeparatorText_afterComponent(std::move(wheel), locale->objectForKey(NSLocaleDecimalSeparator), wholeComponent);
 }
 
 // NOLINTEND(performance-unnecessary-value-param)
