@@ -41,7 +41,8 @@ Ref<NSCoder> coderOf(FuzzBytes& bytes) {
     return coder;
 }
 
-/// An application's own format: it has a value for every key, or does not know yet, and each time another.
+/// An application's own format: it has a value for every key, or does not know yet, and each time
+/// another.
 class AnyCoder : public NSCoder {
 public:
     explicit AnyCoder(FuzzBytes& bytes) : bytes_(bytes) {}

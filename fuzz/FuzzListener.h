@@ -7,7 +7,8 @@
 #include "GXHeightPickerViewDelegate.h"
 #include "UITableView.h"
 
-/// Answers to wheels and tables with any counts, sizes and views, and reacts whenever it is told or asked.
+/// Gives wheels and tables any counts, sizes and views, and reacts whenever it is notified or
+/// asked.
 class FuzzListener : public gx::NSObject,
                      public gx::GXBasePickerViewDelegate,
                      public gx::GXHeightPickerViewDelegate,
@@ -19,7 +20,7 @@ public:
     /// The views to show in cells and rows.
     using Views = std::array<gx::Ref<gx::UIView>, 3>;
 
-    /// Neither is owned; without a world the answers are the same each time.
+    /// Neither is owned; without a world it returns the same each time.
     void setWorld(FuzzWorld* world, const Views* views) {
         world_ = world;
         views_ = views;
@@ -52,7 +53,7 @@ public:
                                                           gx::NSIndexPath) override;
 
 private:
-    /// Reacts one time in `odds`, and answers whether the world is still there.
+    /// Reacts one time in `odds`, and returns whether the world is still there.
     bool react(unsigned odds) const;
     gx::Ref<gx::UIView> someView() const;
 

@@ -32,14 +32,16 @@ Ref<const GXIconPickerView::Images> imagesOf(FuzzBytes& bytes) {
     return images;
 }
 
-// What is set is not held meanwhile: whoever is called out to may let go of it, as an application may.
+// What is set is not held meanwhile: a callback may drop it, as an application
+// may.
 
 template <class T>
 T* as(GXBasePickerView* picker) {
     return dynamic_cast<T*>(picker);
 }
 
-/// To make a picker calls the application's wheels, and these may drop the composite that it is for.
+/// To make a picker calls the application's wheels, and these may drop the composite that it is
+/// for.
 template <class Outer, class Inner>
 void replaceInner(FuzzBytes& bytes, Outer* outer, void (Outer::*set)(Ref<Inner>)) {
     const WeakRef<Outer> seen = refTo(outer);
@@ -109,7 +111,7 @@ void setPickerProperty(FuzzBytes& bytes, GXBasePickerView* picker) {
     case 7:
         return picker->setCustomLabelFont(fontOf(bytes));
     case 8:
-        return picker->selectCurrentValue();
+        return bytes.flag() ? picker->reloadData() : picker->selectCurrentValue();
     case 9:
         return picker->informDelegateOfValueChange();
     case 10:

@@ -3,7 +3,8 @@
 #include "FuzzBytes.h"
 #include "GXBasePickerView.h"
 
-/// Makes one of all pickers, bare wheels and picker cells, in one of the ways that it can be made. Never empty.
+/// Makes one of all pickers, bare wheels and picker cells, in one of the ways that it can be made.
+/// Never empty.
 gx::Ref<gx::UIView> makeView(FuzzBytes& bytes);
 /// Restores a view of any class, plain ones too, from the coder. Never empty.
 gx::Ref<gx::UIView> makeViewWithCoder(FuzzBytes& bytes, const gx::Ref<gx::NSCoder>& coder);

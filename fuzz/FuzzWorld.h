@@ -2,7 +2,8 @@
 
 #include "FuzzBytes.h"
 
-/// Whatever may happen to views, one act after the other, as the bytes say; and further acts within any call of the library.
+/// Whatever may happen to views, one act after the other, as the bytes say; and further acts within
+/// any call of the library.
 class FuzzWorld {
 public:
     explicit FuzzWorld(FuzzBytes& bytes) : bytes_(bytes) {}
@@ -11,7 +12,8 @@ public:
     FuzzWorld& operator=(const FuzzWorld&) = delete;
 
     FuzzBytes& bytes() const { return bytes_; }
-    /// Within a call of the library, one time in `odds`. Reactions to reactions end at some depth, as those of any application that works.
+    /// Within a call of the library, one time in `odds`. Reactions to reactions end at some depth,
+    /// as those of any application that works.
     void react(unsigned odds = 1) {
         if (depth_ >= 3 || reactions_ >= 150 || (odds > 1 && bytes_.below(odds) != odds - 1)) return;
         ++reactions_;

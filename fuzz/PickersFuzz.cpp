@@ -1,6 +1,7 @@
 // Whatever an application and a user do to pickers, in any order, within notices too.
 
 #include "FuzzProperties.h"
+#include "FuzzServices.h"
 #include "FuzzStage.h"
 #include "FuzzViews.h"
 #include "GXHeightPickerView.h"
@@ -60,11 +61,13 @@ public:
     }
     ~World() override {
         GXMultiValuePickerView::setFactory({});
+        endReactions();
         for (const Ref<FuzzListener>& listener : listeners_) listener->setWorld(nullptr, nullptr);
         for (const WeakRef<OwnWheel>& entry : ownWheels_) {
             if (const Ref<OwnWheel> wheel = entry.lock()) wheel->world = nullptr;
         }
-        // Whoever puts a picker into its own wheel, or shows it in a row there, has made a ring, and has to take it apart.
+        // A picker that was put into its own wheel, or shown in a row there, makes a ring of
+        // references.
         for (const WeakRef<UIPickerView>& entry : answered_) {
             if (const Ref<UIPickerView> wheel = entry.lock()) wheel->setDelegate({});
         }
@@ -136,7 +139,7 @@ private:
         case 21:
             return draw();
         case 22:
-            return bytes().below(4) == 0 ? setFactory() : setSurroundings(bytes());
+            return changeSurroundings(slot);
         case 23:
             return listen(slot);
         case 24:
@@ -170,7 +173,8 @@ private:
     static void focus(const Ref<UIView>& view) {
         if (UIPickerView* const wheel = wheelOf(view).get()) wheel->becomeFirstResponder();
     }
-    // The view is not held meanwhile: whoever is called out to may let go of it, as an application may.
+    // The view is not held meanwhile: a callback may drop it, as an application
+    // may.
     void order(UIPickerView* wheel) {
         if (!wheel) return;
         const NSInteger row = bytes().integer();
@@ -194,7 +198,19 @@ private:
         }
     }
 
-    /// Wheels of the application: none, plain ones, its own, one that another picker has already; or any of them after something else.
+    void changeSurroundings(const Ref<UIView>& view) {
+        switch (bytes().below(4)) {
+        case 0:
+            return setFactory();
+        case 1:
+            return bytes().flag() ? setReactingService(*this) : setReactingFormatter(*this, pickerOf(view));
+        default:
+            return setSurroundings(bytes());
+        }
+    }
+
+    /// Wheels of the application: none, plain ones, its own, one that another picker has already;
+    /// or any of them after something else.
     void setFactory() {
         const unsigned kind = bytes().below(8);
         if (kind == 0) return GXMultiValuePickerView::setFactory({});
@@ -207,7 +223,8 @@ private:
         });
     }
 
-    /// Hears of what the user does to the view or, where it is a wheel, answers to it. Sometimes a picker's own wheel asks somebody else.
+    /// Becomes the delegate of a picker or, of a wheel alone, its data source too. Sometimes a
+    /// picker's own wheel gets another one.
     void listen(const Ref<UIView>& view) {
         const Ref<FuzzListener> listener = someListener();
         const Ref<GXBasePickerView> picker = pickerOf(view);
