@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cassert>
+#include <concepts>
+#include <type_traits>
+
 #include "GXBasePickerView.h"
 #include "UITableViewCell.h"
 
@@ -59,5 +63,16 @@ private:
 
     Ref<GXBasePickerView> pickerView_;
 };
+
+/// How `create` makes a picker cell, besides `(frame)` and `(coder)`: `(style, identifier)`.
+///
+/// A cell without a `cellIdentifier` of its own has that of `GXBasePickerCell`, as all others
+/// without one: the last of them that was registered would be shown in place of all.
+template <std::derived_from<GXBasePickerCell> Cell>
+bool initialise(Cell& cell, UITableViewCellStyle style, const std::optional<std::string>& reuseIdentifier) {
+    assert((std::is_same_v<Cell, GXBasePickerCell> || reuseIdentifier != GXBasePickerCell::cellIdentifier()) &&
+           "This cell class is registered under an inherited identifier: declare a cellIdentifier() of its own.");
+    return static_cast<GXBasePickerCell&>(cell).initWithStyle_reuseIdentifier(style, reuseIdentifier);
+}
 
 } // namespace gx
