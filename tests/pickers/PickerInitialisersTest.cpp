@@ -84,3 +84,54 @@ TYPED_TEST(PickerInitialisers, OneThatRefusesMakesNothing) {
     };
     EXPECT_FALSE(create<Refusing>(usual));
 }
+
+TYPED_TEST(PickerInitialisers, AnOwnPickerThatOverridesOnlyInitWithFrameIsSetUpByEachOfThem) {
+    struct OnlyFrame : TypeParam {
+        int setUps = 0;
+        CGRect given;
+        bool initWithFrame(CGRect frame) override {
+            if (!TypeParam::initWithFrame(frame)) return false;
+            ++setUps;
+            given = frame;
+            return true;
+        }
+    };
+    const auto framed = create<OnlyFrame>(usual);
+    EXPECT_EQ(framed->setUps, 1);
+
+    const auto coder = create<NSCoder>();
+    coder->encodeCGRect_forKey(CGRectMake(7, 8, 300, 200), "frame");
+    coder->encodeInteger_forKey(5, "tag");
+    const auto restored = create<OnlyFrame>(coder);
+    EXPECT_EQ(restored->setUps, 1);
+    EXPECT_EQ(restored->given, CGRectMake(7, 8, 300, 200));
+    EXPECT_EQ(restored->frame(), CGRectMake(7, 8, 300, 200));
+    EXPECT_EQ(restored->tag(), 5);
+    EXPECT_EQ(restored->subviews().size(), framed->subviews().size());
+
+    const auto high = create<OnlyFrame>(usual, 50.0F);
+    const auto plain = create<TypeParam>(usual, 50.0F);
+    EXPECT_EQ(high->setUps, 1);
+    EXPECT_EQ(high->pickerView_rowHeightForComponent(nullptr, 0), plain->pickerView_rowHeightForComponent(nullptr, 0));
+    EXPECT_EQ(high->subviews().size(), plain->subviews().size());
+}
+
+TYPED_TEST(PickerInitialisers, OneThatIsOverriddenFurtherDownIsCalledItself) {
+    struct OnlyFrame : TypeParam {
+        int frames = 0;
+        bool initWithFrame(CGRect frame) override {
+            ++frames;
+            return TypeParam::initWithFrame(frame);
+        }
+    };
+    struct WithCoder : OnlyFrame {
+        int coders = 0;
+        bool initWithCoder(const Ref<NSCoder>& coder) override {
+            ++coders;
+            return OnlyFrame::initWithCoder(coder);
+        }
+    };
+    const auto restored = create<WithCoder>(create<NSCoder>());
+    EXPECT_EQ(restored->coders, 1);
+    EXPECT_EQ(restored->frames, 0);
+}

@@ -22,7 +22,7 @@ constexpr CGFloat smallestWidth = 50;
 } // namespace
 
 bool GXBasePickerView::initWithFrame(CGRect frame) {
-    if (!UIView::initWithFrame(frame)) return false;
+    if (!isRestored_ && !UIView::initWithFrame(frame)) return false;
     setUp();
     return true;
 }
@@ -36,6 +36,16 @@ bool GXBasePickerView::initWithCoder(const Ref<NSCoder>& coder) {
 bool GXBasePickerView::initWithFrame_rowHeight(CGRect frame, float rowHeight) {
     givenRowHeight_ = rowHeight;
     return GXBasePickerView::initWithFrame(frame);
+}
+
+bool GXBasePickerView::initByFrameWithCoder(const Ref<NSCoder>& coder) {
+    isRestored_ = UIView::initWithCoder(coder);
+    return isRestored_ && initWithFrame(frame());
+}
+
+bool GXBasePickerView::initByFrameWithRowHeight(CGRect frame, float rowHeight) {
+    givenRowHeight_ = rowHeight;
+    return initWithFrame(frame);
 }
 
 void GXBasePickerView::setUp() {

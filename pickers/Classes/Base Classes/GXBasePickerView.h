@@ -27,7 +27,8 @@ namespace gx {
 ///
 /// To derive:
 /// - Override `didInitialize` to set range, step, value and unit through the public setters, after
-///   the superclass's `didInitialize`. Every initialiser calls it once.
+///   the superclass's `didInitialize`. Every initialiser calls it once. A set-up in `initWithFrame`
+///   alone runs with every form of `create` as well.
 /// - Override what the wheel asks, `selectCurrentValue`, `showTexts`, `setIsMetric` and
 ///   `setCurrentValue` as needed. The base calls every operation, getters too, through the object.
 /// - Give every field an initialiser: the wheel asks for rows before `didInitialize` has run.
@@ -41,6 +42,10 @@ public:
     bool initWithCoder(const Ref<NSCoder>& coder) override;
     /// Rows are `rowHeight` points high.
     virtual bool initWithFrame_rowHeight(CGRect frame, float rowHeight);
+    /// What `create` calls for a subclass that overrides `initWithFrame` alone: they run that one,
+    /// on the coder's view or with the given row height.
+    bool initByFrameWithCoder(const Ref<NSCoder>& coder);
+    bool initByFrameWithRowHeight(CGRect frame, float rowHeight);
 
     /// The wheel. A picker without one (a composite, or after `setPickerView` with nothing) is safe
     /// to use: what concerns the wheel is a no-op then.
@@ -198,6 +203,7 @@ private:
     void addPickersToFit(std::vector<Ref<GXBasePickerView>>& found);
 
     float rowHeight_ = 0;
+    bool isRestored_ = false; // Its view comes from a coder.
     std::optional<float> givenRowHeight_;
     bool isMetric_ = false;
     Ref<GXMultiValuePickerView> pickerView_;
@@ -210,11 +216,46 @@ private:
     WeakRef<GXBasePickerViewDelegate> delegate_;
 };
 
-/// How `create` makes a picker, besides `(frame)` and `(coder)`: `(frame, rowHeight)`, with any number as row height.
-template <class Number>
+namespace detail {
+
+template <class Operation>
+struct DeclaringClass;
+template <class Class, class Result, class... Arguments>
+struct DeclaringClass<Result (Class::*)(Arguments...)> {
+    using Type = Class;
+};
+/// Whether the first operation is declared by a class that derives from that of the second.
+template <class One, class Other, class OneClass = typename DeclaringClass<One>::Type,
+          class OtherClass = typename DeclaringClass<Other>::Type>
+inline constexpr bool isDeclaredBelow = std::is_base_of_v<OtherClass, OneClass> && !std::is_same_v<OtherClass, OneClass>;
+
+} // namespace detail
+
+// Pickers whose class overrides `initWithFrame` alone: the set-up that it has there runs for the
+// other forms of `create` too.
+
+template <class Picker>
+concept GXMadeByFrameWithCoder = std::derived_from<Picker, GXBasePickerView> && requires {
+    requires detail::isDeclaredBelow<decltype(&Picker::initWithFrame), decltype(&Picker::initWithCoder)>;
+};
+template <class Picker>
+concept GXMadeByFrameWithRowHeight = std::derived_from<Picker, GXBasePickerView> && requires {
+    requires detail::isDeclaredBelow<decltype(&Picker::initWithFrame), decltype(&Picker::initWithFrame_rowHeight)>;
+};
+
+/// How `create` makes a picker, besides `(frame)`: `(coder)`, and `(frame, rowHeight)` with any
+/// number as row height.
+template <GXMadeByFrameWithCoder Picker>
+bool initialise(Picker& picker, const Ref<NSCoder>& coder) {
+    return static_cast<GXBasePickerView&>(picker).initByFrameWithCoder(coder);
+}
+template <std::derived_from<GXBasePickerView> Picker, class Number>
 requires std::is_arithmetic_v<Number>
-bool initialise(GXBasePickerView& picker, CGRect frame, Number rowHeight) {
-    return picker.initWithFrame_rowHeight(frame, static_cast<float>(rowHeight));
+bool initialise(Picker& picker, CGRect frame, Number rowHeight) {
+    GXBasePickerView& base = picker;
+    const auto height = static_cast<float>(rowHeight);
+    if constexpr (GXMadeByFrameWithRowHeight<Picker>) return base.initByFrameWithRowHeight(frame, height);
+    return base.initWithFrame_rowHeight(frame, height);
 }
 
 } // namespace gx
