@@ -1,4 +1,5 @@
-// Making each picker, and one full selection by the user: the turn, the notice and the layout that follows.
+// Making each picker, and one full selection by the user: the gesture, the notice and the layout
+// that follows.
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,5 @@
-// A wheel's reload, jump and frame, each for a hundred rows and for a billion: the ratio of the two should be 1.
+// A wheel's reload, jump and frame, each for a hundred rows and for a billion: the ratio of the two
+// should be 1.
 
 #include <benchmark/benchmark.h>
 

@@ -6,7 +6,8 @@ option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(BUILD_SHARED_LIBS "Build shared libraries instead of static ones" OFF)
 option(GX_BARE "Build without RTTI and exceptions; code that uses the library is compiled so too" OFF)
 
-# For those who work on the library. The presets dev, sanitize, ci and fuzz turn them on; a plain build never does.
+# For those who work on the library. The presets dev, sanitize, ci and fuzz turn them on; a plain
+# build never does.
 option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" OFF)
 option(GX_PRECOMPILE_HEADERS "Precompile what most sources include" OFF)
 option(GX_ROOMS_AS_UNITS "Compile each folder as one unit" OFF)

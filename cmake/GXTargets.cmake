@@ -1,4 +1,5 @@
-# gx_compile_as_unit(<target> <room> <source>…): with GX_ROOMS_AS_UNITS, the sources of a room are one unit.
+# gx_compile_as_unit(<target> <room> <source>…): with GX_ROOMS_AS_UNITS, the sources of a room are
+# one unit.
 function(gx_compile_as_unit target room)
   if(GX_ROOMS_AS_UNITS)
     string(MAKE_C_IDENTIFIER "room ${room}" unit)
@@ -12,8 +13,10 @@ endfunction()
 # Makes the library gx_<name>, known as gx::<name>, of all sources in the folders.
 #
 # - The library is static or shared, as BUILD_SHARED_LIBS says, and exports what GX_EXPORT marks.
-# - A public header is included by other code as <GXUIPickers/Name.h>, wherever it lies; it is installed.
-# - Every other header is internal: only the floor's own sources and its tests (through gx_<name>_internal) reach it,
+# - A public header is included by other code as <GXUIPickers/Name.h>, wherever it lies; it is
+#   installed.
+# - Every other header is internal: only the floor's own sources and its tests (through
+#   gx_<name>_internal) reach it,
 #   and it is not installed.
 # - Inside floors 1 to 3, a header is included by its name alone.
 include(GNUInstallDirs)
@@ -34,7 +37,8 @@ function(gx_add_floor name)
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} INSTALL_RPATH "$ORIGIN")
   target_compile_features(${target} PUBLIC cxx_std_20)
-  # g++ looks at system headers where a link leads, away from those beside it; SYSTEM and precompiling make them such.
+  # g++ looks at system headers where a link leads, away from those beside it; SYSTEM and
+  # precompiling make them such.
   target_compile_options(${target} PUBLIC "$<BUILD_INTERFACE:$<$<CXX_COMPILER_ID:GNU>:-fno-canonical-system-headers>>")
   # Lets an application's linker leave out what it does not use (-Wl,--gc-sections).
   target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections)
@@ -86,7 +90,8 @@ function(gx_add_floor name)
   endif()
 endfunction()
 
-# gx_add_umbrella_header(<floor>…): <GXUIPickers/GXUIPickers.h>, which includes every public header of these floors.
+# gx_add_umbrella_header(<floor>…): <GXUIPickers/GXUIPickers.h>, which includes every public header
+# of these floors.
 function(gx_add_umbrella_header)
   set(lines "#pragma once\n\n/// Everything: views, services and all pickers.\n\n")
   foreach(name IN LISTS ARGN)

@@ -10,10 +10,11 @@
 #include "CGGeometry.h"
 #include "NSNumber.h"
 
-/// Reads decisions out of a target's bytes. Once they are used up every answer is 0, false or empty.
+/// Reads decisions out of a target's bytes. Once they are used up every decision is 0, false or
+/// empty.
 ///
-/// One call has at most one answer among its arguments: compilers work arguments out in any order (but for those in
-/// braces), and the same bytes have to do the same with each.
+/// One call has at most one decision among its arguments: compilers work arguments out in any order
+/// (but for those in braces), and the same bytes have to do the same with each.
 class FuzzBytes {
 public:
     FuzzBytes(const std::uint8_t* data, std::size_t size) : data_(data), left_(size) {}
@@ -95,8 +96,8 @@ public:
         if (below(3) == 0) return {{number(), number()}, {number(), number()}};
         return {{byte() / 2.0, byte() / 2.0}, {byte() * 2.0, byte() * 2.0}};
     }
-    /// What people type at a wheel, character by character: digits, minus signs, separators and blanks of several scripts, and the
-    /// beginnings of units.
+    /// What people type at a wheel, character by character: digits, minus signs, separators and
+    /// blanks of several scripts, and the beginnings of units.
     std::string typedText() {
         constexpr std::array<const char*, 12> odd = {"-", "\xe2\x88\x92", ".",       ",", "\xd9\xab", ":", "k", "m", "P",
                                                      " ", "\xe2\x80\x8f", "\xd9\xac"};

@@ -3,7 +3,8 @@
 #include "FuzzBytes.h"
 #include "UIWindow.h"
 
-/// A user: fingers, mouse wheel, keys, the passing of time, and a screen reader. It has one window before it.
+/// A user: fingers, mouse wheel, keys, the passing of time, and a screen reader. It has one window
+/// before it.
 class FuzzHand {
 public:
     FuzzHand(FuzzBytes& bytes, gx::Ref<gx::UIWindow> window) : bytes_(bytes), window_(std::move(window)) {}
@@ -16,8 +17,8 @@ public:
     void press();
     /// Lets up to 1.3 seconds pass.
     void wait();
-    /// Asks one accessible element for everything, and may give it an order: one that the window has now, or one that was kept before,
-    /// whatever has become of its view.
+    /// Asks one accessible element for everything, and may call it: one that the window
+    /// has now, or one that was kept before, whatever has become of its view.
     void hear();
     /// Ticks until what is moving has come to rest, or for half a minute.
     void waitUntilStill();
@@ -28,7 +29,7 @@ private:
     gx::Ref<gx::UIAccessibilityElement> presentElement();
 
     FuzzBytes& bytes_;
-    // Not held again for a call: whoever is called may let go of it.
+    // Not kept alive for a call: callbacks may release it.
     gx::Ref<gx::UIWindow> window_;
     std::array<gx::Ref<gx::UIAccessibilityElement>, 4> kept_;
     gx::NSTimeInterval now_ = 1000;

@@ -4,7 +4,8 @@
 #include "FuzzListener.h"
 #include "UITableView.h"
 
-/// Where views can be: two windows, one of them with a view that scrolls and a table whose rows show them.
+/// Where views can be: two windows, one of them with a view that scrolls and a table whose rows
+/// show them.
 class FuzzStage {
 public:
     FuzzStage(FuzzBytes& bytes, gx::UIWindowHost& host);
@@ -15,7 +16,7 @@ public:
     FuzzHand& hand() { return hand_; }
     /// Puts the view somewhere else, or takes it off; `other` may become its superview.
     void place(const gx::Ref<gx::UIView>& view, const gx::Ref<gx::UIView>& other);
-    /// Whom the table asks.
+    /// The table's data source and delegate.
     void setTableSource(const gx::Ref<FuzzListener>& source);
     /// What happens to a window, the view that scrolls or the table.
     void change(const gx::Ref<gx::UIView>& view);

@@ -20,8 +20,9 @@ jobs_here() {
     [ "$cores" -lt "$memory" ] && echo "$cores" || echo "$memory"
 }
 
-# Has the compiler cache, if it is there, keep what was compiled. Its depend mode preprocesses nothing twice, and precompiled
-# headers need the two laxities. Folders with the same sources share it.
+# Has the compiler cache, if it is there, keep what was compiled. Its depend mode preprocesses
+# nothing twice, and precompiled headers need the two laxities. Folders with the same sources share
+# it.
 use_compiler_cache() {
     command -v ccache >/dev/null || return 0
     export CMAKE_CXX_COMPILER_LAUNCHER=ccache CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros

@@ -2,6 +2,6 @@
 
 /// Marks what a shared library exports: the public classes and functions.
 ///
-/// All other symbols are hidden, so they are neither part of the binary interface nor in the way of an application's own.
-/// In a static library the mark changes nothing.
+/// All other symbols are hidden, so they are neither part of the binary interface nor in the way of
+/// an application's own. In a static library the mark changes nothing.
 #define GX_EXPORT __attribute__((visibility("default")))

@@ -1,5 +1,6 @@
 # Builds and runs the README's example:
-# cmake -D way=installed|subproject|fetched -D source=… -D build=… -D work=… -D compiler=… -P check.cmake
+# cmake -D way=installed|subproject|fetched -D source=… -D build=… -D work=… -D compiler=… -P
+# check.cmake
 function(run what)
   execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT result EQUAL 0)

@@ -1,4 +1,5 @@
-# Exactly the public headers are installed, and <GXUIPickers/…> reaches no other, neither installed nor in the build folder:
+# Exactly the public headers are installed, and <GXUIPickers/…> reaches no other, neither installed
+# nor in the build folder:
 # cmake -D build=… -D work=… -D compiler=… -P headers.cmake
 file(REMOVE_RECURSE "${work}")
 execute_process(COMMAND "${CMAKE_COMMAND}" --install "${build}" --prefix "${work}/prefix" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
@@ -23,7 +24,8 @@ foreach(place "${work}/prefix/include" "${build}/include")
     message(FATAL_ERROR "In ${place} too many: ${extra}; missing: ${missing}")
   endif()
 
-  # The line that outside code writes works for a public header, and fails for internal ones since they are not found.
+  # The line that outside code writes works for a public header, and fails for internal ones since
+  # they are not found.
   list(GET public 0 first)
   foreach(header ${first} ${internal})
     file(WRITE "${work}/line.cpp" "#include <GXUIPickers/${header}>\n")

@@ -64,7 +64,7 @@ class Weight(BasePicker):
         elif self.unit == 1:
             shown = kg_to_lb(current)
             if shown > 771.0:
-                # Only pounds are held to the wheel's range.
+                # Only pounds are clamped to the wheel's range.
                 self.set_current(Box("f32", lb_to_kg(f32(770.9))))
                 shown = f32(770.9)
         else:

@@ -22,14 +22,16 @@ def chosen(picker, settings, turns=()):
 
 
 def bpm():
-    # The lower bound is tested in single precision, the row computed in integers: these two are not below 30, the third is.
+    # The lower bound is tested in single precision, the row computed in integers: these two are
+    # not below 30, the third is.
     for current in (("f64", 29.99999999), ("f64", 29.9999999), ("f64", 29.999)):
         yield chosen("bpm", [("min", "i32", 30), ("current", "i32", 160), ("current",) + current])
     yield chosen("bpm", [("min", "f64", 29.8), ("current", "i32", 160), ("current", "f64", 29.5)])
 
 
 def distance():
-    # Miles whose tenths or hundredths are whole in single precision and a little more in double precision.
+    # Miles whose tenths or hundredths are whole in single precision and a little more in double
+    # precision.
     one = ((160.9344, "f64"), (321.8688, "f64"), (643.7376, "f64"), (965.6064, "f64"), (1287.4752, "f64"), (71133, "i32"), (90767, "i32"))
     two = ((80.4672, "f64"), (160.9344, "f64"), (24285, "i32"), (34102, "i32"), (42197, "i32"), (48570, "i32"))
     for fraction, minimums in ((1, one), (2, two)):
@@ -37,7 +39,8 @@ def distance():
             for more in (0, 60, 400):
                 settings = [("fraction", "number", fraction), ("min", kind, minimum), ("current", "f64", minimum + more)]
                 yield chosen("distance", settings, ((2, 0), (fraction + 1, 1)))
-    # Kilometres on the first row with the tenths' digit 0 or not, and the hundredths of the minimum.
+    # Kilometres on the first row with the tenths' digit 0 or not, and the hundredths of the
+    # minimum.
     for minimum in (0, 1040, 1234, 2070):
         for current in (minimum, minimum + 30, minimum // 1000 * 1000 + 90, minimum // 1000 * 1000 + 590):
             settings = [("metric", "flag", 1), ("fraction", "number", 2), ("min", "i32", minimum), ("current", "i32", current)]
@@ -54,7 +57,8 @@ def duration():
 
 
 def heartrate():
-    # Whether a rate is shown is asked of the average's rows, for both: with no row there, the request of before stands.
+    # Whether a rate is shown is asked of the average's rows, for both: with no row there, the
+    # request of before stands.
     yield chosen("heartrate", [("max", "i32", 26), "state", ("maximum", "i32", 100), "state", ("max", "i32", 230)])
     yield chosen("heartrate", [("max", "i32", 27), "state", ("maximum", "i32", 100), "state", ("max", "i32", 230)])
     # Around the top with a gap of 5, and around the bottom.
@@ -89,10 +93,12 @@ def temperature():
 
 
 def weight():
-    # Compared with the minimum in single precision: the first of these is the minimum, the second lies below it.
+    # Compared with the minimum in single precision: the first of these is the minimum, the second
+    # lies below it.
     for current in (14.99999999, 14.999):
         yield chosen("weight", [("current", "i32", 80), ("current", "f64", current)])
-    # Kilograms whose pounds or stones lie between two floats just below a whole unit or a tenth's boundary.
+    # Kilograms whose pounds or stones lie between two floats just below a whole unit or a tenth's
+    # boundary.
     between = {1: (0xF6C115 / 2**20, 0x3DC77F / 2**18, 0x7BEBE3 / 2**19, 0xF8919 / 2**16, 0xF94B5B / 2**20),
                2: (0x986833 / 2**19, 0x2D164B / 2**17, 0x5CB6DB / 2**18, 0x2FA09 / 2**13, 0xCDBFDF / 2**19)}
     for unit, kilograms in between.items():

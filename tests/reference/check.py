@@ -210,14 +210,16 @@ def check_duration():
         p.set_seconds_step(step)
         same(p.seconds_step, 1)
 
-    # 50:00:05 is no float: a float of that size counts in sixteens, and the tie goes to 180004992, which reads 50:00:04.
+    # 50:00:05 is no float: a float of that size counts in sixteens, and the tie goes to 180004992,
+    # which reads 50:00:04.
     p = Duration()
     p.set_type(1)
     p.set_current(i32(180000000))
     p.turn(1, 4)
     same((told(p), at(p)), ([(0, "f32", 180004992.0)], [50, 0, 0, 0, 0]))
 
-    # A maximum with minutes keeps its own hour, and stops one minute before itself: 2:45 offers 2:00 to 2:44.
+    # A maximum with minutes keeps its own hour, and stops one minute before itself: 2:45 offers
+    # 2:00 to 2:44.
     p = Duration()
     p.set_max(i32(9900000))
     p.set_current(i32(7200000))
@@ -229,7 +231,8 @@ def check_duration():
     p.set_current(i32(9900000))
     same(rows(p), [3, 1, 46, 1, 2])
 
-    # The minimum's seconds are carried into hh:mm when the minute matches: 1:30:25, turned to hour 2.
+    # The minimum's seconds are carried into hh:mm when the minute matches: 1:30:25, turned to hour
+    # 2.
     p = Duration()
     p.set_min(i32(5425000))
     p.set_max(i32(36000000))

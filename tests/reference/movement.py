@@ -168,7 +168,8 @@ class Pace(BasePicker):
         return truncate(total / 60.0), remainder(truncate(float(total)), 60)
 
     def set_current(self, box):
-        # Each bound is applied once: where the two are crossed, the bound whose test failed first is stored.
+        # Each bound is applied once: where the two are crossed, the bound whose test failed first
+        # is stored.
         if box.double() < self.max.double():
             box = self.max
         elif box.double() > self.min.double():
