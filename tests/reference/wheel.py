@@ -6,7 +6,8 @@ from arithmetic import Box, divide, wrap
 class Wheel:
     """Remembers for each component the row last requested, exactly as given, and answers it held to the rows there are."""
 
-    UNKNOWN = None  # the memory of a component that went away and came back: no rule says whether it lasted
+    # The memory of a component that went away and came back: no rule says whether it lasted.
+    UNKNOWN = None
 
     def __init__(self, source):
         self.source = source
