@@ -5,6 +5,8 @@ function(gx_compile_as_unit target room)
     string(MAKE_C_IDENTIFIER "room ${room}" unit)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
     set_source_files_properties(${ARGN} PROPERTIES UNITY_GROUP ${unit})
+    # A name within a function may be that of a neighbour's constant.
+    target_compile_options(${target} PRIVATE -Wno-error=shadow)
   endif()
 endfunction()
 
@@ -87,6 +89,7 @@ function(gx_add_floor name)
     list(TRANSFORM arg_DEPENDS APPEND _static REGEX "^gx_")
     target_link_libraries(${target}_static PUBLIC ${arg_DEPENDS})
     target_include_directories(${target}_static PUBLIC "${GX_PUBLIC_INCLUDE_FOLDER}")
+    target_compile_options(${target}_static PUBLIC $<TARGET_PROPERTY:${target},INTERFACE_COMPILE_OPTIONS>)
   endif()
 endfunction()
 

@@ -1,7 +1,7 @@
 #include "GXBasePickerCell.h"
+#include "CastTo.h"
 
 #include <functional>
-#include <typeinfo>
 
 #include "FingerTurn.h"
 #include "GXBpmPickerCell.h"
@@ -50,7 +50,7 @@ CellKind kind(const std::string& name, const std::string& expectedIdentifier) {
             [] { return create<Cell>(UITableViewCellStyleDefault, Cell::cellIdentifier()); },
             [](const Ref<NSCoder>& coder) { return create<Cell>(coder); },
             [](CGRect frame) { return create<Cell>(frame); },
-            [](const GXBasePickerView& picker) { return typeid(picker) == typeid(Picker); }};
+            [](const GXBasePickerView& picker) { return isExactly<Picker>(picker); }};
 }
 
 std::vector<CellKind> allKinds() {
@@ -283,12 +283,12 @@ TEST(TemperaturePickerCell, ItsRowsAreAsHighAsTheStyleSheetSaysInSinglePrecision
 TEST(CompositeCells, TheirInnerPickersFollowTheCell) {
     const auto distance = create<GXDistanceAndDurationCell>(UITableViewCellStyleDefault, std::nullopt);
     distance->setFrame(CGRectMake(0, 0, 320, 216));
-    const auto workout = std::dynamic_pointer_cast<GXDistanceAndDurationPicker>(distance->pickerView());
+    const auto workout = castTo<GXDistanceAndDurationPicker>(distance->pickerView());
     EXPECT_EQ(workout->distancePicker()->frame(), CGRectMake(0, 0, 165, 216));
     EXPECT_EQ(workout->durationPicker()->frame(), CGRectMake(140, 0, 180, 216));
     const auto weather = create<GXWeatherAndTemperaturePickerCell>(UITableViewCellStyleDefault, std::nullopt);
     weather->setFrame(CGRectMake(0, 0, 568, 200));
-    const auto outdoors = std::dynamic_pointer_cast<GXWeatherAndTemperaturePickerView>(weather->pickerView());
+    const auto outdoors = castTo<GXWeatherAndTemperaturePickerView>(weather->pickerView());
     EXPECT_EQ(outdoors->weatherPicker()->frame(), CGRectMake(0, 0, 254, 200));
     EXPECT_EQ(outdoors->temperaturePicker()->frame(), CGRectMake(254, 0, 314, 200));
     EXPECT_EQ(outdoors->temperaturePicker()->pickerView_rowHeightForComponent(nullptr, 0), 56);

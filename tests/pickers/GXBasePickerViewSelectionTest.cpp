@@ -1,3 +1,4 @@
+#include "CastTo.h"
 #include "GXBasePickerView.h"
 
 #include <limits>
@@ -54,7 +55,7 @@ TEST(BasePickerSubclass, OverridesTakeEffectInTheBasesOwnRules) {
     };
     const auto picker = create<Words>(CGRectMake(0, 0, 320, 216));
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 120 * 1.7999999523162842);
-    EXPECT_EQ(std::dynamic_pointer_cast<UILabel>(picker->pickerView()->viewForRow_forComponent(0, 0))->text(), "short");
+    EXPECT_EQ(castTo<UILabel>(picker->pickerView()->viewForRow_forComponent(0, 0))->text(), "short");
     picker->setMinValue(boxed(1));
     picker->setMaxValue(boxed(1));
     picker->setStepSize(boxed(1));

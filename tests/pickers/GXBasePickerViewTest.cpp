@@ -1,4 +1,5 @@
 #include "GXBasePickerView.h"
+#include "CastTo.h"
 
 #include <limits>
 
@@ -134,7 +135,7 @@ TEST_F(BasePicker, WidthsAreMeasuredInTheLabelFontAndRowsDrawnInTheValueFont) {
     picker->setCustomValueFont(GXStyleSheetFont::fontWithFamily_size_weight_color("", 30.0, UIFontWeight::Regular, UIColor::blackColor()));
     picker->setCustomLabelFont(GXStyleSheetFont::fontWithFamily_size_weight_color("", 40.0, UIFontWeight::Regular, UIColor::blackColor()));
     EXPECT_EQ(picker->pickerView_widthForComponent(picker->pickerView(), 0), 120 * 1.7999999523162842);
-    const auto label = std::dynamic_pointer_cast<UILabel>(wheel().viewForRow_forComponent(0, 0));
+    const auto label = castTo<UILabel>(wheel().viewForRow_forComponent(0, 0));
     EXPECT_EQ(label->font()->pointSize(), 30);
     UITextEngine::setShared(nullptr);
 }
@@ -142,8 +143,7 @@ TEST_F(BasePicker, WidthsAreMeasuredInTheLabelFontAndRowsDrawnInTheValueFont) {
 // Row views
 
 TEST_F(BasePicker, ARowIsAClearLabelWithTheRowsTitleInTheValueFont) {
-    const auto label =
-        std::dynamic_pointer_cast<UILabel>(picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), 12, 0, nullptr));
+    const auto label = castTo<UILabel>(picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), 12, 0, nullptr));
     ASSERT_TRUE(label);
     EXPECT_EQ(label->text(), "12");
     EXPECT_TRUE(CGRectIsNull(label->frame()));
@@ -167,7 +167,7 @@ public:
 };
 NSTextAlignment alignmentIn(GXBasePickerView& picker, NSInteger component) {
     const Ref<UIView> view = picker.pickerView_viewForRow_forComponent_reusingView(picker.pickerView(), 0, component, nullptr);
-    return std::dynamic_pointer_cast<UILabel>(view)->textAlignment();
+    return castTo<UILabel>(view)->textAlignment();
 }
 } // namespace
 

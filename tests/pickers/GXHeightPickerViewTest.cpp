@@ -1,5 +1,6 @@
 #include <limits>
 
+#include "CastTo.h"
 #include "GXLocalization.h"
 #include "HeightPickerTest.h"
 #include "UILabel.h"
@@ -91,7 +92,7 @@ TEST_F(HeightPicker, TitlesAreColouredByTheTintAndNothingElse) {
 
 TEST_F(HeightPicker, ANewTintShowsOnTheRowsInSight) {
     const auto colour = [&] {
-        return std::dynamic_pointer_cast<UILabel>(picker->viewForRow_forComponent(0, 0))->attributedText()->attributes().foregroundColor;
+        return castTo<UILabel>(picker->viewForRow_forComponent(0, 0))->attributedText()->attributes().foregroundColor;
     };
     EXPECT_EQ(colour(), UIColor::blackColor());
     picker->setTintColor(UIColor::whiteColor());

@@ -1,4 +1,5 @@
 #include "GXIconPickerView.h"
+#include "CastTo.h"
 
 #include <limits>
 
@@ -18,14 +19,13 @@ constexpr NSInteger lowest = std::numeric_limits<NSInteger>::min();
 struct IconPicker : PickerTest<GXIconPickerView> {
     /// What a row in sight shows.
     Ref<UIImage> imageInRow(NSInteger row) {
-        const auto view = std::dynamic_pointer_cast<UIImageView>(wheel().viewForRow_forComponent(row, 0));
+        const auto view = castTo<UIImageView>(wheel().viewForRow_forComponent(row, 0));
         EXPECT_TRUE(view) << row << " is not in sight";
         return view ? view->image() : nullptr;
     }
     /// A view for a row, as a delegate is asked for it.
     Ref<UIImageView> viewForRow(NSInteger row, const Ref<UIView>& offered = nullptr) {
-        return std::dynamic_pointer_cast<UIImageView>(
-            picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), row, 0, offered));
+        return castTo<UIImageView>(picker->pickerView_viewForRow_forComponent_reusingView(picker->pickerView(), row, 0, offered));
     }
 };
 
@@ -59,7 +59,7 @@ TEST(IconPickerConstruction, OneMadeWithARowHeightHasNoListWhichCountsAsNoImages
     EXPECT_EQ(high->pickerView()->numberOfRowsInComponent(0), 0);
     EXPECT_EQ(high->pickerView_rowHeightForComponent(nullptr, 0), 60.5);
     const auto view = high->pickerView_viewForRow_forComponent_reusingView(nullptr, 0, 0, nullptr);
-    EXPECT_FALSE(std::dynamic_pointer_cast<UIImageView>(view)->image());
+    EXPECT_FALSE(castTo<UIImageView>(view)->image());
     high->setIconImages(iconImages(2));
     EXPECT_EQ(high->pickerView()->numberOfRowsInComponent(0), 2);
     high->setIconImages(nullptr);

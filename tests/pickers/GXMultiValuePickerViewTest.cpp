@@ -1,4 +1,5 @@
 #include "GXMultiValuePickerView.h"
+#include "CastTo.h"
 
 #include "GXStyleSheet.h"
 #include "PickerTest.h"
@@ -366,12 +367,12 @@ TEST_F(MultiValue, LabelsThatFollowAnywayAreNotPlacedAgain) {
 TEST_F(MultiValue, AFactoryPutsAnApplicationsWheelUnderPickers) {
     RecordingWheel::install();
     const auto own = GXMultiValuePickerView::wheelWithFrame(CGRectMake(0, 0, 10, 20));
-    EXPECT_TRUE(std::dynamic_pointer_cast<RecordingWheel>(own));
+    EXPECT_TRUE(isExactly<RecordingWheel>(*own));
     EXPECT_EQ(own->frame(), CGRectMake(0, 0, 10, 20));
     GXMultiValuePickerView::setFactory([](CGRect) { return Ref<GXMultiValuePickerView>(); });
     EXPECT_TRUE(GXMultiValuePickerView::wheelWithFrame(CGRectZero));
     GXMultiValuePickerView::setFactory(nullptr);
-    EXPECT_FALSE(std::dynamic_pointer_cast<RecordingWheel>(GXMultiValuePickerView::wheelWithFrame(CGRectZero)));
+    EXPECT_FALSE(isExactly<RecordingWheel>(*GXMultiValuePickerView::wheelWithFrame(CGRectZero)));
 }
 
 TEST_F(MultiValue, AWheelFromACoderHasItsLabels) {

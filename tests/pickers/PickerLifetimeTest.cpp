@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "CastTo.h"
 #include "GXBpmPickerCell.h"
 #include "GXDistancePickerView.h"
 #include "GXDurationPickerView.h"
@@ -209,7 +210,7 @@ TEST(PickerLifetime, AWheelMayBeTakenFromItsPickerByANewBound) {
 TEST(PickerLifetime, AWheelMayLeaveItsPickerWhileThatIsMade) {
     struct LeavingWheel : GXMultiValuePickerView {
         void setDelegate(WeakRef<UIPickerViewDelegate> delegate) override {
-            if (const auto picker = std::dynamic_pointer_cast<GXBasePickerView>(delegate.lock())) picker->setPickerView(nullptr);
+            if (const auto picker = castTo<GXBasePickerView>(delegate.lock())) picker->setPickerView(nullptr);
             GXMultiValuePickerView::setDelegate(std::move(delegate));
         }
     };
@@ -218,7 +219,7 @@ TEST(PickerLifetime, AWheelMayLeaveItsPickerWhileThatIsMade) {
     GXMultiValuePickerView::setFactory({});
     EXPECT_EQ(picker->pickerView(), nullptr);
     ASSERT_EQ(picker->subviews().size(), 1U);
-    const auto wheel = std::dynamic_pointer_cast<UIPickerView>(picker->subviews().front());
+    const auto wheel = castTo<UIPickerView>(picker->subviews().front());
     ASSERT_NE(wheel, nullptr);
     EXPECT_EQ(wheel->numberOfRowsInComponent(0), 100) << "which the picker answers for all the same";
 }

@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 #include "UITableViewCell.h"
 
 namespace gx {
@@ -22,7 +23,7 @@ namespace gx {
 /// To derive: override `makePicker`, and declare a `cellIdentifier` of your own. A cell without one
 /// would be registered in place of other cells without one; debug builds stop there.
 /// `docs/own-picker.md` shows both.
-class GXBasePickerCell : public UITableViewCell {
+class GX_EXPORT GXBasePickerCell : public UITableViewCell {
 public:
     /// What an application registers the class under.
     static std::string cellIdentifier();

@@ -6,6 +6,7 @@
 
 #include "GXAccessibilityTexts.h"
 #include "GXBasePickerViewDelegate.h"
+#include "GXExport.h"
 #include "GXHeldWeakly.h"
 #include "GXMultiValuePickerView.h"
 #include "NSNumber.h"
@@ -35,7 +36,7 @@ namespace gx {
 /// - Where you override `setDelegate`, write `using GXBasePickerView::setDelegate;` beside it.
 ///
 /// `docs/own-picker.md` shows a picker and its cell.
-class GXBasePickerView : public UIView, public UIPickerViewDataSource, public GXMultiValuePickerViewDelegate {
+class GX_EXPORT GXBasePickerView : public UIView, public UIPickerViewDataSource, public GXMultiValuePickerViewDelegate {
 public:
     /// Rows are as high as the style sheet says at this moment, for the picker's lifetime.
     bool initWithFrame(CGRect frame) override;

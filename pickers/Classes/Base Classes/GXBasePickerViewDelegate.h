@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "NSNumber.h"
 #include "NSObject.h"
 
@@ -8,7 +9,7 @@ namespace gx {
 class GXBasePickerView;
 
 /// Is notified of what the user picks.
-class GXBasePickerViewDelegate {
+class GX_EXPORT GXBasePickerViewDelegate {
 public:
     virtual ~GXBasePickerViewDelegate() = default;
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 #include "UIImage.h"
 
 namespace gx {
@@ -16,7 +17,7 @@ namespace gx {
 ///   first.
 /// - The maximum plays no part.
 /// - The values follow the base picker's step while the images do not, so leave that at 1.
-class GXIconPickerView : public GXBasePickerView {
+class GX_EXPORT GXIconPickerView : public GXBasePickerView {
 public:
     using Images = std::vector<Ref<UIImage>>;
 

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "GXExport.h"
 #include "GXHeldWeakly.h"
 #include "GXMultiValuePickerViewDelegate.h"
 #include "GXStyleSheetFont.h"
@@ -27,7 +28,7 @@ namespace gx {
 /// do, but the labels change sides: the right one, a unit that is read after the number, lies left
 /// of the components, as far from the titles there as the left one otherwise, and the left one
 /// right of them.
-class GXMultiValuePickerView : public UIPickerView {
+class GX_EXPORT GXMultiValuePickerView : public UIPickerView {
 public:
     /// Makes the wheel of a picker, filling the given frame.
     using Factory = std::function<Ref<GXMultiValuePickerView>(CGRect)>;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "UIPickerView.h"
 
 namespace gx {
@@ -12,7 +13,7 @@ namespace gx {
 /// It asks about the last row of the first and of the last component, whether they exist or not. A
 /// wheel without components asks its data source and this delegate about the components -1 and 0:
 /// the last one of none, and the first. Return anything there, such as a width of 0 and no title.
-class GXMultiValuePickerViewDelegate : public UIPickerViewDelegate {
+class GX_EXPORT GXMultiValuePickerViewDelegate : public UIPickerViewDelegate {
 public:
     CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override = 0;
     /// `row` is -1 for the last title of a component without rows.

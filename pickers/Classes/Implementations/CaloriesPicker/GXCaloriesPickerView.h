@@ -2,6 +2,7 @@
 
 #include "GXBasePickerView.h"
 #include "GXCaloriesFormatter.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -10,7 +11,7 @@ namespace gx {
 /// The unit beside the wheel is the formatter's, and is fixed at construction: neither another unit
 /// system nor another formatter changes it. Who wants another one sets
 /// `pickerView()->setRightLabelText`.
-class GXCaloriesPickerView : public GXBasePickerView {
+class GX_EXPORT GXCaloriesPickerView : public GXBasePickerView {
 public:
     /// Made when first asked for, for the unit system of that moment.
     virtual Ref<GXCaloriesFormatter> caloriesFormatter();

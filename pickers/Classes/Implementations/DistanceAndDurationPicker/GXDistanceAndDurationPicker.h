@@ -2,6 +2,7 @@
 
 #include "GXDistancePickerView.h"
 #include "GXDurationPickerView.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -20,7 +21,7 @@ namespace gx {
 ///
 /// The two overlap by 25 points around the middle, where the one's unit ends and the other's wheels
 /// begin; the duration lies on top.
-class GXDistanceAndDurationPicker : public GXBasePickerView, public GXBasePickerViewDelegate {
+class GX_EXPORT GXDistanceAndDurationPicker : public GXBasePickerView, public GXBasePickerViewDelegate {
 public:
     /// The components of the notices that this picker passes on.
     static constexpr NSInteger distanceComponent = 0;

@@ -2,6 +2,7 @@
 
 #include "GXBasePickerView.h"
 #include "GXDistanceFormatter.h"
+#include "GXExport.h"
 #include "GXRounding.h" // How it stores the distances that are picked.
 
 namespace gx {
@@ -27,7 +28,7 @@ namespace gx {
 ///   not below the minimum.
 /// - Lengths in miles are rounded up, never down, so that a digit that was picked does not come
 ///   back one lower.
-class GXDistancePickerView : public GXBasePickerView {
+class GX_EXPORT GXDistancePickerView : public GXBasePickerView {
 public:
     /// Decimal places, 1 or 2; anything else is ignored. Default 1. A change reloads the wheel but
     /// selects nothing: a new column stands where it was last asked to.

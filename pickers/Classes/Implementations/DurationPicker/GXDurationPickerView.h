@@ -2,6 +2,7 @@
 
 #include "GXBasePickerView.h"
 #include "GXDurationType.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -31,7 +32,7 @@ class GXDurationLayout;
 ///   as well; in hours and minutes they are carried along unseen.
 /// - In minutes and seconds, the minutes are titled from 00 although they are counted from the
 ///   minimum's; minutes wrap at 60, so that layout needs a maximum below an hour.
-class GXDurationPickerView : public GXBasePickerView {
+class GX_EXPORT GXDurationPickerView : public GXBasePickerView {
 public:
     /// Default `GXDurationTypeHoursMinutes`. A change puts the layout's name and separators on the
     /// wheel, reloads and selects. An unknown type is stored and leaves those texts; its components

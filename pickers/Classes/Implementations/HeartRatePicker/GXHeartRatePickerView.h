@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 #include "GXHeartRatePickerViewDelegate.h"
 
 namespace gx {
@@ -22,7 +23,7 @@ namespace gx {
 /// The rates are kept here, as integers; `currentValue` is not theirs and stays 0. Since a new
 /// minimum, maximum or step selects `currentValue` again, it puts the average on its first row: set
 /// the rates afterwards. Keep the step at 1, for titles go up by 1 whatever the step.
-class GXHeartRatePickerView : public GXBasePickerView {
+class GX_EXPORT GXHeartRatePickerView : public GXBasePickerView {
 public:
     /// In beats per minute; 0 for no value. The setters select the rate's row, animated, and notify
     /// nobody.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXBasePickerViewDelegate.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -9,6 +10,6 @@ namespace gx {
 /// It adds nothing: after each selection by the user it gets the maximum as component 1, then the
 /// average as component 0, in beats per minute, 0 for "no value". Both come each time, also the one
 /// that did not change.
-class GXHeartRatePickerViewDelegate : public GXBasePickerViewDelegate {};
+class GX_EXPORT GXHeartRatePickerViewDelegate : public GXBasePickerViewDelegate {};
 
 } // namespace gx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "GXHeightPickerView.h"
 #include "UITableViewCell.h"
 
@@ -11,7 +12,7 @@ namespace gx {
 ///
 /// The picker is made once, with the cell's bounds, and kept when the cell is used again: at
 /// construction in code, in `awakeFromNib` for a cell from an interface.
-class GXHeightPickerCell : public UITableViewCell {
+class GX_EXPORT GXHeightPickerCell : public UITableViewCell {
 public:
     /// What an application registers the class under.
     static std::string cellIdentifier();

@@ -2,6 +2,7 @@
 
 #include <concepts>
 
+#include "GXExport.h"
 #include "GXHeightPickerViewDelegate.h"
 #include "GXHeldWeakly.h"
 #include "UIPickerView.h"
@@ -23,7 +24,7 @@ namespace gx {
 ///
 /// The row of the unit is selected in a later pass of the main run loop, once the wheel has taken
 /// the new components. Keys and screen readers that use the unit's component stay with it.
-class GXHeightPickerView : public UIPickerView, public UIPickerViewDataSource, public UIPickerViewDelegate {
+class GX_EXPORT GXHeightPickerView : public UIPickerView, public UIPickerViewDataSource, public UIPickerViewDelegate {
 public:
     bool initWithFrame(CGRect frame) override;
     /// Sets up a picker that was loaded from an interface; one made with a coder is a bare wheel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CGGeometry.h"
+#include "GXExport.h"
 #include "NSObject.h"
 
 namespace gx {
@@ -8,7 +9,7 @@ namespace gx {
 class GXHeightPickerView;
 
 /// Is notified of the height that the user picks.
-class GXHeightPickerViewDelegate {
+class GX_EXPORT GXHeightPickerViewDelegate {
 public:
     virtual ~GXHeightPickerViewDelegate() = default;
 

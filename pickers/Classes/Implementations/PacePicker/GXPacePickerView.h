@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -29,7 +30,7 @@ namespace gx {
 /// - With minutes in steps, a selection takes the step for the minimum's minutes too (from 1:30 in
 ///   steps of 2, the second row reads 03 and gives 4 minutes), so steps of minutes fit a minimum
 ///   below one minute.
-class GXPacePickerView : public GXBasePickerView {
+class GX_EXPORT GXPacePickerView : public GXBasePickerView {
 public:
     /// What the wheel shows of a pace: boxed 32-bit integers, the seconds 0 to 59.
     struct Components {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 #include "GXSpeedFormatter.h"
 
 namespace gx {
@@ -29,7 +30,7 @@ namespace gx {
 ///   tenth of the minimum, rounded, although they begin at the minimum's tenths.
 /// - Rows of whole numbers are 1 apart whatever `stepSize` is, while selecting divides by it: leave
 ///   it at 1.
-class GXSpeedPickerView : public GXBasePickerView {
+class GX_EXPORT GXSpeedPickerView : public GXBasePickerView {
 public:
     /// The values in the unit shown. The setters store only; the next setter of the value itself
     /// overwrites them.

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXTemperaturePickerView`, its rows as high as the style sheet says when the
 /// cell is made.
-class GXTemperaturePickerCell : public GXBasePickerCell {
+class GX_EXPORT GXTemperaturePickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 

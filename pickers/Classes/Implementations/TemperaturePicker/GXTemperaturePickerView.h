@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXBasePickerView.h"
+#include "GXExport.h"
 
 namespace gx {
 
@@ -22,7 +23,7 @@ namespace gx {
 ///
 /// Nothing is clamped: a value below the minimum asks the wheel for a negative row, one above the
 /// maximum for a row beyond the last.
-class GXTemperaturePickerView : public GXBasePickerView {
+class GX_EXPORT GXTemperaturePickerView : public GXBasePickerView {
 public:
     /// Celsius or Fahrenheit. The current value stays what it is, in degrees Celsius. The flag that
     /// is set already does nothing.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "GXExport.h"
 #include "GXIconPickerView.h"
 #include "GXTemperaturePickerView.h"
 
@@ -18,7 +19,7 @@ namespace gx {
 ///
 /// The two meet 30 points left of the middle. In less than 60 points there is no room for the
 /// icons: the weather picker's frame then has a negative width.
-class GXWeatherAndTemperaturePickerView : public GXBasePickerView {
+class GX_EXPORT GXWeatherAndTemperaturePickerView : public GXBasePickerView {
 public:
     /// Held strongly. It has no rows until it is given its images. The setters of both pickers
     /// store only: neither subviews nor frames, delegate or unit system follow. Without one, what

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "GXBasePickerCell.h"
+#include "GXExport.h"
 
 namespace gx {
 
 /// A table cell with a `GXWeightPickerView`, pinned to the content view: whatever moves it, the
 /// next layout makes it fill that again.
-class GXWeightPickerCell : public GXBasePickerCell {
+class GX_EXPORT GXWeightPickerCell : public GXBasePickerCell {
 public:
     static std::string cellIdentifier();
 
