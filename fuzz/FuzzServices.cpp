@@ -56,7 +56,8 @@ public:
         react();
         return GXLocalization::accessibilityTextForName(name);
     }
-    std::optional<std::string> accessibilityTextForNumber_unit(const GXAccessibilityNumber& number, GXAccessibilityUnit unit) const override {
+    std::optional<std::string> accessibilityTextForNumber_unit(const GXAccessibilityNumber& number,
+                                                               GXAccessibilityUnit unit) const override {
         react();
         return GXLocalization::accessibilityTextForNumber_unit(number, unit);
     }

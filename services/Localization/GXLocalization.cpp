@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "GXLanguage.h"
-#include "GXSpokenTexts.h"
 
 namespace gx {
 
@@ -15,10 +14,6 @@ Ref<GXLocalization>& theLocalization() {
 }
 
 } // namespace
-
-std::string filledPattern(std::string_view pattern, std::string_view first, std::string_view second) {
-    return GXLanguage::filledPattern(pattern, first, second);
-}
 
 GXLocalization::GXLocalization() : texts_(&GXLanguage::languageForIdentifier(language_)) {}
 

@@ -50,12 +50,6 @@ public:
     std::optional<std::string> accessibilityTextForPattern(GXAccessibilityName pattern, const std::string& first,
                                                            const std::string& second = {}) const;
 
-    // Former names, until the pickers use the new ones.
-    std::optional<std::string> spokenTextForName(GXAccessibilityName name) const { return accessibilityTextForName(name); }
-    std::optional<std::string> spokenQuantity(const GXAccessibilityNumber& number, GXAccessibilityUnit unit) const {
-        return accessibilityTextForNumber_unit(number, unit);
-    }
-
     /// As last set.
     const std::string& language() const { return language_; }
     /// Takes identifiers such as "de", "de_DE", "zh-Hans-CN", "pt_BR.UTF-8", in any case.

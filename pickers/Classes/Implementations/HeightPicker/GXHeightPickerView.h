@@ -3,11 +3,24 @@
 #include <concepts>
 
 #include "GXExport.h"
-#include "GXHeightPickerViewDelegate.h"
 #include "GXHeldWeakly.h"
 #include "UIPickerView.h"
 
 namespace gx {
+
+class GXHeightPickerView;
+
+/// Is notified of the height that the user picks.
+class GX_EXPORT GXHeightPickerViewDelegate {
+public:
+    virtual ~GXHeightPickerViewDelegate() = default;
+
+    /// Called once after each selection by the user, also of a unit, never after a setter. `height`
+    /// is in centimetres whatever the unit; `metric` is false for feet and inches.
+    ///
+    /// The call may do anything to the picker, drop the last reference to it included.
+    virtual void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>& pickerView, CGFloat height, bool metric) = 0;
+};
 
 /// Picks a body height: 120 to 220 cm, or 4 feet to 6 feet 11 inches. The last component chooses
 /// between the two.
