@@ -41,7 +41,7 @@ protected:
     void makePicker() override { showNewPicker<LapsPickerView>(); }
 };
 
-/// Is told what the user picks.
+/// Receives what the user picks.
 class Swim : public NSObject, public GXBasePickerViewDelegate {
 public:
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber& laps, NSInteger) override {

@@ -72,9 +72,9 @@ public:
     /// Returns false to refuse construction; `create` then returns nothing.
     virtual bool init();
 
-    /// Whether the object is of the class that `kind` stands for, or of one derived from it. It asks
-    /// the object and needs no RTTI. A class that may be asked about has a static member `kind` and
-    /// overrides this.
+    /// Whether the object is of the class that `kind` stands for, or of one derived from it. It
+    /// asks the object and needs no RTTI. A class that may be asked about has a static member
+    /// `kind` and overrides this.
     virtual bool isKindOfClass(const NSClass& /*kind*/) const { return false; }
 
     /// Calls `selector` in the next pass of the main run loop or, with `waitUntilDone`, at once.

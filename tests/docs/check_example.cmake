@@ -1,4 +1,5 @@
-# Says whether a document shows an example as it is, and what it prints: cmake -D document=… -D source=… -D program=… -P …
+# Says whether a document shows an example as it is, and what it prints: cmake -D document=… -D
+# source=… -D program=… -P …
 file(READ "${document}" text)
 file(READ "${source}" code)
 string(FIND "${text}" "```cpp\n${code}```" at)

@@ -169,7 +169,8 @@ void GXHeartRatePickerView::makeRoomBelowMaximum() {
 }
 
 void GXHeartRatePickerView::informDelegateOfRate(const NSNumber& rate, NSInteger reportedComponent) {
-    // The delegate may set another one while it reads this. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    // The delegate may set another one while it reads this.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const NSNumber value = rate;
     if (const Ref<GXBasePickerViewDelegate> told = delegate().lock()) {
         told->pickerView_didChangeCurrentValue_forComponent(self(), value, reportedComponent);
