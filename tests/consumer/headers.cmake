@@ -24,6 +24,8 @@ foreach(place "${work}/prefix/include" "${build}/include")
     message(FATAL_ERROR "In ${place} too many: ${extra}; missing: ${missing}")
   endif()
 
+  # The message below is looked for in English.
+  set(ENV{LC_ALL} C)
   # The line that outside code writes works for a public header, and fails for internal ones since
   # they are not found.
   list(GET public 0 first)
