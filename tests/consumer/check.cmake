@@ -9,7 +9,8 @@ function(run what)
   set(output "${output}" PARENT_SCOPE)
 endfunction()
 
-file(REMOVE_RECURSE "${work}")
+# What a run before has built of the library stays, so that only changes are compiled again.
+file(REMOVE_RECURSE "${work}/prefix")
 file(MAKE_DIRECTORY "${work}")
 
 # The first C++ block of the README is the example.

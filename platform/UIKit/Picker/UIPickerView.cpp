@@ -257,7 +257,7 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
 
 bool UIPickerView::keyPressed(const UIKey& key) {
     const Ref<UIPickerView> keep = self();
-    const UIKey pressed = key; // Callbacks may drop the key.
+    const UIKey pressed = key; // NOLINT(performance-unnecessary-copy-initialization): it may go
     return implementation_->controller.keyPressed(pressed) || UIView::keyPressed(pressed);
 }
 

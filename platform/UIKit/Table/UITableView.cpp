@@ -230,24 +230,24 @@ void UITableView::scrollViewDidScroll() {
 
 // Keys
 
-bool UITableView::keyPressed(const UIKey& argument) {
+bool UITableView::keyPressed(const UIKey& key) {
     const Ref<UITableView> keep = self();
-    const UIKey key = argument; // A callback may destroy the argument.
-    // Keys that a view inside a row hands up are not meant for the rows.
-    if (!isFirstResponder() || key.isCommand()) return UIScrollView::keyPressed(key);
-    if (UITableViewKeyFocus::isMove(key.code)) {
+    // A callback may destroy the key. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const UIKey pressed = key; // Keys of views inside a row are not meant for the rows.
+    if (!isFirstResponder() || pressed.isCommand()) return UIScrollView::keyPressed(pressed);
+    if (UITableViewKeyFocus::isMove(pressed.code)) {
         const std::optional<NSIndexPath> present = content().focusedRow();
-        const auto next = present ? content().focus().rowForKey(key.code, *present, bounds().size.height) : std::nullopt;
-        if (!next || next == present) return UIScrollView::keyPressed(key); // Scrolls.
+        const auto next = present ? content().focus().rowForKey(pressed.code, *present, bounds().size.height) : std::nullopt;
+        if (!next || next == present) return UIScrollView::keyPressed(pressed); // Scrolls.
         content().focusRow(*next);
         return true;
     }
-    if (key.code != UIKey::Code::Return && key.code != UIKey::Code::Space) return UIScrollView::keyPressed(key);
+    if (pressed.code != UIKey::Code::Return && pressed.code != UIKey::Code::Space) return UIScrollView::keyPressed(pressed);
     const std::optional<NSIndexPath> present = content().focusedRow();
-    if (!present || !parts_->canTapRow(*present)) return UIScrollView::keyPressed(key);
-    if (key.isRepeat || !content().rows().exists(*present)) return true; // Taps once.
+    if (!present || !parts_->canTapRow(*present)) return UIScrollView::keyPressed(pressed);
+    if (pressed.isRepeat || !content().rows().exists(*present)) return true; // Taps once.
     content().focusRow(*present);
-    tapRow(*present, key.timestamp);
+    tapRow(*present, pressed.timestamp);
     return true;
 }
 

@@ -138,14 +138,13 @@ void UITableViewContent::reloadRows(const std::vector<NSIndexPath>& paths) {
     table_.setNeedsLayout();
 }
 
-void UITableViewContent::applyChange(UITableViewChange::Kind kind, const std::vector<NSIndexPath>& argument, bool animated) {
+void UITableViewContent::applyChange(UITableViewChange::Kind kind, std::vector<NSIndexPath> paths, bool animated) {
     if (!cache_.isReady()) {
         invalidate();
         return;
     }
     const Ref<UIView> keep = self();
-    std::vector<NSIndexPath> paths = argument; // A callback may modify the list.
-    finishChange();                            // One at a time: the one before arrives.
+    finishChange(); // One at a time: the one before arrives.
     if (!cache_.isValid()) return;
     UITableViewRows after;
     {

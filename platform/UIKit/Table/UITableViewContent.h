@@ -64,7 +64,7 @@ public:
 
     void reloadRows(const std::vector<NSIndexPath>& paths);
     /// The change arrives at once unless it is animated. What cannot be this change is a reload.
-    void applyChange(UITableViewChange::Kind kind, const std::vector<NSIndexPath>& paths, bool animated);
+    void applyChange(UITableViewChange::Kind kind, std::vector<NSIndexPath> paths, bool animated);
     bool isChanging() const { return change_.has_value(); }
     /// Draws all rows in their places from now on.
     void finishChange();

@@ -57,7 +57,7 @@ void GXDistanceAndDurationPicker::moveSelectionIndicator(const Ref<GXBasePickerV
 
 /// The picker's wheel, if it lies somewhere in this view.
 Ref<GXMultiValuePickerView> GXDistanceAndDurationPicker::wheelInside(const Ref<GXBasePickerView>& picker) const {
-    const Ref<GXMultiValuePickerView> wheel = picker ? picker->pickerView() : nullptr;
+    Ref<GXMultiValuePickerView> wheel = picker ? picker->pickerView() : nullptr;
     for (Ref<UIView> above = wheel; above; above = above->superview()) {
         if (above.get() == this) return wheel;
     }

@@ -64,7 +64,7 @@ std::int32_t GXDurationPickerView::checkStepSize(std::int32_t step) const { retu
 std::string GXDurationPickerView::currentValueText() {
     const Ref<GXBasePickerView> keep = self();
     const Ref<GXMultiValuePickerView> wheel = pickerView();
-    const std::string time = withoutLeadingZero(textOfSelectedRows(wheel, *this));
+    std::string time = withoutLeadingZero(textOfSelectedRows(wheel, *this));
     if (time.empty()) return time;
     if (type() == GXDurationTypeHoursMinutes) return joinedBySpace(time, "h");
     return layout().hasMinutesAndSecondsAlone() ? joinedBySpace(time, "min") : time;

@@ -45,8 +45,7 @@ public:
 
     virtual bool isLayoutNeeded() const = 0;
 
-protected:
-    ~UIPickerOwner() = default;
+    virtual ~UIPickerOwner() = default;
 };
 
 /// The components of a wheel: cached counts and sizes, requested rows, the columns that show them,

@@ -41,8 +41,7 @@ public:
         /// Reports columns that have landed.
         virtual void reportLandings() = 0;
 
-    protected:
-        ~Wheel() = default;
+        virtual ~Wheel() = default;
     };
 
     explicit UIPickerTypeSelect(Wheel& wheel) : wheel_(wheel) {}
