@@ -104,7 +104,7 @@ void GXBasePickerView::setStepSize(NSNumber value) {
     storeBound(stepSize_, std::move(value));
 }
 
-void GXBasePickerView::storeStep(std::int32_t& stored, std::int32_t step) {
+void GXBasePickerView::storeStep(std::int32_t& stored, std::int32_t step) const {
     if (step == stored) return;
     stored = step;
     reloadAllComponents(pickerView());

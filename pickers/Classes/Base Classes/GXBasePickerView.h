@@ -188,7 +188,7 @@ protected:
     /// asks.
     CGFloat widthOfDigits(const Ref<UIPickerView>& pickerView, NSInteger component);
     /// Stores a component's own step and reloads the wheel, if it is another one. Selects nothing.
-    void storeStep(std::int32_t& stored, std::int32_t step);
+    void storeStep(std::int32_t& stored, std::int32_t step) const;
     /// Sets the value, clamped to the maximum first and then to the minimum, and informs the
     /// delegate.
     void setClampedValueAndInformDelegate(double value);
