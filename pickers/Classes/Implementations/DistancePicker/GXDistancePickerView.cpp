@@ -221,7 +221,7 @@ void GXDistancePickerView::selectCurrentKilometers() {
     selectRow_inComponent(pickerView(), hundredths - firstHundredths, hundredthsComponent);
 }
 
-/// Goes by the rows that the wheel then stands on, holds digits below the first one offered to
+/// Goes by the rows that the wheel then shows, clamps digits below the first one offered to
 /// that, and works in doubles.
 void GXDistancePickerView::selectCurrentMiles() {
     const float miles = meterToMiles(currentValue().doubleValue());

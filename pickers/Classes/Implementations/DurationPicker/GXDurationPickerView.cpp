@@ -251,7 +251,7 @@ void GXDurationPickerView::selectCurrentValue() {
     }
 }
 
-/// Asks for the row that a unit's value stands on, at least the first.
+/// Requests the row that shows a unit's value, at least the first.
 void GXDurationPickerView::selectRowOfUnit(std::int32_t value, NSInteger component) {
     selectRow_inComponent(pickerView(), std::max(quotient(value, stepSizeForComponent(component)), 0), component);
 }

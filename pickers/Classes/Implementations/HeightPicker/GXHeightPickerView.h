@@ -112,7 +112,7 @@ public:
     /// `accessibilityLabel`, if one was set, instead of "Height".
     std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
     /// The whole height, such as "5 feet 9 inches": as the wheel reports it, but for the component,
-    /// which stands on `row`. On the column of the unit, it is the height in the unit shown.
+    /// for which `row` is selected. On the column of the unit, it is the height in the unit shown.
     std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                                 NSInteger component) override;
 
