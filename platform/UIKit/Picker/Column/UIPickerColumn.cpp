@@ -8,30 +8,6 @@
 
 namespace gx {
 
-namespace {
-
-// The look of the cylinder, chosen by eye on a wheel of 216 points with rows of 40.
-
-// How far the rows at the edge are tilted away: in radians, 65 degrees.
-constexpr double edgeAngle = 1.1344640137963142;
-// How much fainter a row is that has just left the selection indicator.
-constexpr double fadeOutside = 0.42;
-// The same at high contrast: just enough to tell the selected row from the others.
-constexpr double slightFadeOutside = 0.2;
-// How far the eye is from the cylinder, in its radii. Rows that tilt away also move away, and so
-// narrow toward the wheel's middle.
-constexpr double eyeDistance = 3;
-
-/// The alpha of a row that is `rows` away from the selection indicator and tilted away, so that its
-/// height is shortened.
-double alphaOfRow(double rows, double shortening, UIAccessibilityContrast contrast) {
-    const double left = std::min(std::fabs(rows), 1.0);
-    if (contrast == UIAccessibilityContrast::High) return 1 - slightFadeOutside * left;
-    return (1 - fadeOutside * left) * shortening;
-}
-
-} // namespace
-
 bool UIPickerColumn::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     // The wheel takes the touches, to know which column a finger belongs to.
@@ -39,15 +15,21 @@ bool UIPickerColumn::initWithFrame(CGRect frame) {
     return true;
 }
 
-CGFloat UIPickerColumn::radius() const { return 0.5 * bounds().size.height / std::sin(edgeAngle); }
-
-double UIPickerColumn::reach() const { return std::min(radius() * edgeAngle / rowHeight_, highestReach); }
+double UIPickerColumn::reach() const { return std::min(cylinder_.reach(), highestReach); }
 
 CGRect UIPickerColumn::frameOfRow(NSInteger row) const {
     return CGRectMake(0, static_cast<CGFloat>(row - anchor_) * rowHeight_, bounds().size.width, rowHeight_);
 }
 
-void UIPickerColumn::setRowHeight(CGFloat height) { rowHeight_ = height; }
+void UIPickerColumn::setRowHeight(CGFloat height) {
+    rowHeight_ = height;
+    cylinder_.setHeight_rowHeight(bounds().size.height, height);
+}
+
+void UIPickerColumn::boundsSizeDidChange() {
+    UIView::boundsSizeDidChange();
+    cylinder_.setHeight_rowHeight(bounds().size.height, rowHeight_);
+}
 
 void UIPickerColumn::scrollToAnchor_offset(NSInteger anchor, double offset) {
     const CGSize size = bounds().size;
@@ -82,9 +64,8 @@ NSInteger UIPickerColumn::rowsWhollyInSight() const {
 }
 
 std::optional<double> UIPickerColumn::offsetDrawnAt(CGFloat y) const {
-    const double sine = (y - 0.5 * bounds().size.height) / radius();
-    if (!(std::fabs(sine) < 1)) return std::nullopt;
-    return offset_ + std::asin(sine) * radius() / rowHeight_;
+    const std::optional<double> rows = cylinder_.rowsDrawnAt(y - 0.5 * bounds().size.height);
+    return rows ? std::optional(offset_ + *rows) : std::nullopt;
 }
 
 Ref<UIView> UIPickerColumn::viewForRow(NSInteger row) const {
@@ -163,16 +144,13 @@ void UIPickerColumn::drawSubviews(UIGraphicsContext& context) {
         const Row entry = shown_[i];
         if (entry.view->superview().get() != this) continue;
         const double rows = static_cast<double>(entry.row - anchor_) - offset_;
-        const double angle = rows * rowHeight_ / radius();
-        if (std::fabs(angle) >= edgeAngle + 0.5 * rowHeight_ / radius()) continue;
-        const double shortening = std::cos(angle);
-        if (shortening <= 0) continue;
-        const double narrowing = eyeDistance / (eyeDistance + 1 - shortening);
+        const UIPickerCylinder::Look look = cylinder_.lookOfRow(rows, context.accessibilityContrast());
+        if (look.alpha <= 0) continue;
         context.saveState();
-        context.translate(vanishing, middle + radius() * std::sin(angle));
-        context.scale(narrowing, shortening);
+        context.translate(vanishing, middle + look.y);
+        context.scale(look.narrowing, look.shortening);
         context.translate(-vanishing, -CGRectGetMidY(entry.view->frame()));
-        context.multiplyAlpha(alphaOfRow(rows, shortening, context.accessibilityContrast()));
+        context.multiplyAlpha(look.alpha);
         drawView(*entry.view, context);
         context.restoreState();
     }

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "UIPickerCylinder.h"
 #include "UIView.h"
 
 namespace gx {
@@ -10,7 +11,11 @@ namespace gx {
 ///
 /// Its coordinates are those of its rows: row r lies at (r − anchor) · row height, and its bounds'
 /// origin says which of them are visible. The foreshortening is drawing only: it never enters
-/// frames. `UIPickerRows` binds the rows, `UIPickerColumnAxis` says where they are.
+/// frames. `UIPickerCylinder` says how they look, `UIPickerRows` binds them, `UIPickerColumnAxis`
+/// says where they are.
+///
+/// A row that has faded out at an edge is not drawn, but it keeps its view, and is found by its
+/// place: a tap there spins to it.
 class UIPickerColumn : public UIView {
 public:
     /// A view that shows a row, and whether the delegate made it.
@@ -62,15 +67,16 @@ public:
     void removeAllRows();
 
 protected:
+    void boundsSizeDidChange() override;
     void drawSubviews(UIGraphicsContext& context) override;
 
 private:
-    CGFloat radius() const;
     double reach() const;
     CGRect frameOfRow(NSInteger row) const;
 
     std::vector<Row> shown_;
     std::vector<Row> pool_;
+    UIPickerCylinder cylinder_;
     CGFloat rowHeight_ = 32;
     NSInteger anchor_ = 0;
     double offset_ = 0;

@@ -139,9 +139,9 @@ TEST_F(ContrastWheelTest, RowsBesideTheSelectionIndicatorFadeByAFifthAndNoMore) 
     window->setAccessibilityContrast(high);
     wheel->selectRow_inComponent_animated(50, 0, false);
     const std::vector<std::string> alphas = startingWith("alpha", callsOfDrawing());
-    ASSERT_EQ(alphas.size(), 7U);
+    ASSERT_EQ(alphas.size(), 5U) << "the next ones would be cut by the edge";
     EXPECT_EQ(std::count(alphas.begin(), alphas.end(), "alpha 1"), 1);
-    EXPECT_EQ(std::count(alphas.begin(), alphas.end(), "alpha 0.8"), 6);
+    EXPECT_EQ(std::count(alphas.begin(), alphas.end(), "alpha 0.8"), 4);
 }
 
 TEST_F(ContrastWheelTest, TheSelectionIndicatorHasAnOutlineAtHighContrastAlone) {
