@@ -46,6 +46,8 @@ public:
     /// The least width with a sidebar beside the page.
     static constexpr gx::CGFloat sidebarBreakpoint = 720;
     static constexpr gx::CGFloat sidebarWidth = 232;
+    /// The least width of a window that shows a picker beside what belongs to it.
+    static constexpr gx::CGFloat sideBySideBreakpoint = 900;
     static constexpr gx::CGFloat barHeight = 56;
     /// What a finger needs to hit a control reliably.
     static constexpr gx::CGFloat controlHeight = 40;

@@ -34,6 +34,9 @@ public:
     /// Makes the cell's picker the open one: it shows the workout, and the measurement becomes its
     /// delegate. Other cells are left alone.
     virtual void showInCell(const gx::Ref<gx::UITableViewCell>& cell) = 0;
+    /// To be called when the open picker has got another size: fits its fonts. A wheel that spins
+    /// goes on.
+    virtual void fitPicker() = 0;
 
 protected:
     void setUp(std::string name, std::string cellIdentifier, std::shared_ptr<Workout> workout, Settings settings) {

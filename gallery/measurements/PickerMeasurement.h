@@ -60,7 +60,11 @@ public:
         if (!picker_) return;
         configure(*picker_);
         picker_->setDelegate(gx::refTo(this));
-        picker_->sizeFontsToFit();
+        fitPicker();
+    }
+
+    void fitPicker() override {
+        if (picker_) picker_->sizeFontsToFit();
     }
 
     void pickerView_didChangeCurrentValue_forComponent(const gx::Ref<gx::GXBasePickerView>& sender, const gx::NSNumber& value,

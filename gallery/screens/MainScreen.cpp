@@ -206,6 +206,7 @@ void MainScreen::layoutSubviews() {
     showTitles();
     scroll_->setFrame(body);
     scroll_->setHidden(isMenu || index_ == entryPage);
+    entry_->setShowsPickerBeside(size.width >= Theme::sideBySideBreakpoint);
     entry_->setFrame(body);
     entry_->setHidden(isMenu || index_ != entryPage);
     bar_->setHidden(isWide);

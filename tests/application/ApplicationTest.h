@@ -132,8 +132,7 @@ protected:
     }
     std::vector<gx::Ref<gx::UIPickerView>> openWheels() {
         std::vector<gx::Ref<gx::UIPickerView>> found;
-        const gx::NSIndexPath path = entry()->pathOfMeasurement(*entry()->openMeasurement());
-        addWheels(entry()->table()->cellForRowAtIndexPath({path.section, path.row + 1}), found);
+        addWheels(entry()->openPickerCell(), found);
         return found;
     }
     /// Turns every column of the open picker that has more than one row, each by its own number of

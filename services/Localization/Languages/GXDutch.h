@@ -108,6 +108,7 @@ struct GXDutch {
         {"Water temperature", "Watertemperatuur"},
         {"Weight", "Gewicht"},
         {"Height", "Lengte"},
+        {"Choose a row to change its value.", "Kies een rij om de waarde te wijzigen."},
         // Settings and their choices.
         {"Settings", "Instellingen"},
         {"Units", "Eenheden"},

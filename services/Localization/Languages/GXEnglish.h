@@ -103,6 +103,7 @@ struct GXEnglish {
         "Water temperature",
         "Weight",
         "Height",
+        {"Choose a row to change its value.", "Choose a row to change its value."},
         // Settings and their choices.
         "Settings",
         "Units",

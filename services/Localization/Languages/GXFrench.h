@@ -108,6 +108,7 @@ struct GXFrench {
         {"Water temperature", "Température de l’eau"},
         {"Weight", "Poids"},
         {"Height", "Taille"},
+        {"Choose a row to change its value.", "Choisissez une ligne pour en modifier la valeur."},
         // Settings and their choices.
         {"Settings", "Réglages"},
         {"Units", "Unités"},

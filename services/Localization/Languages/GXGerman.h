@@ -108,6 +108,7 @@ struct GXGerman {
         {"Water temperature", "Wassertemperatur"},
         {"Weight", "Gewicht"},
         {"Height", "Größe"},
+        {"Choose a row to change its value.", "Zeile wählen, um den Wert zu ändern."},
         // Settings and their choices.
         {"Settings", "Einstellungen"},
         {"Units", "Einheiten"},

@@ -108,6 +108,7 @@ struct GXItalian {
         {"Water temperature", "Temperatura acqua"},
         {"Weight", "Peso"},
         {"Height", "Altezza"},
+        {"Choose a row to change its value.", "Scegli una riga per modificarne il valore."},
         // Settings and their choices.
         {"Settings", "Impostazioni"},
         {"Units", "Unità"},

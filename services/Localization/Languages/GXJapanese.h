@@ -106,6 +106,7 @@ struct GXJapanese {
         {"Water temperature", "水温"},
         {"Weight", "体重"},
         {"Height", "身長"},
+        {"Choose a row to change its value.", "行を選ぶと値を変更できます。"},
         // Settings and their choices.
         {"Settings", "設定"},
         {"Units", "単位"},

@@ -106,6 +106,7 @@ struct GXKorean {
         {"Water temperature", "수온"},
         {"Weight", "체중"},
         {"Height", "키"},
+        {"Choose a row to change its value.", "행을 선택하면 값을 바꿀 수 있습니다."},
         // Settings and their choices.
         {"Settings", "설정"},
         {"Units", "단위"},

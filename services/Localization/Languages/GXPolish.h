@@ -132,6 +132,7 @@ struct GXPolish {
         {"Water temperature", "Temperatura wody"},
         {"Weight", "Waga"},
         {"Height", "Wzrost"},
+        {"Choose a row to change its value.", "Wybierz wiersz, aby zmienić jego wartość."},
         // Settings and their choices.
         {"Settings", "Ustawienia"},
         {"Units", "Jednostki"},

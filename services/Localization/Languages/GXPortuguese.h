@@ -108,6 +108,7 @@ struct GXPortuguese {
         {"Water temperature", "Temperatura da água"},
         {"Weight", "Peso"},
         {"Height", "Altura"},
+        {"Choose a row to change its value.", "Escolha uma linha para alterar o valor."},
         // Settings and their choices.
         {"Settings", "Ajustes"},
         {"Units", "Unidades"},

@@ -123,6 +123,7 @@ struct GXRussian {
         {"Water temperature", "Температура воды"},
         {"Weight", "Вес"},
         {"Height", "Рост"},
+        {"Choose a row to change its value.", "Выберите строку, чтобы изменить её значение."},
         // Settings and their choices.
         {"Settings", "Настройки"},
         {"Units", "Единицы"},

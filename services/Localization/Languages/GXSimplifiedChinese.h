@@ -103,6 +103,7 @@ struct GXSimplifiedChinese {
         {"Water temperature", "水温"},
         {"Weight", "体重"},
         {"Height", "身高"},
+        {"Choose a row to change its value.", "选择一行以更改其数值。"},
         // Settings and their choices.
         {"Settings", "设置"},
         {"Units", "单位"},

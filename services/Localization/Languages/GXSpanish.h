@@ -108,6 +108,7 @@ struct GXSpanish {
         {"Water temperature", "Temperatura del agua"},
         {"Weight", "Peso"},
         {"Height", "Altura"},
+        {"Choose a row to change its value.", "Elige una fila para cambiar su valor."},
         // Settings and their choices.
         {"Settings", "Ajustes"},
         {"Units", "Unidades"},

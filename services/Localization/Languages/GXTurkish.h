@@ -106,6 +106,7 @@ struct GXTurkish {
         {"Water temperature", "Su sıcaklığı"},
         {"Weight", "Ağırlık"},
         {"Height", "Boy"},
+        {"Choose a row to change its value.", "Değerini değiştirmek için bir satır seçin."},
         // Settings and their choices.
         {"Settings", "Ayarlar"},
         {"Units", "Birimler"},

@@ -53,3 +53,17 @@ TEST(EntryRows, EachPathLeadsBackToItsRow) {
         EXPECT_TRUE(picker.isPicker);
     }
 }
+
+TEST(EntryRows, HaveNoRowForAPickerThatIsShownElsewhere) {
+    EntryRows rows = fiveRows(1);
+    rows.setHasPickerRow(false);
+    EXPECT_EQ(rows.open(), 1U);
+    EXPECT_EQ(rows.rowCountOfSection(0), 3);
+    EXPECT_EQ(rows.pathOfMeasurement(2), (NSIndexPath{0, 2}));
+    EXPECT_EQ(rows.rowAt({0, 2}).measurement, 2U);
+    EXPECT_FALSE(rows.rowAt({0, 2}).isPicker);
+    EXPECT_EQ(rows.pathOfPicker(), (NSIndexPath{0, 2})) << "where it would be";
+    rows.setHasPickerRow(true);
+    EXPECT_EQ(rows.rowCountOfSection(0), 4);
+    EXPECT_TRUE(rows.rowAt({0, 2}).isPicker);
+}

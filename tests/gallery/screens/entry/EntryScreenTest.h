@@ -50,10 +50,8 @@ protected:
     void tapRow(const std::string& name) { tap(row(name)); }
     /// The wheels of the open picker, from the left.
     std::vector<gx::Ref<gx::UIPickerView>> wheels() {
-        const gx::NSIndexPath path = entry()->pathOfMeasurement(*entry()->openMeasurement());
-        const auto cell = table()->cellForRowAtIndexPath({path.section, path.row + 1});
         std::vector<gx::Ref<gx::UIPickerView>> found;
-        if (cell) addWheels(cell, found);
+        if (const auto cell = entry()->openPickerCell()) addWheels(cell, found);
         return found;
     }
     gx::CGPoint middleOfColumn(const gx::Ref<gx::UIPickerView>& wheel, gx::NSInteger component) {

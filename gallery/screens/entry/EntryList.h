@@ -1,0 +1,91 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ContentScrollView.h"
+#include "EntryRows.h"
+#include "Measurement.h"
+#include "PickerPane.h"
+#include <GXUIPickers/UITableView.h>
+
+namespace gallery {
+
+class MeasurementCell;
+
+/// The table of all measurements, and the open picker: below its row, or beside the table.
+///
+/// - A tap on a row opens its picker, a second tap closes it. The value in the row follows the
+///   wheel.
+/// - While the window is resized the picker moves from one place to the other, with its values and
+///   the focus.
+///
+/// Invariants: rows show the values of the workout. A wheel that still spins is finished before it
+/// closes or moves.
+class EntryList : public gx::UIView, public gx::UITableViewDataSource, public gx::UITableViewDelegate {
+public:
+    bool initWithFrame(gx::CGRect frame) override;
+
+    /// Makes all rows again; the open row and the scroll position stay.
+    void makeRows(const std::shared_ptr<Workout>& workout, const Settings& settings);
+    /// To be called when the workout has got other values.
+    void showWorkout();
+    /// Whether the open picker is beside the table, from the next layout on. Default: false.
+    bool showsPickerBeside() const { return showsPickerBeside_; }
+    void setShowsPickerBeside(bool beside);
+
+    const std::vector<MeasurementGroup>& groups() const { return groups_; }
+    std::optional<std::size_t> openMeasurement() const { return rows_.open(); }
+    void openMeasurement_animated(std::optional<std::size_t> measurement, bool animated);
+    std::size_t measurementCount() const { return rows_.measurementCount(); }
+    const gx::Ref<Measurement>& measurement(std::size_t index) const;
+    gx::NSIndexPath pathOfMeasurement(std::size_t index) const { return rows_.pathOfMeasurement(index); }
+    void finishSpins();
+
+    const gx::Ref<gx::UITableView>& table() const { return table_; }
+    const gx::Ref<PickerPane>& pane() const { return pane_; }
+    gx::Ref<gx::UITableViewCell> openPickerCell();
+
+    void layoutSubviews() override;
+    /// Escape closes the open picker.
+    bool keyPressed(const gx::UIKey& key) override;
+
+    gx::NSInteger numberOfSectionsInTableView(const gx::Ref<gx::UITableView>&) override { return rows_.sectionCount(); }
+    gx::NSInteger tableView_numberOfRowsInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;
+    std::optional<std::string> tableView_titleForHeaderInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;
+    gx::Ref<gx::UITableViewCell> tableView_cellForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+    gx::CGFloat tableView_heightForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+    bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+    void tableView_didSelectRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+
+private:
+    struct Texts {
+        std::string name;
+        std::string value;
+    };
+    gx::CGFloat pickerHeight() const;
+    void noteValue(std::size_t measurement);
+    void showRow(std::size_t measurement);
+    void fillRow(MeasurementCell& cell, std::size_t measurement);
+    void showPicker(bool animated);
+    void closePicker(bool animated);
+    void showPickerInPane();
+    void movePicker();
+    gx::Ref<gx::UIView> focusInPicker() const;
+    void placeTableAndPane();
+
+    std::vector<MeasurementGroup> groups_;
+    EntryRows rows_;
+    std::vector<Texts> texts_;                // Of each measurement.
+    gx::Ref<gx::UITableViewCell> pickerCell_; // Of the open picker, once it was shown.
+    bool isPickerReady_ = false;              // Whether that picker shows the workout in the table.
+    bool showsPickerBeside_ = false;
+
+    gx::Ref<gx::UITableView> table_;
+    gx::Ref<PickerPane> pane_;
+    gx::Ref<ContentScrollView> paneScroll_;
+};
+
+} // namespace gallery
