@@ -6,11 +6,13 @@
 #include "UIGraphicsContext.h"
 #include "UIKey.h"
 #include "UIScrollAxis.h"
+#include "UIScrollIndicator.h"
 #include "UIWindow.h"
 
 namespace gx {
 
-UIScrollView::UIScrollView() : axis_(std::make_unique<UIScrollAxis>(UIScrollFeel::scrollView)) {}
+UIScrollView::UIScrollView()
+    : axis_(std::make_unique<UIScrollAxis>(UIScrollFeel::scrollView)), indicator_(std::make_unique<UIScrollIndicator>()) {}
 UIScrollView::~UIScrollView() = default;
 
 bool UIScrollView::initWithFrame(CGRect frame) {
@@ -70,10 +72,11 @@ void UIScrollView::setContentOffset_animated(CGPoint offset, bool animated) {
     if (!std::isfinite(offset.y)) return;
     const Ref<UIView> keep = refTo<UIView>(this);
     const CGFloat target = clamped(offset.y);
-    if (target == this->offset() && !UIScrollView::isMoving()) return;
+    if (target == this->offset() && !axis_->isGoing()) return;
     axis_->restAt(this->offset());
     endPress(false, 0);
     if (!animated || target == this->offset() || !canGlide()) return moveTo(target);
+    flashScrollIndicators();
     axis().easeTo(target, UIScrollMotion::requestDuration, std::nullopt, UIScrollAxis::State::Requested);
     startMoving();
 }
@@ -109,9 +112,11 @@ void UIScrollView::didMoveToWindow() {
 
 void UIScrollView::finishAnimations() {
     const Ref<UIView> keep = refTo<UIView>(this);
-    const bool isGoing = UIScrollView::isMoving();
+    const bool isGoing = axis_->isGoing();
     const CGFloat target = axis().target();
     stop();
+    indicator_->hide();
+    setNeedsDisplay();
     if (isGoing) moveTo(clamped(target));
 }
 
@@ -138,7 +143,7 @@ bool UIScrollView::touchBegan(const UITouch& touch) {
     if (isSecond || !std::isfinite(touch.locationInWindow.y)) return true;
     const Ref<UIView> keep = refTo<UIView>(this);
     endPress(false, touch.timestamp); // Of the same finger, whose end was not reported.
-    const bool stopsMovement = UIScrollView::isMoving();
+    const bool stopsMovement = axis_->isGoing();
     axis().touchBegan(touch.identifier, touch.locationInWindow.y, touch.timestamp);
     isPressed_ = !stopsMovement;
     if (isPressed_) pressBegan(point, touch.timestamp);
@@ -148,7 +153,9 @@ bool UIScrollView::touchBegan(const UITouch& touch) {
 void UIScrollView::touchMoved(const UITouch& touch) {
     if (!axis_->hasFinger(touch.identifier)) return;
     const Ref<UIView> keep = refTo<UIView>(this);
-    if (!axis().touchMoved(touch.locationInWindow.y, touch.timestamp)) return moveTo(axis_->position());
+    const bool begins = axis().touchMoved(touch.locationInWindow.y, touch.timestamp);
+    if (isDragging()) flashScrollIndicators();
+    if (!begins) return moveTo(axis_->position());
     endPress(false, touch.timestamp);
     if (isDragging()) scrollViewWillBeginDragging();
 }
@@ -166,6 +173,7 @@ void UIScrollView::touchEnded(const UITouch& touch) {
         throwAt(velocity, touch.timestamp);
     }
     endPress(true, touch.timestamp);
+    if (indicator_->isVisible()) startMoving();
 }
 
 void UIScrollView::touchCancelled(const UITouch& touch) {
@@ -174,6 +182,7 @@ void UIScrollView::touchCancelled(const UITouch& touch) {
     axis_->restAt(offset());
     if (axis().isBeyondEnd()) springBack(touch.timestamp);
     endPress(false, touch.timestamp);
+    if (indicator_->isVisible()) startMoving();
 }
 
 void UIScrollView::endPress(bool isTap, NSTimeInterval time) {
@@ -206,6 +215,7 @@ bool UIScrollView::scrolled(const UIScroll& scroll) {
     const CGFloat points = scroll.deltaY * (scroll.unit == UIScroll::Unit::Notches ? pointsPerNotch : 1);
     if (axis_->isHeld() || !std::isfinite(points) || points == 0) return true;
     axis_->restAt(offset());
+    flashScrollIndicators();
     moveTo(clamped(offset() + points));
     return true;
 }
@@ -238,13 +248,22 @@ bool UIScrollView::keyPressed(const UIKey& key) {
     default:
         return UIView::keyPressed(key);
     }
-    if (!hasFinger()) setContentOffset_animated({0, target}, true);
+    if (hasFinger()) return true;
+    flashScrollIndicators();
+    setContentOffset_animated({0, target}, true);
     return true;
 }
 
 // Time
 
-bool UIScrollView::isMoving() const { return axis_->isGoing(); }
+bool UIScrollView::isMoving() const { return axis_->isGoing() || (indicator_->isVisible() && !isDragging()); }
+
+void UIScrollView::flashScrollIndicators() {
+    if (!window() || highestOffset() <= 0) return; // Without a window no time passes.
+    indicator_->show();
+    setNeedsDisplay();
+    startMoving();
+}
 
 void UIScrollView::startMoving() {
     if (const Ref<UIWindow> window = this->window()) window->animateView(refTo<UIView>(this));
@@ -257,7 +276,8 @@ bool UIScrollView::reducesMotion() const {
 
 bool UIScrollView::advanceToTime(NSTimeInterval time) {
     const Ref<UIView> keep = refTo<UIView>(this);
-    if (UIScrollView::isMoving()) {
+    if (indicator_->advanceToTime(time, axis_->isGoing() || isDragging(), !reducesMotion())) setNeedsDisplay();
+    if (axis_->isGoing()) {
         const bool isOver = axis().advanceToTime(time) || reducesMotion();
         if (isOver) axis_->restAt(axis_->target());
         moveTo(axis_->position());
@@ -265,36 +285,13 @@ bool UIScrollView::advanceToTime(NSTimeInterval time) {
     return isMoving();
 }
 
-// For subclasses
-
-void UIScrollView::scrollViewDidScroll() {}
-void UIScrollView::scrollViewWillBeginDragging() {}
-void UIScrollView::pressBegan(CGPoint, NSTimeInterval) {}
-void UIScrollView::pressEnded(bool, NSTimeInterval) {}
-
 // Drawing
 
 void UIScrollView::drawScrolledViews(UIGraphicsContext& context) { UIView::drawSubviews(context); }
 
 void UIScrollView::drawSubviews(UIGraphicsContext& context) {
     drawScrolledViews(context);
-    drawScrollBar(context);
-}
-
-/// A thin bar in the margin shows which part of the content is visible.
-void UIScrollView::drawScrollBar(UIGraphicsContext& context) const {
-    const CGFloat highest = highestOffset();
-    if (highest <= 0) return;
-    // In points, chosen by eye.
-    constexpr CGFloat thickness = 4;
-    constexpr CGFloat inset = 4;
-    constexpr CGFloat shortest = 32;
-    const CGRect area = bounds();
-    const CGFloat room = area.size.height - 2 * inset;
-    const CGFloat length = std::min(room, std::max(shortest, area.size.height * area.size.height / contentSize_.height));
-    const CGFloat y = CGRectGetMinY(area) + inset + (room - length) * clamped(offset()) / highest;
-    context.fillRect(CGRectMake(CGRectGetMaxX(area) - inset - thickness, y, thickness, length), UIColor::tertiarySystemFillColor(),
-                     0.5 * thickness);
+    indicator_->draw(context, bounds(), contentSize_.height);
 }
 
 } // namespace gx

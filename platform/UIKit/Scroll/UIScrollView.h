@@ -8,6 +8,7 @@
 namespace gx {
 
 class UIScrollAxis;
+class UIScrollIndicator;
 
 /// Shows subviews that together are higher than it is, and scrolls them up and down.
 ///
@@ -16,8 +17,11 @@ class UIScrollAxis;
 /// - Subviews are placed in the coordinates of the content, from 0 to its height. Scrolling moves
 ///   the origin of the bounds and leaves frames alone.
 /// - A touch that a subview takes, such as one on a column of a wheel, never scrolls.
+/// - A scroll indicator shows which part is visible while content scrolls, and fades within a
+///   second afterwards. Until then the window gets frames, and then it is still. Content that the
+///   program places at once shows none.
 /// - In a window that reduces motion nothing decelerates: requests arrive at once, and a drag ends
-///   where the finger does.
+///   where the finger does. The scroll indicator vanishes without a fade.
 ///
 /// Invariant: the offset lies between 0 and `highestOffset`, but while a finger pulls beyond an end
 /// or the content springs back. Points and sizes with a coordinate that is no finite number are
@@ -53,6 +57,12 @@ public:
     /// The offset that shows the content's end; 0 if all of it fits.
     CGFloat highestOffset() const;
 
+    /// Shows the scroll indicator for a moment, if there is something to scroll.
+    ///
+    /// Call it when the view has come into sight, so that users see that there is more. No view
+    /// does so by itself. Without a window nothing happens.
+    void flashScrollIndicators();
+
     /// Whether a finger moves the content.
     bool isDragging() const;
     /// Whether the content moves on by itself after a finger has let go.
@@ -85,15 +95,15 @@ protected:
     // For subclasses. Here they do nothing; all may call back.
 
     /// Called after the offset has changed.
-    virtual void scrollViewDidScroll();
+    virtual void scrollViewDidScroll() {}
     /// Called when a finger begins to move the content.
-    virtual void scrollViewWillBeginDragging();
+    virtual void scrollViewWillBeginDragging() {}
     /// Called when a finger comes down on content that stands still, at a point of the content.
-    virtual void pressBegan(CGPoint point, NSTimeInterval time);
+    virtual void pressBegan(CGPoint /*point*/, NSTimeInterval /*time*/) {}
     /// Called once after it: with a tap if the finger let go where it came down, without one if it
     /// scrolls or was cancelled.
-    virtual void pressEnded(bool isTap, NSTimeInterval time);
-    /// Draws the subviews, below the scroll bar.
+    virtual void pressEnded(bool /*isTap*/, NSTimeInterval /*time*/) {}
+    /// Draws the subviews, below the scroll indicator.
     virtual void drawScrolledViews(UIGraphicsContext& context);
 
     /// Whether anything here changes with time alone.
@@ -118,11 +128,11 @@ private:
     void springBack(NSTimeInterval time);
     void fitToContent();
     void endPress(bool isTap, NSTimeInterval time);
-    void drawScrollBar(UIGraphicsContext& context) const;
 
     CGSize contentSize_;
     // What moves the offset. The offset itself is the origin of the bounds.
     std::unique_ptr<UIScrollAxis> axis_;
+    std::unique_ptr<UIScrollIndicator> indicator_;
     bool isPressed_ = false;
 };
 

@@ -41,7 +41,9 @@ TEST_F(UIScrollViewTest, BeyondAnEndTheContentFollowsLessAndLessAndSpringsBack) 
     window.run(0.2);
     window.up({150, 310});
     EXPECT_TRUE(scroll->isDecelerating());
-    EXPECT_NEAR(window.runUntilStill(), UIScrollMotion::snapDuration, 0.05);
+    const double start = window.now;
+    while (scroll->isDecelerating()) window.tick(TestWindow::frame);
+    EXPECT_NEAR(window.now - start, UIScrollMotion::snapDuration, 0.05);
     EXPECT_EQ(offset(), 0);
     setOffset(600);
     window.down(middle);
@@ -234,8 +236,8 @@ TEST_F(UIScrollViewTest, ARequestForThePresentOffsetLeavesTheFingerAloneAndStops
     window.run(0.1);
     const CGFloat present = offset();
     scroll->setContentOffset_animated({0, present}, true);
-    window.tick(TestWindow::frame);
-    EXPECT_FALSE(window.tick(TestWindow::frame)) << "there is no way to go";
+    EXPECT_FALSE(scroll->isDecelerating()) << "there is no way to go";
+    window.runUntilStill();
     EXPECT_EQ(offset(), present);
 }
 

@@ -106,6 +106,7 @@ TEST_F(UITableViewFocus, IsMarkedFromAKeyToATouch) {
     window.down({160, 300});
     window.move({160, 310});
     window.up({160, 310});
+    window.runUntilStill(); // The scroll indicator fades.
     EXPECT_EQ(fills(), plain);
 }
 
