@@ -42,13 +42,14 @@ public:
     }
     CGFloat usualRowHeight() const override { return table_.rowHeight_; }
     CGFloat headerHeight() const override { return table_.sectionHeaderHeight_; }
+    Ref<UIFont> headerFont() const override { return table_.sectionHeaderFont_; }
     Ref<UITableViewCell> cellForRow(NSIndexPath path) override {
         const auto source = table_.dataSource_.lock();
         return source ? source->tableView_cellForRowAtIndexPath(table_.self(), path) : nullptr;
     }
     void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) override {
-        const auto delegate = table_.delegate_.lock();
-        if (delegate) delegate->tableView_didEndDisplayingCell_forRowAtIndexPath(table_.self(), cell, path);
+        if (const auto delegate = table_.delegate_.lock())
+            delegate->tableView_didEndDisplayingCell_forRowAtIndexPath(table_.self(), cell, path);
     }
     bool canTapRow(NSIndexPath path) override {
         const auto delegate = table_.delegate_.lock();
@@ -60,7 +61,6 @@ private:
 };
 
 UITableView::UITableView() : parts_(std::make_unique<Parts>(*this)) {}
-
 UITableView::~UITableView() = default;
 
 UITableViewContent& UITableView::content() const { return parts_->content; }

@@ -8,6 +8,7 @@
 
 #include "GXExport.h"
 #include "NSIndexPath.h"
+#include "UIFont.h"
 #include "UIScrollView.h"
 #include "UITableViewCell.h"
 
@@ -130,6 +131,13 @@ public:
     /// Of sections with a title; clamped as for rows.
     CGFloat sectionHeaderHeight() const { return sectionHeaderHeight_; }
     void setSectionHeaderHeight(CGFloat height);
+    /// Of the titles of sections, which have one line. Nothing, the default, is a font a little
+    /// smaller than that of the rows.
+    const Ref<UIFont>& sectionHeaderFont() const { return sectionHeaderFont_; }
+    void setSectionHeaderFont(Ref<UIFont> font) {
+        sectionHeaderFont_ = std::move(font);
+        setNeedsLayout();
+    }
     /// Of the hairlines between the rows of a section; nothing draws none.
     std::optional<UIColor> separatorColor() const { return separatorColor_; }
     void setSeparatorColor(std::optional<UIColor> color) {
@@ -231,6 +239,7 @@ private:
     WeakRef<UITableViewDelegate> delegate_;
     CGFloat rowHeight_ = defaultRowHeight;
     CGFloat sectionHeaderHeight_ = defaultSectionHeaderHeight;
+    Ref<UIFont> sectionHeaderFont_;
     std::optional<UIColor> separatorColor_ = UIColor::tertiarySystemFillColor();
     std::unique_ptr<Parts> parts_; // Made once, by the constructor.
 };

@@ -111,7 +111,7 @@ bool UITableViewContent::layOut(NSInteger highestVisibleCount) {
         path = rows().nextRow(*path);
         ++count;
     }
-    headers_.show(table_, rows(), range);
+    headers_.show(table_, rows(), range, client_.headerFont());
     return true;
 }
 

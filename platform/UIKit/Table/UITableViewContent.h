@@ -26,6 +26,7 @@ public:
     public:
         virtual Ref<UITableViewCell> cellForRow(NSIndexPath path) = 0;
         virtual void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) = 0;
+        virtual Ref<UIFont> headerFont() const = 0;
     };
 
     UITableViewContent(UIScrollView& table, Client& client, int highestSkippedCount)

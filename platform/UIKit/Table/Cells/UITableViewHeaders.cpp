@@ -9,12 +9,10 @@ namespace gx {
 namespace {
 
 // Chosen: smaller than the rows' text, which is what a user looks for.
-constexpr CGFloat headerFontSize = 13;
+constexpr CGFloat usualFontSize = 13;
 
 Ref<UILabel> makeHeader() {
-    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(headerFontSize, UIFontWeight::Medium);
     auto label = create<UILabel>();
-    label->setFont(font);
     label->setTextAlignment(NSTextAlignmentNatural);
     label->setTextColor(UIColor::secondaryLabelColor());
     return label;
@@ -47,11 +45,13 @@ UITableViewHeaders::Header& UITableViewHeaders::headerOfSection(UIView& table, N
     return shown_.back();
 }
 
-void UITableViewHeaders::show(UIView& table, const UITableViewRows& rows, UITableViewRows::Range range) {
+void UITableViewHeaders::show(UIView& table, const UITableViewRows& rows, UITableViewRows::Range range, const Ref<UIFont>& font) {
     for (std::size_t i = shown_.size(); i-- > 0;) {
         const UITableViewRows::Span span = rows.spanOfHeader(shown_[i].section);
         if (span.height <= 0 || !range.meets(span)) hide(i);
     }
+    static const Ref<UIFont> usualFont = UIFont::systemFontOfSize_weight(usualFontSize, UIFontWeight::Medium);
+    const Ref<UIFont>& shownFont = font ? font : usualFont;
     const CGFloat width = table.bounds().size.width;
     const CGFloat inset = std::min(UITableViewCell::labelInset, 0.5 * width);
     for (NSInteger section = rows.firstSectionBelow(range.top); section < rows.sectionCount(); ++section) {
@@ -59,6 +59,7 @@ void UITableViewHeaders::show(UIView& table, const UITableViewRows& rows, UITabl
         if (span.top >= range.bottom) break;
         if (span.height <= 0 || span.bottom() <= range.top) continue;
         const Ref<UILabel> label = headerOfSection(table, section).label;
+        if (label->font() != shownFont) label->setFont(shownFont);
         if (label->text() != rows.title(section)) label->setText(rows.title(section));
         label->setFrame(CGRectInset(CGRectMake(0, span.top, width, span.height), inset, 0));
     }

@@ -18,8 +18,9 @@ public:
         Ref<UILabel> label;
     };
 
-    /// Shows the headers in this range, below the other subviews of `table`, and no others.
-    void show(UIView& table, const UITableViewRows& rows, UITableViewRows::Range range);
+    /// Shows the headers in this range, below the other subviews of `table`, and no others. Nothing
+    /// for the font is the usual one.
+    void show(UIView& table, const UITableViewRows& rows, UITableViewRows::Range range, const Ref<UIFont>& font);
     void hideAll();
     /// In no particular order.
     const std::vector<Header>& shown() const { return shown_; }

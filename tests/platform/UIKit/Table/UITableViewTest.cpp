@@ -268,6 +268,23 @@ TEST_F(UITableViewTest, GivesHeadersTheirHeight) {
     EXPECT_EQ(table->rectForRowAtIndexPath({0, 0}).origin.y, 28);
 }
 
+TEST_F(UITableViewTest, DrawsHeadersInTheirFont) {
+    source->titles = {"first"};
+    table->reloadData();
+    const auto sizeOfHeader = [this] {
+        RecordingCanvas canvas;
+        window->draw(canvas);
+        return canvas.fontSizes.at(0);
+    };
+    const CGFloat usual = sizeOfHeader();
+    EXPECT_EQ(usual, 13);
+    table->setSectionHeaderFont(UIFont::systemFontOfSize_weight(26));
+    EXPECT_EQ(sizeOfHeader(), 26);
+    EXPECT_EQ(table->rectForRowAtIndexPath({0, 0}).origin.y, 28) << "the height is set on its own";
+    table->setSectionHeaderFont(nullptr);
+    EXPECT_EQ(sizeOfHeader(), usual);
+}
+
 TEST_F(UITableViewTest, IsReadFromTopToBottom) {
     source->titles = {"Head"};
     table->reloadData();
