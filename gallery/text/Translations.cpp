@@ -5,11 +5,8 @@
 #include <cstddef>
 #include <span>
 
-#include "GXLanguageChecks.h"
-#include "GXLanguages.h"
+#include "ApplicationLanguages.h"
 #include <GXUIPickers/GXLocalization.h>
-
-using gx::GXText;
 
 namespace gallery {
 
@@ -17,29 +14,23 @@ namespace {
 
 struct LanguageTexts {
     std::string_view language;
-    std::span<const GXText> texts;
+    std::span<const ApplicationText> texts;
 };
 
 template <class Language>
 constexpr LanguageTexts textsOfLanguage() {
-    using Checks = gx::GXLanguageChecks;
-    static_assert(gx::isComplete<Checks::firstProblemOfTexts(Language::applicationTexts, gx::GXEnglish::applicationTexts)>());
-    return {Language::identifier, Language::applicationTexts};
+    using Checks = ApplicationTextChecks;
+    static_assert(isComplete<Checks::firstProblemOfTexts(Language::texts, EnglishTexts::texts)>());
+    return {Language::language, Language::texts};
 }
+static_assert(isComplete<ApplicationTextChecks::firstRepeatedText(EnglishTexts::texts)>());
 
 template <class... Languages>
-constexpr std::array<LanguageTexts, sizeof...(Languages)> textsOfLanguages(gx::GXLanguageList<Languages...>) {
+constexpr std::array<LanguageTexts, sizeof...(Languages)> textsOfLanguages(ApplicationLanguageList<Languages...>) {
     return {textsOfLanguage<Languages>()...};
 }
 
-constexpr auto allTexts = textsOfLanguages(gx::GXLanguages{});
-
-constexpr bool isEachTextThereOnce(std::span<const GXText> texts) {
-    return std::all_of(texts.begin(), texts.end(), [texts](const GXText& text) {
-        return std::count_if(texts.begin(), texts.end(), [&text](const GXText& other) { return other.key == text.key; }) == 1;
-    });
-}
-static_assert(isEachTextThereOnce(gx::GXEnglish::applicationTexts), "an English text is there twice");
+constexpr auto allTexts = textsOfLanguages(ApplicationLanguages{});
 
 } // namespace
 
@@ -51,8 +42,8 @@ std::string_view Translations::textInLanguage(std::string_view english, std::str
     const auto texts = std::find_if(allTexts.begin(), allTexts.end(),
                                     [language](const LanguageTexts& candidate) { return candidate.language == language; });
     if (texts == allTexts.end()) return english;
-    const auto entry =
-        std::find_if(texts->texts.begin(), texts->texts.end(), [english](const GXText& candidate) { return candidate.key == english; });
+    const auto entry = std::find_if(texts->texts.begin(), texts->texts.end(),
+                                    [english](const ApplicationText& candidate) { return candidate.english == english; });
     return entry == texts->texts.end() ? english : entry->text;
 }
 
@@ -65,7 +56,7 @@ std::vector<std::string> Translations::languages() {
 
 std::vector<std::string_view> Translations::englishTexts() {
     std::vector<std::string_view> texts;
-    for (const GXText& text : gx::GXEnglish::applicationTexts) texts.push_back(text.key);
+    for (const ApplicationText& text : EnglishTexts::texts) texts.push_back(text.english);
     return texts;
 }
 

@@ -8,9 +8,8 @@ namespace gallery {
 
 /// The application's own texts, in the language that the pickers use (`gx::GXLocalization`).
 ///
-/// They lie in the files of the languages, `services/Localization/Languages/`, as
-/// `applicationTexts`. Every language has every text, none is empty, and no English text is there
-/// twice; the compiler checks that.
+/// They lie in `gallery/text/languages/`. Every language has every text, none is empty, and no
+/// English text is there twice; the compiler checks that.
 class Translations {
 public:
     Translations() = delete;

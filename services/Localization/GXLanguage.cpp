@@ -45,13 +45,18 @@ std::string_view takePart(std::string_view& identifier) {
     return part;
 }
 
+bool isSamePart(std::string_view one, std::string_view other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [](char a, char b) { return lowerCase(a) == lowerCase(b); });
+}
+
 std::size_t commonLeadingParts(std::string_view a, std::string_view b) {
-    const auto isSameLetter = [](char one, char other) { return lowerCase(one) == lowerCase(other); };
     std::size_t count = 0;
     while (!a.empty() && !b.empty()) {
         const std::string_view partOfA = takePart(a);
         const std::string_view partOfB = takePart(b);
-        if (!std::equal(partOfA.begin(), partOfA.end(), partOfB.begin(), partOfB.end(), isSameLetter)) break;
+        // "iw" is the old code of Hebrew, which some systems still have.
+        const bool isHebrew = count == 0 && isSamePart(partOfA, GXHebrew::identifier) && isSamePart(partOfB, "iw");
+        if (!isHebrew && !isSamePart(partOfA, partOfB)) break;
         ++count;
     }
     return count;

@@ -58,6 +58,7 @@ public:
     /// the first part at least, else English:
     ///
     /// - "zh_TW" gets simplified Chinese, which its readers know better than English;
+    /// - "iw" means the same as "he";
     /// - "pt" is Brazilian, in words and in plurals ("0 quilômetro"), and "pt-PT" falls back to it.
     virtual void setLanguage(std::string language);
     /// The known language that the texts are taken from, such as "zh-Hans" for "zh_CN".

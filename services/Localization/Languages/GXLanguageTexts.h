@@ -15,9 +15,7 @@ namespace gx {
 // - `decimalSeparator`: what its readers are used to, with the digits 0 to 9;
 // - `pluralCategory`: which form of a unit goes with a number;
 // - `unitTexts`: the labels beside the wheels, in at most 8 characters;
-// - `accessibilityNames`, `accessibilityUnits`: what screen readers read out;
-// - `applicationTexts`: what an application shows around the pickers. The library does not use
-//   these, so it does not contain them: an application takes them from `GXLanguages`.
+// - `accessibilityNames`, `accessibilityUnits`: what screen readers read out.
 //
 // Sources:
 //
@@ -26,17 +24,16 @@ namespace gx {
 //   are read out as the digits that are shown.
 // - `unitTexts`: CLDR's short unit patterns, or its narrow ones where these are too long for a
 //   label. Where both inflect with the number (Polish pounds and miles), the international symbol.
-// - `accessibilityUnits`: CLDR's long unit patterns, or the words that runners use instead.
+// - `accessibilityUnits`: CLDR's long unit patterns, or the words that runners use instead. Some
+//   name one or two without a number (Arabic "ساعتان", Hebrew "שעתיים"). Here every pattern has the
+//   number, as CLDR's narrow ones do: what is read out are the digits that are shown, also in "1.0"
+//   and after "minus".
 // - Everything else is the wording of this project: heart-rate labels, beats per minute, letters of
 //   clock layouts, Turkish pace, Chinese names of mass and speed, names of measurements.
 //
 // The letters of a clock layout are those that the words for hours, minutes and seconds begin with,
-// where readers are used to them; elsewhere they know "hh:mm" from forms.
-//
-// In `applicationTexts`, choices agree with the name of what they choose: "Metric" with "Units",
-// "Full" with "Motion", "High" with "Contrast", "Light" with "Look". "Height" and "Weight" are
-// those of a body. Weather is written as within a sentence. A colon is followed by a name; French
-// has a no-break space before it.
+// where readers are used to them; elsewhere they know "hh:mm" from forms. So do Arabic and Hebrew
+// readers: their own letters would run against the order of the columns.
 
 /// A text and the English one that is its key.
 struct GXText {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "GXArabic.h"
 #include "GXDutch.h"
 #include "GXEnglish.h"
 #include "GXFrench.h"
 #include "GXGerman.h"
+#include "GXHebrew.h"
 #include "GXItalian.h"
 #include "GXJapanese.h"
 #include "GXKorean.h"
@@ -21,8 +23,9 @@ struct GXLanguageList {};
 
 /// All languages, in the order in which users choose from them; English first.
 ///
-/// To add a language, write its file and name it here. What its file lacks does not compile.
+/// To add a language, write its file and name it here. What its file lacks does not compile. The
+/// gallery has its own texts in `gallery/text/languages/`.
 using GXLanguages = GXLanguageList<GXEnglish, GXGerman, GXFrench, GXSpanish, GXItalian, GXPortuguese, GXDutch, GXPolish, GXRussian,
-                                   GXTurkish, GXJapanese, GXSimplifiedChinese, GXKorean>;
+                                   GXTurkish, GXArabic, GXHebrew, GXJapanese, GXSimplifiedChinese, GXKorean>;
 
 } // namespace gx

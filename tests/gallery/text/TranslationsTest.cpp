@@ -118,6 +118,10 @@ TEST_F(TranslationsTest, UsesTheWordsOfItsReaders) {
     EXPECT_EQ(textIn("ru", "Weather"), "Погода");
     EXPECT_EQ(textIn("ru", "partly cloudy"), "переменная облачность");
     EXPECT_EQ(textIn("tr", "Open"), "Aç");
+    EXPECT_EQ(textIn("ar", "Save"), "حفظ");
+    EXPECT_EQ(textIn("ar", "partly cloudy"), "غائم جزئيًا");
+    EXPECT_EQ(textIn("he", "Settings"), "הגדרות");
+    EXPECT_EQ(textIn("he", "Height"), "גובה");
     EXPECT_EQ(textIn("ja", "Heart rate"), "心拍数");
     EXPECT_EQ(textIn("zh-Hans", "Dark"), "深色");
     EXPECT_EQ(textIn("ko", "snow"), "눈");
@@ -125,6 +129,8 @@ TEST_F(TranslationsTest, UsesTheWordsOfItsReaders) {
 }
 
 TEST_F(TranslationsTest, FollowsTheLanguageOfThePickers) {
+    EXPECT_EQ(textIn("iw_IL", "rain"), "גשם");
+    EXPECT_EQ(textIn("ar_EG", "rain"), "مطر");
     EXPECT_EQ(textIn("zh_CN", "Light"), "浅色");
     EXPECT_EQ(textIn("zh_TW", "Light"), "浅色");
     EXPECT_EQ(textIn("pt_BR.UTF-8", "rain"), "chuva");

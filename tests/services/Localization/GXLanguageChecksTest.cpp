@@ -12,22 +12,8 @@ namespace {
 
 using Checks = GXLanguageChecks;
 
-// Rules with more categories than the present languages have.
-
-constexpr GXPluralCategory arabicRule(const GXPluralOperands& number) {
-    if (!number.isFractionZero) return GXPluralCategory::Other;
-    if (number.integer == 0) return GXPluralCategory::Zero;
-    if (number.integer == 1) return GXPluralCategory::One;
-    if (number.integer == 2) return GXPluralCategory::Two;
-    const int tens = number.integer % 100;
-    if (tens >= 3 && tens <= 10) return GXPluralCategory::Few;
-    return tens >= 11 ? GXPluralCategory::Many : GXPluralCategory::Other;
-}
-
-constexpr GXPluralCategory hebrewRule(const GXPluralOperands& number) {
-    if (number.isWhole() ? number.integer == 1 : number.integer == 0) return GXPluralCategory::One;
-    return number.isWhole() && number.integer == 2 ? GXPluralCategory::Two : GXPluralCategory::Other;
-}
+constexpr auto arabicRule = GXArabic::pluralCategory;
+constexpr auto hebrewRule = GXHebrew::pluralCategory;
 
 std::vector<GXAccessibilityUnitText> unitsWithForms(const GXPluralForms& forms) {
     std::vector<GXAccessibilityUnitText> units;

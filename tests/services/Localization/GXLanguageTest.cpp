@@ -12,7 +12,8 @@ namespace {
 
 std::string quantity(const char* language, const char* whole, const char* fraction, GXAccessibilityUnit unit) {
     // The separator is that of the locale, which need not be the language's.
-    const std::string separator = std::string(language) == "en" ? "." : ",";
+    const bool hasPoint = std::string(language) == "en" || std::string(language) == "ar" || std::string(language) == "he";
+    const std::string separator = hasPoint ? "." : ",";
     return GXLanguage::languageForIdentifier(language).quantity({whole, separator, fraction}, unit);
 }
 
@@ -56,6 +57,8 @@ TEST(GXLanguage, KilometresInflectInEveryLanguage) {
         {"pl", "1 kilometr", "2 kilometry", "5 kilometrów", "5,3 kilometra"},
         {"ru", "1 километр", "2 километра", "5 километров", "5,3 километра"},
         {"tr", "1 kilometre", "2 kilometre", "5 kilometre", "5,3 kilometre"},
+        {"ar", "1 كيلومتر", "2 كيلومتر", "5 كيلومترات", "5.3 كيلومتر"},
+        {"he", "1 קילומטר", "2 קילומטרים", "5 קילומטרים", "5.3 קילומטרים"},
         {"ja", "1 キロメートル", "2 キロメートル", "5 キロメートル", "5,3 キロメートル"},
         {"zh-Hans", "1公里", "2公里", "5公里", "5,3公里"},
         {"ko", "1킬로미터", "2킬로미터", "5킬로미터", "5,3킬로미터"},
@@ -112,7 +115,76 @@ TEST(GXLanguage, OtherLanguagesInflectOtherUnits) {
     EXPECT_EQ(quantity("ko", "450", "", GXAccessibilityUnit::Kilocalorie), "450킬로칼로리");
 }
 
+TEST(GXLanguage, ArabicCountsInSixForms) {
+    constexpr GXAccessibilityUnit kilometre = GXAccessibilityUnit::Kilometre;
+    EXPECT_EQ(quantity("ar", "0", "", kilometre), "0 كيلومتر");
+    EXPECT_EQ(quantity("ar", "1", "", kilometre), "1 كيلومتر");
+    EXPECT_EQ(quantity("ar", "2", "", kilometre), "2 كيلومتر");
+    EXPECT_EQ(quantity("ar", "3", "", kilometre), "3 كيلومترات");
+    EXPECT_EQ(quantity("ar", "10", "", kilometre), "10 كيلومترات");
+    EXPECT_EQ(quantity("ar", "11", "", kilometre), "11 كيلومترًا");
+    EXPECT_EQ(quantity("ar", "99", "", kilometre), "99 كيلومترًا");
+    EXPECT_EQ(quantity("ar", "100", "", kilometre), "100 كيلومتر");
+    EXPECT_EQ(quantity("ar", "101", "", kilometre), "101 كيلومتر");
+    EXPECT_EQ(quantity("ar", "102", "", kilometre), "102 كيلومتر");
+    EXPECT_EQ(quantity("ar", "103", "", kilometre), "103 كيلومترات");
+    EXPECT_EQ(quantity("ar", "0", "5", kilometre), "0.5 كيلومتر");
+    EXPECT_EQ(quantity("ar", "3", "0", kilometre), "3.0 كيلومترات");
+    EXPECT_EQ(quantity("ar", "3", "5", kilometre), "3.5 كيلومتر");
+    EXPECT_EQ(quantity("ar", "11", "05", kilometre), "11.05 كيلومتر");
+}
+
+/// The number is there where CLDR names one and two by the noun alone.
+TEST(GXLanguage, ArabicUnitsInflectAndKeepTheNumber) {
+    struct Case {
+        GXAccessibilityUnit unit;
+        const char* one;
+        const char* few;
+        const char* many;
+    };
+    constexpr Case cases[] = {
+        {GXAccessibilityUnit::Mile, "1 ميل", "3 أميال", "11 ميلًا"},
+        {GXAccessibilityUnit::Hour, "1 ساعة", "3 ساعات", "11 ساعة"},
+        {GXAccessibilityUnit::Minute, "1 دقيقة", "3 دقائق", "11 دقيقة"},
+        {GXAccessibilityUnit::Second, "1 ثانية", "3 ثوان", "11 ثانية"},
+        {GXAccessibilityUnit::KilometrePerHour, "1 كيلومتر في الساعة", "3 كيلومترات في الساعة", "11 كيلومترًا في الساعة"},
+        {GXAccessibilityUnit::BeatPerMinute, "1 نبضة في الدقيقة", "3 نبضات في الدقيقة", "11 نبضة في الدقيقة"},
+        {GXAccessibilityUnit::Kilocalorie, "1 سعرة حرارية", "3 سعرات حرارية", "11 سعرة حرارية"},
+        {GXAccessibilityUnit::Pound, "1 رطل", "3 أرطال", "11 رطلًا"},
+        {GXAccessibilityUnit::Foot, "1 قدم", "3 أقدام", "11 قدمًا"},
+        {GXAccessibilityUnit::DegreeCelsius, "1 درجة مئوية", "3 درجات مئوية", "11 درجة مئوية"},
+    };
+    for (const Case& example : cases) {
+        EXPECT_EQ(quantity("ar", "1", "", example.unit), example.one);
+        EXPECT_EQ(quantity("ar", "2", "", example.unit), "2" + std::string(example.one).substr(1));
+        EXPECT_EQ(quantity("ar", "3", "", example.unit), example.few);
+        EXPECT_EQ(quantity("ar", "11", "", example.unit), example.many);
+        EXPECT_EQ(quantity("ar", "100", "", example.unit), "100" + std::string(example.one).substr(1));
+    }
+}
+
+TEST(GXLanguage, HebrewCountsInThreeForms) {
+    constexpr GXAccessibilityUnit hour = GXAccessibilityUnit::Hour;
+    EXPECT_EQ(quantity("he", "0", "", hour), "0 שעות");
+    EXPECT_EQ(quantity("he", "1", "", hour), "1 שעה");
+    EXPECT_EQ(quantity("he", "2", "", hour), "2 שעות");
+    EXPECT_EQ(quantity("he", "3", "", hour), "3 שעות");
+    EXPECT_EQ(quantity("he", "10", "", hour), "10 שעות");
+    EXPECT_EQ(quantity("he", "11", "", hour), "11 שעות");
+    EXPECT_EQ(quantity("he", "99", "", hour), "99 שעות");
+    EXPECT_EQ(quantity("he", "100", "", hour), "100 שעות");
+    EXPECT_EQ(quantity("he", "101", "", hour), "101 שעות");
+    EXPECT_EQ(quantity("he", "102", "", hour), "102 שעות");
+    EXPECT_EQ(quantity("he", "103", "", hour), "103 שעות");
+    EXPECT_EQ(quantity("he", "0", "5", hour), "0.5 שעה");
+    EXPECT_EQ(quantity("he", "1", "0", hour), "1.0 שעות");
+    EXPECT_EQ(quantity("he", "2", "5", GXAccessibilityUnit::KilometrePerHour), "2.5 קילומטר לשעה");
+    EXPECT_EQ(quantity("he", "1", "", GXAccessibilityUnit::DegreeCelsius), "1 מעלת צלזיוס");
+}
+
 TEST(GXLanguage, ANumberBelowZeroHasAWordForItsSign) {
+    EXPECT_EQ(quantity("ar", "-4", "", GXAccessibilityUnit::DegreeCelsius), "سالب 4 درجات مئوية");
+    EXPECT_EQ(quantity("he", "-1", "", GXAccessibilityUnit::DegreeCelsius), "מינוס 1 מעלת צלזיוס");
     EXPECT_EQ(quantity("en", "-4", "", GXAccessibilityUnit::DegreeCelsius), "minus 4 degrees Celsius");
     EXPECT_EQ(quantity("en", "-1", "", GXAccessibilityUnit::DegreeCelsius), "minus 1 degree Celsius");
     EXPECT_EQ(quantity("ru", "-2", "", GXAccessibilityUnit::DegreeCelsius), "минус 2 градуса Цельсия");

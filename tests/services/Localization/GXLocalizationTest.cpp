@@ -89,8 +89,9 @@ TEST_F(GXLocalizationTest, EnglishTextsEqualTheirKeys) {
     for (const char* key : keys) EXPECT_EQ(localization->localizedStringWithKey_comment(key, "a note"), key);
 }
 
-TEST_F(GXLocalizationTest, KnowsThirteenLanguages) {
-    const std::vector<std::string> expected = {"en", "de", "fr", "es", "it", "pt", "nl", "pl", "ru", "tr", "ja", "zh-Hans", "ko"};
+TEST_F(GXLocalizationTest, KnowsFifteenLanguages) {
+    const std::vector<std::string> expected = {"en", "de", "fr", "es", "it", "pt",      "nl", "pl",
+                                               "ru", "tr", "ar", "he", "ja", "zh-Hans", "ko"};
     EXPECT_EQ(GXLocalization::availableLanguages(), expected);
     for (const std::string& language : expected) EXPECT_EQ(translationLanguageFor(language), language);
 }
@@ -131,6 +132,11 @@ TEST_F(GXLocalizationTest, UsesTheWordsOfItsReaders) {
     EXPECT_EQ(textFor("ru", "mi"), "ми");
     EXPECT_EQ(textFor("ru", "hh:mm:ss"), "чч:мм:сс");
     EXPECT_EQ(textFor("tr", "min/km"), "dk/km");
+    EXPECT_EQ(textFor("ar", "km/h"), "كم/س");
+    EXPECT_EQ(textFor("ar", "kcal"), "سعرة");
+    EXPECT_EQ(textFor("ar", "hh:mm:ss"), "hh:mm:ss");
+    EXPECT_EQ(textFor("he", "km/h"), "קמ״ש");
+    EXPECT_EQ(textFor("he", "min/km"), "דק׳/ק״מ");
     EXPECT_EQ(textFor("ja", "mm:ss"), "分:秒");
     EXPECT_EQ(textFor("zh-Hans", "cm"), "厘米");
     EXPECT_EQ(textFor("ko", "MAX"), "최대");
@@ -138,8 +144,9 @@ TEST_F(GXLocalizationTest, UsesTheWordsOfItsReaders) {
 
 TEST_F(GXLocalizationTest, TheDegreeSignsAreOrdinaryKeys) {
     for (const std::string& language : GXLocalization::availableLanguages()) {
-        EXPECT_EQ(textFor(language, "\u00B0C"), "\u00B0C");
-        EXPECT_EQ(textFor(language, "\u00B0F"), "\u00B0F");
+        const bool isArabic = language == "ar"; // Its readers have letters of their own for them.
+        EXPECT_EQ(textFor(language, "\u00B0C"), isArabic ? "\u00B0م" : "\u00B0C");
+        EXPECT_EQ(textFor(language, "\u00B0F"), isArabic ? "\u00B0ف" : "\u00B0F");
     }
 }
 
@@ -172,6 +179,19 @@ TEST_F(GXLocalizationTest, ARegionFallsBackToItsLanguage) {
     EXPECT_EQ(translationLanguageFor("zh_TW"), "zh-Hans");
     EXPECT_EQ(translationLanguageFor("es-419"), "es");
     EXPECT_EQ(translationLanguageFor("zh-1234"), "zh-Hans");
+    EXPECT_EQ(translationLanguageFor("ar_EG"), "ar");
+    EXPECT_EQ(translationLanguageFor("ar-Latn-MA"), "ar");
+    EXPECT_EQ(translationLanguageFor("ar_001.UTF-8"), "ar");
+    EXPECT_EQ(translationLanguageFor("he_IL"), "he");
+}
+
+TEST_F(GXLocalizationTest, HebrewIsKnownByItsOldCode) {
+    EXPECT_EQ(translationLanguageFor("iw"), "he");
+    EXPECT_EQ(translationLanguageFor("IW-il"), "he");
+    EXPECT_EQ(translationLanguageFor("iw_IL.UTF-8"), "he");
+    EXPECT_EQ(translationLanguageFor("iwx"), "en");
+    EXPECT_EQ(translationLanguageFor("zh-iw"), "zh-Hans");
+    EXPECT_EQ(translationLanguageFor("xx-iw"), "en");
 }
 
 TEST_F(GXLocalizationTest, AnUnknownLanguageIsEnglish) {
@@ -192,6 +212,8 @@ TEST_F(GXLocalizationTest, LanguagesHaveTheNameThatTheirSpeakersUse) {
     EXPECT_EQ(GXLocalization::nameOfLanguage("de"), "Deutsch");
     EXPECT_EQ(GXLocalization::nameOfLanguage("de_AT"), "Deutsch");
     EXPECT_EQ(GXLocalization::nameOfLanguage("zh-Hans"), "简体中文");
+    EXPECT_EQ(GXLocalization::nameOfLanguage("ar_EG"), "العربية");
+    EXPECT_EQ(GXLocalization::nameOfLanguage("iw"), "עברית");
     EXPECT_EQ(GXLocalization::nameOfLanguage("sv"), "English");
 }
 
@@ -199,6 +221,8 @@ TEST_F(GXLocalizationTest, LanguagesHaveADecimalSeparator) {
     EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("en"), ".");
     EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("de_DE"), ",");
     EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("ja"), ".");
+    EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("ar"), ".");
+    EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("he"), ".");
 }
 
 TEST_F(GXLocalizationTest, APatternIsFilledInUnlessItIsLeftOut) {

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "ApplicationText.h"
+
+namespace gallery {
+
+struct SpanishTexts {
+    static constexpr std::string_view language = "es";
+
+    static constexpr ApplicationText texts[] = {
+        // Pages, sections and rows.
+        {"Add workout", "Añadir entrenamiento"},
+        {"All pickers", "Todos los selectores"},
+        {"Workout", "Entrenamiento"},
+        {"Workouts", "Entrenamientos"},
+        {"Best interval", "Mejor intervalo"},
+        {"Heart", "Corazón"},
+        {"Conditions", "Condiciones"},
+        {"Body", "Cuerpo"},
+        {"Distance and time", "Distancia y tiempo"},
+        {"Distance", "Distancia"},
+        {"Duration", "Duración"},
+        {"Average speed", "Velocidad media"},
+        {"Speed", "Velocidad"},
+        {"Pace", "Ritmo"},
+        {"Calories", "Calorías"},
+        {"Heart rate", "Frecuencia cardiaca"},
+        {"Resting pulse", "Pulso en reposo"},
+        {"Beats per minute", "Latidos por minuto"},
+        {"Weather", "Clima"},
+        {"Temperature", "Temperatura"},
+        {"Water temperature", "Temperatura del agua"},
+        {"Weight", "Peso"},
+        {"Height", "Altura"},
+        {"Choose a row to change its value.", "Elige una fila para cambiar su valor."},
+        // Settings and their choices.
+        {"Settings", "Ajustes"},
+        {"Units", "Unidades"},
+        {"Metric", "Métricas"},
+        {"Imperial", "Imperiales"},
+        {"Kilograms", "Kilogramos"},
+        {"Pounds", "Libras"},
+        {"Stones", "Stones"},
+        {"Text size", "Tamaño del texto"},
+        {"Look", "Aspecto"},
+        {"System", "Sistema"},
+        {"Light", "Claro"},
+        {"Dark", "Oscuro"},
+        {"Decimal separator", "Separador decimal"},
+        {"Automatic", "Automático"},
+        {"All pages", "Todas las páginas"},
+        {"Light or dark", "Claro u oscuro"},
+        {"Motion", "Movimiento"},
+        {"Full", "Completo"},
+        {"Reduced", "Reducido"},
+        {"Contrast", "Contraste"},
+        {"Normal", "Normal"},
+        {"High", "Alto"},
+        {"Wheel clicks", "Clic del selector"},
+        {"On", "Activado"},
+        {"Off", "Desactivado"},
+        {"Language", "Idioma"},
+        // Files.
+        {"Open", "Abrir"},
+        {"Save", "Guardar"},
+        {"Opened:", "Abierto:"},
+        {"Saved:", "Guardado:"},
+        {"The file could not be read:", "No se pudo leer el archivo:"},
+        {"The file could not be written:", "No se pudo escribir el archivo:"},
+        {"The file has no number for:", "El archivo no contiene ningún número para:"},
+        {"A number in the file is out of range:", "Un número del archivo está fuera de rango:"},
+        {"The file names no weather that this application knows.",
+         "El archivo no indica ninguna meteorología que esta aplicación conozca."},
+        {"This file is damaged, or no workout.", "Este archivo está dañado o no es un entrenamiento."},
+        {"This file is damaged.", "Este archivo está dañado."},
+        {"This file is no workout.", "Este archivo no es un entrenamiento."},
+        {"This workout was saved by a newer version of this application.",
+         "Este entrenamiento se guardó con una versión más reciente de esta aplicación."},
+        // Weather.
+        {"clear", "despejado"},
+        {"partly cloudy", "algo nuboso"},
+        {"cloudy", "nublado"},
+        {"overcast", "cubierto"},
+        {"fog", "niebla"},
+        {"drizzle", "llovizna"},
+        {"rain", "lluvia"},
+        {"showers", "chubascos"},
+        {"thunderstorm", "tormenta"},
+        {"sleet", "aguanieve"},
+        {"snow", "nieve"},
+        {"wind", "viento"},
+    };
+};
+
+} // namespace gallery
