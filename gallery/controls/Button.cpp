@@ -1,5 +1,9 @@
 #include "Button.h"
 
+#include <algorithm>
+#include <cmath>
+
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include <GXUIPickers/UIGraphicsContext.h>
 
@@ -10,13 +14,19 @@ namespace gallery {
 namespace {
 
 constexpr CGFloat inset = 12;
-constexpr CGFloat arrowWidth = 12;
+constexpr CGFloat rowInset = 4; // Above and below a title of several lines.
+constexpr const char* arrowToRight = "\u203A";
+constexpr const char* arrowToLeft = "\u2039";
+
+/// How much larger signs are than usual. The bar has room for no more.
+CGFloat signScale() { return std::clamp(Theme::textScale(), 1.0, 1.6); }
 
 /// Three bars.
 void drawMenuSign(UIGraphicsContext& context, CGPoint middle) {
-    constexpr CGFloat width = 20;
-    constexpr CGFloat thickness = 2;
-    for (const CGFloat dy : {-6.0, 0.0, 6.0}) {
+    const CGFloat width = 20 * signScale();
+    const CGFloat thickness = 2 * signScale();
+    const CGFloat distance = 6 * signScale();
+    for (const CGFloat dy : {-distance, 0.0, distance}) {
         const CGRect bar = CGRectMake(middle.x - 0.5 * width, middle.y + dy - 0.5 * thickness, width, thickness);
         context.fillRect(bar, Theme::text(), 0.5 * thickness);
     }
@@ -26,8 +36,8 @@ CGRect circle(CGPoint middle, CGFloat radius) { return CGRectMake(middle.x - rad
 
 /// A disc, half light and half dark.
 void drawLookSign(UIGraphicsContext& context, CGPoint middle, const UIColor& surface) {
-    constexpr CGFloat radius = 10;
-    constexpr CGFloat thickness = 2;
+    const CGFloat radius = 10 * signScale();
+    const CGFloat thickness = 2 * signScale();
     context.fillRect(circle(middle, radius), Theme::text(), radius);
     context.saveState();
     context.clipToRect(CGRectMake(middle.x, middle.y - radius, radius, 2 * radius));
@@ -53,7 +63,7 @@ Ref<Button> Button::buttonWithTitle_sign(std::string title, Sign sign) {
 
 bool Button::initWithFrame(CGRect frame) {
     if (!Control::initWithFrame(frame)) return false;
-    label_ = create<UILabel>(CGRectZero);
+    label_ = create<Paragraph>(CGRectZero);
     addSubview(label_);
     setStyle(Style::Plain);
     return true;
@@ -61,13 +71,10 @@ bool Button::initWithFrame(CGRect frame) {
 
 void Button::setStyle(Style style) {
     style_ = style;
-    label_->setTextAlignment(style == Style::Plain ? NSTextAlignmentCenter : NSTextAlignmentLeft);
+    label_->setTextAlignment(style == Style::Plain ? NSTextAlignmentCenter : NSTextAlignmentNatural);
     if (style == Style::Heading && !arrow_) {
-        arrow_ = create<UILabel>(CGRectZero);
-        arrow_->setText("\u203A");
-        arrow_->setFont(Theme::headingFont());
-        arrow_->setTextColor(Theme::secondaryText());
-        arrow_->setTextAlignment(NSTextAlignmentRight);
+        arrow_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::secondaryText());
+        arrow_->setText(arrowToRight);
         addSubview(arrow_);
     }
     showTitle();
@@ -86,29 +93,36 @@ void Button::setChosen(bool chosen) {
 
 void Button::showTitle() {
     const bool isAccented = style_ == Style::Plain || isChosen_;
-    label_->setText(sign_ == Sign::None ? std::optional(title_) : std::nullopt);
-    label_->setTextColor(isAccented ? Theme::accent() : Theme::text());
-    label_->setFont(style_ == Style::Heading             ? Theme::headingFont()
-                    : style_ == Style::Row && !isChosen_ ? Theme::bodyFont()
-                                                         : Theme::strongFont());
+    label_->setText(sign_ == Sign::None ? title_ : "");
+    label_->setColor(isAccented ? Theme::accent() : Theme::text());
+    label_->setTextStyle(style_ == Style::Heading             ? Theme::TextStyle::Heading
+                         : style_ == Style::Row && !isChosen_ ? Theme::TextStyle::Body
+                                                              : Theme::TextStyle::Strong);
     setNeedsLayout();
 }
 
-CGSize Button::sizeThatFits(CGSize) const {
-    const CGFloat width = sign_ == Sign::None ? label_->sizeThatFits({}).width + 2 * inset : Theme::controlHeight;
-    return {std::max(width, Theme::controlHeight), Theme::controlHeight};
+// A heading is aligned with the views below it; the others leave room for their background.
+CGFloat Button::widthBesideTitle() const { return style_ == Style::Heading ? std::ceil(arrow_->widthInOneLine()) + rowInset : 2 * inset; }
+
+CGSize Button::sizeThatFits(CGSize available) const {
+    if (sign_ != Sign::None) return {std::round(40 * signScale()), std::round(40 * signScale())};
+    const CGFloat beside = widthBesideTitle();
+    CGFloat width = std::max(std::ceil(label_->widthInOneLine()) + beside, Theme::controlHeight());
+    if (available.width > 0) width = std::min(width, available.width);
+    const CGFloat lines = label_->sizeThatFits({std::max(0.0, width - beside), 0}).height;
+    return {width, std::max(Theme::controlHeight(), std::ceil(lines) + 2 * rowInset)};
 }
 
 void Button::layoutSubviews() {
     Control::layoutSubviews();
-    // A heading is aligned with the views below it; the others leave room for their background.
-    const CGFloat side = style_ == Style::Heading ? 0 : inset;
-    CGRect room = CGRectInset(bounds(), side, 0);
-    if (arrow_) {
-        arrow_->setFrame(CGRectMake(CGRectGetMaxX(room) - arrowWidth, 0, arrowWidth, room.size.height));
-        room.size.width -= arrowWidth;
-    }
-    label_->setFrame(room);
+    const CGSize size = bounds().size;
+    const CGFloat x = style_ == Style::Heading ? 0 : inset;
+    const CGFloat width = std::max(0.0, size.width - widthBesideTitle());
+    label_->setFrame(ReadingDirection::frame(CGRectMake(x, 0, width, size.height), size.width));
+    if (!arrow_) return;
+    arrow_->setText(ReadingDirection::isRightToLeft() ? arrowToLeft : arrowToRight);
+    const CGFloat arrowWidth = std::ceil(arrow_->widthInOneLine());
+    arrow_->setFrame(ReadingDirection::frame(CGRectMake(size.width - arrowWidth, 0, arrowWidth, size.height), size.width));
 }
 
 void Button::drawRect(UIGraphicsContext& context, CGRect rect) {

@@ -4,17 +4,21 @@
 #include <string>
 
 #include "Control.h"
-#include <GXUIPickers/UILabel.h>
+#include "Paragraph.h"
 
 namespace gallery {
 
 /// A button with a title, or with a sign drawn instead of it.
+///
+/// A title that needs more than the width stands in several lines, for which `sizeThatFits` gives
+/// the height. Leading and trailing edges are those of the `ReadingDirection`.
 class Button : public Control {
 public:
     enum class Style {
         Plain,  ///< the title in the middle, in the accent colour
-        Row,    ///< a row of a list: the title at the left; highlighted when chosen
-        Heading ///< a heading that leads somewhere: the title at the left, an arrow at the right
+        Row,    ///< a row of a list: the title at the leading edge; highlighted when chosen
+        /// a heading that leads somewhere: the title as in a row, an arrow at the other edge
+        Heading
     };
     enum class Sign { None, Menu, Look };
 
@@ -31,7 +35,8 @@ public:
     /// Called for a tap; may do anything, remove the button included.
     void setAction(std::function<void()> action) { action_ = std::move(action); }
 
-    /// High enough for a finger, and as wide as the title.
+    /// As wide as the title in one line, or as offered if that is less but not 0. High enough for
+    /// all lines and for a finger.
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
     void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
@@ -45,14 +50,16 @@ protected:
 private:
     void setStyle(Style style);
     void showTitle();
+    /// Beside the title, on both sides together.
+    gx::CGFloat widthBesideTitle() const;
 
     std::string title_;
     Style style_ = Style::Plain;
     Sign sign_ = Sign::None;
     bool isChosen_ = false;
     std::function<void()> action_;
-    gx::Ref<gx::UILabel> label_;
-    gx::Ref<gx::UILabel> arrow_;
+    gx::Ref<Paragraph> label_;
+    gx::Ref<Paragraph> arrow_; // Only of a heading.
 };
 
 } // namespace gallery

@@ -1,8 +1,10 @@
 #include "SegmentedControl.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include <GXUIPickers/UIGraphicsContext.h>
 #include <GXUIPickers/UIKey.h>
@@ -16,6 +18,12 @@ constexpr CGFloat trackRadius = 11;
 constexpr CGFloat thumbInset = 3;
 constexpr CGFloat textInset = thumbInset + 1;
 constexpr CGFloat wantedTextInset = thumbInset + 4;
+// Above and below a text of several lines.
+constexpr CGFloat rowInset = thumbInset + 4;
+// As many choices stand one below the other rather than in rows with a gap at the end.
+constexpr std::size_t mostInOneColumn = 3;
+
+CGFloat sumOf(const std::vector<CGFloat>& widths) { return std::accumulate(widths.begin(), widths.end(), 0.0); }
 
 /// The control as one adjustable element for screen readers.
 class SegmentsElement : public UIAccessibilityElement {
@@ -56,12 +64,11 @@ UIAccessibilityElements SegmentedControl::accessibilityElements() {
 Ref<SegmentedControl> SegmentedControl::segmentsWithChoices(std::vector<std::string> choices, std::size_t chosen) {
     auto segments = create<SegmentedControl>(CGRectZero);
     segments->choices_ = std::move(choices);
+    segments->ruler_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::StrongCaption, Theme::text());
     for (const std::string& choice : segments->choices_) {
-        const auto label = create<UILabel>(CGRectZero);
+        const auto label = create<Paragraph>(CGRectZero);
         label->setText(choice);
         label->setTextAlignment(NSTextAlignmentCenter);
-        label->setFont(Theme::strongCaptionFont()); // The wider one, of the chosen.
-        segments->neededWidths_.push_back(label->sizeThatFits({}).width + 2 * wantedTextInset);
         segments->labels_.push_back(label);
         segments->addSubview(label);
     }
@@ -78,29 +85,83 @@ void SegmentedControl::setChosen(std::size_t chosen) {
 
 void SegmentedControl::showChosen() {
     for (std::size_t i = 0; i < labels_.size(); ++i) {
-        labels_[i]->setFont(i == chosen_ ? Theme::strongCaptionFont() : Theme::captionFont());
-        labels_[i]->setTextColor(i == chosen_ ? Theme::text() : Theme::secondaryText());
+        labels_[i]->setTextStyle(i == chosen_ ? Theme::TextStyle::StrongCaption : Theme::TextStyle::Caption);
+        labels_[i]->setColor(i == chosen_ ? Theme::text() : Theme::secondaryText());
     }
     setNeedsDisplay();
 }
 
+// Layout
+
 CGRect SegmentedControl::frameOfSegment(std::size_t index) const {
     if (index >= choices_.size()) return {};
-    const CGSize size = bounds().size;
-    const auto count = static_cast<CGFloat>(choices_.size());
-    if (*std::max_element(neededWidths_.begin(), neededWidths_.end()) <= size.width / count) {
-        const CGFloat width = size.width / count;
-        return CGRectMake(static_cast<CGFloat>(index) * width, 0, width, size.height);
+    const CGFloat width = bounds().size.width;
+    return ReadingDirection::frame(framesForWidth(width)[index], width);
+}
+
+CGFloat SegmentedControl::heightOfText(std::size_t index, CGFloat width) const {
+    ruler_->setText(choices_[index]);
+    return std::ceil(ruler_->sizeThatFits({std::max(0.0, width), 0}).height);
+}
+
+const std::vector<CGRect>& SegmentedControl::framesForWidth(CGFloat width) const {
+    const Ref<UIFont> font = Theme::font(Theme::TextStyle::StrongCaption);
+    if (framesFont_ == font && framesWidth_ == width) return frames_;
+    framesFont_ = font;
+    framesWidth_ = width;
+    std::vector<CGFloat> texts;
+    for (const std::string& choice : choices_) {
+        ruler_->setText(choice);
+        texts.push_back(ruler_->widthInOneLine());
     }
-    const auto needed = neededWidths_.begin() + static_cast<std::ptrdiff_t>(index);
-    const CGFloat neededByAll = std::accumulate(neededWidths_.begin(), neededWidths_.end(), 0.0);
-    const CGFloat neededBefore = std::accumulate(neededWidths_.begin(), needed, 0.0);
-    if (neededByAll > size.width) {
-        const CGFloat share = size.width / neededByAll;
-        return CGRectMake(neededBefore * share, 0, *needed * share, size.height);
+    for (const CGFloat inset : {wantedTextInset, textInset}) {
+        std::vector<CGFloat> needed = texts;
+        for (CGFloat& each : needed) each += 2 * inset;
+        if (sumOf(needed) <= width) {
+            frames_ = framesSideBySide(width, needed);
+            return frames_;
+        }
     }
-    const CGFloat spare = (size.width - neededByAll) / count;
-    return CGRectMake(neededBefore + static_cast<CGFloat>(index) * spare, 0, *needed + spare, size.height);
+    frames_ = framesInRows(width, texts);
+    return frames_;
+}
+
+std::vector<CGRect> SegmentedControl::framesSideBySide(CGFloat width, const std::vector<CGFloat>& needed) const {
+    const auto count = static_cast<CGFloat>(needed.size());
+    const bool areEqual = *std::max_element(needed.begin(), needed.end()) <= width / count;
+    const CGFloat spare = (width - sumOf(needed)) / count;
+    std::vector<CGRect> frames;
+    CGFloat x = 0;
+    for (const CGFloat each : needed) {
+        const CGFloat segment = areEqual ? width / count : each + spare;
+        frames.push_back(CGRectMake(x, 0, segment, Theme::controlHeight()));
+        x += segment;
+    }
+    return frames;
+}
+
+std::vector<CGRect> SegmentedControl::framesInRows(CGFloat width, const std::vector<CGFloat>& texts) const {
+    std::size_t columns = 1;
+    if (texts.size() > mostInOneColumn) {
+        const CGFloat widest = *std::max_element(texts.begin(), texts.end()) + 2 * textInset;
+        columns = std::clamp<std::size_t>(static_cast<std::size_t>(width / widest), 1, texts.size());
+        const std::size_t rows = (texts.size() + columns - 1) / columns;
+        columns = (texts.size() + rows - 1) / rows; // The last row is as full as can be.
+    }
+    const CGFloat column = width / static_cast<CGFloat>(columns);
+    std::vector<CGRect> frames;
+    CGFloat y = 0;
+    for (std::size_t first = 0; first < texts.size(); first += columns) {
+        const std::size_t end = std::min(texts.size(), first + columns);
+        CGFloat height = Theme::controlHeight();
+        for (std::size_t i = first; i < end; ++i) height = std::max(height, heightOfText(i, column - 2 * textInset) + 2 * rowInset);
+        for (std::size_t i = first; i < end; ++i) {
+            const std::size_t place = i - first;
+            frames.push_back(CGRectMake(static_cast<CGFloat>(place) * column, y, column, height));
+        }
+        y += height;
+    }
+    return frames;
 }
 
 std::size_t SegmentedControl::segmentAt(CGPoint point) const {
@@ -109,7 +170,10 @@ std::size_t SegmentedControl::segmentAt(CGPoint point) const {
     return index;
 }
 
-CGSize SegmentedControl::sizeThatFits(CGSize available) const { return {available.width, Theme::controlHeight}; }
+CGSize SegmentedControl::sizeThatFits(CGSize available) const {
+    const CGFloat height = choices_.empty() ? Theme::controlHeight() : CGRectGetMaxY(framesForWidth(available.width).back());
+    return {available.width, height};
+}
 
 void SegmentedControl::layoutSubviews() {
     Control::layoutSubviews();
@@ -127,8 +191,9 @@ void SegmentedControl::drawRect(UIGraphicsContext& context, CGRect rect) {
 }
 
 bool SegmentedControl::keyPressed(const UIKey& key) {
-    const bool isBack = key.code == UIKey::Code::Left;
-    if ((!isBack && key.code != UIKey::Code::Right) || key.isCommand()) return Control::keyPressed(key);
+    const bool isLeft = key.code == UIKey::Code::Left;
+    const bool isBack = isLeft != ReadingDirection::isRightToLeft();
+    if ((!isLeft && key.code != UIKey::Code::Right) || key.isCommand()) return Control::keyPressed(key);
     const Ref<UIView> keep = refTo<UIView>(this);
     // Wraps below 0 and is then ignored, as beyond the last one.
     const std::size_t beside = isBack ? chosen_ - 1 : chosen_ + 1;

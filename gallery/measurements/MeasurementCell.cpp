@@ -17,18 +17,10 @@ constexpr CGFloat inset = Theme::cardPadding;
 constexpr CGFloat rowPadding = 12;
 constexpr CGFloat gap = 12;
 
-double scale() {
-    // "Water temperature" in 30 points is as wide as the smallest phone.
-    constexpr double largest = 2;
-    return std::min(GXStyleSheet::globalStyleSheet()->textScale(), largest);
-}
-Ref<UIFont> scaled(const Ref<UIFont>& font) {
-    return UIFont::systemFontOfSize_weight(std::round(font->pointSize() * scale()), font->weight());
-}
-CGFloat lineHeight() { return std::ceil(1.3 * Theme::bodyFont()->pointSize() * scale()); }
+CGFloat lineHeight() { return std::ceil(1.3 * Theme::font(Theme::TextStyle::Body)->pointSize()); }
 /// Whether names and values are too wide to stand side by side on a phone. It depends on the scale
 /// alone, so that rows keep their height while values change.
-bool isStacked() { return scale() > 1.25; }
+bool isStacked() { return Theme::textScale() > 1.25; }
 
 } // namespace
 
@@ -36,11 +28,11 @@ bool MeasurementCell::initWithStyle_reuseIdentifier(UITableViewCellStyle style, 
     if (!UITableViewCell::initWithStyle_reuseIdentifier(style, reuseIdentifier)) return false;
     setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor());
     nameLabel_ = create<UILabel>(CGRectZero);
-    nameLabel_->setFont(scaled(Theme::bodyFont()));
+    nameLabel_->setFont(Theme::font(Theme::TextStyle::Body));
     nameLabel_->setTextAlignment(NSTextAlignmentNatural);
     nameLabel_->setText("");
     valueLabel_ = create<UILabel>(CGRectZero);
-    valueLabel_->setFont(scaled(Theme::strongFont()));
+    valueLabel_->setFont(Theme::font(Theme::TextStyle::Strong));
     const bool isMirrored = NSLocale::currentLocale()->isRightToLeft();
     const NSTextAlignment atTheFarEdge = isMirrored ? NSTextAlignmentLeft : NSTextAlignmentRight;
     valueLabel_->setTextAlignment(isStacked() ? NSTextAlignmentNatural : atTheFarEdge);

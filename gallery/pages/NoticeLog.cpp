@@ -1,9 +1,12 @@
 #include "NoticeLog.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include <GXUIPickers/UIGraphicsContext.h>
+#include <GXUIPickers/UITextEngine.h>
 
 using namespace gx;
 
@@ -11,49 +14,42 @@ namespace gallery {
 
 namespace {
 
-constexpr CGFloat headingHeight = 28;
+constexpr CGFloat headingGap = 8;
 constexpr CGFloat columnGap = 12;
+constexpr CGFloat rowPadding = 5; // Above and below a notice of several lines.
 
-// Narrower than this, long facts would be cut beside the words.
+// Narrower than this, few facts have room beside the words.
 constexpr CGFloat oneLineWidth = 290;
 
-Ref<UILabel> makeLabel(const Ref<UIFont>& font, const UIColor& color) {
-    auto label = create<UILabel>(CGRectZero);
-    label->setFont(font);
-    label->setTextColor(color);
-    return label;
+CGFloat widthInside(CGFloat width) { return std::max(0.0, width - 2 * Theme::cardPadding); }
+CGFloat lineHeight(Theme::TextStyle style) { return UITextEngine::shared()->sizeOfText_font("", *Theme::font(style)).height; }
+CGFloat heightOfOneLine() { return Theme::controlHeight() - 8; }
+
+/// The height of a full list.
+CGFloat heightOfRows(CGFloat width) {
+    constexpr CGFloat fewest = 4; // Notices of two lines; chosen by eye.
+    if (width >= Theme::scaled(oneLineWidth)) return static_cast<CGFloat>(NoticeLog::capacity) * heightOfOneLine();
+    const CGFloat two = lineHeight(Theme::TextStyle::Strong) + lineHeight(Theme::TextStyle::Caption) + 2 * rowPadding;
+    return fewest * std::max(48.0, std::ceil(two));
 }
 
 } // namespace
-
-struct NoticeLog::Arrangement {
-    explicit Arrangement(CGFloat cardWidth)
-        : width(std::max(0.0, cardWidth - 2 * Theme::cardPadding)), hasOneLine(width >= oneLineWidth), rowHeight(hasOneLine ? 32 : 48),
-          rowCount(hasOneLine ? capacity : 4) {}
-
-    CGFloat yOfRow(std::size_t index) const { return Theme::cardPadding + headingHeight + static_cast<CGFloat>(index) * rowHeight; }
-    CGFloat height() const { return yOfRow(rowCount) + 0.5 * Theme::cardPadding; }
-
-    CGFloat width;
-    bool hasOneLine;
-    CGFloat rowHeight;
-    std::size_t rowCount;
-};
 
 bool NoticeLog::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     setBackgroundColor(Theme::card());
     setCornerRadius(Theme::cardRadius);
-    heading_ = makeLabel(Theme::strongCaptionFont(), Theme::secondaryText());
+    heading_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::StrongCaption, Theme::secondaryText());
     heading_->setText("What the delegate was told");
     addSubview(heading_);
-    invitation_ = makeLabel(Theme::bodyFont(), Theme::secondaryText());
+    invitation_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Body, Theme::secondaryText());
     invitation_->setText("Nothing yet: turn the wheel.");
     addSubview(invitation_);
     for (std::size_t i = 0; i < capacity; ++i) {
         // The newest notice is the one in the accent colour.
         const UIColor color = i == 0 ? Theme::accent() : Theme::text();
-        const Row row = {makeLabel(Theme::strongFont(), color), makeLabel(Theme::captionFont(), Theme::secondaryText())};
+        const Row row = {Paragraph::paragraphWithStyle_color(Theme::TextStyle::Strong, color),
+                         Paragraph::paragraphWithStyle_color(Theme::TextStyle::Caption, Theme::secondaryText())};
         addSubview(row.words);
         addSubview(row.facts);
         rows_.push_back(row);
@@ -72,36 +68,59 @@ void NoticeLog::addNotice(DelegateNotice notice) {
     setNeedsLayout();
 }
 
-CGSize NoticeLog::sizeThatFits(CGSize available) const { return {available.width, Arrangement(available.width).height()}; }
+CGFloat NoticeLog::headingHeight(CGFloat width) const { return std::ceil(heading_->sizeThatFits({width, 0}).height); }
+
+CGSize NoticeLog::sizeThatFits(CGSize available) const {
+    const CGFloat width = widthInside(available.width);
+    const CGFloat top = Theme::cardPadding + headingHeight(width) + headingGap;
+    return {available.width, top + heightOfRows(width) + 0.5 * Theme::cardPadding};
+}
+
+CGFloat NoticeLog::placeRow(const Row& row, CGFloat y, CGFloat width) {
+    const CGFloat x = Theme::cardPadding;
+    const auto place = [this](Paragraph& text, CGRect frame) { text.setFrame(ReadingDirection::frame(frame, bounds().size.width)); };
+    const CGFloat wordsWidth = std::ceil(row.words->widthInOneLine());
+    const CGFloat factsX = wordsWidth + columnGap;
+    const bool hasOneLine = factsX + row.facts->widthInOneLine() <= width;
+    row.facts->setTextAlignment(hasOneLine ? ReadingDirection::trailingAlignment() : NSTextAlignmentNatural);
+    if (hasOneLine) {
+        place(*row.words, CGRectMake(x, y, wordsWidth, heightOfOneLine()));
+        place(*row.facts, CGRectMake(x + factsX, y, width - factsX, heightOfOneLine()));
+        return heightOfOneLine();
+    }
+    const CGFloat wordsHeight = row.words->sizeThatFits({width, 0}).height;
+    const CGFloat factsHeight = row.facts->sizeThatFits({width, 0}).height;
+    place(*row.words, CGRectMake(x, y + rowPadding, width, wordsHeight));
+    place(*row.facts, CGRectMake(x, y + rowPadding + wordsHeight, width, factsHeight));
+    return std::ceil(wordsHeight + factsHeight) + 2 * rowPadding;
+}
 
 void NoticeLog::layoutSubviews() {
     UIView::layoutSubviews();
-    const Arrangement rows(bounds().size.width);
+    const CGFloat width = widthInside(bounds().size.width);
     const CGFloat x = Theme::cardPadding;
-    heading_->setFrame(CGRectMake(x, Theme::cardPadding, rows.width, 20));
-    invitation_->setFrame(CGRectMake(x, rows.yOfRow(0), rows.width, rows.rowHeight));
+    heading_->setFrame(CGRectMake(x, x, width, headingHeight(width)));
+    CGFloat y = x + headingHeight(width) + headingGap;
+    const CGFloat bottom = y + heightOfRows(width);
+    invitation_->setFrame(CGRectMake(x, y, width, std::max(heightOfOneLine(), std::ceil(invitation_->sizeThatFits({width, 0}).height))));
+    lines_.clear();
+    bool hasRoom = true;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
-        const CGFloat y = rows.yOfRow(i);
-        row.words->setHidden(i >= rows.rowCount);
-        row.facts->setHidden(i >= rows.rowCount);
-        row.facts->setTextAlignment(rows.hasOneLine ? NSTextAlignmentRight : NSTextAlignmentLeft);
-        if (rows.hasOneLine) {
-            const CGFloat wordsWidth = std::min(rows.width, row.words->sizeThatFits({}).width);
-            const CGFloat factsX = wordsWidth + columnGap;
-            row.words->setFrame(CGRectMake(x, y, wordsWidth, rows.rowHeight));
-            row.facts->setFrame(CGRectMake(x + factsX, y, std::max(0.0, rows.width - factsX), rows.rowHeight));
-        } else {
-            row.words->setFrame(CGRectMake(x, y + 4, rows.width, 21));
-            row.facts->setFrame(CGRectMake(x, y + 25, rows.width, 18));
-        }
+        const CGFloat height = i < notices_.size() ? placeRow(row, y, width) : 0;
+        hasRoom = hasRoom && i < notices_.size() && (i == 0 || y + height <= bottom);
+        row.words->setHidden(!hasRoom);
+        row.facts->setHidden(!hasRoom);
+        if (!hasRoom) continue;
+        if (i > 0) lines_.push_back(y);
+        y += height;
     }
+    setNeedsDisplay();
 }
 
 void NoticeLog::drawRect(UIGraphicsContext& context, CGRect rect) {
-    const Arrangement rows(rect.size.width);
-    for (std::size_t i = 1; i < std::min(notices_.size(), rows.rowCount); ++i) {
-        context.fillRect(CGRectMake(Theme::cardPadding, rows.yOfRow(i), rows.width, 1), Theme::hairline());
+    for (const CGFloat y : lines_) {
+        context.fillRect(CGRectMake(Theme::cardPadding, y, widthInside(rect.size.width), 1), Theme::hairline());
     }
 }
 

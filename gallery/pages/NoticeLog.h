@@ -3,15 +3,16 @@
 #include <string>
 #include <vector>
 
+#include "Paragraph.h"
 #include "PickerDemo.h"
-#include <GXUIPickers/UILabel.h>
 
 namespace gallery {
 
 /// The latest calls of a delegate, newest on top.
 ///
-/// It is as high as a full list from the start, so that nothing on the page moves while a wheel
-/// spins. On a small phone the facts stand below the words, and fewer notices are visible.
+/// Its height depends on its width and the text size alone, so that nothing on the page moves while
+/// a wheel spins. Where the facts have no room beside the words they stand below them; notices for
+/// which there is no room are hidden.
 class NoticeLog : public gx::UIView {
 public:
     static constexpr std::size_t capacity = 6;
@@ -28,16 +29,19 @@ public:
     void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
 
 private:
-    struct Arrangement;
     struct Row {
-        gx::Ref<gx::UILabel> words;
-        gx::Ref<gx::UILabel> facts;
+        gx::Ref<Paragraph> words;
+        gx::Ref<Paragraph> facts;
     };
+    gx::CGFloat headingHeight(gx::CGFloat width) const;
+    /// Places a row and returns its height.
+    gx::CGFloat placeRow(const Row& row, gx::CGFloat y, gx::CGFloat width);
 
     std::vector<DelegateNotice> notices_;
-    gx::Ref<gx::UILabel> heading_;
-    gx::Ref<gx::UILabel> invitation_;
+    gx::Ref<Paragraph> heading_;
+    gx::Ref<Paragraph> invitation_;
     std::vector<Row> rows_;
+    std::vector<gx::CGFloat> lines_; // Where lines between the visible notices are.
 };
 
 } // namespace gallery

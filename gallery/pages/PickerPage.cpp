@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
@@ -13,7 +14,7 @@ namespace gallery {
 
 namespace {
 
-constexpr CGFloat titleHeight = 40;
+constexpr CGFloat titleGap = 6;
 // Five rows of a wheel and the ends of two more. Of large rows at least three have to be whole.
 constexpr CGFloat usualWheelHeight = 216;
 constexpr double fewestRowsOfWheel = 3;
@@ -23,8 +24,6 @@ constexpr CGFloat wheelPadding = 14;
 constexpr CGFloat widestContent = 920;
 // A phone in landscape has two columns, each nearly as wide as a small phone upright.
 constexpr CGFloat twoColumnWidth = 540;
-constexpr CGFloat optionTitleHeight = 24;
-constexpr CGFloat optionGap = 14;
 
 CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
 
@@ -53,20 +52,10 @@ void PickerPage::setUp(PickerPageDescription description) {
     pickerCard_->addSubview(demo_.picker);
     for (std::size_t i = 0; i < demo_.options.size(); ++i) {
         const DemoOption& option = demo_.options[i];
-        const auto title = create<UILabel>(CGRectZero);
-        title->setText(option.title);
-        title->setFont(Theme::strongCaptionFont());
-        title->setTextColor(Theme::secondaryText());
-        optionTitles_.push_back(title);
-        optionsCard_->addSubview(title);
-
-        const auto segments = SegmentedControl::segmentsWithChoices(option.choices, option.chosen);
-        segments->setAccessibilityLabel(option.title);
+        const auto segments = optionsCard_->addChoice(option.title, option.choices, option.chosen);
         segments->setAction([weak = WeakRef<PickerPage>(refTo(this)), i](std::size_t choice) {
             if (const Ref<PickerPage> page = weak.lock()) page->choose(i, choice);
         });
-        optionControls_.push_back(segments);
-        optionsCard_->addSubview(segments);
         choose(i, option.chosen);
     }
     optionsCard_->setHidden(demo_.options.empty());
@@ -74,13 +63,11 @@ void PickerPage::setUp(PickerPageDescription description) {
 
 bool PickerPage::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
-    title_ = create<UILabel>(CGRectZero);
-    title_->setFont(Theme::titleFont());
-    title_->setTextColor(Theme::text());
+    title_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::text());
     purpose_ = create<Paragraph>(CGRectZero);
     pickerCard_ = Theme::makeCard();
     log_ = create<NoticeLog>(CGRectZero);
-    optionsCard_ = Theme::makeCard();
+    optionsCard_ = create<ChoiceCard>(CGRectZero);
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, purpose_, pickerCard_, log_, optionsCard_}) addSubview(view);
     return true;
 }
@@ -104,7 +91,7 @@ void PickerPage::noteNotice(const DelegateNotice& notice) {
         DemoOption& option = demo_.options[i];
         if (!option.current) continue;
         option.chosen = option.current();
-        optionControls_[i]->setChosen(option.chosen);
+        optionControls()[i]->setChosen(option.chosen);
     }
 }
 
@@ -138,24 +125,19 @@ void PickerPage::turnForPicture() {
 
 // Layout
 
-CGFloat PickerPage::optionsHeight() const {
-    const auto count = static_cast<CGFloat>(optionControls_.size());
-    return 2 * Theme::cardPadding + count * (optionTitleHeight + Theme::controlHeight + optionGap) - optionGap;
-}
-
 PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     const CGFloat margin = Theme::marginForWidth(width);
     const CGFloat content = std::clamp(width - 2 * margin, 0.0, widestContent);
-    const bool hasTwoColumns = content >= twoColumnWidth;
+    const bool hasTwoColumns = content >= std::max(twoColumnWidth, Theme::scaled(twoColumnWidth));
     const CGFloat column = hasTwoColumns ? std::floor(0.5 * (content - Theme::gap)) : content;
 
     Frames frames;
     CGFloat y = showsTitle_ ? margin : 12;
     if (showsTitle_) {
-        frames.title = CGRectMake(margin, y, content, titleHeight);
-        y += titleHeight;
+        frames.title = CGRectMake(margin, y, content, std::ceil(title_->sizeThatFits({content, 0}).height));
+        y = CGRectGetMaxY(frames.title) + titleGap;
     }
-    frames.purpose = CGRectMake(margin, y, content, purpose_->sizeThatFits({content, 0}).height);
+    frames.purpose = CGRectMake(margin, y, content, std::ceil(purpose_->sizeThatFits({content, 0}).height));
     y = CGRectGetMaxY(frames.purpose) + Theme::gap;
     frames.picker = CGRectMake(margin, y, column, wheelHeight() + 2 * wheelPadding);
     // The log is visible while the wheel spins: beside it, or right below.
@@ -163,8 +145,8 @@ PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     const CGFloat logX = hasTwoColumns ? margin + column + Theme::gap : margin;
     frames.log = CGRectMake(logX, hasTwoColumns ? y : below, column, log_->sizeThatFits({column, 0}).height);
     const CGFloat optionsY = hasTwoColumns ? below : CGRectGetMaxY(frames.log) + Theme::gap;
-    frames.options = CGRectMake(margin, optionsY, column, optionControls_.empty() ? 0 : optionsHeight());
-    y = std::max(CGRectGetMaxY(frames.log), optionControls_.empty() ? 0 : CGRectGetMaxY(frames.options));
+    frames.options = CGRectMake(margin, optionsY, column, optionsCard_->sizeThatFits({column, 0}).height);
+    y = std::max(CGRectGetMaxY(frames.log), optionControls().empty() ? 0 : CGRectGetMaxY(frames.options));
     frames.height = y + margin;
     return frames;
 }
@@ -173,24 +155,15 @@ CGSize PickerPage::sizeThatFits(CGSize available) const { return {available.widt
 
 void PickerPage::layoutSubviews() {
     UIView::layoutSubviews();
-    const Frames frames = framesForWidth(bounds().size.width);
-    title_->setFrame(frames.title);
-    purpose_->setFrame(frames.purpose);
-    pickerCard_->setFrame(frames.picker);
-    log_->setFrame(frames.log);
-    optionsCard_->setFrame(frames.options);
+    const CGFloat width = bounds().size.width;
+    const Frames frames = framesForWidth(width);
+    title_->setFrame(ReadingDirection::frame(frames.title, width));
+    purpose_->setFrame(ReadingDirection::frame(frames.purpose, width));
+    pickerCard_->setFrame(ReadingDirection::frame(frames.picker, width));
+    log_->setFrame(ReadingDirection::frame(frames.log, width));
+    optionsCard_->setFrame(ReadingDirection::frame(frames.options, width));
     demo_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, wheelHeight()));
     if (demo_.textPicker) demo_.textPicker->sizeFontsToFit();
-
-    const CGFloat padding = Theme::cardPadding;
-    const CGFloat width = std::max(0.0, frames.options.size.width - 2 * padding);
-    CGFloat y = padding;
-    for (std::size_t i = 0; i < optionControls_.size(); ++i) {
-        optionTitles_[i]->setFrame(CGRectMake(padding, y, width, 20));
-        y += optionTitleHeight;
-        optionControls_[i]->setFrame(CGRectMake(padding, y, width, Theme::controlHeight));
-        y += Theme::controlHeight + optionGap;
-    }
 }
 
 } // namespace gallery

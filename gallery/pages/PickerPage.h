@@ -2,10 +2,10 @@
 
 #include <string>
 
+#include "ChoiceCard.h"
 #include "NoticeLog.h"
 #include "Paragraph.h"
 #include "PickerDemo.h"
-#include "SegmentedControl.h"
 
 namespace gallery {
 
@@ -32,9 +32,9 @@ public:
     const PickerDemo& demo() const { return demo_; }
     const gx::Ref<gx::UIView>& pickerCard() const { return pickerCard_; }
     const gx::Ref<NoticeLog>& log() const { return log_; }
-    const gx::Ref<gx::UIView>& optionsCard() const { return optionsCard_; }
+    const gx::Ref<ChoiceCard>& optionsCard() const { return optionsCard_; }
     /// In the order of the demo's options.
-    const std::vector<gx::Ref<SegmentedControl>>& optionControls() const { return optionControls_; }
+    const std::vector<gx::Ref<SegmentedControl>>& optionControls() const { return optionsCard_->controls(); }
 
     /// Replaces the picker by a new one with the same options and values, for properties that a
     /// picker reads only when it is made.
@@ -49,7 +49,6 @@ public:
 private:
     struct Frames;
     Frames framesForWidth(gx::CGFloat width) const;
-    gx::CGFloat optionsHeight() const;
     PickerDemo makeDemo();
     void setUp(PickerPageDescription description);
     void noteNotice(const DelegateNotice& notice);
@@ -58,13 +57,11 @@ private:
     PickerPageDescription description_;
     PickerDemo demo_;
     bool showsTitle_ = true;
-    gx::Ref<gx::UILabel> title_;
+    gx::Ref<Paragraph> title_;
     gx::Ref<Paragraph> purpose_;
     gx::Ref<gx::UIView> pickerCard_;
     gx::Ref<NoticeLog> log_;
-    gx::Ref<gx::UIView> optionsCard_;
-    std::vector<gx::Ref<gx::UILabel>> optionTitles_;
-    std::vector<gx::Ref<SegmentedControl>> optionControls_;
+    gx::Ref<ChoiceCard> optionsCard_;
 };
 
 } // namespace gallery

@@ -33,7 +33,7 @@ bool MainScreen::initWithFrame(CGRect frame) {
     bar_ = create<UIView>(CGRectZero);
     bar_->setBackgroundColor(Theme::sidebar());
     barTitle_ = create<UILabel>(CGRectZero);
-    barTitle_->setFont(Theme::headingFont());
+    barTitle_->setFont(Theme::font(Theme::TextStyle::Heading));
     barTitle_->setTextAlignment(NSTextAlignmentCenter);
     menuButton_ = Button::buttonWithTitle_sign(Translations::text("All pages"), Button::Sign::Menu);
     menuButton_->setAction([weak] {
@@ -133,6 +133,7 @@ void MainScreen::setSettings(const Settings& settings) {
             if (page) page->renewPicker();
         }
         if (overview_) overview_->renewPickers();
+        Theme::layOutAgain(keep);
     }
     sidebar_->showNames();
     menuButton_->setTitle(Translations::text("All pages"));
@@ -167,7 +168,7 @@ void MainScreen::didMoveToWindow() {
 
 // Layout
 
-bool MainScreen::hasSidebar() const { return bounds().size.width >= Theme::sidebarBreakpoint; }
+bool MainScreen::hasSidebar() const { return bounds().size.width >= Theme::sidebarBreakpoint(); }
 
 void MainScreen::setMenuShown(bool shown) {
     isMenuShown_ = shown;
@@ -187,11 +188,11 @@ bool MainScreen::keyPressed(const UIKey& key) {
 }
 
 CGSize MainScreen::sizeThatFits(CGSize available) const {
-    const bool isWide = available.width >= Theme::sidebarBreakpoint;
-    const CGFloat width = isWide ? available.width - Theme::sidebarWidth : available.width;
+    const bool isWide = available.width >= Theme::sidebarBreakpoint();
+    const CGFloat width = isWide ? available.width - Theme::sidebarWidth() : available.width;
     if (index_ == entryPage) return available;
     const CGFloat height = std::ceil(scroll_->content()->sizeThatFits({width, 0}).height);
-    return {available.width, isWide ? height : height + Theme::barHeight};
+    return {available.width, isWide ? height : height + Theme::barHeight()};
 }
 
 void MainScreen::layoutSubviews() {
@@ -199,8 +200,8 @@ void MainScreen::layoutSubviews() {
     const CGSize size = bounds().size;
     const bool isWide = hasSidebar();
     const bool isMenu = !isWide && isMenuShown_;
-    const CGFloat x = isWide ? Theme::sidebarWidth : 0;
-    const CGFloat y = isWide ? 0 : Theme::barHeight;
+    const CGFloat x = isWide ? Theme::sidebarWidth() : 0;
+    const CGFloat y = isWide ? 0 : Theme::barHeight();
     const CGRect body = CGRectMake(x, y, size.width - x, std::max(0.0, size.height - y));
 
     showTitles();
@@ -215,14 +216,14 @@ void MainScreen::layoutSubviews() {
     sidebar_->setHidden(hidesSidebar);
     sidebar_->setFrame(isWide ? CGRectMake(0, 0, x, size.height) : body);
 
-    bar_->setFrame(CGRectMake(0, 0, size.width, Theme::barHeight));
+    bar_->setFrame(CGRectMake(0, 0, size.width, Theme::barHeight()));
     constexpr CGFloat inset = 8;
-    const CGFloat side = Theme::controlHeight;
-    const CGFloat top = 0.5 * (Theme::barHeight - side);
+    const CGFloat side = Theme::controlHeight();
+    const CGFloat top = 0.5 * (Theme::barHeight() - side);
     menuButton_->setFrame(CGRectMake(inset, top, side, side));
     styleButton_->setFrame(CGRectMake(size.width - inset - side, top, side, side));
     const CGFloat titleInset = inset + side + inset;
-    barTitle_->setFrame(CGRectMake(titleInset, 0, std::max(0.0, size.width - 2 * titleInset), Theme::barHeight));
+    barTitle_->setFrame(CGRectMake(titleInset, 0, std::max(0.0, size.width - 2 * titleInset), Theme::barHeight()));
 }
 
 } // namespace gallery

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
@@ -18,19 +19,25 @@ constexpr CGFloat usualWheelHeight = 176;
 constexpr double fewestWholeRows = 3;
 // The least width for three columns with a unit beside them. Chosen by eye.
 constexpr CGFloat narrowestCard = 272;
-constexpr CGFloat headingHeight = 44;
+constexpr CGFloat headingGap = 4; // Above the heading.
 
 CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestWholeRows * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
-CGFloat cardHeight() { return headingHeight + wheelHeight() + 12; }
+
+} // namespace
 
 /// Equal cards in rows, as many side by side as a width has room for.
-struct Grid {
-    explicit Grid(CGFloat width) : margin(Theme::marginForWidth(width)) {
+struct OverviewScreen::Grid {
+    Grid(CGFloat width, const std::vector<Card>& cards) : margin(Theme::marginForWidth(width)) {
         const CGFloat content = std::max(0.0, width - 2 * margin);
-        columns = std::max<std::size_t>(1, static_cast<std::size_t>((content + Theme::gap) / (narrowestCard + Theme::gap)));
+        const CGFloat narrowest = std::max(narrowestCard, Theme::scaled(narrowestCard));
+        columns = std::max<std::size_t>(1, static_cast<std::size_t>((content + Theme::gap) / (narrowest + Theme::gap)));
         const auto count = static_cast<CGFloat>(columns);
         cardWidth = std::floor((content - (count - 1) * Theme::gap) / count);
+        const CGFloat room = headingWidth();
+        for (const Card& card : cards) headingHeight = std::max(headingHeight, card.heading->sizeThatFits({room, 0}).height);
     }
+    CGFloat headingWidth() const { return std::max(0.0, cardWidth - 2 * Theme::cardPadding); }
+    CGFloat cardHeight() const { return headingGap + headingHeight + wheelHeight() + 12; }
     CGRect frameOfCard(std::size_t index) const {
         const auto column = static_cast<CGFloat>(index % columns);
         const std::size_t above = index / columns;
@@ -41,9 +48,8 @@ struct Grid {
     CGFloat margin;
     std::size_t columns = 1;
     CGFloat cardWidth = 0;
+    CGFloat headingHeight = 0; ///< of all cards, so that their wheels are aligned
 };
-
-} // namespace
 
 Ref<OverviewScreen> OverviewScreen::overviewOfPages_open(std::vector<PickerPageDescription> pages,
                                                          const std::function<void(std::size_t)>& open) {
@@ -81,20 +87,20 @@ void OverviewScreen::renewPickers() {
 }
 
 CGSize OverviewScreen::sizeThatFits(CGSize available) const {
-    const Grid grid(available.width);
+    const Grid grid(available.width, cards_);
     const CGFloat height = cards_.empty() ? 0 : CGRectGetMaxY(grid.frameOfCard(cards_.size() - 1));
     return {available.width, height + grid.margin};
 }
 
 void OverviewScreen::layoutSubviews() {
     UIView::layoutSubviews();
-    const Grid grid(bounds().size.width);
+    const CGFloat width = bounds().size.width;
+    const Grid grid(width, cards_);
     for (std::size_t i = 0; i < cards_.size(); ++i) {
         const Card& card = cards_[i];
-        card.card->setFrame(grid.frameOfCard(i));
-        const CGFloat padding = Theme::cardPadding;
-        card.heading->setFrame(CGRectMake(padding, 4, std::max(0.0, grid.cardWidth - 2 * padding), Theme::controlHeight));
-        card.demo.picker->setFrame(CGRectMake(0, headingHeight, grid.cardWidth, wheelHeight()));
+        card.card->setFrame(ReadingDirection::frame(grid.frameOfCard(i), width));
+        card.heading->setFrame(CGRectMake(Theme::cardPadding, headingGap, grid.headingWidth(), grid.headingHeight));
+        card.demo.picker->setFrame(CGRectMake(0, headingGap + grid.headingHeight, grid.cardWidth, wheelHeight()));
         if (card.demo.textPicker) card.demo.textPicker->sizeFontsToFit();
     }
 }

@@ -33,6 +33,7 @@ private:
         gx::Ref<gx::UIView> card;
         gx::Ref<Button> heading;
     };
+    struct Grid;
     static PickerDemo makeDemo(const PickerPageDescription& page);
 
     std::vector<Card> cards_;

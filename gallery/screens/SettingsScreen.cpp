@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 #include <GXUIPickers/GXLocalization.h>
@@ -14,15 +16,14 @@ namespace gallery {
 
 namespace {
 
-constexpr CGFloat titleHeight = 48;
-constexpr CGFloat choiceTitleHeight = 26;
-constexpr CGFloat choiceGap = 14;
 constexpr CGFloat widestContent = 640;
-constexpr CGFloat padding = Theme::cardPadding;
+constexpr CGFloat inset = Theme::cardPadding / 2;
 // Names of languages are short: from here on two stand side by side.
 constexpr CGFloat twoColumns = 280;
 
-constexpr std::array<double, 5> textScales = {0.8, 1, 1.3, 2, 3};
+constexpr std::array<double, 5> textScaleSteps = {0.8, 1, 1.3, 2, 3};
+
+std::string percent(double scale) { return std::to_string(std::lround(100 * scale)) + " %"; }
 
 template <class Values, class Value>
 std::size_t indexIn(const Values& values, const Value& value) {
@@ -48,6 +49,7 @@ struct SettingsScreen::Frames {
     CGRect choices;
     CGRect languageTitle;
     CGRect languages;
+    std::vector<CGRect> buttons; ///< of the languages, in their card
     CGFloat height = 0;
 };
 
@@ -55,19 +57,16 @@ Ref<SettingsScreen> SettingsScreen::pageWithSettings_changed(const Settings& set
     auto page = create<SettingsScreen>(CGRectZero);
     page->settings_ = settings;
     page->changed_ = std::move(changed);
+    page->offerTextScale();
     page->makeControls();
     return page;
 }
 
 bool SettingsScreen::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
-    title_ = create<UILabel>(CGRectZero);
-    title_->setFont(Theme::titleFont());
-    title_->setTextColor(Theme::text());
-    choicesCard_ = Theme::makeCard();
-    languageTitle_ = create<UILabel>(CGRectZero);
-    languageTitle_->setFont(Theme::headingFont());
-    languageTitle_->setTextColor(Theme::text());
+    title_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::text());
+    choicesCard_ = create<ChoiceCard>(CGRectZero);
+    languageTitle_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::text());
     languageCard_ = Theme::makeCard();
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, choicesCard_, languageTitle_, languageCard_})
         addSubview(view);
@@ -77,7 +76,17 @@ bool SettingsScreen::initWithFrame(CGRect frame) {
 void SettingsScreen::setSettings(const Settings& settings) {
     if (settings == settings_) return;
     settings_ = settings;
+    offerTextScale();
     makeControls();
+}
+
+/// A scale between the steps, such as that of the command line, becomes a choice of its own. It
+/// stays one, so that the user can go back to it.
+void SettingsScreen::offerTextScale() {
+    if (indexIn(textScales_, settings_.textScale) < textScales_.size()) return;
+    textScales_.assign(textScaleSteps.begin(), textScaleSteps.end());
+    if (indexIn(textScales_, settings_.textScale) < textScales_.size()) return;
+    textScales_.insert(std::upper_bound(textScales_.begin(), textScales_.end(), settings_.textScale), settings_.textScale);
 }
 
 void SettingsScreen::change(const std::function<void(Settings&)>& take) {
@@ -97,11 +106,8 @@ void SettingsScreen::change(const std::function<void(Settings&)>& take) {
 }
 
 void SettingsScreen::makeControls() {
-    for (const Choice& choice : choices_) {
-        choice.title->removeFromSuperview();
-        choice.control->removeFromSuperview();
-    }
-    choices_.clear();
+    choicesCard_->removeChoices();
+    choiceNames_.clear();
     for (const Language& language : languages_) language.button->removeFromSuperview();
     languages_.clear();
 
@@ -112,8 +118,10 @@ void SettingsScreen::makeControls() {
               [](Settings& settings, std::size_t choice) { settings.isMetric = choice == 0; });
     addChoice("Weight", {text("Kilograms"), text("Pounds"), text("Stones")}, static_cast<std::size_t>(settings_.weightUnit),
               [](Settings& settings, std::size_t choice) { settings.weightUnit = static_cast<GXWeightUnit>(choice); });
-    addChoice("Text size", {"80 %", "100 %", "130 %", "200 %", "300 %"}, indexIn(textScales, settings_.textScale),
-              [](Settings& settings, std::size_t choice) { settings.textScale = textScales.at(choice); });
+    std::vector<std::string> sizes;
+    for (const double scale : textScales_) sizes.push_back(percent(scale));
+    addChoice("Text size", std::move(sizes), indexIn(textScales_, settings_.textScale),
+              [scales = textScales_](Settings& settings, std::size_t choice) { settings.textScale = scales.at(choice); });
     addChoice("Look", {text("System"), text("Light"), text("Dark")}, indexIn(styles(), settings_.style),
               [](Settings& settings, std::size_t choice) { settings.style = styles().at(choice); });
     addChoice("Contrast", {text("Normal"), text("High")}, settings_.contrast == UIAccessibilityContrast::High ? 1 : 0,
@@ -139,23 +147,16 @@ void SettingsScreen::makeControls() {
 
 void SettingsScreen::addChoice(const std::string& name, std::vector<std::string> choices, std::size_t chosen,
                                std::function<void(Settings&, std::size_t)> take) {
-    const auto title = create<UILabel>(CGRectZero);
-    title->setText(Translations::text(name));
-    title->setFont(Theme::strongCaptionFont());
-    title->setTextColor(Theme::secondaryText());
-    const auto control = SegmentedControl::segmentsWithChoices(std::move(choices), chosen);
-    control->setAccessibilityLabel(title->text());
+    const auto control = choicesCard_->addChoice(Translations::text(name), std::move(choices), chosen);
+    choiceNames_.push_back(name);
     control->setAction([weak = WeakRef<SettingsScreen>(refTo(this)), take = std::move(take)](std::size_t choice) {
         if (const auto page = weak.lock()) page->change([&](Settings& settings) { take(settings, choice); });
     });
-    choices_.push_back({name, title, control});
-    choicesCard_->addSubview(title);
-    choicesCard_->addSubview(control);
 }
 
 Ref<SegmentedControl> SettingsScreen::control(const std::string& name) const {
-    const auto found = std::find_if(choices_.begin(), choices_.end(), [&](const Choice& choice) { return choice.name == name; });
-    return found == choices_.end() ? nullptr : found->control;
+    const std::size_t index = indexIn(choiceNames_, name);
+    return index < choiceNames_.size() ? choicesCard_->controls()[index] : nullptr;
 }
 
 Ref<Button> SettingsScreen::languageButton(const std::string& language) const {
@@ -176,20 +177,32 @@ void SettingsScreen::setShowsTitle(bool shows) {
 SettingsScreen::Frames SettingsScreen::framesForWidth(CGFloat width) const {
     const CGFloat margin = Theme::marginForWidth(width);
     const CGFloat content = std::clamp(width - 2 * margin, 0.0, widestContent);
+    const auto heightOf = [content](const UIView& view) { return std::ceil(view.sizeThatFits({content, 0}).height); };
     Frames frames;
     CGFloat y = showsTitle_ ? margin : 12;
     if (showsTitle_) {
-        frames.title = CGRectMake(margin, y, content, titleHeight);
-        y += titleHeight;
+        frames.title = CGRectMake(margin, y, content, heightOf(*title_));
+        y = CGRectGetMaxY(frames.title) + Theme::gap;
     }
-    const auto choiceHeight = choiceTitleHeight + Theme::controlHeight + choiceGap;
-    frames.choices = CGRectMake(margin, y, content, 2 * padding + static_cast<CGFloat>(choices_.size()) * choiceHeight - choiceGap);
+    frames.choices = CGRectMake(margin, y, content, heightOf(*choicesCard_));
     y = CGRectGetMaxY(frames.choices) + Theme::gap;
-    frames.languageTitle = CGRectMake(margin, y, content, Theme::controlHeight);
-    y += Theme::controlHeight;
-    const std::size_t columns = content >= twoColumns ? 2 : 1;
-    const std::size_t rows = (languages_.size() + columns - 1) / columns;
-    frames.languages = CGRectMake(margin, y, content, padding + static_cast<CGFloat>(rows) * Theme::controlHeight);
+    frames.languageTitle = CGRectMake(margin, y, content, std::max(Theme::controlHeight(), heightOf(*languageTitle_)));
+    y = CGRectGetMaxY(frames.languageTitle);
+
+    const std::size_t columns = content >= Theme::scaled(twoColumns) ? 2 : 1;
+    const CGFloat column = std::max(0.0, content - 2 * inset) / static_cast<CGFloat>(columns);
+    CGFloat rowY = inset;
+    for (std::size_t first = 0; first < languages_.size(); first += columns) {
+        const std::size_t end = std::min(languages_.size(), first + columns);
+        CGFloat height = 0;
+        for (std::size_t i = first; i < end; ++i) height = std::max(height, languages_[i].button->sizeThatFits({column, 0}).height);
+        for (std::size_t i = first; i < end; ++i) {
+            const std::size_t place = i - first;
+            frames.buttons.push_back(CGRectMake(inset + static_cast<CGFloat>(place) * column, rowY, column, height));
+        }
+        rowY += height;
+    }
+    frames.languages = CGRectMake(margin, y, content, rowY + inset);
     frames.height = CGRectGetMaxY(frames.languages) + margin;
     return frames;
 }
@@ -198,29 +211,14 @@ CGSize SettingsScreen::sizeThatFits(CGSize available) const { return {available.
 
 void SettingsScreen::layoutSubviews() {
     UIView::layoutSubviews();
-    const Frames frames = framesForWidth(bounds().size.width);
-    title_->setFrame(frames.title);
-    choicesCard_->setFrame(frames.choices);
-    languageTitle_->setFrame(frames.languageTitle);
-    languageCard_->setFrame(frames.languages);
-
-    const CGFloat width = std::max(0.0, frames.choices.size.width - 2 * padding);
-    CGFloat y = padding;
-    for (const Choice& choice : choices_) {
-        choice.title->setFrame(CGRectMake(padding, y, width, 20));
-        y += choiceTitleHeight;
-        choice.control->setFrame(CGRectMake(padding, y, width, Theme::controlHeight));
-        y += Theme::controlHeight + choiceGap;
-    }
-    const std::size_t columns = frames.languages.size.width >= twoColumns ? 2 : 1;
-    const CGFloat inset = padding / 2;
-    const CGFloat column = (frames.languages.size.width - 2 * inset) / static_cast<CGFloat>(columns);
-    for (std::size_t i = 0; i < languages_.size(); ++i) {
-        const CGFloat x = inset + static_cast<CGFloat>(i % columns) * column;
-        const std::size_t rowIndex = i / columns;
-        const CGFloat top = inset + static_cast<CGFloat>(rowIndex) * Theme::controlHeight;
-        languages_[i].button->setFrame(CGRectMake(x, top, column, Theme::controlHeight));
-    }
+    const CGFloat width = bounds().size.width;
+    const Frames frames = framesForWidth(width);
+    title_->setFrame(ReadingDirection::frame(frames.title, width));
+    choicesCard_->setFrame(ReadingDirection::frame(frames.choices, width));
+    languageTitle_->setFrame(ReadingDirection::frame(frames.languageTitle, width));
+    languageCard_->setFrame(ReadingDirection::frame(frames.languages, width));
+    for (std::size_t i = 0; i < languages_.size(); ++i)
+        languages_[i].button->setFrame(ReadingDirection::frame(frames.buttons[i], frames.languages.size.width));
 }
 
 } // namespace gallery

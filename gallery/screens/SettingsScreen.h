@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "Button.h"
-#include "SegmentedControl.h"
+#include "ChoiceCard.h"
 #include "Settings.h"
 
 namespace gallery {
@@ -33,17 +33,13 @@ public:
     void layoutSubviews() override;
 
 private:
-    struct Choice {
-        std::string name;
-        gx::Ref<gx::UILabel> title;
-        gx::Ref<SegmentedControl> control;
-    };
     struct Language {
         std::string identifier;
         gx::Ref<Button> button;
     };
     struct Frames;
     Frames framesForWidth(gx::CGFloat width) const;
+    void offerTextScale();
     void makeControls();
     void addChoice(const std::string& name, std::vector<std::string> choices, std::size_t chosen,
                    std::function<void(Settings&, std::size_t)> take);
@@ -52,10 +48,11 @@ private:
     Settings settings_;
     std::function<void(const Settings&)> changed_;
     bool showsTitle_ = true;
-    gx::Ref<gx::UILabel> title_;
-    gx::Ref<gx::UIView> choicesCard_;
-    std::vector<Choice> choices_;
-    gx::Ref<gx::UILabel> languageTitle_;
+    std::vector<double> textScales_; // Those to choose from.
+    gx::Ref<Paragraph> title_;
+    gx::Ref<ChoiceCard> choicesCard_;
+    std::vector<std::string> choiceNames_; // English, one for each choice.
+    gx::Ref<Paragraph> languageTitle_;
     gx::Ref<gx::UIView> languageCard_;
     std::vector<Language> languages_;
 };

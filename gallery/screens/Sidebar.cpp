@@ -1,7 +1,9 @@
 #include "Sidebar.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 #include <GXUIPickers/UIGraphicsContext.h>
@@ -15,19 +17,22 @@ namespace {
 
 constexpr CGFloat inset = 12;
 
-/// Rows one below the other.
+/// Rows one below the other, each as high as its text needs.
 class SidebarList : public UIView {
 public:
     CGSize sizeThatFits(CGSize available) const override {
-        return {available.width, static_cast<CGFloat>(subviews().size()) * Theme::controlHeight + inset};
+        CGFloat height = inset;
+        for (const Ref<UIView>& row : subviews()) height += row->sizeThatFits({widthOfRows(available.width), 0}).height;
+        return {available.width, height};
     }
     void layoutSubviews() override {
         UIView::layoutSubviews();
-        const CGFloat width = std::max(0.0, bounds().size.width - 2 * inset);
+        const CGFloat width = widthOfRows(bounds().size.width);
         CGFloat y = 0;
         for (const Ref<UIView>& row : subviews()) {
-            row->setFrame(CGRectMake(inset, y, width, Theme::controlHeight));
-            y += Theme::controlHeight;
+            const CGFloat height = row->sizeThatFits({width, 0}).height;
+            row->setFrame(CGRectMake(inset, y, width, height));
+            y += height;
         }
     }
     /// Up and down go from row to row, home and end to the first and the last.
@@ -56,6 +61,9 @@ public:
         next->revealDescendant(next->bounds());
         return true;
     }
+
+private:
+    static CGFloat widthOfRows(CGFloat width) { return std::max(0.0, width - 2 * inset); }
 };
 
 } // namespace
@@ -77,9 +85,8 @@ Ref<Sidebar> Sidebar::sidebarWithPages_show(const std::vector<std::string>& name
 bool Sidebar::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     setBackgroundColor(Theme::sidebar());
-    title_ = create<UILabel>(CGRectZero);
+    title_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::text());
     title_->setText("GXUIPickers");
-    title_->setFont(Theme::headingFont());
     list_ = create<ContentScrollView>(CGRectZero);
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, list_}) addSubview(view);
     return true;
@@ -101,23 +108,32 @@ void Sidebar::showNames() {
     for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(Translations::text(names_[i]));
 }
 
+CGFloat Sidebar::titleHeight() const {
+    const CGFloat width = std::max(0.0, bounds().size.width - 4 * inset);
+    return std::max(Theme::barHeight(), std::ceil(title_->sizeThatFits({width, 0}).height));
+}
+
 void Sidebar::layoutSubviews() {
     UIView::layoutSubviews();
     const CGSize size = bounds().size;
-    title_->setFrame(CGRectMake(2 * inset, 0, std::max(0.0, size.width - 4 * inset), Theme::barHeight));
-    const CGFloat listY = title_->isHidden() ? inset : Theme::barHeight;
+    title_->setFrame(CGRectMake(2 * inset, 0, std::max(0.0, size.width - 4 * inset), titleHeight()));
+    const CGFloat listY = title_->isHidden() ? inset : titleHeight();
     list_->setFrame(CGRectMake(0, listY, size.width, std::max(0.0, size.height - listY)));
     list_->layoutIfNeeded();
     // The chosen row stays visible.
     if (chosen_ >= rows_.size()) return;
-    const CGFloat top = static_cast<CGFloat>(chosen_) * Theme::controlHeight;
-    const CGFloat lowest = top + Theme::controlHeight - list_->bounds().size.height;
+    list_->content()->layoutIfNeeded();
+    const CGRect row = rows_[chosen_]->frame();
+    const CGFloat top = CGRectGetMinY(row);
+    const CGFloat lowest = CGRectGetMaxY(row) - list_->bounds().size.height;
     if (list_->offset() < lowest) list_->setOffset(lowest);
     if (list_->offset() > top) list_->setOffset(top);
 }
 
 void Sidebar::drawRect(UIGraphicsContext& context, CGRect rect) {
-    context.fillRect(CGRectMake(CGRectGetMaxX(rect) - 1, 0, 1, rect.size.height), Theme::hairline());
+    // At the edge beside the page.
+    const CGRect line = CGRectMake(rect.size.width - 1, 0, 1, rect.size.height);
+    context.fillRect(ReadingDirection::frame(line, rect.size.width), Theme::hairline());
 }
 
 } // namespace gallery

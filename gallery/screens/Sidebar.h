@@ -29,7 +29,9 @@ public:
     void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
 
 private:
-    gx::Ref<gx::UILabel> title_;
+    gx::CGFloat titleHeight() const;
+
+    gx::Ref<Paragraph> title_;
     gx::Ref<ContentScrollView> list_;
     std::vector<gx::Ref<Button>> rows_;
     std::vector<std::string> names_;

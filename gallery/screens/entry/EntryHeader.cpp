@@ -19,7 +19,7 @@ constexpr CGFloat messageGap = 8;
 bool EntryHeader::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     title_ = create<UILabel>(CGRectZero);
-    title_->setFont(Theme::titleFont());
+    title_->setFont(Theme::font(Theme::TextStyle::Title));
     title_->setTextColor(Theme::text());
     openButton_ = Button::buttonWithTitle_style("", Button::Style::Plain);
     saveButton_ = Button::buttonWithTitle_style("", Button::Style::Plain);
@@ -53,8 +53,8 @@ void EntryHeader::setMessage(const std::string& message, bool isError) {
 }
 
 CGFloat EntryHeader::barHeight() const {
-    if (!title_->isHidden()) return Theme::barHeight;
-    return saveButton_->isHidden() ? 0 : Theme::controlHeight;
+    if (!title_->isHidden()) return Theme::barHeight();
+    return saveButton_->isHidden() ? 0 : Theme::controlHeight();
 }
 
 CGSize EntryHeader::sizeThatFits(CGSize available) const {
@@ -66,12 +66,12 @@ void EntryHeader::layoutSubviews() {
     UIView::layoutSubviews();
     const CGSize size = bounds().size;
     const CGFloat bar = barHeight();
-    const CGFloat top = 0.5 * std::max(0.0, bar - Theme::controlHeight);
+    const CGFloat top = 0.5 * std::max(0.0, bar - Theme::controlHeight());
     const CGFloat saveWidth = saveButton_->sizeThatFits({}).width;
     const CGFloat openWidth = openButton_->sizeThatFits({}).width;
     const CGFloat buttonsX = std::max(0.0, size.width - saveWidth - openWidth);
-    openButton_->setFrame(CGRectMake(buttonsX, top, openWidth, Theme::controlHeight));
-    saveButton_->setFrame(CGRectMake(buttonsX + openWidth, top, saveWidth, Theme::controlHeight));
+    openButton_->setFrame(CGRectMake(buttonsX, top, openWidth, Theme::controlHeight()));
+    saveButton_->setFrame(CGRectMake(buttonsX + openWidth, top, saveWidth, Theme::controlHeight()));
     title_->setFrame(CGRectMake(0, 0, buttonsX, bar));
     message_->setFrame(CGRectMake(0, bar, size.width, std::max(0.0, size.height - bar)));
 }

@@ -30,10 +30,10 @@ bool PickerPane::initWithFrame(CGRect frame) {
     card_ = Theme::makeCard();
     card_->setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor()); // As the cells.
     name_ = create<UILabel>(CGRectZero);
-    name_->setFont(Theme::headingFont());
+    name_->setFont(Theme::font(Theme::TextStyle::Heading));
     name_->setTextColor(Theme::secondaryText());
     value_ = create<UILabel>(CGRectZero);
-    value_->setFont(Theme::titleFont());
+    value_->setFont(Theme::font(Theme::TextStyle::Title));
     value_->setTextColor(Theme::accent());
     for (const Ref<UILabel>& label : {name_, value_}) {
         label->setText("");

@@ -137,15 +137,84 @@ TEST_F(ControlsTest, SegmentsAreEquallyWideAsLongAsEachHasRoomForItsText) {
             found.push_back(segment.size.width);
         }
         EXPECT_DOUBLE_EQ(end, width);
+        EXPECT_EQ(segments->sizeThatFits({width, 0}), CGSizeMake(width, 40));
         return found;
     };
     EXPECT_EQ(widths(312), (std::vector<CGFloat>{104, 104, 104}));
     EXPECT_EQ(widths(309), (std::vector<CGFloat>{143, 83, 83})); // 117 are to spare, 39 for each.
     EXPECT_EQ(widths(192), (std::vector<CGFloat>{104, 44, 44}));
-    EXPECT_EQ(widths(96), (std::vector<CGFloat>{52, 22, 22})); // Each has half of what it needs.
-    EXPECT_EQ(widths(0), (std::vector<CGFloat>{0, 0, 0}));
+    EXPECT_EQ(widths(177), (std::vector<CGFloat>{99, 39, 39})); // With four points at either side.
+    EXPECT_EQ(widths(174), (std::vector<CGFloat>{98, 38, 38}));
     EXPECT_EQ(segments->frameOfSegment(3), CGRectZero);
     EXPECT_EQ(SegmentedControl::segmentsWithChoices({}, 0)->frameOfSegment(0), CGRectZero);
+    EXPECT_EQ(SegmentedControl::segmentsWithChoices({}, 0)->sizeThatFits({100, 0}), CGSizeMake(100, 40));
+}
+
+TEST_F(ControlsTest, SegmentsThatDoNotFitSideBySideStandBelowEachOther) {
+    const auto frames = [](const Ref<SegmentedControl>& segments, CGFloat width) {
+        segments->setFrame(CGRectMake(0, 0, width, segments->sizeThatFits({width, 0}).height));
+        std::vector<CGRect> found;
+        for (std::size_t i = 0; i < segments->choices().size(); ++i) found.push_back(segments->frameOfSegment(i));
+        EXPECT_EQ(CGRectGetMaxY(found.back()), segments->bounds().size.height);
+        return found;
+    };
+    const auto separators = SegmentedControl::segmentsWithChoices({"Automatic", "1.5", "1,5"}, 0);
+    EXPECT_EQ(frames(separators, 173), (std::vector<CGRect>{{{0, 0}, {173, 40}}, {{0, 40}, {173, 40}}, {{0, 80}, {173, 40}}}));
+    // "Auto-" and "matic": two lines of 22 and 7 above and below.
+    EXPECT_EQ(frames(separators, 97), (std::vector<CGRect>{{{0, 0}, {97, 58}}, {{0, 58}, {97, 40}}, {{0, 98}, {97, 40}}}));
+    // More than three stand in columns of the widest one, 58 points.
+    const auto sizes = SegmentedControl::segmentsWithChoices({"80 %", "100 %", "130 %", "200 %", "300 %"}, 0);
+    EXPECT_EQ(
+        frames(sizes, 174),
+        (std::vector<CGRect>{{{0, 0}, {58, 40}}, {{58, 0}, {58, 40}}, {{116, 0}, {58, 40}}, {{0, 40}, {58, 40}}, {{58, 40}, {58, 40}}}));
+    // Four columns would fit, but then the second row would have one segment only.
+    EXPECT_EQ(frames(sizes, 240)[3], CGRectMake(0, 40, 80, 40));
+    // In one column; "80 %" has room, and each of the others two lines.
+    EXPECT_EQ(frames(sizes, 57)[4], CGRectMake(0, 40 + 3 * 58, 57, 58));
+}
+
+TEST_F(ControlsTest, ControlsAreMirroredWhereLocalesAreReadFromTheRight) {
+    const auto segments = SegmentedControl::segmentsWithChoices({"Automatic", "1.5", "1,5"}, 0);
+    segments->setFrame(CGRectMake(0, 200, 309, 40));
+    const auto heading = Button::buttonWithTitle_style("Pace", Button::Style::Heading);
+    heading->setFrame(CGRectMake(0, 0, 100, 40));
+    const auto lay = [&](const char* locale) {
+        NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier(locale));
+        heading->setNeedsLayout();
+        heading->layoutIfNeeded();
+    };
+    // The arrow is one letter of 10 points, with 4 beside it.
+    lay("en");
+    EXPECT_EQ(heading->subviews()[0]->frame(), CGRectMake(0, 0, 86, 40));
+    EXPECT_EQ(heading->subviews()[1]->frame(), CGRectMake(90, 0, 10, 40));
+    EXPECT_EQ(segments->frameOfSegment(0), CGRectMake(0, 0, 143, 40));
+    lay("he");
+    EXPECT_EQ(heading->subviews()[0]->frame(), CGRectMake(14, 0, 86, 40));
+    EXPECT_EQ(heading->subviews()[1]->frame(), CGRectMake(0, 0, 10, 40));
+    EXPECT_EQ(std::dynamic_pointer_cast<Paragraph>(heading->subviews()[1])->text(), "\u2039");
+    EXPECT_EQ(segments->frameOfSegment(0), CGRectMake(166, 0, 143, 40));
+    EXPECT_EQ(segments->frameOfSegment(2), CGRectMake(0, 0, 83, 40));
+
+    content->addSubview(segments);
+    segments->becomeFirstResponder();
+    window->press(UIKey::Code::Left);
+    EXPECT_EQ(segments->chosen(), 1U) << "the next one is at the left";
+    window->press(UIKey::Code::Right);
+    EXPECT_EQ(segments->chosen(), 0U);
+    window->tap({5, 220});
+    EXPECT_EQ(segments->chosen(), 2U);
+    NSLocale::setCurrentLocale(nullptr);
+}
+
+TEST_F(ControlsTest, AButtonIsAsHighAsTheLinesOfItsTitle) {
+    const auto plain = Button::buttonWithTitle_style("Add a workout", Button::Style::Plain);
+    // Thirteen letters, and 12 points at either side.
+    EXPECT_EQ(plain->sizeThatFits({}), CGSizeMake(154, 40));
+    EXPECT_EQ(plain->sizeThatFits({200, 0}), CGSizeMake(154, 40));
+    EXPECT_EQ(plain->sizeThatFits({153, 0}), CGSizeMake(153, 52)); // "workout" in a second line.
+    EXPECT_EQ(plain->sizeThatFits({94, 0}), CGSizeMake(94, 52));
+    EXPECT_EQ(plain->sizeThatFits({93, 0}), CGSizeMake(93, 74)); // "Add a", "wor-", "kout"
+    EXPECT_EQ(Button::buttonWithTitle_style("", Button::Style::Row)->sizeThatFits({}), CGSizeMake(40, 40));
 }
 
 TEST_F(ControlsTest, SegmentsCallTheActionForAnotherChoiceOnly) {
@@ -185,19 +254,6 @@ TEST_F(WheelAndScrollTest, DragsSpinTheWheelTheyBeginOnAndScrollThePageBesideIt)
     window->drag(purpose, {160, 60});
     EXPECT_GT(screen->scroll()->offset(), 20);
     EXPECT_EQ(screen->page()->log()->notices().size(), 2U);
-}
-
-TEST(ParagraphTest, WordsAreBrokenIntoLinesThatFit) {
-    const auto text = create<Paragraph>(CGRectZero);
-    text->setText("ten points for every letter");
-    // Each letter is 10 points wide and each line 20 high, with 2 between lines.
-    EXPECT_EQ(text->sizeThatFits({270, 0}), CGSizeMake(270, 22));
-    EXPECT_EQ(text->sizeThatFits({269, 0}), CGSizeMake(269, 44)); // "letter" goes to the next line
-    EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 66)); // ten points, for every, letter
-    // ten, poi, nts, for, eve, ry, let, ter
-    EXPECT_EQ(text->sizeThatFits({30, 0}), CGSizeMake(30, 176));
-    text->setText("");
-    EXPECT_EQ(text->sizeThatFits({100, 0}), CGSizeMake(100, 0));
 }
 
 // Keys
@@ -317,21 +373,4 @@ TEST_F(ControlsTest, SegmentsAreOneElementThatGoesFromChoiceToChoice) {
     elements[0]->decrement();
     elements[0]->setIndex(-5);
     EXPECT_EQ(told, (std::vector<std::size_t>{2, 1, 0}));
-}
-
-TEST(ParagraphTest, TextWithoutSpacesIsBrokenBetweenCharacters) {
-    const auto text = create<Paragraph>(CGRectZero);
-    const CGFloat line = [&text] {
-        text->setText("a");
-        return text->sizeThatFits({100, 0}).height;
-    }();
-    // Ten points a character: ten of them in a line.
-    text->setText("このファイルは破損しているか、記録ではありません");
-    EXPECT_EQ(text->sizeThatFits({100, 0}).height, 3 * line);
-    text->setText("abcdefghij");
-    EXPECT_EQ(text->sizeThatFits({100, 0}).height, line);
-    text->setText("abcdefghijk x");
-    EXPECT_EQ(text->sizeThatFits({100, 0}).height, 2 * line);
-    text->setText("abc");
-    EXPECT_EQ(text->sizeThatFits({0, 0}).height, 3 * line); // At least one in a line.
 }

@@ -1,8 +1,10 @@
 #include "Theme.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
+#include <GXUIPickers/GXStyleSheet.h>
 #include <GXUIPickers/UIGraphicsContext.h>
 
 using namespace gx;
@@ -20,8 +22,7 @@ UIColor contrasting(const UIColor& normal, unsigned light, unsigned dark) {
     return UIColor::colorWithNormal_highContrast(normal, lightDark(light, dark));
 }
 
-/// A font of the host's interface family, made once for each place of use.
-Ref<UIFont> font(CGFloat size, UIFontWeight weight) { return UIFont::systemFontOfSize_weight(size, weight); }
+constexpr CGFloat bodySize = 15;
 
 } // namespace
 
@@ -42,30 +43,38 @@ UIColor Theme::pressed() {
     return UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0, 0.06), UIColor::colorWithWhite_alpha(1, 0.08));
 }
 
-const Ref<UIFont>& Theme::titleFont() {
-    static const Ref<UIFont> shared = font(28, UIFontWeight::Bold);
-    return shared;
+double Theme::textScale() { return GXStyleSheet::globalStyleSheet()->textScale(); }
+
+Ref<UIFont> Theme::font(TextStyle style) {
+    struct Font {
+        CGFloat size = bodySize;
+        UIFontWeight weight = UIFontWeight::Regular;
+        double scale = 0;
+        Ref<UIFont> scaledFont = nullptr;
+    };
+    static std::array<Font, 6> fonts = {{{28, UIFontWeight::Bold},
+                                         {17, UIFontWeight::Semibold},
+                                         {bodySize, UIFontWeight::Regular},
+                                         {bodySize, UIFontWeight::Semibold},
+                                         {13, UIFontWeight::Regular},
+                                         {13, UIFontWeight::Semibold}}};
+    Font& found = fonts.at(static_cast<std::size_t>(style));
+    const double scale = textScale();
+    if (!found.scaledFont || found.scale != scale) {
+        const CGFloat aboveBody = std::max(0.0, found.size - bodySize);
+        const CGFloat size = std::min(found.size * scale, (found.size - aboveBody) * scale + aboveBody);
+        found.scaledFont = UIFont::systemFontOfSize_weight(std::round(size), found.weight);
+        found.scale = scale;
+    }
+    return found.scaledFont;
 }
-const Ref<UIFont>& Theme::headingFont() {
-    static const Ref<UIFont> shared = font(17, UIFontWeight::Semibold);
-    return shared;
-}
-const Ref<UIFont>& Theme::bodyFont() {
-    static const Ref<UIFont> shared = font(15, UIFontWeight::Regular);
-    return shared;
-}
-const Ref<UIFont>& Theme::strongFont() {
-    static const Ref<UIFont> shared = font(15, UIFontWeight::Semibold);
-    return shared;
-}
-const Ref<UIFont>& Theme::captionFont() {
-    static const Ref<UIFont> shared = font(13, UIFontWeight::Regular);
-    return shared;
-}
-const Ref<UIFont>& Theme::strongCaptionFont() {
-    static const Ref<UIFont> shared = font(13, UIFontWeight::Semibold);
-    return shared;
-}
+
+// A line grows by some 18 points for each step of 1; the room above and below it hardly needs to.
+CGFloat Theme::controlHeight() { return 40 + std::round(20 * std::max(0.0, textScale() - 1)); }
+CGFloat Theme::barHeight() { return controlHeight() + 16; }
+CGFloat Theme::sidebarWidth() { return std::round(std::max(232.0, scaled(232))); }
+CGFloat Theme::sidebarBreakpoint() { return std::max(720.0, scaled(720)); }
+CGFloat Theme::scaled(CGFloat length) { return length * textScale(); }
 
 void Theme::drawOutline(UIGraphicsContext& context, CGRect rect, CGFloat cornerRadius) {
     constexpr CGFloat width = 2;
@@ -93,6 +102,12 @@ void Theme::drawOutline(UIGraphicsContext& context, CGRect rect, CGFloat cornerR
             }
         }
     }
+}
+
+void Theme::layOutAgain(const Ref<UIView>& view) {
+    view->setNeedsLayout();
+    view->setNeedsDisplay();
+    for (const Ref<UIView>& below : view->subviews()) layOutAgain(below);
 }
 
 Ref<UIView> Theme::makeCard() {

@@ -32,25 +32,30 @@ public:
     /// Laid over a control while a finger is down on it.
     static gx::UIColor pressed();
 
-    // Fonts
+    // Texts, which follow the text scale of the style sheet
 
-    static const gx::Ref<gx::UIFont>& titleFont();
-    static const gx::Ref<gx::UIFont>& headingFont();
-    static const gx::Ref<gx::UIFont>& bodyFont();
-    static const gx::Ref<gx::UIFont>& strongFont();
-    static const gx::Ref<gx::UIFont>& captionFont();
-    static const gx::Ref<gx::UIFont>& strongCaptionFont();
+    enum class TextStyle { Title, Heading, Body, Strong, Caption, StrongCaption };
+    /// The same object until the text scale changes. Larger styles grow by fewer per cent, so that
+    /// their words have room on a phone: titles stay as much larger than the body as at scale 1.
+    static gx::Ref<gx::UIFont> font(TextStyle style);
+    static double textScale();
 
-    // Distances, in points
+    // Heights and widths in points that grow with the text
 
-    /// The least width with a sidebar beside the page.
-    static constexpr gx::CGFloat sidebarBreakpoint = 720;
-    static constexpr gx::CGFloat sidebarWidth = 232;
+    /// Of a control with one line; at least what a finger needs to hit it reliably.
+    static gx::CGFloat controlHeight();
+    /// Of a bar with one line.
+    static gx::CGFloat barHeight();
+    static gx::CGFloat sidebarWidth();
+    /// The least width with a sidebar beside the page. A window with large text has room for less.
+    static gx::CGFloat sidebarBreakpoint();
+    /// A length that is chosen for scale 1.
+    static gx::CGFloat scaled(gx::CGFloat length);
+
+    // Distances in points, the same at each scale, since width is what large texts lack
+
     /// The least width of a window that shows a picker beside what belongs to it.
     static constexpr gx::CGFloat sideBySideBreakpoint = 900;
-    static constexpr gx::CGFloat barHeight = 56;
-    /// What a finger needs to hit a control reliably.
-    static constexpr gx::CGFloat controlHeight = 40;
     static constexpr gx::CGFloat cardRadius = 18;
     static constexpr gx::CGFloat cardPadding = 16;
     static constexpr gx::CGFloat gap = 16;
@@ -59,6 +64,8 @@ public:
 
     /// Draws the outline of a rounded rectangle in the accent colour, inside the rectangle.
     static void drawOutline(gx::UIGraphicsContext& context, gx::CGRect rect, gx::CGFloat cornerRadius);
+    /// Lays out a view and all below it again, after a change of the text scale or the locale.
+    static void layOutAgain(const gx::Ref<gx::UIView>& view);
     /// A rounded surface for other views.
     static gx::Ref<gx::UIView> makeCard();
 };
