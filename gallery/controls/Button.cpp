@@ -129,6 +129,7 @@ void Button::drawRect(UIGraphicsContext& context, CGRect rect) {
     constexpr CGFloat radius = 10;
     const CGRect lit = style_ == Style::Heading ? CGRectInset(rect, -inset, 0) : rect;
     if (isChosen_) context.fillRect(lit, Theme::accentFill(), radius);
+    if (isHovered()) context.fillRect(lit, Theme::hovered(), radius);
     if (isHighlighted()) context.fillRect(lit, Theme::pressed(), radius);
     const CGPoint middle = {CGRectGetMidX(rect), CGRectGetMidY(rect)};
     if (sign_ == Sign::Menu) drawMenuSign(context, middle);

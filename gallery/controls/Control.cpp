@@ -47,6 +47,19 @@ void Control::touchCancelled(const UITouch& touch) {
     UIView::touchCancelled(touch);
 }
 
+std::optional<UIPointerStyle> Control::hoverMoved(CGPoint locationInWindow) {
+    const CGPoint point = convertPointFromWindow(locationInWindow);
+    const bool looksDifferent = !hover_ || looksDifferentAt(*hover_, point);
+    hover_ = point;
+    if (looksDifferent) setNeedsDisplay();
+    return UIPointerStyle::Press;
+}
+
+void Control::hoverEnded() {
+    hover_.reset();
+    setNeedsDisplay();
+}
+
 bool Control::keyPressed(const UIKey& key) {
     const bool isTap = key.code == UIKey::Code::Return || key.code == UIKey::Code::Space;
     if (!isTap || key.isCommand()) return UIView::keyPressed(key);

@@ -21,11 +21,15 @@ public:
     static constexpr gx::CGFloat slop = 8;
 
     bool isHighlighted() const { return finger_.has_value(); }
+    bool isHovered() const { return hover_.has_value(); }
 
     bool touchBegan(const gx::UITouch& touch) override;
     void touchMoved(const gx::UITouch& touch) override;
     void touchEnded(const gx::UITouch& touch) override;
     void touchCancelled(const gx::UITouch& touch) override;
+    /// It has a hover mark while the pointer is over it.
+    std::optional<gx::UIPointerStyle> hoverMoved(gx::CGPoint locationInWindow) override;
+    void hoverEnded() override;
     bool canBecomeFirstResponder() override { return true; }
     bool keyPressed(const gx::UIKey& key) override;
 
@@ -39,10 +43,17 @@ protected:
     /// Where the finger came down that highlights the control, in this view's coordinates.
     gx::CGPoint highlightedPoint() const { return convertPointFromWindow(start_); }
 
+    /// Where the pointer is over the control, in this view's coordinates.
+    gx::CGPoint hoveredPoint() const { return hover_.value_or(gx::CGPoint{}); }
+    /// What has to be drawn again when the pointer moves from the one point to the other. Here
+    /// nothing.
+    virtual bool looksDifferentAt(gx::CGPoint /*one*/, gx::CGPoint /*other*/) const { return false; }
+
 private:
     bool isNearStart(const gx::UITouch& touch) const;
     void setFinger(std::optional<std::int64_t> finger);
 
+    std::optional<gx::CGPoint> hover_;
     std::optional<std::int64_t> finger_;
     gx::CGPoint start_; // In the window's coordinates.
 };

@@ -164,6 +164,8 @@ std::vector<CGRect> SegmentedControl::framesInRows(CGFloat width, const std::vec
     return frames;
 }
 
+bool SegmentedControl::looksDifferentAt(CGPoint one, CGPoint other) const { return segmentAt(one) != segmentAt(other); }
+
 std::size_t SegmentedControl::segmentAt(CGPoint point) const {
     std::size_t index = 0;
     while (index < choices_.size() && !CGRectContainsPoint(frameOfSegment(index), point)) ++index;
@@ -185,6 +187,9 @@ void SegmentedControl::drawRect(UIGraphicsContext& context, CGRect rect) {
     if (choices_.empty()) return;
     const CGFloat radius = trackRadius - thumbInset;
     context.fillRect(CGRectInset(frameOfSegment(chosen_), thumbInset, thumbInset), Theme::thumb(), radius);
+    const std::size_t hovered = isHovered() ? segmentAt(hoveredPoint()) : chosen_;
+    if (hovered < choices_.size() && hovered != chosen_)
+        context.fillRect(CGRectInset(frameOfSegment(hovered), thumbInset, thumbInset), Theme::hovered(), radius);
     const std::size_t held = isHighlighted() ? segmentAt(highlightedPoint()) : choices_.size();
     if (held < choices_.size()) context.fillRect(CGRectInset(frameOfSegment(held), thumbInset, thumbInset), Theme::pressed(), radius);
     drawFocus(context, rect, trackRadius);

@@ -51,6 +51,7 @@ public:
 protected:
     void tapped(gx::CGPoint point) override;
     gx::CGPoint pointOfKeys() const override;
+    bool looksDifferentAt(gx::CGPoint one, gx::CGPoint other) const override;
 
 private:
     gx::CGPoint middleOfSegment(std::size_t index) const;

@@ -67,3 +67,20 @@ TEST(TableAllocations, a_flings_frames_take_nothing) {
         EXPECT_GT(table->contentOffset().y, 1000);
     }
 }
+
+TEST(TableAllocations, a_pointer_that_moves_over_rows_takes_nothing) {
+    const auto source = create<TableSource>();
+    const auto table = tableWithSource(source);
+    TestWindow window(table);
+    NullCanvas canvas;
+    const auto sweep = [&] {
+        for (int y = 0; y < 440; y += 4) {
+            window->pointerMoved({100, static_cast<double>(y)});
+            window.tick(TestWindow::frame);
+            window->draw(canvas);
+        }
+        window->pointerLeft();
+    };
+    sweep();
+    EXPECT_EQ(allocationsOf(sweep), 0U);
+}

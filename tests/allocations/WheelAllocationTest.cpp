@@ -107,3 +107,21 @@ TEST(WheelAllocations, ASteadyFrameOfAMovementByKeysTakesNothing) {
         EXPECT_TRUE(window->showsFocus());
     }
 }
+
+TEST(WheelAllocations, a_pointer_that_moves_takes_nothing) {
+    const auto source = create<WheelSource>();
+    source->rows = {100, 100, 100};
+    const auto wheel = wheelWithSource(source);
+    TestWindow window(wheel);
+    NullCanvas canvas;
+    const auto sweep = [&] {
+        for (int x = 0; x < 320; x += 4) {
+            window->pointerMoved({static_cast<double>(x), 108});
+            window.tick(TestWindow::frame);
+            window->draw(canvas);
+        }
+        window->pointerLeft();
+    };
+    sweep();
+    EXPECT_EQ(allocationsOf(sweep), 0U);
+}

@@ -43,6 +43,11 @@ UIColor Theme::pressed() {
     return UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0, 0.06), UIColor::colorWithWhite_alpha(1, 0.08));
 }
 
+UIColor Theme::hovered() {
+    const UIColor normal = UIColor::colorWithLight_dark(UIColor::colorWithWhite_alpha(0, 0.035), UIColor::colorWithWhite_alpha(1, 0.05));
+    return UIColor::colorWithNormal_highContrast(normal, pressed());
+}
+
 double Theme::textScale() { return GXStyleSheet::globalStyleSheet()->textScale(); }
 
 Ref<UIFont> Theme::font(TextStyle style) {

@@ -31,6 +31,8 @@ public:
     static gx::UIColor thumb();
     /// Laid over a control while a finger is down on it.
     static gx::UIColor pressed();
+    /// The same below the pointer, fainter.
+    static gx::UIColor hovered();
 
     // Texts, which follow the text scale of the style sheet
 

@@ -143,7 +143,9 @@ bool QtInput::mousePress(const QMouseEvent& event, NSTimeInterval time) {
 }
 
 bool QtInput::mouseMove(const QMouseEvent& event, NSTimeInterval time) {
-    if (!isOfMouse(event) || !isDown(mouseFinger)) return false;
+    if (!isOfMouse(event)) return false;
+    window_->pointerMoved(pointOf(event.position()));
+    if (!isDown(mouseFinger)) return false;
     if (event.buttons().testFlag(Qt::LeftButton)) return move(mouseFinger, event.position(), time);
     // The release went elsewhere, say to a menu.
     std::erase(down_, mouseFinger);

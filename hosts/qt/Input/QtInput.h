@@ -18,8 +18,9 @@ namespace gx::qt {
 /// - Supports: any number of fingers; the mouse with its left button as one more; mouse wheels,
 ///   also in fractions of a notch and sideways; trackpads with strokes and glides; keys, also held
 ///   ones, and the text that they type.
-/// - Does not support: pens as such (Qt makes mouse events of them), gestures, hovering, input
-///   methods that compose a text before it is typed.
+/// - Supports the pointer of a mouse that hovers, and of a pen that Qt makes mouse events of.
+/// - Does not support: pens as such, gestures, input methods that compose a text before it is
+///   typed.
 ///
 /// Times are in seconds on the clock of the window's ticks. Each operation returns whether the
 /// event was handled; others are for the widgets around the view. Callbacks of views may drop
@@ -33,6 +34,9 @@ public:
     bool mouseMove(const QMouseEvent& event, NSTimeInterval time);
     bool mouseRelease(const QMouseEvent& event, NSTimeInterval time);
     bool wheel(const QWheelEvent& event, NSTimeInterval time);
+    /// The pointer comes into the widget, or leaves it.
+    void pointerEntered(QPointF place) { window_->pointerMoved({place.x(), place.y()}); }
+    void pointerLeft() { window_->pointerLeft(); }
     /// A key goes down or repeats. Tab is left to `moveFocus`.
     bool keyPress(const QKeyEvent& event, NSTimeInterval time);
     /// Tab, or Shift and Tab.
@@ -41,8 +45,7 @@ public:
     void cancelAll(NSTimeInterval time);
 
 private:
-    /// The mouse's, apart from the fingers', which count from 0.
-    static constexpr std::int64_t mouseFinger = -1;
+    static constexpr std::int64_t mouseFinger = UITouch::pointerIdentifier;
 
     bool isDown(std::int64_t finger) const;
     bool begin(std::int64_t finger, QPointF place, NSTimeInterval time);

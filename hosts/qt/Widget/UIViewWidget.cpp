@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QEnterEvent>
 #include <QFocusEvent>
 #include <QInputEvent>
 #include <QKeyEvent>
@@ -29,6 +30,21 @@ double framePeriod(const QScreen* screen) {
     constexpr double usualRate = 60; // Of most screens, for a system that reports none.
     const double rate = screen ? screen->refreshRate() : usualRate;
     return 1 / (rate >= 1 ? rate : usualRate);
+}
+
+Qt::CursorShape shapeOf(UIPointerStyle style) {
+    switch (style) {
+    case UIPointerStyle::Press:
+        return Qt::PointingHandCursor;
+    case UIPointerStyle::Turn:
+        return Qt::OpenHandCursor;
+    case UIPointerStyle::Turning:
+        return Qt::ClosedHandCursor;
+    case UIPointerStyle::Disabled:
+        return Qt::ForbiddenCursor;
+    default:
+        return Qt::ArrowCursor;
+    }
 }
 
 /// A window darker than the middle needs bright text.
@@ -89,7 +105,10 @@ void UIViewWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) followPalette();
     const std::shared_ptr<QtInput> input = input_;
-    if (event->type() == QEvent::EnabledChange && !isEnabled()) input->cancelAll(now());
+    if (event->type() != QEvent::EnabledChange || isEnabled()) return;
+    const double time = now();
+    input->cancelAll(time);
+    input->pointerLeft();
 }
 
 void UIViewWidget::paintEvent(QPaintEvent*) {
@@ -154,6 +173,14 @@ void UIViewWidget::giveFeedback(UIFeedback feedback) {
     if (handler) handler();
 }
 
+void UIViewWidget::pointerStyleDidChange(UIPointerStyle style) {
+    if (style == UIPointerStyle::Default) {
+        unsetCursor(); // That of the widgets around.
+    } else {
+        setCursor(shapeOf(style));
+    }
+}
+
 // Input. Callbacks of views may drop the widget, so each operation keeps the input alive and uses
 // nothing of the widget afterwards.
 
@@ -184,6 +211,7 @@ void UIViewWidget::hideEvent(QHideEvent* event) {
     const std::shared_ptr<QtInput> input = input_;
     const Ref<UIWindow> window = window_;
     QWidget::hideEvent(event);
+    input->pointerLeft();
     input->cancelAll(now());
     window->finishAnimations();
 }
@@ -222,6 +250,16 @@ void UIViewWidget::keyPressEvent(QKeyEvent* event) {
     const bool isUsed = input->keyPress(*event, timeOf(*event));
     event->setAccepted(isUsed);
     if (!isUsed && self) QWidget::keyPressEvent(event); // Escape closes a popup.
+}
+
+void UIViewWidget::enterEvent(QEnterEvent* event) {
+    const std::shared_ptr<QtInput> input = input_;
+    input->pointerEntered(event->position());
+}
+
+void UIViewWidget::leaveEvent(QEvent*) {
+    const std::shared_ptr<QtInput> input = input_;
+    input->pointerLeft();
 }
 
 void UIViewWidget::mousePressEvent(QMouseEvent* event) {

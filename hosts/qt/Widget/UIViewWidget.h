@@ -24,7 +24,9 @@ class QtInput;
 /// - Supports: one root view that fills the widget; fingers, mouse, mouse wheel, trackpad and
 ///   keyboard; any ratio of device pixels to points, also one that changes between screens; a light
 ///   and a dark look, by default the palette's, at either contrast; screen readers.
-/// - Does not support: pens as such, gestures, hovering, input methods that compose a text.
+/// - Supports the pointer: views below it show that they can be pressed or turned, and so does the
+///   widget's cursor, which is the library's own.
+/// - Does not support: pens as such, gestures, input methods that compose a text.
 ///
 /// **Input.** Events that no view has handled are ignored, so that a QScrollArea around the widget
 /// scrolls and shortcuts work.
@@ -93,6 +95,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -101,6 +105,7 @@ protected:
 private:
     void windowNeedsFrame() override;
     void giveFeedback(UIFeedback feedback) override;
+    void pointerStyleDidChange(UIPointerStyle style) override;
 
     double timeOf(const QInputEvent& event);
     void scheduleTick();

@@ -26,6 +26,10 @@ bool UIResponder::scrolled(const UIScroll& scroll) {
     return next && next->scrolled(scroll);
 }
 
+std::optional<UIPointerStyle> UIResponder::hoverMoved(CGPoint) { return std::nullopt; }
+
+void UIResponder::hoverEnded() {}
+
 bool UIResponder::keyPressed(const UIKey& key) {
     const Ref<UIResponder> next = nextResponder();
     return next && next->keyPressed(key);

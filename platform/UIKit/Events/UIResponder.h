@@ -1,13 +1,16 @@
 #pragma once
 
+#include <optional>
+
 #include "GXExport.h"
 #include "NSObject.h"
 #include "UIKey.h"
+#include "UIPointer.h"
 #include "UITouch.h"
 
 namespace gx {
 
-/// Takes touches, scrolling and keys. The base of all views.
+/// Takes touches, scrolling, keys and the pointer. The base of all views.
 ///
 /// Events go along a chain of responders: what one does not override goes on to its
 /// `nextResponder`, for a view its superview. An override that leaves an event alone calls the
@@ -32,6 +35,19 @@ public:
 
     /// Sent to the topmost view below the pointer; here handed on. Returns whether a view used it.
     virtual bool scrolled(const UIScroll& scroll);
+
+    // The pointer
+
+    /// Asked for the pointer's style by the window: from the topmost view below the pointer upward,
+    /// until one returns a style. That one is hovered. Here nothing is returned.
+    ///
+    /// - Sent when the pointer moves, and again before each frame while it rests, since what lies
+    ///   below it may have changed. A view that looks the same as before must not draw again.
+    /// - While the pointer's button is held, the view that it was pressed on is the first asked.
+    virtual std::optional<UIPointerStyle> hoverMoved(CGPoint locationInWindow);
+    /// Called after another view is hovered, or none: the pointer, or the view, has gone elsewhere.
+    /// Here nothing happens.
+    virtual void hoverEnded();
 
     // Keys
 

@@ -11,6 +11,9 @@ namespace gx {
 
 /// One finger, or the mouse with its button held, as a view receives it.
 struct UITouch {
+    /// The identifier of the mouse with its button held. Fingers have those from 0 on.
+    static constexpr std::int64_t pointerIdentifier = -1;
+
     /// The same for one finger from its beginning to its end.
     std::int64_t identifier = 0;
     /// In seconds, on the clock of `UIWindow::tick`.

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "UIPickerColumnElement.h"
+#include "UIPickerMarks.h"
 #include "UIPickerSelectionIndicator.h"
-#include "UIWindow.h"
 
 namespace gx {
 
@@ -65,6 +65,7 @@ public:
     UIPickerComponents components{*this, columnGap, defaultRowHeight};
     UIPickerRows rows{*this, components};
     UIPickerController controller{wheel, *this, components, rows};
+    UIPickerMarks marks{wheel, components};
     UIPickerColumnElement::Wheel parts{wheel, *this, components, rows, controller};
 
 private:
@@ -203,23 +204,16 @@ void UIPickerView::layoutSubviews() {
 
 void UIPickerView::drawRect(UIGraphicsContext& context, CGRect rect) {
     UIView::drawRect(context, rect);
-    const UIPickerComponents& components = implementation_->components;
-    if (components.count() == 0) return;
+    if (implementation_->components.count() == 0) return;
     const CGRect indicator = selectionIndicatorFrame();
     if (showsSelectionIndicator_) drawSelectionIndicator(context, indicator);
-    const Ref<UIWindow> window = this->window();
-    const NSInteger component = window && window->showsFocus() && isFirstResponder() ? components.componentOfKeys() : -1;
-    if (component < 0) return;
-    const CGRect column = components.at(component).column->frame();
-    UIPickerSelectionIndicator::drawFocus(
-        context, CGRectMake(column.origin.x, indicator.origin.y, column.size.width, indicator.size.height), tintColor());
+    implementation_->marks.draw(context, indicator);
 }
 
 CGRect UIPickerView::selectionIndicatorFrame() {
-    const UIPickerComponents& components = implementation_->components;
-    if (components.count() == 0) return {};
+    if (implementation_->components.count() == 0) return {};
     const CGRect area = bounds();
-    const CGFloat height = components.highestRow();
+    const CGFloat height = implementation_->components.highestRow();
     constexpr CGFloat inset = UIPickerSelectionIndicator::inset;
     return CGRectMake(area.origin.x + inset, CGRectGetMidY(area) - 0.5 * height, area.size.width - 2 * inset, height);
 }
@@ -254,6 +248,12 @@ bool UIPickerView::scrolled(const UIScroll& scroll) {
     const std::optional<bool> isTaken = implementation_->controller.scrolled(scroll);
     return isTaken ? *isTaken : UIView::scrolled(scroll);
 }
+
+std::optional<UIPointerStyle> UIPickerView::hoverMoved(CGPoint location) {
+    return implementation_->marks.hoverMoved(convertPointFromWindow(location));
+}
+
+void UIPickerView::hoverEnded() { implementation_->marks.hoverEnded(); }
 
 bool UIPickerView::keyPressed(const UIKey& key) {
     const Ref<UIPickerView> keep = self();

@@ -99,6 +99,9 @@ public:
 ///   column: "12:05", "3.5", "5'9". A typed text is reported once, when it is complete: nothing can
 ///   follow, a second has passed, or other input comes.
 ///
+/// The pointer. The column below it that can be spun is marked faintly in the selection indicator
+/// and, once the mouse wheel or a drag has spun it, like that of the keys until the pointer leaves.
+///
 /// Feedback. The window gets `UIFeedback::SelectionChanged` for each row that passes the selection
 /// indicator in a gesture of the user, for a hundred at most in a frame: faster than that they
 /// cannot be told apart.
@@ -194,6 +197,9 @@ public:
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
     bool scrolled(const UIScroll& scroll) override;
+    /// A column that can be spun is marked.
+    std::optional<UIPointerStyle> hoverMoved(CGPoint locationInWindow) override;
+    void hoverEnded() override;
     bool canBecomeFirstResponder() override;
     bool keyPressed(const UIKey& key) override;
     void focusDidChange() override;

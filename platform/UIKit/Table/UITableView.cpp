@@ -183,13 +183,8 @@ void UITableView::layoutSubviews() {
 void UITableView::pressBegan(CGPoint point, NSTimeInterval time) {
     const Ref<UITableView> keep = self();
     UIScrollView::pressBegan(point, time);
-    UITableViewPress& press = content().press();
-    press.cancel();
-    const std::optional<NSIndexPath> path = indexPathForRowAtPoint(point);
-    if (!path) return;
-    press.begin(*path, time + highlightDelay);
-    if (!parts_->canTapRow(*path)) press.cancel();
-    if (press.isHighlightPending()) startMoving();
+    content().press().cancel();
+    if (const auto path = indexPathForRowAtPoint(point)) content().pressRow(*path, time + highlightDelay);
 }
 
 void UITableView::pressEnded(bool isTap, NSTimeInterval time) {
@@ -228,6 +223,16 @@ void UITableView::scrollViewDidScroll() {
     setNeedsLayout();
 }
 
+// The pointer
+
+std::optional<UIPointerStyle> UITableView::hoverMoved(CGPoint location) {
+    const Ref<UITableView> keep = self();
+    const bool isOverRow = content().hoverRow(indexPathForRowAtPoint(convertPointFromWindow(location)));
+    return isOverRow ? std::optional(UIPointerStyle::Press) : UIScrollView::hoverMoved(location);
+}
+
+void UITableView::hoverEnded() { content().hoverRow(std::nullopt); }
+
 // Keys
 
 bool UITableView::keyPressed(const UIKey& key) {
@@ -235,13 +240,7 @@ bool UITableView::keyPressed(const UIKey& key) {
     // A callback may destroy the key. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const UIKey pressed = key; // Keys of views inside a row are not meant for the rows.
     if (!isFirstResponder() || pressed.isCommand()) return UIScrollView::keyPressed(pressed);
-    if (UITableViewKeyFocus::isMove(pressed.code)) {
-        const std::optional<NSIndexPath> present = content().focusedRow();
-        const auto next = present ? content().focus().rowForKey(pressed.code, *present, bounds().size.height) : std::nullopt;
-        if (!next || next == present) return UIScrollView::keyPressed(pressed); // Scrolls.
-        content().focusRow(*next);
-        return true;
-    }
+    if (UITableViewKeyFocus::isMove(pressed.code) && content().moveFocus(pressed.code)) return true;
     if (pressed.code != UIKey::Code::Return && pressed.code != UIKey::Code::Space) return UIScrollView::keyPressed(pressed);
     const std::optional<NSIndexPath> present = content().focusedRow();
     if (!present || !parts_->canTapRow(*present)) return UIScrollView::keyPressed(pressed);
@@ -294,7 +293,7 @@ void UITableView::drawScrolledViews(UIGraphicsContext& context) {
         UIScrollView::drawScrolledViews(context);
     }
     if (separatorColor_) drawing.drawSeparators(context, *separatorColor_, separatorHeight);
-    if (const auto row = content().rowToMark()) drawing.drawFocus(context, *row, tintColor());
+    content().drawMarks(context);
 }
 
 } // namespace gx

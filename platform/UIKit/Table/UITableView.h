@@ -214,6 +214,9 @@ public:
     void finishAnimations() override;
     void touchEnded(const UITouch& touch) override;
     void touchCancelled(const UITouch& touch) override;
+    /// Rows that can be tapped are marked below the pointer.
+    std::optional<UIPointerStyle> hoverMoved(CGPoint locationInWindow) override;
+    void hoverEnded() override;
     bool keyPressed(const UIKey& key) override;
     bool canBecomeFirstResponder() override;
     void focusDidChange() override;

@@ -40,6 +40,35 @@ std::optional<NSIndexPath> UITableViewContent::rowToMark() const {
     return row;
 }
 
+bool UITableViewContent::moveFocus(UIKey::Code code) {
+    const std::optional<NSIndexPath> present = focusedRow();
+    const auto next = present ? focus_.rowForKey(code, *present, table_.bounds().size.height) : std::nullopt;
+    if (!next || next == present) return false;
+    focusRow(*next);
+    return true;
+}
+
+bool UITableViewContent::hoverRow(std::optional<NSIndexPath> path) {
+    if (path == press_.hoveredRow()) return path.has_value();
+    const bool isTappable = path && client_.canTapRow(*path);
+    const std::optional<NSIndexPath> before = press_.hoveredRow();
+    press_.setHoveredRow(isTappable ? path : std::nullopt);
+    if (press_.hoveredRow() != before) table_.setNeedsDisplay();
+    return isTappable;
+}
+
+void UITableViewContent::drawMarks(UIGraphicsContext& context) const {
+    const std::optional<NSIndexPath> hovered = press_.hoveredRow();
+    if (hovered && rows().exists(*hovered)) drawing_.drawHover(context, *hovered);
+    if (const auto row = rowToMark()) drawing_.drawFocus(context, *row, table_.tintColor());
+}
+
+void UITableViewContent::pressRow(NSIndexPath path, NSTimeInterval highlightTime) {
+    press_.begin(path, highlightTime);
+    if (!client_.canTapRow(path)) press_.cancel();
+    if (press_.isHighlightPending()) animate();
+}
+
 void UITableViewContent::highlightTap_until(NSIndexPath path, NSTimeInterval time) {
     if (!table_.window()) return;
     press_.highlight_until(path, time);
@@ -74,6 +103,7 @@ void UITableViewContent::invalidate() {
     const Ref<UIView> keep = self();
     cache_.invalidate();
     press_.cancel();
+    press_.setHoveredRow(std::nullopt);
     table_.setNeedsLayout();
 }
 

@@ -51,8 +51,14 @@ public:
     std::optional<NSIndexPath> focusedRow();
     /// The row scrolls into sight, in all views that scroll around it.
     void focusRow(NSIndexPath path);
-    /// The focused row, if the window shows where the focus is.
-    std::optional<NSIndexPath> rowToMark() const;
+    /// The row below the pointer. Returns whether it can be tapped, and draws it so.
+    bool hoverRow(std::optional<NSIndexPath> path);
+    /// Over the rows: the mark of the pointer, and that of the focus.
+    void drawMarks(UIGraphicsContext& context) const;
+    /// A finger is down on a row. Highlights it later, if it can be tapped.
+    void pressRow(NSIndexPath path, NSTimeInterval highlightTime);
+    /// Where a key moves the focus; returns false if it moves nothing.
+    bool moveFocus(UIKey::Code code);
     /// Without a window there is no clock, and nothing is highlighted.
     void highlightTap_until(NSIndexPath path, NSTimeInterval time);
 
@@ -74,6 +80,8 @@ public:
 private:
     Ref<UIView> self() const { return refTo<UIView>(&table_); }
     void animate();
+    /// The focused row, if the window shows where the focus is.
+    std::optional<NSIndexPath> rowToMark() const;
     CGRect rectOf(const UITableViewRows::Span& span) const;
     UITableViewRows::Range range() const;
     void fitContent();

@@ -12,6 +12,12 @@ namespace {
 constexpr double focusFillAlpha = 0.14;
 constexpr CGFloat focusOutline = 2;
 
+/// Below the pointer. Chosen fainter than a highlighted cell.
+UIColor hoverFill() {
+    const UIColor fill = UIColor::tertiarySystemFillColor();
+    return UIColor::colorWithNormal_highContrast(fill.colorWithAlphaComponent(0.09), fill.colorWithAlphaComponent(0.18));
+}
+
 } // namespace
 
 void UITableViewDrawing::drawChange(UIGraphicsContext& context, DrawView drawView) const {
@@ -82,6 +88,11 @@ void UITableViewDrawing::drawFocus(UIGraphicsContext& context, NSIndexPath row, 
     for (const CGFloat x : {CGRectGetMinX(mark), CGRectGetMaxX(mark) - focusOutline}) {
         context.fillRect(CGRectMake(x, mark.origin.y + focusOutline, focusOutline, side), tint);
     }
+}
+
+void UITableViewDrawing::drawHover(UIGraphicsContext& context, NSIndexPath row) const {
+    const UITableViewRows::Span span = spanWhereDrawn(row);
+    context.fillRect(CGRectMake(0, span.top, width(), span.height), hoverFill());
 }
 
 } // namespace gx

@@ -29,6 +29,8 @@ public:
     void drawSeparators(UIGraphicsContext& context, const UIColor& color, CGFloat height) const;
     /// Over a row: a fill and an outline that lies inside the row.
     void drawFocus(UIGraphicsContext& context, NSIndexPath row, const UIColor& tint) const;
+    /// A faint fill over a row.
+    void drawHover(UIGraphicsContext& context, NSIndexPath row) const;
 
 private:
     CGFloat width() const { return table_.bounds().size.width; }

@@ -44,6 +44,7 @@ void UITableViewPress::removeHighlightFromCell(const Ref<UITableViewCell>& cell)
 void UITableViewPress::applyChange(const UITableViewChange& change) {
     if (row_) row_ = change.pathAfter(*row_);
     if (!row_) highlightTime_.reset();
+    if (hoveredRow_) hoveredRow_ = change.pathAfter(*hoveredRow_);
 }
 
 void UITableViewPress::advanceToTime(NSTimeInterval time) {

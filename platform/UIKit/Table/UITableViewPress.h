@@ -6,7 +6,8 @@
 
 namespace gx {
 
-/// The row below a finger, and the cell that is highlighted for it or for a tap.
+/// The row below a finger, the cell that is highlighted for it or for a tap, and the row below the
+/// pointer.
 ///
 /// At most one cell is highlighted. A finger highlights its row with a delay, so that scrolling
 /// does not flash; a tap does so at once and for a while. Times come from the table.
@@ -26,6 +27,10 @@ public:
     void removeHighlightFromCell(const Ref<UITableViewCell>& cell);
     void applyChange(const UITableViewChange& change);
 
+    /// The row below the pointer; nothing while there is none that can be tapped.
+    std::optional<NSIndexPath> hoveredRow() const { return hoveredRow_; }
+    void setHoveredRow(std::optional<NSIndexPath> row) { hoveredRow_ = row; }
+
     bool isHighlightPending() const { return highlightTime_.has_value(); }
     /// Whether time alone will change something.
     bool isWaiting() const { return highlightTime_ || removalTime_; }
@@ -37,6 +42,7 @@ private:
 
     const UITableViewVisibleRows& visible_;
     std::optional<NSIndexPath> row_;
+    std::optional<NSIndexPath> hoveredRow_;
     std::optional<NSTimeInterval> highlightTime_;
     std::optional<NSTimeInterval> removalTime_;
     Ref<UITableViewCell> highlighted_;

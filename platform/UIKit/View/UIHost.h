@@ -14,6 +14,9 @@
 ///   (`setUserInterfaceStyle`), the contrast (`setAccessibilityContrast`), and whether things may
 ///   move by themselves (`setReducesMotion`);
 /// - fingers, the mouse with its button held, and scrolling (`touchBegan_at_time` … `scroll`);
+/// - where the pointer of a mouse, a trackpad or a hovering pen is (`pointerMoved`), and that it
+///   has left (`pointerLeft`). With its button held it is the touch `UITouch::pointerIdentifier`
+///   too: `pointerMoved` is sent before `touchMoved_at_time`. Hosts of fingers alone send neither;
 /// - keys (`keyDown`), each with the text it types, and held ones repeatedly; Tab too, which goes
 ///   on to what lies around the window where that returns false;
 /// - whether the keys come to this window at all (`setReceivesKeys`);
@@ -21,9 +24,9 @@
 /// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when
 ///   `tick` returns true.
 ///
-/// The window asks of a host (`UIWindowHost`): frames, and feedback for the user unless the
-/// window's `setFeedbackEnabled` turns it off. Touches, scrolling and keys that no view used are
-/// the host's own, as the results of the calls say.
+/// The window asks of a host (`UIWindowHost`): frames, how the pointer looks, and feedback for
+/// the user unless the window's `setFeedbackEnabled` turns it off. Touches, scrolling and keys that
+/// no view used are the host's own, as the results of the calls say.
 ///
 /// All of it happens on one thread. Nothing else is needed: without a host everything works
 /// headless.
@@ -33,6 +36,7 @@
 #include "UIGraphicsContext.h"
 #include "UIImage.h"
 #include "UIKey.h"
+#include "UIPointer.h"
 #include "UITextEngine.h"
 #include "UIWindow.h"
 #include "UIWindowHost.h"

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "UIGraphicsContext.h"
+#include "UIPointerTracking.h"
 
 namespace gx {
 
@@ -14,6 +15,8 @@ namespace {
 constexpr std::int64_t accessibilityFinger = std::numeric_limits<std::int64_t>::min();
 
 } // namespace
+
+UIWindow::UIWindow() : pointer_(std::make_unique<UIPointerTracking>()) {}
 
 UIWindow::~UIWindow() {
     // Views that outlive the window are notified that they have left it, and end their movements.
@@ -76,7 +79,9 @@ bool UIWindow::touchBegan_at_time(std::int64_t identifier, CGPoint location, NST
     const Ref<UIView> view = hitTest(location);
     if (!view) return false;
     touches_.push_back({touch, view});
-    return view->touchBegan(touch);
+    const bool isTaken = view->touchBegan(touch);
+    if (identifier == UITouch::pointerIdentifier) updatePointer();
+    return isTaken;
 }
 
 void UIWindow::touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
@@ -114,6 +119,30 @@ bool UIWindow::scroll(const UIScroll& scroll) {
     UIScroll timed = scroll;
     timed.timestamp = finiteTime(scroll.timestamp);
     return view && view->scrolled(timed);
+}
+
+// The pointer
+
+void UIWindow::pointerMoved(CGPoint location) {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    pointer_->setLocation(location);
+    layoutIfNeeded();
+    updatePointer();
+}
+
+void UIWindow::pointerLeft() {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    pointer_->setLocation(std::nullopt);
+    updatePointer();
+}
+
+UIPointerStyle UIWindow::pointerStyle() const { return pointer_->style(); }
+
+void UIWindow::updatePointer() {
+    const std::optional<CGPoint> location = pointer_->location();
+    const auto pressed = findTouch(UITouch::pointerIdentifier);
+    const Ref<UIView> topmost = !location ? nullptr : pressed != touches_.end() ? pressed->view.lock() : hitTest(*location);
+    if (pointer_->hover(topmost) && host_) host_->pointerStyleDidChange(pointer_->style());
 }
 
 // Keys
@@ -209,6 +238,7 @@ bool UIWindow::tick(NSTimeInterval time) {
     moving_.erase(std::remove_if(moving_.begin(), moving_.end(), [](const WeakRef<UIView>& view) { return view.expired(); }),
                   moving_.end());
     layoutIfNeeded();
+    updatePointer(); // What lies below it may have changed.
     const bool draws = needsFrame_ || !moving_.empty();
     needsFrame_ = false;
     isTicking_ = false;

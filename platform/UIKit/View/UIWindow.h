@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "GXExport.h"
@@ -7,6 +8,8 @@
 #include "UIWindowHost.h"
 
 namespace gx {
+
+class UIPointerTracking;
 
 /// The root of the views that one host shows.
 ///
@@ -17,6 +20,7 @@ namespace gx {
 /// Invariant: the first responder is a view of this window, or nothing.
 class GX_EXPORT UIWindow : public UIView, public UIViewRoot {
 public:
+    UIWindow();
     ~UIWindow() override;
 
     /// Gets the window's requests for frames and feedback. Not owned; clear it before the host
@@ -61,6 +65,15 @@ public:
     void touchCancelled_at_time(std::int64_t identifier, NSTimeInterval time);
     /// Sent to the view below the location. Returns whether a view used it.
     bool scroll(const UIScroll& scroll);
+
+    /// The pointer is at a place in the window, whether its button is held or not.
+    ///
+    /// The views below it are asked what they show (`UIResponder::hoverMoved`), again before
+    /// each frame until `pointerLeft`.
+    void pointerMoved(CGPoint location);
+    void pointerLeft();
+    /// How the pointer is to look now.
+    UIPointerStyle pointerStyle() const;
 
     /// A key goes down, or repeats. Returns whether it was used.
     ///
@@ -131,12 +144,14 @@ private:
     bool moveFocus(bool isBackward);
     void showFocus(bool shows);
     void notifyFocus() const;
+    void updatePointer();
 
     UIWindowHost* host_ = nullptr;
     UIUserInterfaceStyle style_ = UIUserInterfaceStyle::Light;
     UIAccessibilityContrast contrast_ = UIAccessibilityContrast::Normal;
     bool reducesMotion_ = false;
     std::vector<Touch> touches_;
+    std::unique_ptr<UIPointerTracking> pointer_;
     std::vector<WeakRef<UIView>> moving_;
     WeakRef<UIView> firstResponder_;
     bool isFocusShown_ = false;

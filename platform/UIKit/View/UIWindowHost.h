@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXExport.h"
+#include "UIPointer.h"
 
 namespace gx {
 
@@ -23,6 +24,11 @@ public:
     /// spin by the user: for a hundred rows at most in a frame, and once for several rows that it
     /// skips together.
     virtual void giveFeedback(UIFeedback /*feedback*/) {}
+    /// The pointer shall look so from now on. Here ignored.
+    ///
+    /// Called only when that changes; at first it is `UIPointerStyle::Default`. May be called
+    /// within `pointerMoved`, `pointerLeft`, `touchBegan_at_time` and `tick`.
+    virtual void pointerStyleDidChange(UIPointerStyle /*style*/) {}
 };
 
 } // namespace gx

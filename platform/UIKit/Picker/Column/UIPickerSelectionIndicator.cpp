@@ -15,6 +15,9 @@ constexpr CGFloat outline = 1.5;
 constexpr double focusFillAlpha = 0.14;
 constexpr CGFloat focusCornerRadius = cornerRadius;
 constexpr CGFloat focusBarHeight = 2;
+// The mark of the pointer, chosen by eye: half of that, without bars; at high contrast as much.
+constexpr double hoverFillAlpha = 0.07;
+constexpr double strongHoverFillAlpha = focusFillAlpha;
 
 } // namespace
 
@@ -36,6 +39,12 @@ void UIPickerSelectionIndicator::drawFocus(UIGraphicsContext& context, CGRect pa
     for (const CGFloat y : {CGRectGetMinY(part), CGRectGetMaxY(part) - focusBarHeight}) {
         context.fillRect(CGRectMake(part.origin.x + focusCornerRadius, y, width, focusBarHeight), tint, 0.5 * focusBarHeight);
     }
+}
+
+void UIPickerSelectionIndicator::drawHover(UIGraphicsContext& context, CGRect part, const UIColor& tint) {
+    const UIColor fill = UIColor::colorWithNormal_highContrast(tint.colorWithAlphaComponent(hoverFillAlpha),
+                                                               tint.colorWithAlphaComponent(strongHoverFillAlpha));
+    context.fillRect(part, fill, focusCornerRadius);
 }
 
 } // namespace gx

@@ -16,6 +16,8 @@ struct UIPickerSelectionIndicator {
     static void draw(UIGraphicsContext& context, CGRect frame);
     /// Marks a column's part of it, for the focus.
     static void drawFocus(UIGraphicsContext& context, CGRect part, const UIColor& tint);
+    /// The same below the pointer, more quietly.
+    static void drawHover(UIGraphicsContext& context, CGRect part, const UIColor& tint);
 };
 
 } // namespace gx

@@ -115,6 +115,17 @@ TEST(UIColor, RowsBesideTheSelectionIndicatorAndUnderTheFocusMarkKeep7To1) {
     }
 }
 
+TEST(UIColor, TextsOfARowBelowThePointerKeep7To1) {
+    for (const UIUserInterfaceStyle style : {light, dark}) {
+        UIColorComponents mark = UIColor::tertiarySystemFillColor().resolved(style, high);
+        mark.alpha = 0.18;
+        const UIColorComponents marked = over(mark, backgroundOf(style));
+        for (const UIColor& color : {UIColor::labelColor(), UIColor::secondaryLabelColor()}) {
+            EXPECT_GE(ratio(over(mark, color.resolved(style, high)), marked), 7) << "the mark covers the text too";
+        }
+    }
+}
+
 TEST(UIWindow, DrawsAgainWhenItsContrastChangesAndSetsThatOfTheCanvas) {
     const auto label = create<UILabel>(CGRectMake(0, 0, 100, 20));
     label->setText("a");
