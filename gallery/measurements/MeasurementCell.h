@@ -1,32 +1,37 @@
 #pragma once
 
-#include <GXUIPickers/UILabel.h>
+#include "Paragraph.h"
 #include <GXUIPickers/UITableViewCell.h>
 
 namespace gallery {
 
-/// A row of the entry screen: a name at the left and its value at the right.
+/// A row of the entry screen: a name at the leading edge and its value at the trailing one.
 ///
-/// The value is below the name if the text is large or both need more than the width. The row
-/// is mirrored in languages that are read from right to left.
+/// Texts follow the text scale. Where both have no room side by side, the value is below the name,
+/// and the row is as much higher as their lines need.
 class MeasurementCell : public gx::UITableViewCell {
 public:
     bool initWithStyle_reuseIdentifier(gx::UITableViewCellStyle style, const std::optional<std::string>& reuseIdentifier) override;
 
-    /// Texts follow the style sheet's scale, up to a size at which each name fits on a phone.
     void setName_value(const std::string& name, const std::string& value);
-    const std::string& name() const { return *nameLabel_->text(); }
-    const std::string& value() const { return *valueLabel_->text(); }
+    const std::string& name() const { return name_->text(); }
+    const std::string& value() const { return value_->text(); }
     /// Highlighted while its picker is open.
     void setOpen(bool open);
 
+    /// Of a row with one line.
     static gx::CGFloat height();
 
+    /// As wide as offered, and as high as the texts need, but no lower than `height`.
+    gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
 
 private:
-    gx::Ref<gx::UILabel> nameLabel_;
-    gx::Ref<gx::UILabel> valueLabel_;
+    struct Frames;
+    Frames framesForWidth(gx::CGFloat width) const;
+
+    gx::Ref<Paragraph> name_;
+    gx::Ref<Paragraph> value_;
 };
 
 } // namespace gallery

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "AllPickerPages.h"
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 #include <GXUIPickers/UIKey.h>
@@ -32,8 +33,7 @@ bool MainScreen::initWithFrame(CGRect frame) {
     });
     bar_ = create<UIView>(CGRectZero);
     bar_->setBackgroundColor(Theme::sidebar());
-    barTitle_ = create<UILabel>(CGRectZero);
-    barTitle_->setFont(Theme::font(Theme::TextStyle::Heading));
+    barTitle_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::text());
     barTitle_->setTextAlignment(NSTextAlignmentCenter);
     menuButton_ = Button::buttonWithTitle_sign(Translations::text("All pages"), Button::Sign::Menu);
     menuButton_->setAction([weak] {
@@ -187,12 +187,40 @@ bool MainScreen::keyPressed(const UIKey& key) {
     return true;
 }
 
+CGFloat MainScreen::sidebarWidthInWidth(CGFloat width) { return width >= Theme::sidebarBreakpoint() ? Theme::sidebarWidth() : 0; }
+
+/// The parts of the bar, from the leading edge.
+struct MainScreen::BarFrames {
+    CGRect menu;
+    CGRect style;
+    CGRect title;
+    CGFloat height = 0;
+};
+
 CGSize MainScreen::sizeThatFits(CGSize available) const {
-    const bool isWide = available.width >= Theme::sidebarBreakpoint();
-    const CGFloat width = isWide ? available.width - Theme::sidebarWidth() : available.width;
+    const CGFloat sidebar = sidebarWidthInWidth(available.width);
     if (index_ == entryPage) return available;
-    const CGFloat height = std::ceil(scroll_->content()->sizeThatFits({width, 0}).height);
-    return {available.width, isWide ? height : height + Theme::barHeight()};
+    const CGFloat height = std::ceil(scroll_->content()->sizeThatFits({available.width - sidebar, 0}).height);
+    return {available.width, sidebar > 0 ? height : height + barFramesForWidth(available.width).height};
+}
+
+MainScreen::BarFrames MainScreen::barFramesForWidth(CGFloat width) const {
+    constexpr CGFloat inset = 8;
+    const CGSize button = menuButton_->sizeThatFits({});
+    const CGFloat bar = std::max(Theme::barHeight(), button.height + 2 * inset);
+    const CGFloat top = 0.5 * (bar - button.height);
+    const CGFloat between = inset + button.width + inset;
+    BarFrames frames;
+    frames.menu = CGRectMake(inset, top, button.width, button.height);
+    frames.style = CGRectMake(width - inset - button.width, top, button.width, button.height);
+    frames.title = CGRectMake(between, 0, std::max(0.0, width - 2 * between), bar);
+    frames.height = bar;
+    if (barTitle_->widthInOneLine() <= frames.title.size.width) return frames;
+    // Large titles have their lines below the buttons.
+    const CGFloat room = std::max(0.0, width - 2 * Theme::cardPadding);
+    frames.title = CGRectMake(Theme::cardPadding, bar, room, std::ceil(barTitle_->sizeThatFits({room, 0}).height));
+    frames.height = CGRectGetMaxY(frames.title) + inset;
+    return frames;
 }
 
 void MainScreen::layoutSubviews() {
@@ -200,30 +228,30 @@ void MainScreen::layoutSubviews() {
     const CGSize size = bounds().size;
     const bool isWide = hasSidebar();
     const bool isMenu = !isWide && isMenuShown_;
-    const CGFloat x = isWide ? Theme::sidebarWidth() : 0;
-    const CGFloat y = isWide ? 0 : Theme::barHeight();
-    const CGRect body = CGRectMake(x, y, size.width - x, std::max(0.0, size.height - y));
-
     showTitles();
+    const BarFrames bar = barFramesForWidth(size.width);
+    const CGFloat x = sidebarWidthInWidth(size.width);
+    const CGFloat y = isWide ? 0 : bar.height;
+    const CGFloat pageWidth = size.width - x;
+    const CGRect body = ReadingDirection::frame(CGRectMake(x, y, pageWidth, std::max(0.0, size.height - y)), size.width);
+
     scroll_->setFrame(body);
     scroll_->setHidden(isMenu || index_ == entryPage);
-    entry_->setShowsPickerBeside(size.width >= Theme::sideBySideBreakpoint);
+    // A window that becomes wide enough for the sidebar keeps the picker beside its list.
+    const CGFloat narrowestPage = Theme::sidebarBreakpoint() - Theme::sidebarWidth();
+    entry_->setShowsPickerBeside(size.width >= Theme::sideBySideBreakpoint && pageWidth >= narrowestPage);
     entry_->setFrame(body);
     entry_->setHidden(isMenu || index_ != entryPage);
     bar_->setHidden(isWide);
     const bool hidesSidebar = !isWide && !isMenu;
     if (hidesSidebar) takeFocusFromMenu();
     sidebar_->setHidden(hidesSidebar);
-    sidebar_->setFrame(isWide ? CGRectMake(0, 0, x, size.height) : body);
+    sidebar_->setFrame(isWide ? ReadingDirection::frame(CGRectMake(0, 0, x, size.height), size.width) : body);
 
-    bar_->setFrame(CGRectMake(0, 0, size.width, Theme::barHeight()));
-    constexpr CGFloat inset = 8;
-    const CGFloat side = Theme::controlHeight();
-    const CGFloat top = 0.5 * (Theme::barHeight() - side);
-    menuButton_->setFrame(CGRectMake(inset, top, side, side));
-    styleButton_->setFrame(CGRectMake(size.width - inset - side, top, side, side));
-    const CGFloat titleInset = inset + side + inset;
-    barTitle_->setFrame(CGRectMake(titleInset, 0, std::max(0.0, size.width - 2 * titleInset), Theme::barHeight()));
+    bar_->setFrame(CGRectMake(0, 0, size.width, bar.height));
+    menuButton_->setFrame(ReadingDirection::frame(bar.menu, size.width));
+    styleButton_->setFrame(ReadingDirection::frame(bar.style, size.width));
+    barTitle_->setFrame(ReadingDirection::frame(bar.title, size.width));
 }
 
 } // namespace gallery

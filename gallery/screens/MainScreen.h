@@ -18,6 +18,8 @@ namespace gallery {
 ///
 /// - In a wide window the list of pages is beside the page. Else a bar above the page has its
 ///   title, and a button that shows the list instead of the page.
+/// - From `Theme::sideBySideBreakpoint` on, a page shows a picker beside what belongs to it, unless
+///   the texts are so large that the page is narrower than where the list of pages first appears.
 /// - The first pages are the application: "Add workout" and "Settings". Then come the overview of
 ///   all pickers and those of `allPickerPages()`, in order.
 /// - Each page is made when it is first shown, and keeps its state.
@@ -71,6 +73,9 @@ public:
     bool keyPressed(const gx::UIKey& key) override;
 
 private:
+    struct BarFrames;
+    BarFrames barFramesForWidth(gx::CGFloat width) const;
+    static gx::CGFloat sidebarWidthInWidth(gx::CGFloat width);
     gx::Ref<gx::UIView> contentOfPage(std::size_t index);
     void showTitles();
     void takeFocusFromMenu();
@@ -91,7 +96,7 @@ private:
     gx::Ref<ContentScrollView> scroll_;
     gx::Ref<Sidebar> sidebar_;
     gx::Ref<gx::UIView> bar_;
-    gx::Ref<gx::UILabel> barTitle_;
+    gx::Ref<Paragraph> barTitle_;
     gx::Ref<Button> menuButton_;
     gx::Ref<Button> styleButton_;
 };

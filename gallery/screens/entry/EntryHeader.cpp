@@ -1,7 +1,9 @@
 #include "EntryHeader.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 
@@ -11,16 +13,24 @@ namespace gallery {
 
 namespace {
 
-// From the message to the table. Chosen by eye.
+// From the message to the table, and above a title that has lines of its own. Chosen by eye.
 constexpr CGFloat messageGap = 8;
+constexpr CGFloat titleGap = 12;
 
 } // namespace
 
+/// From the leading edge.
+struct EntryHeader::Frames {
+    CGRect title;
+    CGRect open;
+    CGRect save;
+    CGRect message;
+    CGFloat height = 0;
+};
+
 bool EntryHeader::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
-    title_ = create<UILabel>(CGRectZero);
-    title_->setFont(Theme::font(Theme::TextStyle::Title));
-    title_->setTextColor(Theme::text());
+    title_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::text());
     openButton_ = Button::buttonWithTitle_style("", Button::Style::Plain);
     saveButton_ = Button::buttonWithTitle_style("", Button::Style::Plain);
     message_ = create<Paragraph>(CGRectZero);
@@ -52,28 +62,51 @@ void EntryHeader::setMessage(const std::string& message, bool isError) {
     setNeedsLayout();
 }
 
-CGFloat EntryHeader::barHeight() const {
-    if (!title_->isHidden()) return Theme::barHeight();
-    return saveButton_->isHidden() ? 0 : Theme::controlHeight();
+// Layout
+
+EntryHeader::Frames EntryHeader::framesForWidth(CGFloat width) const {
+    Frames frames;
+    const bool hasTitle = !title_->isHidden();
+    const bool hasButtons = !saveButton_->isHidden();
+    const CGSize open = hasButtons ? openButton_->sizeThatFits({width, 0}) : CGSize{};
+    const CGSize save = hasButtons ? saveButton_->sizeThatFits({width, 0}) : CGSize{};
+    const bool isRow = open.width + save.width <= width;
+    const CGFloat buttonsHeight = isRow ? std::max(open.height, save.height) : open.height + save.height;
+    const CGFloat besideButtons = std::max(0.0, width - open.width - save.width);
+    const bool isBar = hasTitle && isRow && title_->widthInOneLine() <= besideButtons;
+
+    CGFloat buttonsY = 0;
+    if (isBar) {
+        const CGFloat bar = std::max({Theme::barHeight(), buttonsHeight, std::ceil(title_->sizeThatFits({besideButtons, 0}).height)});
+        frames.title = CGRectMake(0, 0, besideButtons, bar);
+        buttonsY = std::round(0.5 * (bar - buttonsHeight));
+        frames.height = bar;
+    } else {
+        if (hasTitle) {
+            frames.title = CGRectMake(0, titleGap, width, std::ceil(title_->sizeThatFits({width, 0}).height));
+            buttonsY = CGRectGetMaxY(frames.title);
+        }
+        frames.height = buttonsY + buttonsHeight;
+    }
+    const CGFloat openX = isRow ? width - save.width - open.width : width - open.width;
+    frames.open = CGRectMake(openX, buttonsY, open.width, open.height);
+    frames.save = CGRectMake(width - save.width, isRow ? buttonsY : buttonsY + open.height, save.width, save.height);
+    const CGFloat messageHeight = message().empty() ? 0 : std::ceil(message_->sizeThatFits({width, 0}).height) + messageGap;
+    frames.message = CGRectMake(0, frames.height, width, messageHeight);
+    frames.height += messageHeight;
+    return frames;
 }
 
-CGSize EntryHeader::sizeThatFits(CGSize available) const {
-    const CGFloat messageHeight = message().empty() ? 0 : message_->sizeThatFits({available.width, 0}).height + messageGap;
-    return {available.width, barHeight() + messageHeight};
-}
+CGSize EntryHeader::sizeThatFits(CGSize available) const { return {available.width, framesForWidth(available.width).height}; }
 
 void EntryHeader::layoutSubviews() {
     UIView::layoutSubviews();
-    const CGSize size = bounds().size;
-    const CGFloat bar = barHeight();
-    const CGFloat top = 0.5 * std::max(0.0, bar - Theme::controlHeight());
-    const CGFloat saveWidth = saveButton_->sizeThatFits({}).width;
-    const CGFloat openWidth = openButton_->sizeThatFits({}).width;
-    const CGFloat buttonsX = std::max(0.0, size.width - saveWidth - openWidth);
-    openButton_->setFrame(CGRectMake(buttonsX, top, openWidth, Theme::controlHeight()));
-    saveButton_->setFrame(CGRectMake(buttonsX + openWidth, top, saveWidth, Theme::controlHeight()));
-    title_->setFrame(CGRectMake(0, 0, buttonsX, bar));
-    message_->setFrame(CGRectMake(0, bar, size.width, std::max(0.0, size.height - bar)));
+    const CGFloat width = bounds().size.width;
+    const Frames frames = framesForWidth(width);
+    title_->setFrame(ReadingDirection::frame(frames.title, width));
+    openButton_->setFrame(ReadingDirection::frame(frames.open, width));
+    saveButton_->setFrame(ReadingDirection::frame(frames.save, width));
+    message_->setFrame(ReadingDirection::frame(frames.message, width));
 }
 
 } // namespace gallery

@@ -4,14 +4,14 @@
 
 #include "Button.h"
 #include "Paragraph.h"
-#include <GXUIPickers/UILabel.h>
 
 namespace gallery {
 
 /// The head of the entry screen: its title, the buttons for files, and the last message.
 ///
-/// After a change of what it shows the superview has to lay it out again, since its height may be
-/// another.
+/// The buttons are beside the title, or below it where there is too little room, or one below the
+/// other. After a change of what it shows the superview has to lay it out again, since its height
+/// may be another.
 class EntryHeader : public gx::UIView {
 public:
     bool initWithFrame(gx::CGRect frame) override;
@@ -25,6 +25,7 @@ public:
     const std::string& message() const { return message_->text(); }
     void setMessage(const std::string& message, bool isError);
 
+    const gx::Ref<Paragraph>& title() const { return title_; }
     const gx::Ref<Button>& openButton() const { return openButton_; }
     const gx::Ref<Button>& saveButton() const { return saveButton_; }
 
@@ -33,9 +34,10 @@ public:
     void layoutSubviews() override;
 
 private:
-    gx::CGFloat barHeight() const;
+    struct Frames;
+    Frames framesForWidth(gx::CGFloat width) const;
 
-    gx::Ref<gx::UILabel> title_;
+    gx::Ref<Paragraph> title_;
     gx::Ref<Button> openButton_;
     gx::Ref<Button> saveButton_;
     gx::Ref<Paragraph> message_;

@@ -6,10 +6,12 @@
 #include "AllMeasurements.h"
 #include "EntryColumns.h"
 #include "MeasurementCell.h"
+#include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
 #include <GXUIPickers/UIKey.h>
+#include <GXUIPickers/UITextEngine.h>
 #include <GXUIPickers/UIWindow.h>
 
 using namespace gx;
@@ -21,6 +23,10 @@ namespace {
 // The rows of a wheel that are visible; in a low window at least three. Chosen by eye.
 constexpr double rowsOfWheel = 5;
 constexpr double fewestRowsOfWheel = 3;
+// A line of text and some space. At scale 1 they are the table's own.
+constexpr CGFloat headingFontSize = 13;
+constexpr double headingLineHeight = 1.25;
+constexpr CGFloat headingPadding = 12;
 // Of the table's height, so that the row of the picker stays visible.
 constexpr double highestShareOfPicker = 0.75;
 
@@ -28,6 +34,7 @@ constexpr double highestShareOfPicker = 0.75;
 
 bool EntryList::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
+    measuringCell_ = create<MeasurementCell>(UITableViewCellStyleDefault, std::nullopt);
     pane_ = create<PickerPane>(CGRectZero);
     paneScroll_ = create<ContentScrollView>(CGRectZero);
     paneScroll_->setContent(pane_);
@@ -159,6 +166,9 @@ Ref<UITableViewCell> EntryList::openPickerCell() {
 
 void EntryList::noteValue(std::size_t measurement) {
     texts_[measurement].value = this->measurement(measurement)->valueText();
+    // A row that has become too low grows. It stays high, so that it does not jump to and fro.
+    const NSIndexPath path = pathOfMeasurement(measurement);
+    if (heightOfRow(measurement) > table_->rectForRowAtIndexPath(path).size.height) table_->reloadRowsAtIndexPaths({path});
     showRow(measurement);
     pane_->showTexts();
 }
@@ -166,6 +176,11 @@ void EntryList::noteValue(std::size_t measurement) {
 void EntryList::showRow(std::size_t measurement) {
     const auto cell = std::dynamic_pointer_cast<MeasurementCell>(table_->cellForRowAtIndexPath(pathOfMeasurement(measurement)));
     if (cell) fillRow(*cell, measurement);
+}
+
+CGFloat EntryList::heightOfRow(std::size_t measurement) const {
+    measuringCell_->setName_value(texts_[measurement].name, texts_[measurement].value);
+    return measuringCell_->sizeThatFits({table_->bounds().size.width, 0}).height;
 }
 
 void EntryList::fillRow(MeasurementCell& cell, std::size_t measurement) {
@@ -179,10 +194,6 @@ void EntryList::finishSpins() {
 }
 
 // What the table asks
-
-NSInteger EntryList::tableView_numberOfRowsInSection(const Ref<UITableView>&, NSInteger section) {
-    return rows_.rowCountOfSection(section);
-}
 
 std::optional<std::string> EntryList::tableView_titleForHeaderInSection(const Ref<UITableView>&, NSInteger section) {
     return Translations::text(groups_[static_cast<std::size_t>(section)].heading);
@@ -215,10 +226,9 @@ CGFloat EntryList::pickerHeight() const {
 }
 
 CGFloat EntryList::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) {
-    return rows_.rowAt(path).isPicker ? pickerHeight() : MeasurementCell::height();
+    const EntryRows::Row row = rows_.rowAt(path);
+    return row.isPicker ? pickerHeight() : heightOfRow(row.measurement);
 }
-
-bool EntryList::tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) { return !rows_.rowAt(path).isPicker; }
 
 void EntryList::tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) {
     const EntryRows::Row row = rows_.rowAt(path);
@@ -238,12 +248,6 @@ bool EntryList::keyPressed(const UIKey& key) {
 
 // Layout
 
-void EntryList::setShowsPickerBeside(bool beside) {
-    if (beside == showsPickerBeside_) return;
-    showsPickerBeside_ = beside;
-    setNeedsLayout();
-}
-
 void EntryList::layoutSubviews() {
     UIView::layoutSubviews();
     const Ref<UIView> focused = focusInPicker();
@@ -251,13 +255,11 @@ void EntryList::layoutSubviews() {
     const bool isMoved = rows_.hasPickerRow() == showsPickerBeside_;
     if (isMoved) movePicker();
     placeTableAndPane();
-    if (!rows_.open() || !rows_.hasPickerRow()) {
-        if (focused) focused->becomeFirstResponder();
-        return;
-    }
-    // The picker's height and fonts follow the room.
-    if (table_->bounds().size != tableBefore) table_->reloadData();
-    if (isMoved) table_->scrollToRowAtIndexPath_animated(rows_.pathOfPicker(), false);
+    const bool hasPickerRow = rows_.open() && rows_.hasPickerRow();
+    // Lines break by the width, and the picker's height follows the table's.
+    const bool isOther = table_->bounds().size.width != tableBefore.width || (hasPickerRow && table_->bounds().size != tableBefore);
+    if (isOther) table_->reloadData();
+    if (isMoved && hasPickerRow) table_->scrollToRowAtIndexPath_animated(rows_.pathOfPicker(), false);
     if (!focused) return;
     table_->layoutIfNeeded();
     focused->becomeFirstResponder();
@@ -266,12 +268,27 @@ void EntryList::layoutSubviews() {
 void EntryList::placeTableAndPane() {
     const CGSize size = bounds().size;
     const EntryColumns columns = EntryColumns::columnsForWidth(size.width, showsPickerBeside_);
-    table_->setFrame(CGRectMake(columns.table.x, 0, columns.table.width, size.height));
+    table_->setFrame(ReadingDirection::frame(CGRectMake(columns.table.x, 0, columns.table.width, size.height), size.width));
+    fitHeadings();
     // Its top is that of the first row.
     const CGFloat top = table_->sectionHeaderHeight();
     const CGFloat height = std::max(0.0, size.height - top - Theme::gap);
-    paneScroll_->setFrame(CGRectMake(columns.pane.x, top, columns.pane.width, height));
+    paneScroll_->setFrame(ReadingDirection::frame(CGRectMake(columns.pane.x, top, columns.pane.width, height), size.width));
     paneScroll_->setNeedsLayout(); // Larger texts need more height.
+}
+
+/// The largest font up to the text size with which each heading has room in its line.
+void EntryList::fitHeadings() {
+    const CGFloat asked = std::round(headingFontSize * Theme::textScale());
+    Ref<UIFont> font = UIFont::systemFontOfSize_weight(asked, UIFontWeight::Medium);
+    const CGFloat room = std::max(1.0, table_->bounds().size.width - 2 * UITableViewCell::labelInset);
+    CGFloat widest = room;
+    for (const MeasurementGroup& group : groups_) {
+        widest = std::max(widest, UITextEngine::shared()->sizeOfText_font(Translations::text(group.heading), *font).width);
+    }
+    if (widest > room) font = UIFont::systemFontOfSize_weight(std::floor(asked * room / widest), UIFontWeight::Medium);
+    table_->setSectionHeaderFont(font);
+    table_->setSectionHeaderHeight(std::round(headingLineHeight * font->pointSize()) + headingPadding);
 }
 
 } // namespace gallery

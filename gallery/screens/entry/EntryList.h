@@ -34,7 +34,11 @@ public:
     void showWorkout();
     /// Whether the open picker is beside the table, from the next layout on. Default: false.
     bool showsPickerBeside() const { return showsPickerBeside_; }
-    void setShowsPickerBeside(bool beside);
+    void setShowsPickerBeside(bool beside) {
+        if (beside == showsPickerBeside_) return;
+        showsPickerBeside_ = beside;
+        setNeedsLayout();
+    }
 
     const std::vector<MeasurementGroup>& groups() const { return groups_; }
     std::optional<std::size_t> openMeasurement() const { return rows_.open(); }
@@ -53,11 +57,15 @@ public:
     bool keyPressed(const gx::UIKey& key) override;
 
     gx::NSInteger numberOfSectionsInTableView(const gx::Ref<gx::UITableView>&) override { return rows_.sectionCount(); }
-    gx::NSInteger tableView_numberOfRowsInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;
+    gx::NSInteger tableView_numberOfRowsInSection(const gx::Ref<gx::UITableView>&, gx::NSInteger section) override {
+        return rows_.rowCountOfSection(section);
+    }
     std::optional<std::string> tableView_titleForHeaderInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;
     gx::Ref<gx::UITableViewCell> tableView_cellForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
     gx::CGFloat tableView_heightForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
-    bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+    bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {
+        return !rows_.rowAt(path).isPicker;
+    }
     void tableView_didSelectRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
 
 private:
@@ -68,6 +76,7 @@ private:
     gx::CGFloat pickerHeight() const;
     void noteValue(std::size_t measurement);
     void showRow(std::size_t measurement);
+    gx::CGFloat heightOfRow(std::size_t measurement) const;
     void fillRow(MeasurementCell& cell, std::size_t measurement);
     void showPicker(bool animated);
     void closePicker(bool animated);
@@ -75,6 +84,7 @@ private:
     void movePicker();
     gx::Ref<gx::UIView> focusInPicker() const;
     void placeTableAndPane();
+    void fitHeadings();
 
     std::vector<MeasurementGroup> groups_;
     EntryRows rows_;
@@ -84,6 +94,7 @@ private:
     bool showsPickerBeside_ = false;
 
     gx::Ref<gx::UITableView> table_;
+    gx::Ref<MeasurementCell> measuringCell_; // Never shown.
     gx::Ref<PickerPane> pane_;
     gx::Ref<ContentScrollView> paneScroll_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "EntryColumns.h"
+#include "ReadingDirection.h"
 #include "Translations.h"
 #include "WorkoutFile.h"
 
@@ -116,7 +117,7 @@ void EntryScreen::layoutSubviews() {
     const CGSize size = bounds().size;
     const EntryColumns::Span room = EntryColumns::columnsForWidth(size.width, list_->showsPickerBeside()).header;
     const CGFloat top = std::min(size.height, header_->sizeThatFits({room.width, 0}).height);
-    header_->setFrame(CGRectMake(room.x, 0, room.width, top));
+    header_->setFrame(ReadingDirection::frame(CGRectMake(room.x, 0, room.width, top), size.width));
     list_->setFrame(CGRectMake(0, top, size.width, size.height - top));
 }
 

@@ -18,8 +18,8 @@ namespace {
 constexpr double mostRowsOfWheel = 9;
 constexpr double fewestRowsOfWheel = 3;
 constexpr CGFloat padding = Theme::cardPadding;
-constexpr CGFloat nameHeight = 24;
-constexpr CGFloat valueHeight = 40;
+// From the value to the wheel. Chosen by eye.
+constexpr CGFloat valueGap = 8;
 
 CGFloat rowHeight() { return GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
 
@@ -29,19 +29,13 @@ bool PickerPane::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     card_ = Theme::makeCard();
     card_->setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor()); // As the cells.
-    name_ = create<UILabel>(CGRectZero);
-    name_->setFont(Theme::font(Theme::TextStyle::Heading));
-    name_->setTextColor(Theme::secondaryText());
-    value_ = create<UILabel>(CGRectZero);
-    value_->setFont(Theme::font(Theme::TextStyle::Title));
-    value_->setTextColor(Theme::accent());
-    for (const Ref<UILabel>& label : {name_, value_}) {
-        label->setText("");
-        label->setTextAlignment(NSTextAlignmentCenter);
-        card_->addSubview(label);
+    name_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::secondaryText());
+    value_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::accent());
+    hint_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Body, Theme::secondaryText());
+    for (const Ref<Paragraph>& text : {name_, value_, hint_}) {
+        text->setTextAlignment(NSTextAlignmentCenter);
+        card_->addSubview(text);
     }
-    hint_ = create<Paragraph>(CGRectZero);
-    card_->addSubview(hint_);
     addSubview(card_);
     showMeasurement_cell(nullptr, nullptr);
     return true;
@@ -70,29 +64,41 @@ void PickerPane::showTexts() {
 
 // Layout
 
-CGFloat PickerPane::textsHeight() const { return padding + nameHeight + valueHeight; }
+/// The lines above the wheel, in the card.
+struct PickerPane::Texts {
+    CGRect name;
+    CGRect value;
+    CGFloat height = 0;
+};
+
+PickerPane::Texts PickerPane::textsForWidth(CGFloat width) const {
+    const CGFloat inside = std::max(0.0, width - 2 * padding);
+    Texts texts;
+    texts.name = CGRectMake(padding, padding, inside, std::ceil(name_->sizeThatFits({inside, 0}).height));
+    texts.value = CGRectMake(padding, CGRectGetMaxY(texts.name), inside, std::ceil(value_->sizeThatFits({inside, 0}).height));
+    texts.height = CGRectGetMaxY(texts.value) + valueGap;
+    return texts;
+}
 
 CGSize PickerPane::sizeThatFits(CGSize available) const {
-    return {available.width, textsHeight() + fewestRowsOfWheel * rowHeight() + padding};
+    return {available.width, textsForWidth(available.width).height + fewestRowsOfWheel * rowHeight() + padding};
 }
 
 void PickerPane::layoutSubviews() {
     UIView::layoutSubviews();
     const CGSize size = bounds().size;
-    const CGFloat width = size.width;
-    const CGFloat inside = std::max(0.0, width - 2 * padding);
-
-    const CGFloat room = size.height - textsHeight() - padding;
+    const Texts texts = textsForWidth(size.width);
+    const CGFloat room = size.height - texts.height - padding;
     const CGFloat wheel = std::round(std::clamp(room, fewestRowsOfWheel * rowHeight(), mostRowsOfWheel * rowHeight()));
-    const CGFloat height = textsHeight() + wheel + padding;
-    card_->setFrame(CGRectMake(0, 0, width, height));
-    const CGFloat hintHeight = hint_->sizeThatFits({inside, 0}).height;
-    hint_->setFrame(CGRectMake(padding, std::round(0.5 * (height - hintHeight)), inside, hintHeight));
-    name_->setFrame(CGRectMake(padding, padding, inside, nameHeight));
-    value_->setFrame(CGRectMake(padding, padding + nameHeight, inside, valueHeight));
+    const CGFloat height = texts.height + wheel + padding;
+    card_->setFrame(CGRectMake(0, 0, size.width, height));
+    name_->setFrame(texts.name);
+    value_->setFrame(texts.value);
+    const CGFloat hintHeight = std::ceil(hint_->sizeThatFits({texts.name.size.width, 0}).height);
+    hint_->setFrame(CGRectMake(padding, std::round(0.5 * (height - hintHeight)), texts.name.size.width, hintHeight));
     if (!cell_) return;
     const CGSize before = cell_->bounds().size;
-    cell_->setFrame(CGRectMake(0, textsHeight(), width, wheel));
+    cell_->setFrame(CGRectMake(0, texts.height, size.width, wheel));
     if (cell_->bounds().size != before) measurement_->fitPicker();
 }
 

@@ -4,7 +4,6 @@
 
 #include "Measurement.h"
 #include "Paragraph.h"
-#include <GXUIPickers/UILabel.h>
 
 namespace gallery {
 
@@ -24,7 +23,7 @@ public:
     const gx::Ref<gx::UITableViewCell>& cell() const { return cell_; }
     /// Brings name and value up to date. The texts are in the current language.
     void showTexts();
-    const std::string& value() const { return *value_->text(); }
+    const std::string& value() const { return value_->text(); }
     /// What it says while no picker is open.
     const gx::Ref<Paragraph>& hint() const { return hint_; }
     const gx::Ref<gx::UIView>& card() const { return card_; }
@@ -34,13 +33,14 @@ public:
     void layoutSubviews() override;
 
 private:
-    gx::CGFloat textsHeight() const;
+    struct Texts;
+    Texts textsForWidth(gx::CGFloat width) const;
 
     gx::Ref<Measurement> measurement_;
     gx::Ref<gx::UITableViewCell> cell_;
     gx::Ref<gx::UIView> card_;
-    gx::Ref<gx::UILabel> name_;
-    gx::Ref<gx::UILabel> value_;
+    gx::Ref<Paragraph> name_;
+    gx::Ref<Paragraph> value_;
     gx::Ref<Paragraph> hint_;
 };
 
