@@ -3,8 +3,11 @@
 #include <cmath>
 #include <optional>
 
+#include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 #include <QString>
+#include <QTextLayout>
 
 namespace gx::qt {
 
@@ -15,9 +18,33 @@ constexpr double margin = 2;
 // Estimated for an entry, in bytes beside its pixels.
 constexpr std::size_t overhead = 256;
 
+/// What the glyphs cover, seen from the left end of the baseline.
+///
+/// `QFontMetricsF::tightBoundingRect` leaves out parts of a text that needs several fonts: the tails
+/// of an Arabic word behind a number.
+QRectF inkOfText(const QString& text, const QFont& font) {
+    constexpr double unlimitedWidth = 1e6;
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(unlimitedWidth);
+    layout.endLayout();
+    QRectF ink;
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        const QRawFont glyphs = run.rawFont();
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        for (qsizetype i = 0; i < indexes.size(); ++i) ink |= glyphs.boundingRect(indexes[i]).translated(positions[i]);
+    }
+    return ink.translated(0, -line.ascent());
+}
+
 std::optional<QtTextImage> drawnText(const QString& text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {
     const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
-    const QRectF ink = face.metrics.tightBoundingRect(text);
+    const QRectF ink = inkOfText(text, face.font);
     if (ink.isEmpty()) return QtTextImage{};
     const double left = std::floor(ink.left() * scale - margin);
     const double top = std::floor(ink.top() * scale - margin);

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <new>
 
+#include <QPainter>
+
 #include "Pixels.h"
 #include "QtTextImageCache.h"
 
@@ -61,6 +63,25 @@ TEST_F(QtTextImageCacheTest, TheInkLiesWithinAClearEdge) {
         const QRect ink = inkOf(image);
         EXPECT_FALSE(ink.isEmpty()) << text;
         EXPECT_TRUE(image.rect().adjusted(1, 1, -1, -1).contains(ink)) << text;
+    }
+}
+
+/// Letters of a second font, with marks and tails below the baseline, before and behind digits.
+TEST_F(QtTextImageCacheTest, TextOfSeveralFontsIsNotCut) {
+    for (const char* text : {"420 سعرة", "12.5 كم/س", "عالٍ", "5 רגלן", "°م 20"}) {
+        const QtTextImage* drawnText = cache.imageOfText(text, face(), 66, black);
+        ASSERT_NE(drawnText, nullptr);
+        QImage whole(1000, 400, QImage::Format_ARGB32_Premultiplied);
+        whole.fill(Qt::transparent);
+        QPainter painter(&whole);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+        painter.translate(100, 200);
+        painter.scale(66.0 / QtTextEngine::facePixelSize, 66.0 / QtTextEngine::facePixelSize);
+        painter.setFont(face().font);
+        painter.drawText(QPointF(0, 0), text);
+        painter.end();
+        EXPECT_EQ(inkOf(drawnText->image).size(), inkOf(whole).size()) << text;
+        EXPECT_EQ(inkOf(drawnText->image).bottom() - drawnText->baseline, inkOf(whole).bottom() - 200) << text;
     }
 }
 
