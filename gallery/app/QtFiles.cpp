@@ -28,8 +28,7 @@ QtFiles::Dialogs systemDialogs() {
 }
 
 UserFiles::Outcome failure(const char* english, const QString& path, const QString& reason) {
-    const std::string sentence = Translations::text(english) + " " + reason.toStdString();
-    return {QFileInfo(path).fileName().toStdString(), "", sentence};
+    return {QFileInfo(path).fileName().toStdString(), "", Translations::filled(english, reason.toStdString())};
 }
 
 } // namespace
@@ -45,7 +44,7 @@ void QtFiles::saveText_name(const std::string& text, const std::string& suggeste
     QSaveFile file(path);
     const QByteArray bytes = QByteArray::fromStdString(text);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (!isWritten) return done(failure("The file could not be written:", path, file.errorString()));
+    if (!isWritten) return done(failure("The file could not be written: {0}", path, file.errorString()));
     done({QFileInfo(path).fileName().toStdString(), "", ""});
 }
 
@@ -53,10 +52,10 @@ void QtFiles::openText(const Done& done) {
     const QString path = dialogs_.pathToOpen(parent_);
     if (path.isEmpty()) return;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return done(failure("The file could not be read:", path, file.errorString()));
+    if (!file.open(QIODevice::ReadOnly)) return done(failure("The file could not be read: {0}", path, file.errorString()));
     // One byte more than a workout may have shows that a file is too long.
     const QByteArray bytes = file.read(static_cast<qint64>(WorkoutFile::longest) + 1);
-    if (file.error() != QFileDevice::NoError) return done(failure("The file could not be read:", path, file.errorString()));
+    if (file.error() != QFileDevice::NoError) return done(failure("The file could not be read: {0}", path, file.errorString()));
     done({QFileInfo(path).fileName().toStdString(), bytes.toStdString(), ""});
 }
 

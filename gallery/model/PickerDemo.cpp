@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "NumberFormat.h"
+#include "Translations.h"
 
 using namespace gx;
 
@@ -26,8 +27,8 @@ PickerDemo pickerDemo(const Ref<GXBasePickerView>& picker, const NoticeHandler& 
                       std::function<std::string(const NSNumber&, NSInteger)> inWords) {
     const auto delegate = create<FunctionDelegate>();
     delegate->handler = [report, unit, inWords = std::move(inWords)](const NSNumber& value, NSInteger component) {
-        const std::string facts = NumberFormat::boxed(value) + " " + unit + " (component " + std::to_string(component) + ")";
-        report({inWords(value, component), facts});
+        const std::string number = NumberFormat::boxed(value) + " " + unit;
+        report({inWords(value, component), Translations::filled("{0} (component {1})", number, std::to_string(component))});
     };
     picker->setDelegate(delegate);
 

@@ -15,7 +15,8 @@ struct DelegateNotice {
 };
 using NoticeHandler = std::function<void(const DelegateNotice& notice)>;
 
-/// Something about a picker that can be chosen among a few.
+/// Something about a picker that can be chosen among a few. Texts are keys of `Translations`, or as
+/// they are shown.
 struct DemoOption {
     std::string title;
     std::vector<std::string> choices;

@@ -28,10 +28,10 @@ Json numberOf(double value) {
 /// Returns an empty text if the member exists and is a number within its range.
 std::string complaintAbout(const Json& values, const Workout::Number& number) {
     const auto found = values.find(number.name);
-    if (found == values.end() || !found->is_number()) return Translations::text("The file has no number for:") + " " + number.name + ".";
+    if (found == values.end() || !found->is_number()) return Translations::filled("The file has no number for: {0}.", number.name);
     const auto value = found->get<double>();
     if (value >= number.lowest && value <= number.highest) return "";
-    return Translations::text("A number in the file is out of range:") + " " + number.name + ".";
+    return Translations::filled("A number in the file is out of range: {0}.", number.name);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "NumberFormat.h"
+#include "Translations.h"
 #include <GXUIPickers/GXBpmPickerView.h>
 #include <GXUIPickers/GXHeartRatePickerView.h>
 
@@ -67,7 +68,7 @@ PickerDemo makeBpmDemo(const NoticeHandler& report) {
          },
          {}},
         {"Range",
-         {"0 to 240", "40 to 220"},
+         {Translations::filled("{0} to {1}", "0", "240"), Translations::filled("{0} to {1}", "40", "220")},
          0,
          [picker](std::size_t choice) {
              picker->setMinValue(NSNumber::numberWithInt(choice == 0 ? 0 : 40));

@@ -6,6 +6,7 @@
 #include "NumberFormat.h"
 #include <GXUIPickers/GXDistancePickerView.h>
 #include <GXUIPickers/GXDurationPickerView.h>
+#include <GXUIPickers/GXLocalization.h>
 #include <GXUIPickers/GXPacePickerView.h>
 #include <GXUIPickers/GXSpeedPickerView.h>
 
@@ -47,8 +48,11 @@ constexpr std::int32_t hour = 60 * minute;
 
 std::string durationInWords(NSInteger type, const NSNumber& milliseconds) {
     const NSInteger seconds = milliseconds.integerValue() / second;
-    if (type == GXDurationTypeHoursMinutes) return NumberFormat::hours(seconds / 60) + " h";
-    if (type == GXDurationTypeMinutesSeconds) return NumberFormat::minutes(seconds) + " min";
+    const auto unit = [](const char* key) {
+        return " " + GXLocalization::sharedLocalization()->localizedStringWithKey_comment(key, "unit of a duration").value_or("");
+    };
+    if (type == GXDurationTypeHoursMinutes) return NumberFormat::hours(seconds / 60) + unit("h");
+    if (type == GXDurationTypeMinutesSeconds) return NumberFormat::minutes(seconds) + unit("min");
     return NumberFormat::clock(seconds);
 }
 

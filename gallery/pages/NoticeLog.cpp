@@ -5,6 +5,7 @@
 
 #include "ReadingDirection.h"
 #include "Theme.h"
+#include "Translations.h"
 #include <GXUIPickers/UIGraphicsContext.h>
 #include <GXUIPickers/UITextEngine.h>
 
@@ -40,10 +41,8 @@ bool NoticeLog::initWithFrame(CGRect frame) {
     setBackgroundColor(Theme::card());
     setCornerRadius(Theme::cardRadius);
     heading_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::StrongCaption, Theme::secondaryText());
-    heading_->setText("What the delegate was told");
     addSubview(heading_);
     invitation_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Body, Theme::secondaryText());
-    invitation_->setText("Nothing yet: turn the wheel.");
     addSubview(invitation_);
     for (std::size_t i = 0; i < capacity; ++i) {
         // The newest notice is the one in the accent colour.
@@ -54,7 +53,20 @@ bool NoticeLog::initWithFrame(CGRect frame) {
         addSubview(row.facts);
         rows_.push_back(row);
     }
+    showTexts();
     return true;
+}
+
+void NoticeLog::showTexts() {
+    heading_->setText(Translations::text("What the delegate was told"));
+    invitation_->setText(Translations::text("Nothing yet: turn the wheel."));
+    invitation_->setHidden(false);
+    notices_.clear();
+    for (const Row& row : rows_) {
+        row.words->setText("");
+        row.facts->setText("");
+    }
+    setNeedsLayout();
 }
 
 void NoticeLog::addNotice(DelegateNotice notice) {

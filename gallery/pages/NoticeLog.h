@@ -19,6 +19,8 @@ public:
 
     bool initWithFrame(gx::CGRect frame) override;
 
+    /// Shows its own texts in the current language, and no notices: those are in the one before.
+    void showTexts();
     /// Drops the oldest notice when the list is full.
     void addNotice(DelegateNotice notice);
     /// Newest first.

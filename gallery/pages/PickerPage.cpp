@@ -6,6 +6,7 @@
 #include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
+#include <GXUIPickers/GXLocalization.h>
 #include <GXUIPickers/GXStyleSheet.h>
 
 using namespace gx;
@@ -46,19 +47,29 @@ Ref<PickerPage> PickerPage::pageWithDescription(PickerPageDescription descriptio
 
 void PickerPage::setUp(PickerPageDescription description) {
     description_ = std::move(description);
-    title_->setText(Translations::text(description_.name));
-    purpose_->setText(description_.purpose);
     demo_ = makeDemo();
     pickerCard_->addSubview(demo_.picker);
+    showTexts();
+    for (std::size_t i = 0; i < demo_.options.size(); ++i) choose(i, demo_.options[i].chosen);
+}
+
+void PickerPage::showTexts() {
+    language_ = GXLocalization::sharedLocalization()->translationLanguage();
+    title_->setText(Translations::text(description_.name));
+    purpose_->setText(Translations::text(description_.purpose));
+    log_->showTexts();
+    optionsCard_->removeChoices();
     for (std::size_t i = 0; i < demo_.options.size(); ++i) {
         const DemoOption& option = demo_.options[i];
-        const auto segments = optionsCard_->addChoice(option.title, option.choices, option.chosen);
+        std::vector<std::string> choices;
+        for (const std::string& choice : option.choices) choices.push_back(Translations::text(choice));
+        const auto segments = optionsCard_->addChoice(Translations::text(option.title), std::move(choices), option.chosen);
         segments->setAction([weak = WeakRef<PickerPage>(refTo(this)), i](std::size_t choice) {
             if (const Ref<PickerPage> page = weak.lock()) page->choose(i, choice);
         });
-        choose(i, option.chosen);
     }
     optionsCard_->setHidden(demo_.options.empty());
+    setNeedsLayout();
 }
 
 bool PickerPage::initWithFrame(CGRect frame) {
@@ -103,13 +114,13 @@ void PickerPage::choose(std::size_t option, std::size_t choice) {
 }
 
 void PickerPage::renewPicker() {
-    title_->setText(Translations::text(description_.name)); // The language may be another one.
     const PickerDemo before = std::move(demo_);
     demo_ = makeDemo();
     for (std::size_t i = 0; i < demo_.options.size(); ++i) choose(i, before.options[i].chosen);
     demo_.setValues(before.values());
     before.picker->removeFromSuperview();
     pickerCard_->addSubview(demo_.picker);
+    if (language_ != GXLocalization::sharedLocalization()->translationLanguage()) showTexts();
     setNeedsLayout();
 }
 

@@ -12,7 +12,8 @@ namespace gallery {
 /// What a page shows of a picker.
 struct PickerPageDescription {
     std::string name;
-    /// In one line: what the user picks, and the base unit of the value.
+    /// What the user picks, and the base unit of the value. Name and purpose are keys of
+    /// `Translations`.
     std::string purpose;
     /// Makes the picker as an application would. Every call of its delegate goes to `report`.
     std::function<PickerDemo(const NoticeHandler& report)> makeDemo;
@@ -37,7 +38,7 @@ public:
     const std::vector<gx::Ref<SegmentedControl>>& optionControls() const { return optionsCard_->controls(); }
 
     /// Replaces the picker by a new one with the same options and values, for properties that a
-    /// picker reads only when it is made.
+    /// picker reads only when it is made. Shows all texts in the current language.
     void renewPicker();
     /// Turns each column by a row, as a user would, so that a picture has something to show.
     /// Columns of units stay as they are.
@@ -51,12 +52,15 @@ private:
     Frames framesForWidth(gx::CGFloat width) const;
     PickerDemo makeDemo();
     void setUp(PickerPageDescription description);
+    /// In the current language. The log, which is in the one before, is emptied.
+    void showTexts();
     void noteNotice(const DelegateNotice& notice);
     void choose(std::size_t option, std::size_t choice);
 
     PickerPageDescription description_;
     PickerDemo demo_;
     bool showsTitle_ = true;
+    std::string language_; ///< of the texts that are shown
     gx::Ref<Paragraph> title_;
     gx::Ref<Paragraph> purpose_;
     gx::Ref<gx::UIView> pickerCard_;

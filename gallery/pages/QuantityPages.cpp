@@ -5,6 +5,7 @@
 
 #include "NumberFormat.h"
 #include "Theme.h"
+#include "Translations.h"
 #include <GXUIPickers/GXCaloriesPickerView.h>
 #include <GXUIPickers/GXHeightPickerView.h>
 #include <GXUIPickers/GXLocalization.h>
@@ -83,7 +84,10 @@ PickerDemo makeWeightDemo(const NoticeHandler& report) {
 // Height
 
 std::string heightInWords(CGFloat centimetres, bool isMetric) {
-    if (isMetric) return NumberFormat::decimal(centimetres, 0) + " cm";
+    if (isMetric) {
+        const auto unit = GXLocalization::sharedLocalization()->localizedStringWithKey_comment("cm", "unit of a height");
+        return NumberFormat::decimal(centimetres, 0) + " " + unit.value_or("");
+    }
     constexpr CGFloat centimetresInInch = 2.54;
     const auto inches = static_cast<NSInteger>(std::round(centimetres / centimetresInInch));
     return std::to_string(inches / 12) + "′ " + std::to_string(inches % 12) + "″";
@@ -95,9 +99,8 @@ public:
     void setReport(NoticeHandler report) { report_ = std::move(report); }
 
     void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat height, bool metric) override {
-        const std::string facts =
-            NumberFormat::boxed(NSNumber::numberWithDouble(height)) + " cm (" + (metric ? "metric" : "imperial") + ")";
-        report_({heightInWords(height, metric), facts});
+        const std::string value = NumberFormat::boxed(NSNumber::numberWithDouble(height)) + " cm";
+        report_({heightInWords(height, metric), Translations::filled(metric ? "{0} (metric)" : "{0} (imperial)", value)});
     }
 
 private:
@@ -154,7 +157,7 @@ PickerDemo makeCaloriesDemo(const NoticeHandler& report) {
          },
          {}},
         {"Range",
-         {"Below 100000", "Below 2000"},
+         {Translations::filled("Below {0}", "100000"), Translations::filled("Below {0}", "2000")},
          0,
          [picker](std::size_t choice) { picker->setMaxValue(NSNumber::numberWithInt(choice == 0 ? 100000 : 2000)); },
          {}},

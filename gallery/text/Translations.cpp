@@ -38,6 +38,18 @@ std::string Translations::text(const std::string& english) {
     return std::string(textInLanguage(english, gx::GXLocalization::sharedLocalization()->translationLanguage()));
 }
 
+std::string Translations::filled(const std::string& english, const std::string& first, const std::string& second) {
+    const std::string pattern = text(english);
+    std::string whole;
+    for (std::size_t i = 0; i < pattern.size();) {
+        const std::string_view place = std::string_view(pattern).substr(i, 3);
+        const bool isPlace = place == "{0}" || place == "{1}";
+        whole += place == "{0}" ? first : place == "{1}" ? second : pattern.substr(i, 1);
+        i += isPlace ? place.size() : 1;
+    }
+    return whole;
+}
+
 std::string_view Translations::textInLanguage(std::string_view english, std::string_view language) {
     const auto texts = std::find_if(allTexts.begin(), allTexts.end(),
                                     [language](const LanguageTexts& candidate) { return candidate.language == language; });

@@ -17,6 +17,11 @@ public:
     /// The text for an English one in the current language; itself where there is no other.
     static std::string text(const std::string& english);
 
+    /// The text for an English pattern, with "{0}" and "{1}" replaced: "Saved: {0}".
+    ///
+    /// Languages order the parts as they like, so texts with parts are patterns and never joined.
+    static std::string filled(const std::string& english, const std::string& first, const std::string& second = {});
+
     /// The text in one of `languages`, which are compared letter by letter.
     ///
     /// Returns `english` itself if it has no translations, and for any other language. The result

@@ -173,6 +173,51 @@ TEST_F(PickerValueText, OfACompositeIsThatOfItsInnerPickers) {
     EXPECT_EQ(weather->currentValueText(), "sun, 15 °C");
 }
 
+TEST_F(PickerValueText, OfADurationHasTheUnitOfTheLanguage) {
+    GXLocalization::sharedLocalization()->setLanguage("ru");
+    const auto picker = pickerOf<GXDurationPickerView>(1650'000);
+    EXPECT_EQ(picker->currentValueText(), "0:27 ч");
+    picker->setMaxValue(boxed(3599'000));
+    picker->setType(GXDurationTypeMinutesSeconds);
+    EXPECT_EQ(picker->currentValueText(), "27:30 мин");
+}
+
+// U+2066 begins an isolate from left to right, U+2068 one in the direction of its first letter, and
+// U+2069 ends both.
+
+TEST_F(PickerValueText, AMinusStaysOnTheLeftOfItsNumberInTextFromTheRight) {
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar"));
+    GXLocalization::sharedLocalization()->setLanguage("ar");
+    EXPECT_EQ(pickerOf<GXTemperaturePickerView>(-15)->currentValueText(), "\u2066-15\u2069 °م");
+    EXPECT_EQ(pickerOf<GXTemperaturePickerView>(15)->currentValueText(), "15 °م");
+    NSLocale::setCurrentLocale(nullptr);
+    EXPECT_EQ(pickerOf<GXTemperaturePickerView>(-15)->currentValueText(), "-15 °م");
+}
+
+TEST_F(PickerValueText, ValuesSideBySideKeepTheirOwnDirection) {
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("he"));
+    GXLocalization::sharedLocalization()->setLanguage("he");
+    const auto weather = create<GXWeatherAndTemperaturePickerView>(CGRectZero);
+    weather->setIsMetric(true);
+    weather->temperaturePicker()->setCurrentValue(boxed(15));
+    EXPECT_EQ(weather->currentValueText(), "15 °C");
+    weather->weatherPicker()->setIconImages(std::make_shared<const GXIconPickerView::Images>(GXIconPickerView::Images{imageNamed("גשם")}));
+    EXPECT_EQ(weather->currentValueText(), "גשם, \u206815 °C\u2069");
+    GXLocalization::sharedLocalization()->setLanguage("ar");
+    EXPECT_EQ(weather->currentValueText(), "גשם، \u206815 °C\u2069") << "the unit changes with a reload";
+    weather->reloadData();
+    EXPECT_EQ(weather->currentValueText(), "גשם، \u206815 °م\u2069");
+}
+
+/// Egypt writes a decimal separator of its own; the digits are the rules' own in every locale.
+TEST_F(PickerValueText, DigitsAreTheSameInEveryLocale) {
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar_EG"));
+    GXLocalization::sharedLocalization()->setLanguage("ar_EG");
+    EXPECT_EQ(pickerOf<GXDistancePickerView>(5300)->currentValueText(), "5\u066B3 كم");
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar"));
+    EXPECT_EQ(pickerOf<GXDistancePickerView>(5300)->currentValueText(), "5.3 كم");
+}
+
 TEST_F(PickerValueText, OfAHeightIsMetricOrInFeetAndInches) {
     EXPECT_EQ(height(176, true), "176 cm");
     EXPECT_EQ(height(176, false), "5' 9\"");

@@ -78,7 +78,7 @@ void EntryScreen::save() {
         const auto entry = weak.lock();
         if (!entry) return;
         const bool isError = !outcome.error.empty();
-        entry->tell(isError ? outcome.error : Translations::text("Saved:") + " " + outcome.name, isError);
+        entry->tell(isError ? outcome.error : Translations::filled("Saved: {0}", outcome.name), isError);
     });
 }
 
@@ -92,11 +92,11 @@ void EntryScreen::open() {
         std::string error = outcome.error;
         const auto workout = error.empty() ? WorkoutFile::workoutOfText(outcome.text, error) : std::nullopt;
         if (!workout) {
-            entry->tell(outcome.name.empty() ? error : outcome.name + ": " + error, true);
+            entry->tell(outcome.name.empty() ? error : Translations::filled("{0}: {1}", outcome.name, error), true);
             return;
         }
         entry->setWorkout(*workout);
-        entry->tell(Translations::text("Opened:") + " " + outcome.name, false);
+        entry->tell(Translations::filled("Opened: {0}", outcome.name), false);
     });
 }
 

@@ -13,7 +13,8 @@ namespace gallery {
 // - Choices agree with the name of what they choose: "Metric" with "Units", "Full" with "Motion",
 //   "High" with "Contrast", "Light" with "Look".
 // - "Height" and "Weight" are those of a body. Weather is written as within a sentence.
-// - A colon is followed by a name; French has a no-break space before it.
+// - "{0}" and "{1}" stand for names and numbers. French has a no-break space before a colon.
+// - A "component" is a column of a wheel in the program's terms.
 
 /// A text and the English one that is its key.
 struct ApplicationText {
@@ -31,11 +32,15 @@ class ApplicationTextChecks {
 public:
     static constexpr std::size_t complete = static_cast<std::size_t>(-1);
 
-    /// The keys of `model` in its order, each with a text.
+    /// The keys of `model` in its order, each with a text that has the places of its key, "{0}" and
+    /// "{1}", once each.
     static constexpr std::size_t firstProblemOfTexts(std::span<const ApplicationText> texts, std::span<const ApplicationText> model) {
         for (std::size_t i = 0; i < std::max(texts.size(), model.size()); ++i) {
             if (i >= texts.size() || i >= model.size()) return i;
             if (texts[i].english != model[i].english || texts[i].text.empty()) return i;
+            for (const std::string_view place : {"{0}", "{1}"}) {
+                if (countOf(place, texts[i].text) != countOf(place, texts[i].english) || countOf(place, texts[i].text) > 1) return i;
+            }
         }
         return complete;
     }
@@ -47,6 +52,13 @@ public:
             }
         }
         return complete;
+    }
+
+private:
+    static constexpr std::size_t countOf(std::string_view place, std::string_view text) {
+        std::size_t count = 0;
+        for (std::size_t at = text.find(place); at != std::string_view::npos; at = text.find(place, at + 1)) ++count;
+        return count;
     }
 };
 

@@ -20,8 +20,8 @@ constexpr std::size_t overhead = 256;
 
 /// What the glyphs cover, seen from the left end of the baseline.
 ///
-/// `QFontMetricsF::tightBoundingRect` leaves out parts of a text that needs several fonts: the tails
-/// of an Arabic word behind a number.
+/// `QFontMetricsF::tightBoundingRect` leaves out parts of a text that needs several fonts: the
+/// tails of an Arabic word behind a number.
 QRectF inkOfText(const QString& text, const QFont& font) {
     constexpr double unlimitedWidth = 1e6;
     QTextLayout layout(text, font);

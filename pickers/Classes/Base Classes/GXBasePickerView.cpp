@@ -170,9 +170,7 @@ std::string GXBasePickerView::currentValueText() {
     }
     std::string text;
     for (const Ref<GXBasePickerView>& picker : innerPickers()) {
-        const std::string part = picker->currentValueText();
-        if (!text.empty() && !part.empty()) text += ", ";
-        text += part;
+        text = joinedByComma(text, picker->currentValueText());
     }
     return text;
 }

@@ -37,7 +37,8 @@ struct GXArabic {
         {"lb", "رطل"},      {"st", "ستون"},     {"cm", "سم"},
         {"ft", "قدم"},      {"°C", "°م"},       {"°F", "°ف"},
         {"km", "كم"},       {"mi", "ميل"},      {"km/h", "كم/س"},
-        {"mph", "ميل/س"},   {"kcal", "سعرة"},
+        {"mph", "ميل/س"},   {"kcal", "سعرة"},   {"h", "س"},
+        {"min", "د"},       {", ", "، "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -21,7 +21,8 @@ struct GXDutch {
         {"lb", "lb"},       {"st", "st"},         {"cm", "cm"},
         {"ft", "ft"},       {"°C", "°C"},         {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},         {"km/h", "km/u"},
-        {"mph", "mi/h"},    {"kcal", "kcal"},
+        {"mph", "mi/h"},    {"kcal", "kcal"},     {"h", "u"},
+        {"min", "min"},     {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -15,8 +15,8 @@ struct GXEnglish {
     }
 
     static constexpr GXText unitTexts[] = {
-        "bpm", "hh:mm", "hh:mm:ss", "mm:ss", "min/km", "min/mi", "AVG", "MAX",  "kg",  "lb",
-        "st",  "cm",    "ft",       "°C",    "°F",     "km",     "mi",  "km/h", "mph", "kcal",
+        "bpm", "hh:mm", "hh:mm:ss", "mm:ss", "min/km", "min/mi", "AVG", "MAX",  "kg", "lb",  "st", "cm",
+        "ft",  "°C",    "°F",       "km",    "mi",     "km/h",   "mph", "kcal", "h",  "min", ", ",
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -28,7 +28,8 @@ struct GXHebrew {
         {"lb", "lb"},       {"st", "סטון"},        {"cm", "ס״מ"},
         {"ft", "ft"},       {"°C", "°C"},          {"°F", "°F"},
         {"km", "ק״מ"},      {"mi", "מייל"},        {"km/h", "קמ״ש"},
-        {"mph", "mph"},     {"kcal", "קק״ל"},
+        {"mph", "mph"},     {"kcal", "קק״ל"},      {"h", "שע׳"},
+        {"min", "דק׳"},     {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -21,7 +21,8 @@ struct GXItalian {
         {"lb", "lb"},       {"st", "st"},         {"cm", "cm"},
         {"ft", "ft"},       {"°C", "°C"},         {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},         {"km/h", "km/h"},
-        {"mph", "mi/h"},    {"kcal", "kcal"},
+        {"mph", "mi/h"},    {"kcal", "kcal"},     {"h", "h"},
+        {"min", "min"},     {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -19,7 +19,8 @@ struct GXJapanese {
         {"lb", "lb"},       {"st", "st"},        {"cm", "cm"},
         {"ft", "ft"},       {"°C", "°C"},        {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},        {"km/h", "km/h"},
-        {"mph", "mph"},     {"kcal", "kcal"},
+        {"mph", "mph"},     {"kcal", "kcal"},    {"h", "時間"},
+        {"min", "分"},      {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -19,7 +19,8 @@ struct GXKorean {
         {"lb", "lb"},       {"st", "st"},        {"cm", "cm"},
         {"ft", "ft"},       {"°C", "°C"},        {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},        {"km/h", "km/h"},
-        {"mph", "mph"},     {"kcal", "kcal"},
+        {"mph", "mph"},     {"kcal", "kcal"},    {"h", "시간"},
+        {"min", "분"},      {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -14,7 +14,8 @@ namespace gx {
 // - `ownName`: what its speakers call the language;
 // - `decimalSeparator`: what its readers are used to, with the digits 0 to 9;
 // - `pluralCategory`: which form of a unit goes with a number;
-// - `unitTexts`: the labels beside the wheels, in at most 8 characters;
+// - `unitTexts`: the labels beside the wheels, in at most 8 characters, and the comma between two
+//   values;
 // - `accessibilityNames`, `accessibilityUnits`: what screen readers read out.
 //
 // Sources:

@@ -24,7 +24,8 @@ struct GXPolish {
         {"lb", "lb"},       {"st", "st"},         {"cm", "cm"},
         {"ft", "ft"},       {"°C", "°C"},         {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},         {"km/h", "km/h"},
-        {"mph", "mph"},     {"kcal", "kcal"},
+        {"mph", "mph"},     {"kcal", "kcal"},     {"h", "godz."},
+        {"min", "min"},     {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -21,7 +21,8 @@ struct GXPortuguese {
         {"lb", "lb"},       {"st", "st"},         {"cm", "cm"},
         {"ft", "ft"},       {"°C", "°C"},         {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},         {"km/h", "km/h"},
-        {"mph", "mph"},     {"kcal", "kcal"},
+        {"mph", "mph"},     {"kcal", "kcal"},     {"h", "h"},
+        {"min", "min"},     {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -24,7 +24,8 @@ struct GXRussian {
         {"lb", "фнт"},      {"st", "стн"},        {"cm", "см"},
         {"ft", "фт"},       {"°C", "°C"},         {"°F", "°F"},
         {"km", "км"},       {"mi", "ми"},         {"km/h", "км/ч"},
-        {"mph", "ми/ч"},    {"kcal", "ккал"},
+        {"mph", "ми/ч"},    {"kcal", "ккал"},     {"h", "ч"},
+        {"min", "мин"},     {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

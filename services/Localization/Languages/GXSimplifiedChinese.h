@@ -13,10 +13,29 @@ struct GXSimplifiedChinese {
     static constexpr GXPluralCategory pluralCategory(const GXPluralOperands& /*number*/) { return GXPluralCategory::Other; }
 
     static constexpr GXText unitTexts[] = {
-        {"bpm", "次/分钟"},      {"hh:mm", "时:分"}, {"hh:mm:ss", "时:分:秒"}, {"mm:ss", "分:秒"},   {"min/km", "分钟/公里"},
-        {"min/mi", "分钟/英里"}, {"AVG", "平均"},    {"MAX", "最大"},          {"kg", "公斤"},       {"lb", "磅"},
-        {"st", "英石"},          {"cm", "厘米"},     {"ft", "英尺"},           {"°C", "°C"},         {"°F", "°F"},
-        {"km", "公里"},          {"mi", "英里"},     {"km/h", "公里/小时"},    {"mph", "英里/小时"}, {"kcal", "千卡"},
+        {"bpm", "次/分钟"},
+        {"hh:mm", "时:分"},
+        {"hh:mm:ss", "时:分:秒"},
+        {"mm:ss", "分:秒"},
+        {"min/km", "分钟/公里"},
+        {"min/mi", "分钟/英里"},
+        {"AVG", "平均"},
+        {"MAX", "最大"},
+        {"kg", "公斤"},
+        {"lb", "磅"},
+        {"st", "英石"},
+        {"cm", "厘米"},
+        {"ft", "英尺"},
+        {"°C", "°C"},
+        {"°F", "°F"},
+        {"km", "公里"},
+        {"mi", "英里"},
+        {"km/h", "公里/小时"},
+        {"mph", "英里/小时"},
+        {"kcal", "千卡"},
+        {"h", "小时"},
+        {"min", "分钟"},
+        {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

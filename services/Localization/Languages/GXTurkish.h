@@ -19,7 +19,8 @@ struct GXTurkish {
         {"lb", "lb"},       {"st", "st"},        {"cm", "cm"},
         {"ft", "fit"},      {"°C", "°C"},        {"°F", "°F"},
         {"km", "km"},       {"mi", "mil"},       {"km/h", "km/sa"},
-        {"mph", "mil/sa"},  {"kcal", "kcal"},
+        {"mph", "mil/sa"},  {"kcal", "kcal"},    {"h", "sa"},
+        {"min", "dk"},      {", ", ", "},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

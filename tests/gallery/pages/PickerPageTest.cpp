@@ -121,10 +121,10 @@ TEST_F(PickerPageTest, NumbersAndUnitsAreTheUsers) {
     GXLocalization::sharedLocalization()->setLanguage("de");
     show("Speed");
     turn(2, 1); // 12.6 km/h are 3.5 m/s
-    EXPECT_EQ(log(), Lines{"12,6 km/h | 3.5 m/s (component 0)"});
+    EXPECT_EQ(log(), Lines{"12,6 km/h | 3.5 m/s (Komponente 0)"});
     show("Beats per minute");
     turn(0, 1);
-    EXPECT_EQ(log(), Lines{"170 S/min | 170 bpm (component 0)"});
+    EXPECT_EQ(log(), Lines{"170 S/min | 170 bpm (Komponente 0)"});
 }
 
 TEST_F(PickerPageTest, TurningForAPictureLeavesUnitsAlone) {

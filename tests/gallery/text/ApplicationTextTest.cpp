@@ -17,6 +17,19 @@ TEST(ApplicationTextChecks, TextsHaveTheKeysOfTheModelInItsOrder) {
     EXPECT_EQ(Checks::firstProblemOfTexts(Texts{{"Open", "a"}, {"Save", "b"}, {"Body", "c"}, {"Heart", "d"}}, model), 3U);
 }
 
+TEST(ApplicationTextChecks, TextsHaveThePlacesOfTheirKeysOnceEach) {
+    const auto problemOf = [](const char* english, const char* text) {
+        return Checks::firstProblemOfTexts(Texts{{english, text}}, Texts{english});
+    };
+    EXPECT_EQ(problemOf("{0} to {1}", "{0} bis {1}"), Checks::complete);
+    EXPECT_EQ(problemOf("{0} of {1}", "{1} / {0}"), Checks::complete);
+    EXPECT_EQ(problemOf("{0} to {1}", "{0} bis"), 0U);
+    EXPECT_EQ(problemOf("{0} to {1}", "{0} bis {0}"), 0U);
+    EXPECT_EQ(problemOf("Below {0}", "Unter {0}, {0}"), 0U);
+    EXPECT_EQ(problemOf("Below", "Unter {0}"), 0U);
+    EXPECT_EQ(problemOf("{0} {0}", "{0} {0}"), 0U);
+}
+
 TEST(ApplicationTextChecks, NoEnglishTextIsThereTwice) {
     EXPECT_EQ(Checks::firstRepeatedText(Texts{"Open", "Save", "Body"}), Checks::complete);
     EXPECT_EQ(Checks::firstRepeatedText(Texts{"Open", "Save", "Open"}), 2U);

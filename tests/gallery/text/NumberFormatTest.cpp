@@ -33,6 +33,14 @@ TEST_F(NumberFormatTest, NegativeOnesHaveAMinusSignUnlessTheyRoundToZero) {
     EXPECT_EQ(NumberFormat::decimal(-0.4, 0), "0");
 }
 
+TEST_F(NumberFormatTest, NegativeOnesKeepTheirOrderInTextFromTheRight) {
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar"));
+    EXPECT_EQ(NumberFormat::decimal(-17.2, 1), "\u2066−17.2\u2069");
+    EXPECT_EQ(NumberFormat::decimal(17.2, 1), "17.2");
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar_EG"));
+    EXPECT_EQ(NumberFormat::decimal(17.2, 1), "17\u066B2") << "the digits are the rules' own, the separator the locale's";
+}
+
 TEST_F(NumberFormatTest, TheSeparatorIsTheUsers) {
     NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("de"));
     EXPECT_EQ(NumberFormat::decimal(5.3, 1), "5,3");

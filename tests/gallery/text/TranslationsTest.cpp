@@ -29,12 +29,12 @@ constexpr std::array<std::string_view, 32> names = {
     "Height",      "Text size",   "Look",          "Decimal separator", "Motion",   "Contrast",      "Wheel clicks",  "Language"};
 constexpr std::array<std::string_view, 12> weathers = {"clear", "partly cloudy", "cloudy",       "overcast", "fog",  "drizzle",
                                                        "rain",  "showers",       "thunderstorm", "sleet",    "snow", "wind"};
-constexpr std::array<std::string_view, 11> messages = {"Opened:",
-                                                       "Saved:",
-                                                       "The file could not be read:",
-                                                       "The file could not be written:",
-                                                       "The file has no number for:",
-                                                       "A number in the file is out of range:",
+constexpr std::array<std::string_view, 11> messages = {"Opened: {0}",
+                                                       "Saved: {0}",
+                                                       "The file could not be read: {0}",
+                                                       "The file could not be written: {0}",
+                                                       "The file has no number for: {0}.",
+                                                       "A number in the file is out of range: {0}.",
                                                        "The file names no weather that this application knows.",
                                                        "This file is damaged, or no workout.",
                                                        "This file is damaged.",
@@ -107,7 +107,7 @@ TEST_F(TranslationsTest, UsesTheWordsOfItsReaders) {
     EXPECT_EQ(textIn("de", "Save"), "Speichern");
     EXPECT_EQ(textIn("de", "thunderstorm"), "Gewitter");
     EXPECT_EQ(textIn("fr", "Height"), "Taille");
-    EXPECT_EQ(textIn("fr", "Opened:"), "Ouvert\u00A0:");
+    EXPECT_EQ(textIn("fr", "Opened: {0}"), "Ouvert\u00A0: {0}");
     EXPECT_EQ(textIn("es", "Settings"), "Ajustes");
     EXPECT_EQ(textIn("it", "Weight"), "Peso");
     EXPECT_EQ(textIn("it", "partly cloudy"), "parzialmente nuvoloso");
@@ -186,6 +186,22 @@ TEST_F(TranslationsTest, EveryTextEndsAsItsEnglishOneDoes) {
             EXPECT_EQ(kindOfEnd(text), kindOfEnd(english)) << english << ": " << text;
         }
     }
+}
+
+TEST_F(TranslationsTest, PlacesOfAPatternAreFilledInWhereTheLanguageHasThem) {
+    GXLocalization::sharedLocalization()->setLanguage("en");
+    EXPECT_EQ(Translations::filled("Saved: {0}", "a.json"), "Saved: a.json");
+    EXPECT_EQ(Translations::filled("{0} to {1}", "40", "220"), "40 to 220");
+    EXPECT_EQ(Translations::filled("{0} to {1}", "{1}", "{0}"), "{1} to {0}") << "what is filled in is not searched";
+    EXPECT_EQ(Translations::filled("Saved: {0}", ""), "Saved: ");
+    EXPECT_EQ(Translations::filled("no pattern", "a"), "no pattern");
+    EXPECT_EQ(Translations::filled("{0} furlongs {", "5"), "5 furlongs {") << "without a translation";
+    GXLocalization::sharedLocalization()->setLanguage("fr");
+    EXPECT_EQ(Translations::filled("{0} (component {1})", "5 m", "0"), "5 m (composant 0)");
+    GXLocalization::sharedLocalization()->setLanguage("tr");
+    EXPECT_EQ(Translations::filled("Below {0}", "2000"), "2000 altı");
+    GXLocalization::sharedLocalization()->setLanguage("zh-Hans");
+    EXPECT_EQ(Translations::filled("The file has no number for: {0}.", "weight"), "文件中缺少以下数值：weight。");
 }
 
 TEST_F(TranslationsTest, ButtonsAndNamesAreShort) {

@@ -7,8 +7,9 @@
 namespace gx {
 namespace {
 
-constexpr std::array<const char*, 20> keys = {"bpm", "hh:mm", "hh:mm:ss", "mm:ss", "min/km", "min/mi", "AVG", "MAX",  "kg",  "lb",
-                                              "st",  "cm",    "ft",       "°C",    "°F",     "km",     "mi",  "km/h", "mph", "kcal"};
+constexpr std::array<const char*, 23> keys = {"bpm", "hh:mm", "hh:mm:ss", "mm:ss", "min/km", "min/mi", "AVG", "MAX",
+                                              "kg",  "lb",    "st",       "cm",    "ft",     "°C",     "°F",  "km",
+                                              "mi",  "km/h",  "mph",      "kcal",  "h",      "min",    ", "};
 
 std::optional<std::string> textFor(const std::string& language, const std::string& key) {
     const auto localization = create<GXLocalization>();
@@ -133,6 +134,9 @@ TEST_F(GXLocalizationTest, UsesTheWordsOfItsReaders) {
     EXPECT_EQ(textFor("ru", "hh:mm:ss"), "чч:мм:сс");
     EXPECT_EQ(textFor("tr", "min/km"), "dk/km");
     EXPECT_EQ(textFor("ar", "km/h"), "كم/س");
+    EXPECT_EQ(textFor("ru", "h"), "ч");
+    EXPECT_EQ(textFor("tr", "min"), "dk");
+    EXPECT_EQ(textFor("ar", ", "), "، ");
     EXPECT_EQ(textFor("ar", "kcal"), "سعرة");
     EXPECT_EQ(textFor("ar", "hh:mm:ss"), "hh:mm:ss");
     EXPECT_EQ(textFor("he", "km/h"), "קמ״ש");

@@ -1,5 +1,8 @@
 #include "GXValueText.h"
 
+#include "GXLocalization.h"
+#include "NSLocale.h"
+
 namespace gx {
 
 namespace {
@@ -9,6 +12,13 @@ std::string withOneLeadingBlank(const std::string& title) {
     const std::size_t start = title.find_first_not_of(' ');
     return start == std::string::npos || start < 2 ? title : title.substr(start - 1);
 }
+
+// Characters without ink that set the direction of what is between them.
+const std::string leftToRightIsolate = "\u2066";
+const std::string firstStrongIsolate = "\u2068";
+const std::string endOfIsolate = "\u2069";
+
+bool isRightToLeft() { return NSLocale::currentLocale()->isRightToLeft(); }
 
 } // namespace
 
@@ -33,7 +43,19 @@ std::string withoutLeadingZero(const std::string& time) {
 
 std::string joinedBySpace(const std::string& first, const std::string& second) {
     if (first.empty() || second.empty()) return first + second;
-    return first + " " + second;
+    const bool isMinusMisplaced = first.front() == '-' && isRightToLeft();
+    return (isMinusMisplaced ? leftToRightIsolate + first + endOfIsolate : first) + " " + second;
+}
+
+std::string joinedByComma(const std::string& first, const std::string& second) {
+    if (first.empty() || second.empty()) return first + second;
+    // The first value stays as it is, since a text takes its direction from its letters outside of
+    // isolates.
+    return first + localizedText(", ") + (isRightToLeft() ? firstStrongIsolate + second + endOfIsolate : second);
+}
+
+std::string localizedText(const std::string& key) {
+    return GXLocalization::sharedLocalization()->localizedStringWithKey_comment(key, key).value_or(std::string());
 }
 
 } // namespace gx

@@ -66,8 +66,8 @@ std::string GXDurationPickerView::currentValueText() {
     const Ref<GXMultiValuePickerView> wheel = pickerView();
     std::string time = withoutLeadingZero(textOfSelectedRows(wheel, *this));
     if (time.empty()) return time;
-    if (type() == GXDurationTypeHoursMinutes) return joinedBySpace(time, "h");
-    return layout().hasMinutesAndSecondsAlone() ? joinedBySpace(time, "min") : time;
+    if (type() == GXDurationTypeHoursMinutes) return joinedBySpace(time, localizedText("h"));
+    return layout().hasMinutesAndSecondsAlone() ? joinedBySpace(time, localizedText("min")) : time;
 }
 
 // Units

@@ -99,7 +99,7 @@ std::string GXHeartRatePickerView::currentValueText() {
     const Ref<GXBasePickerView> keep = self();
     const Ref<GXMultiValuePickerView> wheel = pickerView();
     if (!wheel) return {};
-    return textOfRate(wheel->leftLabelText(), averageComponent) + ", " + textOfRate(wheel->rightLabelText(), maximumComponent);
+    return joinedByComma(textOfRate(wheel->leftLabelText(), averageComponent), textOfRate(wheel->rightLabelText(), maximumComponent));
 }
 
 // What the wheel asks
