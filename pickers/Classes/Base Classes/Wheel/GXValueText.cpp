@@ -14,9 +14,9 @@ std::string withOneLeadingBlank(const std::string& title) {
 }
 
 // Characters without ink that set the direction of what is between them.
-const std::string leftToRightIsolate = "\u2066";
-const std::string firstStrongIsolate = "\u2068";
-const std::string endOfIsolate = "\u2069";
+constexpr const char* leftToRightIsolate = "\u2066";
+constexpr const char* firstStrongIsolate = "\u2068";
+constexpr const char* endOfIsolate = "\u2069";
 
 bool isRightToLeft() { return NSLocale::currentLocale()->isRightToLeft(); }
 
