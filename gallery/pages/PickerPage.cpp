@@ -19,14 +19,19 @@ constexpr CGFloat titleGap = 6;
 // Five rows of a wheel and the ends of two more. Of large rows at least three have to be whole.
 constexpr CGFloat usualWheelHeight = 216;
 constexpr double fewestRowsOfWheel = 3;
+// Of a wheel with log and options beside it. More look like a list; chosen by eye.
+constexpr double mostRowsOfWheel = 10;
 // With it the card of the wheel is as high as the log, which may be beside it.
 constexpr CGFloat wheelPadding = 14;
 // Wider cards look empty. Chosen by eye.
 constexpr CGFloat widestContent = 920;
+constexpr CGFloat widestContentBesidePicker = 1120;
+constexpr double pickersShare = 0.55;
 // A phone in landscape has two columns, each nearly as wide as a small phone upright.
 constexpr CGFloat twoColumnWidth = 540;
 
-CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
+CGFloat heightOfRows(double rows) { return rows * GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
+CGFloat wheelHeight() { return std::max(usualWheelHeight, heightOfRows(fewestRowsOfWheel)); }
 
 } // namespace
 
@@ -90,6 +95,12 @@ void PickerPage::setShowsTitle(bool shows) {
     setNeedsLayout();
 }
 
+void PickerPage::setShowsPickerBeside(bool beside) {
+    if (beside == showsPickerBeside_) return;
+    showsPickerBeside_ = beside;
+    setNeedsLayout();
+}
+
 PickerDemo PickerPage::makeDemo() {
     return description_.makeDemo([weak = WeakRef<PickerPage>(refTo(this))](const DelegateNotice& notice) {
         if (const Ref<PickerPage> page = weak.lock()) page->noteNotice(notice);
@@ -138,9 +149,11 @@ void PickerPage::turnForPicture() {
 
 PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     const CGFloat margin = Theme::marginForWidth(width);
-    const CGFloat content = std::clamp(width - 2 * margin, 0.0, widestContent);
-    const bool hasTwoColumns = content >= std::max(twoColumnWidth, Theme::scaled(twoColumnWidth));
-    const CGFloat column = hasTwoColumns ? std::floor(0.5 * (content - Theme::gap)) : content;
+    const CGFloat room = std::max(0.0, width - 2 * margin);
+    const bool hasTwoColumns = room >= std::max(twoColumnWidth, Theme::scaled(twoColumnWidth));
+    const bool isPickerBeside = hasTwoColumns && showsPickerBeside_;
+    const CGFloat content = std::min(room, isPickerBeside ? widestContentBesidePicker : widestContent);
+    const CGFloat column = std::floor((isPickerBeside ? pickersShare : 0.5) * (content - Theme::gap));
 
     Frames frames;
     CGFloat y = showsTitle_ ? margin : 12;
@@ -150,14 +163,25 @@ PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     }
     frames.purpose = CGRectMake(margin, y, content, std::ceil(purpose_->sizeThatFits({content, 0}).height));
     y = CGRectGetMaxY(frames.purpose) + Theme::gap;
-    frames.picker = CGRectMake(margin, y, column, wheelHeight() + 2 * wheelPadding);
     // The log is visible while the wheel spins: beside it, or right below.
+    const CGFloat pickerWidth = hasTwoColumns ? column : content;
+    const CGFloat logWidth = hasTwoColumns ? content - Theme::gap - column : content;
+    const CGFloat logHeight = log_->sizeThatFits({logWidth, 0}).height;
+    const CGFloat optionsWidth = isPickerBeside ? logWidth : pickerWidth;
+    const CGFloat optionsHeight = optionControls().empty() ? 0 : optionsCard_->sizeThatFits({optionsWidth, 0}).height;
+    const CGFloat besidePicker = logHeight + (optionsHeight > 0 ? Theme::gap + optionsHeight : 0);
+    const CGFloat wheel =
+        isPickerBeside ? std::clamp(besidePicker - 2 * wheelPadding, wheelHeight(), std::max(wheelHeight(), heightOfRows(mostRowsOfWheel)))
+                       : wheelHeight();
+    frames.picker = CGRectMake(margin, y, pickerWidth, std::floor(wheel) + 2 * wheelPadding);
     const CGFloat below = CGRectGetMaxY(frames.picker) + Theme::gap;
-    const CGFloat logX = hasTwoColumns ? margin + column + Theme::gap : margin;
-    frames.log = CGRectMake(logX, hasTwoColumns ? y : below, column, log_->sizeThatFits({column, 0}).height);
-    const CGFloat optionsY = hasTwoColumns ? below : CGRectGetMaxY(frames.log) + Theme::gap;
-    frames.options = CGRectMake(margin, optionsY, column, optionsCard_->sizeThatFits({column, 0}).height);
-    y = std::max(CGRectGetMaxY(frames.log), optionControls().empty() ? 0 : CGRectGetMaxY(frames.options));
+    const CGFloat besideX = margin + pickerWidth + Theme::gap;
+    frames.log = CGRectMake(hasTwoColumns ? besideX : margin, hasTwoColumns ? y : below, logWidth, logHeight);
+    const CGFloat belowLog = CGRectGetMaxY(frames.log) + Theme::gap;
+    frames.options =
+        CGRectMake(isPickerBeside ? besideX : margin, hasTwoColumns && !isPickerBeside ? below : belowLog, optionsWidth, optionsHeight);
+    y = std::max(CGRectGetMaxY(frames.picker), CGRectGetMaxY(frames.log));
+    if (optionsHeight > 0) y = std::max(y, CGRectGetMaxY(frames.options));
     frames.height = y + margin;
     return frames;
 }
@@ -173,7 +197,7 @@ void PickerPage::layoutSubviews() {
     pickerCard_->setFrame(ReadingDirection::frame(frames.picker, width));
     log_->setFrame(ReadingDirection::frame(frames.log, width));
     optionsCard_->setFrame(ReadingDirection::frame(frames.options, width));
-    demo_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, wheelHeight()));
+    demo_.picker->setFrame(CGRectMake(0, wheelPadding, frames.picker.size.width, frames.picker.size.height - 2 * wheelPadding));
     if (demo_.textPicker) demo_.textPicker->sizeFontsToFit();
 }
 

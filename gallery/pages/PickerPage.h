@@ -20,6 +20,9 @@ struct PickerPageDescription {
 };
 
 /// The page of one picker: a card with the picker, the log of its delegate, and its options.
+///
+/// They are below each other on a phone. With more room the log is beside the picker, and in a wide
+/// window the picker is as high as log and options beside it.
 class PickerPage : public gx::UIView {
 public:
     static gx::Ref<PickerPage> pageWithDescription(PickerPageDescription description);
@@ -29,6 +32,9 @@ public:
     const std::string& name() const { return description_.name; }
     /// False where a bar above the page has the title.
     void setShowsTitle(bool shows);
+    /// Whether log and options are both beside the picker, if the page is wide enough. Default:
+    /// false.
+    void setShowsPickerBeside(bool beside);
 
     const PickerDemo& demo() const { return demo_; }
     const gx::Ref<gx::UIView>& pickerCard() const { return pickerCard_; }
@@ -61,6 +67,7 @@ private:
     PickerDemo demo_;
     bool showsTitle_ = true;
     std::string language_; ///< of the texts that are shown
+    bool showsPickerBeside_ = false;
     gx::Ref<Paragraph> title_;
     gx::Ref<Paragraph> purpose_;
     gx::Ref<gx::UIView> pickerCard_;

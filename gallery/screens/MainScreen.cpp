@@ -110,7 +110,10 @@ void MainScreen::showTitles() {
     sidebar_->setShowsTitle(hasSidebar());
     entry_->setShowsTitle(hasSidebar());
     if (settingsPage_) settingsPage_->setShowsTitle(hasSidebar());
-    if (const Ref<PickerPage> shown = page()) shown->setShowsTitle(hasSidebar());
+    if (const Ref<PickerPage> shown = page()) {
+        shown->setShowsTitle(hasSidebar());
+        shown->setShowsPickerBeside(showsPickerBeside());
+    }
 }
 
 // Settings
@@ -169,6 +172,13 @@ void MainScreen::didMoveToWindow() {
 // Layout
 
 bool MainScreen::hasSidebar() const { return bounds().size.width >= Theme::sidebarBreakpoint(); }
+
+bool MainScreen::showsPickerBeside() const {
+    const CGFloat width = bounds().size.width;
+    // A window that becomes wide enough for the sidebar keeps the picker beside its list.
+    const CGFloat narrowestPage = Theme::sidebarBreakpoint() - Theme::sidebarWidth();
+    return width >= Theme::sideBySideBreakpoint && width - sidebarWidthInWidth(width) >= narrowestPage;
+}
 
 void MainScreen::setMenuShown(bool shown) {
     isMenuShown_ = shown;
@@ -232,14 +242,11 @@ void MainScreen::layoutSubviews() {
     const BarFrames bar = barFramesForWidth(size.width);
     const CGFloat x = sidebarWidthInWidth(size.width);
     const CGFloat y = isWide ? 0 : bar.height;
-    const CGFloat pageWidth = size.width - x;
-    const CGRect body = ReadingDirection::frame(CGRectMake(x, y, pageWidth, std::max(0.0, size.height - y)), size.width);
+    const CGRect body = ReadingDirection::frame(CGRectMake(x, y, size.width - x, std::max(0.0, size.height - y)), size.width);
 
     scroll_->setFrame(body);
     scroll_->setHidden(isMenu || index_ == entryPage);
-    // A window that becomes wide enough for the sidebar keeps the picker beside its list.
-    const CGFloat narrowestPage = Theme::sidebarBreakpoint() - Theme::sidebarWidth();
-    entry_->setShowsPickerBeside(size.width >= Theme::sideBySideBreakpoint && pageWidth >= narrowestPage);
+    entry_->setShowsPickerBeside(showsPickerBeside());
     entry_->setFrame(body);
     entry_->setHidden(isMenu || index_ != entryPage);
     bar_->setHidden(isWide);

@@ -76,6 +76,7 @@ private:
     struct BarFrames;
     BarFrames barFramesForWidth(gx::CGFloat width) const;
     static gx::CGFloat sidebarWidthInWidth(gx::CGFloat width);
+    bool showsPickerBeside() const;
     gx::Ref<gx::UIView> contentOfPage(std::size_t index);
     void showTitles();
     void takeFocusFromMenu();

@@ -233,6 +233,46 @@ TEST_F(MainScreenTest, WherePossibleTheLogStandsBesideTheWheel) {
     EXPECT_EQ(CGRectGetMinY(screen->page()->optionsCard()->frame()), CGRectGetMaxY(screen->page()->log()->frame()) + 16);
 }
 
+TEST_F(MainScreenTest, From900PointsLogAndOptionsStandBesideALargeWheel) {
+    show("Speed", 899, 640);
+    const CGFloat usual = screen->page()->demo().wheel->bounds().size.height;
+    EXPECT_EQ(usual, 216);
+    EXPECT_EQ(CGRectGetMinX(screen->page()->optionsCard()->frame()), CGRectGetMinX(screen->page()->pickerCard()->frame()));
+
+    show("Speed", 1200, 800);
+    const auto page = screen->page();
+    const CGRect picker = page->pickerCard()->frame();
+    // Of 968 - 2 * 32 = 904 less 16 between, 55 % are 488.
+    EXPECT_EQ(picker.size.width, 488);
+    EXPECT_EQ(page->log()->frame().origin, CGPointMake(32 + 488 + 16, CGRectGetMinY(picker)));
+    EXPECT_EQ(page->log()->frame().size.width, 400);
+    EXPECT_EQ(page->optionsCard()->frame().origin, CGPointMake(32 + 488 + 16, CGRectGetMaxY(page->log()->frame()) + 16));
+    EXPECT_EQ(page->optionsCard()->frame().size.width, 400);
+    EXPECT_GT(page->demo().wheel->bounds().size.height, usual);
+    EXPECT_LE(page->demo().wheel->bounds().size.height, 400) << "ten rows";
+}
+
+TEST_F(MainScreenTest, AWheelSpinsOnAndKeepsTheFocusWhileItsPageChangesItsColumns) {
+    double values[2] = {};
+    for (const bool isResized : {false, true}) {
+        show("Calories", 1200, 800);
+        const auto wheel = screen->page()->demo().wheel;
+        const CGPoint from = middleOf(wheel->viewForRow_forComponent(wheel->selectedRowInComponent(0), 0));
+        window->fling(from, {from.x, from.y - 60}, 3);
+        window->tick(0.05);
+        if (isResized) {
+            screen->setFrame(CGRectMake(0, 0, 700, 800));
+            (*window)->layoutIfNeeded();
+            EXPECT_EQ(wheel->bounds().size.height, 216);
+        }
+        EXPECT_TRUE(wheel->isTurning());
+        EXPECT_EQ((*window)->firstResponder(), wheel);
+        settle();
+        values[isResized ? 1 : 0] = screen->page()->demo().values().at(0).doubleValue();
+    }
+    EXPECT_EQ(values[0], values[1]);
+}
+
 TEST_F(MainScreenTest, ItNeedsTheHeightOfItsPageAndItsBar) {
     open(390, 300);
     screen->showPage(MainScreen::firstPickerPage);
