@@ -74,6 +74,13 @@ TEST_F(EntryScreenLayoutTest, ARowGrowsWithItsValueAndDoesNotShrink) {
     EXPECT_EQ(entry()->openMeasurement(), indexOf("Calories"));
 }
 
+TEST_F(EntryScreenLayoutTest, ATableOfLargeTextsMayBeWider) {
+    openAtScale(1, 719, 800);
+    EXPECT_EQ(table()->bounds().size.width, 640);
+    openAtScale(3, 1200, 800);
+    EXPECT_EQ(table()->bounds().size.width, 1200 - 2 * 32);
+}
+
 TEST_F(EntryScreenLayoutTest, HeadingsGrowAsFarAsTheyHaveRoom) {
     openAtScale(1, 320, 844);
     EXPECT_EQ(table()->sectionHeaderFont()->pointSize(), 13);
