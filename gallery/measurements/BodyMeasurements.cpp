@@ -88,7 +88,8 @@ public:
         picker_->setHeightDelegate(refTo(this));
     }
 
-    void fitPicker() override {} // Its fonts have one size.
+    void fitPicker() override {} // Its fonts fit by themselves.
+    CGFloat smallestPickerHeightForWidth(CGFloat) override { return 0; }
 
     void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat height, bool metric) override {
         const auto keep = refTo(this);

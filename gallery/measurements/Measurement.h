@@ -37,6 +37,9 @@ public:
     /// To be called when the open picker has got another size: fits its fonts. A wheel that spins
     /// goes on.
     virtual void fitPicker() = 0;
+    /// The least height at which a picker of this width shows its rows well, at the present text
+    /// size.
+    virtual gx::CGFloat smallestPickerHeightForWidth(gx::CGFloat width) = 0;
 
 protected:
     void setUp(std::string name, std::string cellIdentifier, std::shared_ptr<Workout> workout, Settings settings) {

@@ -67,6 +67,13 @@ public:
         if (picker_) picker_->sizeFontsToFit();
     }
 
+    gx::CGFloat smallestPickerHeightForWidth(gx::CGFloat width) override {
+        if (picker_) return picker_->smallestHeightForWidth(width);
+        const gx::Ref<Picker> picker = gx::create<Picker>(gx::CGRectMake(0, 0, width, 0));
+        configure(*picker);
+        return picker->smallestHeightForWidth(width);
+    }
+
     void pickerView_didChangeCurrentValue_forComponent(const gx::Ref<gx::GXBasePickerView>& sender, const gx::NSNumber& value,
                                                        gx::NSInteger) override {
         const auto keep = gx::refTo(this);

@@ -221,8 +221,12 @@ Ref<UITableViewCell> EntryList::tableView_cellForRowAtIndexPath(const Ref<UITabl
 
 CGFloat EntryList::pickerHeight() const {
     const double row = GXStyleSheet::globalStyleSheet()->pickerRowHeight();
-    const CGFloat room = highestShareOfPicker * table_->bounds().size.height;
-    return std::round(std::clamp(room, fewestRowsOfWheel * row, rowsOfWheel * row));
+    const CGSize table = table_->bounds().size;
+    const CGFloat usual = std::clamp(highestShareOfPicker * table.height, fewestRowsOfWheel * row, rowsOfWheel * row);
+    if (GXStyleSheet::globalStyleSheet()->textScale() <= 1 || !rows_.open()) return std::round(usual);
+    // Two wheels that are one above the other need more, but no more than is in sight at once.
+    const CGFloat needed = measurement(*rows_.open())->smallestPickerHeightForWidth(table.width);
+    return std::round(std::max(usual, std::min(needed, table.height)));
 }
 
 CGFloat EntryList::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) {

@@ -198,6 +198,8 @@ void GXBasePickerView::sizeFontsToFit() {
     });
 }
 
+CGFloat GXBasePickerView::smallestHeightForWidth(CGFloat) { return fewestRows * CGFloat{rowHeight_}; }
+
 // What the wheel asks
 
 NSInteger GXBasePickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }

@@ -120,6 +120,9 @@ public:
     ///   get the same fonts.
     /// - Without a wheel, or in an empty frame, nothing happens.
     virtual void sizeFontsToFit();
+    /// The least height at which the picker shows its rows well, in a view of this width: three
+    /// rows of its wheel, or of both wheels of a composite that needs one above the other.
+    virtual CGFloat smallestHeightForWidth(CGFloat width);
 
     /// Selects the row of the current value, without animation. A value below the minimum leaves
     /// the selection alone.
@@ -163,6 +166,9 @@ public:
                                                                                 NSInteger component) override;
 
 protected:
+    /// Fewer rows in sight look like no wheel. Chosen by eye.
+    static constexpr double fewestRows = 3;
+
     /// Gives the defaults and makes the wheel. A composite overrides it to have neither.
     virtual void initGXBasePickerView();
     /// Called once at the end of every initialiser: where a subclass sets itself up, after its

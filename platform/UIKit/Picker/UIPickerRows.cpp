@@ -9,14 +9,9 @@ namespace {
 // A moving column has one row more in sight at some moments than at others; one view waits for it
 // on either side.
 constexpr std::size_t poolSize = 2;
-// In points. Chosen to fill a row as the pickers' own rows do.
-constexpr CGFloat titleFontSize = 22;
-
 Ref<UILabel> makeTitleLabel() {
-    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(titleFontSize, UIFontWeight::Medium);
     auto label = create<UILabel>(CGRectNull);
     label->setTextAlignment(NSTextAlignmentCenter);
-    label->setFont(font);
     return label;
 }
 
@@ -57,6 +52,7 @@ void UIPickerRows::showRow(NSInteger component, NSInteger row) {
     const UIPickerColumn::Row own = column->takeRow(row, false);
     auto label = std::static_pointer_cast<UILabel>(own.view);
     if (!label) label = makeTitleLabel();
+    label->setFont(owner_.titleFont());
     const Ref<NSAttributedString> attributed = delegate ? owner_.attributedTitleForRow(delegate, row, component) : nullptr;
     if (attributed) {
         label->setAttributedText(attributed);

@@ -45,6 +45,7 @@ public:
     std::optional<std::string> accessibilityValue(const Delegate& delegate, NSInteger row, NSInteger component) override {
         return of(delegate).pickerView_accessibilityValueForRow_forComponent(self(), row, component);
     }
+    Ref<UIFont> titleFont() override { return wheel.titleFont(); }
     NSInteger componentCount() override { return wheel.numberOfComponents(); }
     NSInteger selectedRow(NSInteger component) override { return wheel.selectedRowInComponent(component); }
     NSInteger rowCount(NSInteger component) override { return wheel.numberOfRowsInComponent(component); }
@@ -94,12 +95,6 @@ void UIPickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {
     implementation_->invalidate();
 }
 
-void UIPickerView::setShowsSelectionIndicator(bool shows) {
-    if (shows == showsSelectionIndicator_) return;
-    showsSelectionIndicator_ = shows;
-    setNeedsDisplay();
-}
-
 void UIPickerView::setFrame(CGRect frame) {
     const CGSize before = bounds().size;
     UIView::setFrame(frame);
@@ -115,6 +110,11 @@ void UIPickerView::setBounds(CGRect newBounds) {
 void UIPickerView::exchangeComponents(NSInteger one, NSInteger other) {
     if (one < 0 || other < 0 || one >= highestComponentCount || other >= highestComponentCount) return;
     if (implementation_->components.exchange(one, other)) setNeedsDisplay();
+}
+
+Ref<UIFont> UIPickerView::titleFont() {
+    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(titleFontSize, UIFontWeight::Medium);
+    return font;
 }
 
 // Queries

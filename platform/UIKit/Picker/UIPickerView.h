@@ -123,6 +123,8 @@ public:
     static constexpr CGFloat defaultRowHeight = 32;
     /// Between two columns. Prescribed by the phone's wheel.
     static constexpr CGFloat columnGap = 5;
+    /// In points. Chosen to fill a row as the pickers' own rows do.
+    static constexpr CGFloat titleFontSize = 22;
     /// Chosen: more columns than fit on any screen. The bound keeps a wrong count from filling the
     /// memory.
     static constexpr NSInteger highestComponentCount = 256;
@@ -137,7 +139,11 @@ public:
 
     /// Whether the rounded bar behind the row in the middle is drawn. Default true.
     bool showsSelectionIndicator() const { return showsSelectionIndicator_; }
-    void setShowsSelectionIndicator(bool shows);
+    void setShowsSelectionIndicator(bool shows) {
+        if (shows == showsSelectionIndicator_) return;
+        showsSelectionIndicator_ = shows;
+        setNeedsDisplay();
+    }
     /// Where it is drawn, in this view's coordinates; empty without columns.
     CGRect selectionIndicatorFrame();
     /// Draws one, for a view that spans several wheels with it and hides theirs.
@@ -218,6 +224,9 @@ protected:
     /// is reported. Either may be a component that does not exist yet, or not any more. Ignored for
     /// one that cannot exist.
     void exchangeComponents(NSInteger one, NSInteger other);
+    /// The font of rows with titles, attributed ones without a font of their own included. Read
+    /// whenever a row is bound. Here 22 points, medium.
+    virtual Ref<UIFont> titleFont();
 
 private:
     class Implementation;

@@ -93,6 +93,11 @@ Ref<GXStyleSheetFont> resized(const Ref<GXStyleSheetFont>& font, int size) {
 
 } // namespace
 
+bool showAllTextsInStyleSheetFonts(const std::vector<Ref<GXMultiValuePickerView>>& wheels) {
+    const Ref<GXStyleSheetFont> values = GXStyleSheet::globalStyleSheet()->pickerValueFont();
+    return !values || showAllTexts(wheels, values);
+}
+
 void chooseLargestFonts(const std::vector<Ref<GXMultiValuePickerView>>& wheels, const GXFontSetter& setFonts) {
     const Ref<GXStyleSheet> sheet = GXStyleSheet::globalStyleSheet();
     const Ref<GXStyleSheetFont> values = sheet->pickerValueFont();

@@ -19,4 +19,8 @@ using GXFontSetter = std::function<void(const Ref<GXStyleSheetFont>& valueFont, 
 /// - The smallest size stays, whether it fits or not.
 void chooseLargestFonts(const std::vector<Ref<GXMultiValuePickerView>>& wheels, const GXFontSetter& setFonts);
 
+/// Whether the wheels show all of their texts, if they have the style sheet's fonts and no others.
+/// They are laid out.
+bool showAllTextsInStyleSheetFonts(const std::vector<Ref<GXMultiValuePickerView>>& wheels);
+
 } // namespace gx

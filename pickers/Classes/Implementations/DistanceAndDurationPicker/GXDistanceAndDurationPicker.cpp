@@ -19,18 +19,17 @@ void showSelectionIndicator(const Ref<GXBasePickerView>& picker, bool shows) {
 
 } // namespace
 
-void GXDistanceAndDurationPicker::initGXBasePickerView() {}
-
 void GXDistanceAndDurationPicker::didInitialize() {
-    GXBasePickerView::didInitialize();
+    GXCompositePickerView::didInitialize();
     if (!givenRowHeight()) initGXDistanceAndDurationPicker();
+    updateStacking();
 }
 
 void GXDistanceAndDurationPicker::initGXDistanceAndDurationPicker() {
-    const Ref<GXDistancePickerView> distance = create<GXDistancePickerView>(distanceFrame());
+    const Ref<GXDistancePickerView> distance = create<GXDistancePickerView>(frameSideBySide(Place::First, bounds()));
     setDistancePicker(distance);
     distance->setDelegate(refTo(this));
-    const Ref<GXDurationPickerView> duration = create<GXDurationPickerView>(durationFrame());
+    const Ref<GXDurationPickerView> duration = create<GXDurationPickerView>(frameSideBySide(Place::Second, bounds()));
     setDurationPicker(duration);
     duration->setDelegate(refTo(this));
     addSubview(distance);
@@ -51,7 +50,7 @@ void GXDistanceAndDurationPicker::setDurationPicker(Ref<GXDurationPickerView> pi
 
 void GXDistanceAndDurationPicker::moveSelectionIndicator(const Ref<GXBasePickerView>& from, const Ref<GXBasePickerView>& to) {
     if (!wheelInside(from)) showSelectionIndicator(from, true);
-    showSelectionIndicator(to, false);
+    showSelectionIndicator(to, isStacked());
     setNeedsDisplay();
 }
 
@@ -65,7 +64,8 @@ Ref<GXMultiValuePickerView> GXDistanceAndDurationPicker::wheelInside(const Ref<G
 }
 
 void GXDistanceAndDurationPicker::drawRect(UIGraphicsContext& context, CGRect rect) {
-    GXBasePickerView::drawRect(context, rect);
+    GXCompositePickerView::drawRect(context, rect);
+    if (isStacked()) return;
     CGRect indicator;
     CGFloat margin = 0;
     if (const Ref<GXMultiValuePickerView> distance = wheelInside(distancePicker())) {
@@ -82,44 +82,22 @@ void GXDistanceAndDurationPicker::drawRect(UIGraphicsContext& context, CGRect re
     UIPickerView::drawSelectionIndicator(context, indicator);
 }
 
-std::vector<Ref<GXBasePickerView>> GXDistanceAndDurationPicker::innerPickers() const {
-    std::vector<Ref<GXBasePickerView>> pickers;
-    if (distancePicker()) pickers.push_back(distancePicker());
-    if (durationPicker()) pickers.push_back(durationPicker());
-    return pickers;
-}
-
-CGRect GXDistanceAndDurationPicker::distanceFrame() const {
-    return CGRectMake(0, 0, CGRectGetMidX(bounds()) + distanceBeyondMiddle, CGRectGetHeight(bounds()));
-}
-
-CGRect GXDistanceAndDurationPicker::durationFrame() const {
-    const CGFloat middle = CGRectGetMidX(bounds());
-    return CGRectMake(middle - durationBeforeMiddle, 0, middle + durationBeforeMiddle, CGRectGetHeight(bounds()));
-}
-
-// In each of these the inner pickers are held by copies: what is told to the first may replace it,
-// or the second.
-
-void GXDistanceAndDurationPicker::setFrame(CGRect frame) {
+void GXDistanceAndDurationPicker::stackingDidChange() {
     const Ref<GXBasePickerView> keep = self();
-    GXBasePickerView::setFrame(frame);
-    if (const Ref<GXDistancePickerView> picker = distancePicker()) picker->setFrame(distanceFrame());
-    if (const Ref<GXDurationPickerView> picker = durationPicker()) picker->setFrame(durationFrame());
+    GXCompositePickerView::stackingDidChange();
+    showSelectionIndicator(distancePicker(), isStacked());
+    showSelectionIndicator(durationPicker(), isStacked());
 }
 
-void GXDistanceAndDurationPicker::setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) {
-    const Ref<GXBasePickerView> keep = self();
-    GXBasePickerView::setDelegate(delegate);
-    if (const Ref<GXDistancePickerView> picker = distancePicker()) picker->setDelegate(delegate);
-    if (const Ref<GXDurationPickerView> picker = durationPicker()) picker->setDelegate(delegate);
+Ref<GXBasePickerView> GXDistanceAndDurationPicker::innerPicker(Place place) const {
+    if (place == Place::First) return distancePicker();
+    return durationPicker();
 }
 
-void GXDistanceAndDurationPicker::setIsMetric(bool isMetric) {
-    const Ref<GXBasePickerView> keep = self();
-    GXBasePickerView::setIsMetric(isMetric);
-    if (const Ref<GXDistancePickerView> picker = distancePicker()) picker->setIsMetric(isMetric);
-    if (const Ref<GXDurationPickerView> picker = durationPicker()) picker->setIsMetric(isMetric);
+CGRect GXDistanceAndDurationPicker::frameSideBySide(Place place, CGRect bounds) const {
+    const CGFloat middle = CGRectGetMidX(bounds);
+    if (place == Place::First) return CGRectMake(0, 0, middle + distanceBeyondMiddle, CGRectGetHeight(bounds));
+    return CGRectMake(middle - durationBeforeMiddle, 0, middle + durationBeforeMiddle, CGRectGetHeight(bounds));
 }
 
 void GXDistanceAndDurationPicker::selectCurrentValue() {}

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "GXCompositePickerView.h"
 #include "GXDistancePickerView.h"
 #include "GXDurationPickerView.h"
 #include "GXExport.h"
 
 namespace gx {
 
-/// Picks a workout's distance and duration, on two pickers side by side.
+/// Picks a workout's distance and duration, on two pickers side by side or, if the user's text size
+/// needs it and the height allows it, one above the other (see `GXCompositePickerView`).
 ///
 /// It has no wheel and no numbers of its own: range, step and value belong to the inner pickers, in
 /// metres and milliseconds, and are set there. Its own setters of numbers and fonts only store, and
@@ -19,9 +21,9 @@ namespace gx {
 /// - Before, they report to this picker, which passes it on to a delegate as its own notice:
 ///   component 0 for the distance, 1 for the duration.
 ///
-/// The two overlap by 25 points around the middle, where the one's unit ends and the other's wheels
-/// begin; the duration lies on top.
-class GX_EXPORT GXDistanceAndDurationPicker : public GXBasePickerView, public GXBasePickerViewDelegate {
+/// Side by side, the two overlap by 25 points around the middle, where the one's unit ends and the
+/// other's wheels begin; the duration lies on top.
+class GX_EXPORT GXDistanceAndDurationPicker : public GXCompositePickerView, public GXBasePickerViewDelegate {
 public:
     /// The components of the notices that this picker passes on.
     static constexpr NSInteger distanceComponent = 0;
@@ -41,18 +43,10 @@ public:
     virtual const Ref<GXDurationPickerView>& durationPicker() const { return durationPicker_; }
     virtual void setDurationPicker(Ref<GXDurationPickerView> picker);
 
-    /// Places the inner pickers by the new bounds, each over its half and a little more.
-    void setFrame(CGRect frame) override;
-    /// The one selection indicator that spans both wheels, at the height of the distance's or,
-    /// without a distance picker in this view, of the duration's.
+    /// The one selection indicator that spans both wheels side by side, at the height of the
+    /// distance's or, without a distance picker in this view, of the duration's. Stacked wheels
+    /// have their own.
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
-    /// Also hands the delegate, or nothing, to the inner pickers; from then on they no longer
-    /// report here.
-    void setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) override;
-    using GXBasePickerView::setDelegate;
-    /// Also sets the flag of the inner pickers; the duration has no unit systems and only stores
-    /// it.
-    void setIsMetric(bool isMetric) override;
     /// Does nothing: there is no wheel to turn.
     void selectCurrentValue() override;
 
@@ -63,17 +57,16 @@ public:
                                                        NSInteger component) override;
 
 protected:
-    /// Does nothing, so that there is neither a wheel nor a range.
-    void initGXBasePickerView() override;
-    std::vector<Ref<GXBasePickerView>> innerPickers() const override;
     void didInitialize() override;
+    Ref<GXBasePickerView> innerPicker(Place place) const override;
+    /// Each picker over its half and a little more.
+    CGRect frameSideBySide(Place place, CGRect bounds) const override;
+    void stackingDidChange() override;
     virtual void initGXDistanceAndDurationPicker();
 
 private:
     Ref<GXMultiValuePickerView> wheelInside(const Ref<GXBasePickerView>& picker) const;
     void moveSelectionIndicator(const Ref<GXBasePickerView>& from, const Ref<GXBasePickerView>& to);
-    CGRect distanceFrame() const;
-    CGRect durationFrame() const;
 
     Ref<GXDistancePickerView> distancePicker_;
     Ref<GXDurationPickerView> durationPicker_;

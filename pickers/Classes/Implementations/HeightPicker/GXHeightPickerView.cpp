@@ -1,11 +1,14 @@
 #include "GXHeightPickerView.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXStyleSheet.h"
 #include "GXValueText.h"
 #include "NSArithmetic.h"
+#include "UITextEngine.h"
 
 namespace gx {
 
@@ -81,10 +84,14 @@ void GXHeightPickerView::setHeightInCm(CGFloat height) {
 void GXHeightPickerView::setIsMetric(bool isMetric) {
     if (isMetric != isMetric_) exchangeComponents(metricUnitComponent, imperialUnitComponent);
     isMetric_ = isMetric;
+    titleFont_ = nullptr; // Other columns, other titles.
     reload();
 }
 
-void GXHeightPickerView::reloadData() { reloadAllComponents(); }
+void GXHeightPickerView::reloadData() {
+    titleFont_ = nullptr; // The unit's names may be longer.
+    reloadAllComponents();
+}
 
 void GXHeightPickerView::reload() {
     const Ref<GXHeightPickerView> keep = refTo(this);
@@ -148,6 +155,29 @@ void GXHeightPickerView::recalculateHeight() {
 Ref<NSAttributedString> GXHeightPickerView::styleString(std::optional<std::string> text) const {
     if (!text) return nullptr;
     return NSAttributedString::attributedStringWithString_attributes(*std::move(text), {nullptr, tintColor()});
+}
+
+Ref<UIFont> GXHeightPickerView::titleFont() {
+    const double scale = GXStyleSheet::globalStyleSheet()->textScale();
+    if (scale == 1) return UIPickerView::titleFont();
+    if (!titleFont_ || titleScale_ != scale) titleFont_ = scaledTitleFont(scale);
+    titleScale_ = scale;
+    return titleFont_;
+}
+
+Ref<UIFont> GXHeightPickerView::scaledTitleFont(double scale) {
+    const Ref<UIFont> font = UIPickerView::titleFont();
+    const Ref<UITextEngine> engine = UITextEngine::shared();
+    double fitting = scale;
+    for (NSInteger component = 0; component < numberOfComponentsInPickerView(nullptr); ++component) {
+        const CGFloat width = pickerView_widthForComponent(nullptr, component);
+        for (NSInteger row = 0; row < pickerView_numberOfRowsInComponent(nullptr, component); ++row) {
+            const std::optional<std::string> title = titleOfRow(row, shownIn(component));
+            const CGSize size = title ? engine->sizeOfText_font(*title, *font) : CGSize{};
+            if (size.width > 0 && size.height > 0) fitting = std::min({fitting, width / size.width, rowHeight / size.height});
+        }
+    }
+    return UIFont::systemFontOfSize_weight(std::floor(fitting * font->pointSize()), font->weight());
 }
 
 std::string GXHeightPickerView::currentValueText() {

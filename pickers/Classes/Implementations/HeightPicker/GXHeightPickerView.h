@@ -68,7 +68,7 @@ public:
 
     /// The height as the wheel shows it: "176 cm", or "5' 9\"". It needs no window.
     ///
-    /// Its columns are made for the wheel's own font, so there are no fonts to fit.
+    /// There are no fonts to fit by hand: see `titleFont`.
     virtual std::string currentValueText();
 
     /// Makes the picker its own data source and delegate, and its rows black. Selects nothing.
@@ -116,16 +116,25 @@ public:
     std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                                 NSInteger component) override;
 
+protected:
+    /// The wheel's own font, scaled as the style sheet's, up to the size at which every title fits
+    /// into its row and its column: those have fixed sizes.
+    Ref<UIFont> titleFont() override;
+
 private:
     /// What a component shows. The unit comes after the values, and so does every component that
     /// does not exist.
     enum class Shown { Centimetres, Feet, Inches, Unit };
     Shown shownIn(NSInteger component) const;
     std::optional<std::string> titleOfRow(NSInteger row, Shown shown) const;
+    Ref<UIFont> scaledTitleFont(double scale);
 
     CGFloat heightInCm_ = 0;
     bool isMetric_ = false;
     WeakRef<GXHeightPickerViewDelegate> heightDelegate_;
+    // Made when first needed after a reload.
+    Ref<UIFont> titleFont_;
+    double titleScale_ = 0;
 };
 
 } // namespace gx

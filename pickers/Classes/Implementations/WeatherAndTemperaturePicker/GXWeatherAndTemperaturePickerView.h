@@ -1,13 +1,15 @@
 #pragma once
 
+#include "GXCompositePickerView.h"
 #include "GXExport.h"
 #include "GXIconPickerView.h"
 #include "GXTemperaturePickerView.h"
 
 namespace gx {
 
-/// Picks a workout's weather: an icon and a temperature, on two pickers side by side with rows of
-/// the same height.
+/// Picks a workout's weather: an icon and a temperature, on two pickers with rows of the same
+/// height. They are side by side or, if the user's text size needs it and the height allows it, one
+/// above the other (see `GXCompositePickerView`).
 ///
 /// It has no wheel and no numbers of its own: the images, the chosen index and the temperature
 /// belong to the inner pickers and are set there. Its own setters of numbers and fonts only store,
@@ -17,9 +19,9 @@ namespace gx {
 /// straight, each as the sender and for component 0, so compare the sender with `weatherPicker` and
 /// `temperaturePicker`. Before `setDelegate`, nothing is reported.
 ///
-/// The two meet 30 points left of the middle. In less than 60 points there is no room for the
-/// icons: the weather picker's frame then has a negative width.
-class GX_EXPORT GXWeatherAndTemperaturePickerView : public GXBasePickerView {
+/// Side by side, the two meet 30 points left of the middle. In less than 60 points there is no room
+/// for the icons: the weather picker's frame then has a negative width.
+class GX_EXPORT GXWeatherAndTemperaturePickerView : public GXCompositePickerView {
 public:
     /// Held strongly. It has no rows until it is given its images. The setters of both pickers
     /// store only: neither subviews nor frames, delegate or unit system follow. Without one, what
@@ -29,19 +31,10 @@ public:
     virtual const Ref<GXTemperaturePickerView>& temperaturePicker() const { return temperaturePicker_; }
     virtual void setTemperaturePicker(Ref<GXTemperaturePickerView> picker) { temperaturePicker_ = std::move(picker); }
 
-    /// Places the inner pickers by the new bounds.
-    void setFrame(CGRect frame) override;
-    /// Also hands the delegate, or nothing, to the inner pickers.
-    void setDelegate(WeakRef<GXBasePickerViewDelegate> delegate) override;
-    using GXBasePickerView::setDelegate;
-    /// Also sets the flag of the inner pickers; the weather picker only stores it.
-    void setIsMetric(bool isMetric) override;
-
 protected:
-    /// Does nothing, so that there is neither a wheel nor a range.
-    void initGXBasePickerView() override;
-    std::vector<Ref<GXBasePickerView>> innerPickers() const override;
     void didInitialize() override;
+    Ref<GXBasePickerView> innerPicker(Place place) const override;
+    CGRect frameSideBySide(Place place, CGRect bounds) const override;
     /// Makes the inner pickers. Their rows are as high as the initialiser was told, else as the
     /// style sheet says of images.
     virtual void initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight);
@@ -49,9 +42,6 @@ protected:
     float initialRowHeight() const override;
 
 private:
-    CGRect weatherFrame() const;
-    CGRect temperatureFrame() const;
-
     Ref<GXIconPickerView> weatherPicker_;
     Ref<GXTemperaturePickerView> temperaturePicker_;
 };

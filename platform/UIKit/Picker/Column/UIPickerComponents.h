@@ -36,6 +36,7 @@ public:
     virtual std::optional<std::string> accessibilityValue(const Delegate& delegate, NSInteger row, NSInteger component) = 0;
 
     // What subclasses of the wheel may override.
+    virtual Ref<UIFont> titleFont() = 0;
     virtual NSInteger componentCount() = 0;
     virtual NSInteger selectedRow(NSInteger component) = 0;
     virtual NSInteger rowCount(NSInteger component) = 0;

@@ -1,6 +1,7 @@
 // The entry screen after a change of the settings.
 
 #include "EntryScreenTest.h"
+#include "ProportionalTextEngine.h"
 
 #include <cmath>
 
@@ -43,6 +44,25 @@ TEST_F(EntryScreenTest, LargeTextMakesThePickersAgainAtTheirSize) {
     choose(settings);
     EXPECT_EQ(wheels()[0]->rowSizeForComponent(0).height, 80);
     EXPECT_GT(table()->rectForRowAtIndexPath({0, 0}).size.height, 1.5 * rowBefore);
+}
+
+TEST_F(EntryScreenTest, LargeTextStacksThePickersOfACompositeAndGivesThemTheHeight) {
+    UITextEngine::setShared(create<ProportionalTextEngine>());
+    openEntry();
+    tapRow("Distance and time");
+    const auto frameOf = [this](std::size_t i) {
+        return wheels()[i]->convertRect_toView(wheels()[i]->bounds(), entry()->openPickerCell());
+    };
+    EXPECT_EQ(CGRectGetMinY(frameOf(0)), CGRectGetMinY(frameOf(1)));
+    Settings settings = screen->settings();
+    settings.textScale = 2;
+    choose(settings);
+    ASSERT_EQ(wheels().size(), 2U);
+    EXPECT_EQ(CGRectGetMaxY(frameOf(0)), CGRectGetMinY(frameOf(1)));
+    EXPECT_GE(frameOf(0).size.height, 3 * 80);
+    EXPECT_EQ(frameOf(0).size, frameOf(1).size);
+    EXPECT_LE(CGRectGetMaxY(frameOf(1)), table()->bounds().size.height);
+    UITextEngine::setShared(nullptr);
 }
 
 TEST_F(EntryScreenTest, AWheelThatSpinsLandsBeforeTheUnitsChange) {
