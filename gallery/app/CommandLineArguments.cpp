@@ -56,8 +56,8 @@ std::optional<double> textScale(const std::string& text) {
 }
 
 bool isOption(const std::string& word) {
-    constexpr std::array<std::string_view, 7> options = {"--shots", "--size",       "--scale",   "--locale",
-                                                         "--page",  "--text-scale", "--contrast"};
+    constexpr std::array<std::string_view, 9> options = {"--shots",      "--size",     "--scale",  "--locale", "--page",
+                                                         "--text-scale", "--contrast", "--record", "--replay"};
     return std::find(options.begin(), options.end(), word) != options.end();
 }
 
@@ -83,6 +83,8 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
         if (option == "--shots") parsed.pictureFolder = value;
         if (option == "--locale") parsed.locale = value;
         if (option == "--page") parsed.page = value;
+        if (option == "--record") parsed.recordingToWrite = value;
+        if (option == "--replay") parsed.recordingToPlay = value;
         if (option == "--size" && !(parsed.size = gallery::size(value))) {
             error = "--size is a width and a height of 320 to 4096 points, such as 900x640, and not " + value;
             return std::nullopt;
@@ -111,6 +113,10 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
             parsed.isContrastHigh = value == "high";
         }
     }
+    if (parsed.recordingToWrite && (parsed.recordingToPlay || parsed.pictureFolder)) {
+        error = "--record needs a window, and goes with neither --replay nor --shots";
+        return std::nullopt;
+    }
     return parsed;
 }
 
@@ -125,6 +131,8 @@ std::string CommandLineArguments::usage() {
            "  --locale NAME  decimal separator and language of the pickers, such as de or fr_CH; the system's unless told\n"
            "  --text-scale N how large texts are, 0.8 to 3; 1 unless told\n"
            "  --contrast C   of the colours, normal or high; normal unless told\n"
+           "  --record FILE  write all that you do into FILE, to be played again; F12 marks a picture\n"
+           "  --replay FILE  play that without a window, and print what is shown at the end; with --shots DIR also pictures\n"
            "  --help         show this text\n";
 }
 

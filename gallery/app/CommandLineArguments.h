@@ -13,6 +13,9 @@ struct CommandLineArguments {
     bool showsHelp = false;
     /// The folder to write pictures to; without one the window opens.
     std::optional<std::string> pictureFolder;
+    /// The file to write all events to, or to play them from.
+    std::optional<std::string> recordingToWrite;
+    std::optional<std::string> recordingToPlay;
     /// The size of the window, or of each picture.
     std::optional<gx::CGSize> size;
     /// Pixels for each point of a picture.

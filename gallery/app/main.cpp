@@ -7,9 +7,10 @@
 
 #include "CommandLineArguments.h"
 #include "MainScreen.h"
+#include "QtClicks.h"
 #include "QtFiles.h"
 #include "QtPictures.h"
-#include <GXUIPickers/GXLocalization.h>
+#include "QtRecording.h"
 #include <GXUIPickers/QtHost.h>
 #include <GXUIPickers/UIViewWidget.h>
 
@@ -44,14 +45,18 @@ bool loadFonts() {
     return false;
 }
 
-/// Units follow the language, and numbers its decimal separator.
-void setLocale(const std::optional<std::string>& name) {
-    if (name) NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier(*name));
-    const auto identifier = NSLocale::currentLocale()->objectForKey(NSLocaleIdentifier);
-    GXLocalization::sharedLocalization()->setLanguage(identifier.value_or("en"));
+int report(const std::string& problem) {
+    std::cerr << "gallery: " << problem << "\n";
+    return CannotWrite;
 }
 
-int showWindow(const Ref<MainScreen>& screen, const CommandLineArguments& arguments) {
+int replay(const CommandLineArguments& arguments) {
+    const ReplayResult result = replayFile(*arguments.recordingToPlay, arguments.pictureFolder);
+    std::cout << result.values;
+    return result.problem ? report(*result.problem) : Done;
+}
+
+int showWindow(const Ref<MainScreen>& screen, const CommandLineArguments& arguments, const RecordingStart& start, QtClicks* clicks) {
     constexpr CGSize usualSize = {900, 640};
     const CGSize size = arguments.size.value_or(usualSize);
     qt::UIViewWidget widget;
@@ -59,12 +64,22 @@ int showWindow(const Ref<MainScreen>& screen, const CommandLineArguments& argume
     widget.setMinimumSize(320, 320);
     widget.resize(static_cast<int>(size.width), static_cast<int>(size.height));
     widget.setRootView(screen);
+    std::shared_ptr<UserFiles> files = std::make_shared<QtFiles>(&widget);
+    std::unique_ptr<QtRecording> recording;
+    if (arguments.recordingToWrite) {
+        std::string error;
+        recording = QtRecording::begin(*arguments.recordingToWrite, widget, start, error);
+        if (!recording) return report(error);
+        files = recording->recorded(files);
+    }
     screen->setStyleAction([&widget](std::optional<UIUserInterfaceStyle> style) { widget.setUserInterfaceStyle(style); });
-    screen->entry()->setFiles(std::make_shared<QtFiles>(&widget));
+    if (clicks) widget.setWheelTickHandler([&widget, clicks] { clicks->click(widget.now()); });
+    screen->entry()->setFiles(files);
     widget.show();
     const int result = QApplication::exec();
     screen->setStyleAction(nullptr);
     screen->entry()->setFiles(nullptr);
+    if (recording && !recording->isComplete()) return report("The recording could not be written to its end.");
     return result;
 }
 
@@ -82,7 +97,7 @@ int main(int argc, char** argv) {
         std::cout << CommandLineArguments::usage();
         return Done;
     }
-    if (arguments->pictureFolder) {
+    if (arguments->pictureFolder || arguments->recordingToPlay) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         std::cerr << "gallery: there is no display to open a window on; neither DISPLAY nor WAYLAND_DISPLAY is set.\n"
@@ -93,26 +108,22 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     qt::installQtHost(application);
     if (!loadFonts()) return CannotStart;
-    setLocale(arguments->locale);
+    if (arguments->recordingToPlay) return replay(*arguments);
 
-    const auto screen = create<MainScreen>(CGRectZero);
-    Settings settings = screen->settings();
-    settings.textScale = arguments->textScale;
-    settings.contrast = arguments->isContrastHigh ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal;
-    screen->setSettings(settings);
-    if (arguments->page) {
-        const auto index = screen->indexOfPage(*arguments->page);
-        if (!index) {
-            std::cerr << "gallery: there is no page " << *arguments->page << ". The pages are:\n";
-            for (const std::string& name : screen->pageNames()) std::cerr << "  " << name << "\n";
-            return CannotStart;
-        }
-        screen->showPage(*index);
+    if (arguments->locale) NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier(*arguments->locale));
+    RecordingStart start = RecordingStart::withCurrentLocale();
+    start.textScale = arguments->textScale;
+    start.isContrastHigh = arguments->isContrastHigh;
+    start.page = arguments->page.value_or(start.page);
+    const std::unique_ptr<QtClicks> clicks = arguments->pictureFolder ? nullptr : QtClicks::make();
+    start.offersClicks = clicks != nullptr;
+    const Ref<MainScreen> screen = start.makeScreen();
+    if (!screen) {
+        std::cerr << "gallery: there is no page " << start.page << ". The pages are:\n";
+        for (const std::string& name : create<MainScreen>(CGRectZero)->pageNames()) std::cerr << "  " << name << "\n";
+        return CannotStart;
     }
-    if (!arguments->pictureFolder) return showWindow(screen, *arguments);
-    if (const auto problem = writePictures(screen, *arguments)) {
-        std::cerr << "gallery: " << *problem << "\n";
-        return CannotWrite;
-    }
-    return Done;
+    if (!arguments->pictureFolder) return showWindow(screen, *arguments, start, clicks.get());
+    const auto problem = writePictures(screen, *arguments);
+    return problem ? report(*problem) : Done;
 }

@@ -22,6 +22,8 @@ struct Settings {
     std::optional<std::string> decimalSeparator;
     gx::UIAccessibilityContrast contrast = gx::UIAccessibilityContrast::Normal;
     bool reducesMotion = false;
+    /// Whether wheels click. Without a value nobody could hear it, and it is not offered.
+    std::optional<bool> clicks;
 
     /// Passes text size, language and separator to the services of the pickers.
     ///

@@ -160,6 +160,7 @@ void MainScreen::showEase() {
     if (!shownIn) return;
     shownIn->setAccessibilityContrast(settings_.contrast);
     shownIn->setReducesMotion(settings_.reducesMotion);
+    if (settings_.clicks) shownIn->setFeedbackEnabled(*settings_.clicks);
 }
 
 void MainScreen::didMoveToWindow() {

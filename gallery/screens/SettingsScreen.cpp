@@ -132,6 +132,10 @@ void SettingsScreen::makeControls() {
               [](Settings& settings, std::size_t choice) { settings.decimalSeparator = separators().at(choice); });
     addChoice("Motion", {text("Full"), text("Reduced")}, settings_.reducesMotion ? 1 : 0,
               [](Settings& settings, std::size_t choice) { settings.reducesMotion = choice == 1; });
+    if (settings_.clicks) {
+        addChoice("Wheel clicks", {text("Off"), text("On")}, *settings_.clicks ? 1 : 0,
+                  [](Settings& settings, std::size_t choice) { settings.clicks = choice == 1; });
+    }
 
     for (const std::string& identifier : GXLocalization::availableLanguages()) {
         const auto button = Button::buttonWithTitle_style(GXLocalization::nameOfLanguage(identifier), Button::Style::Row);

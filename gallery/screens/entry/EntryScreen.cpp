@@ -42,6 +42,7 @@ void EntryScreen::setSettings(const Settings& settings) {
     drawnAlike.style = settings_.style;
     drawnAlike.contrast = settings_.contrast;
     drawnAlike.reducesMotion = settings_.reducesMotion;
+    drawnAlike.clicks = settings_.clicks;
     const bool isSame = drawnAlike == settings_;
     const bool isOtherLanguage = settings.language != settings_.language;
     if (!isSame) finishSpins();

@@ -9,18 +9,32 @@
 
 namespace gx::qt {
 
-QImage imageOfView(const Ref<UIView>& view, CGSize size, double scale, UIUserInterfaceStyle style) {
+namespace {
+
+bool canDraw(CGSize size, double scale) {
     // Qt's limit for one image.
     constexpr double largestSide = 32767;
     const double width = std::ceil(size.width * scale);
     const double height = std::ceil(size.height * scale);
-    const bool isDrawable = view && width >= 1 && height >= 1 && width <= largestSide && height <= largestSide;
-    if (!isDrawable) return {};
+    return width >= 1 && height >= 1 && width <= largestSide && height <= largestSide;
+}
+
+} // namespace
+
+QImage imageOfView(const Ref<UIView>& view, CGSize size, double scale, UIUserInterfaceStyle style) {
+    if (!view || !canDraw(size, scale)) return {};
     const Ref<UIWindow> window = create<UIWindow>(CGRect{{}, size});
     window->setUserInterfaceStyle(style);
     window->addSubview(view);
     view->setFrame(window->bounds());
-    QImage image(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied);
+    return imageOfWindow(window, scale);
+}
+
+QImage imageOfWindow(const Ref<UIWindow>& window, double scale) {
+    if (!window || !canDraw(window->bounds().size, scale)) return {};
+    const CGSize size = window->bounds().size;
+    QImage image(static_cast<int>(std::ceil(size.width * scale)), static_cast<int>(std::ceil(size.height * scale)),
+                 QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) return {};
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);

@@ -3,7 +3,7 @@
 #include <QImage>
 
 #include <GXUIPickers/GXExport.h>
-#include <GXUIPickers/UIView.h>
+#include <GXUIPickers/UIWindow.h>
 
 namespace gx::qt {
 
@@ -15,5 +15,8 @@ namespace gx::qt {
 /// - The view is taken out of its superview and ends without one.
 /// - An absent view and a size without pixels give an empty image.
 GX_EXPORT QImage imageOfView(const Ref<UIView>& view, CGSize size, double scale, UIUserInterfaceStyle style);
+
+/// Draws a window as it is, in its size and look. Nothing in it changes but its layout.
+GX_EXPORT QImage imageOfWindow(const Ref<UIWindow>& window, double scale);
 
 } // namespace gx::qt

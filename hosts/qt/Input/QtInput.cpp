@@ -91,23 +91,23 @@ bool QtInput::isDown(std::int64_t finger) const { return std::find(down_.begin()
 bool QtInput::begin(std::int64_t finger, QPointF place, NSTimeInterval time) {
     // Noted before the call, in which views may hide the widget, which cancels what is down.
     if (!isDown(finger)) down_.push_back(finger);
-    if (window_->touchBegan_at_time(finger, pointOf(place), time)) return true;
+    if (window()->touchBegan_at_time(finger, pointOf(place), time)) return true;
     std::erase(down_, finger);
     // Qt sends the rest of the touch to the widgets around.
-    window_->touchCancelled_at_time(finger, time);
+    window()->touchCancelled_at_time(finger, time);
     return false;
 }
 
 bool QtInput::move(std::int64_t finger, QPointF place, NSTimeInterval time) {
     if (!isDown(finger)) return false;
-    window_->touchMoved_at_time(finger, pointOf(place), time);
+    window()->touchMoved_at_time(finger, pointOf(place), time);
     return true;
 }
 
 bool QtInput::end(std::int64_t finger, QPointF place, NSTimeInterval time) {
     if (!isDown(finger)) return false;
     std::erase(down_, finger);
-    window_->touchEnded_at_time(finger, pointOf(place), time);
+    window()->touchEnded_at_time(finger, pointOf(place), time);
     return true;
 }
 
@@ -144,12 +144,12 @@ bool QtInput::mousePress(const QMouseEvent& event, NSTimeInterval time) {
 
 bool QtInput::mouseMove(const QMouseEvent& event, NSTimeInterval time) {
     if (!isOfMouse(event)) return false;
-    window_->pointerMoved(pointOf(event.position()));
+    window()->pointerMoved(pointOf(event.position()));
     if (!isDown(mouseFinger)) return false;
     if (event.buttons().testFlag(Qt::LeftButton)) return move(mouseFinger, event.position(), time);
     // The release went elsewhere, say to a menu.
     std::erase(down_, mouseFinger);
-    window_->touchCancelled_at_time(mouseFinger, time);
+    window()->touchCancelled_at_time(mouseFinger, time);
     return true;
 }
 
@@ -177,28 +177,28 @@ bool QtInput::wheel(const QWheelEvent& event, NSTimeInterval time) {
     } else {
         return false;
     }
-    return window_->scroll(scroll);
+    return window()->scroll(scroll);
 }
 
 bool QtInput::keyPress(const QKeyEvent& event, NSTimeInterval time) {
     // Qt calls `focusNextPrevChild` for Tab before it sends the key, and sends it if that returns
     // false.
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
-    return window_->keyDown(keyOf(event, time));
+    return window()->keyDown(keyOf(event, time));
 }
 
 bool QtInput::moveFocus(bool isForward, NSTimeInterval time) {
     UIKey key;
     key.code = isForward ? UIKey::Code::Tab : UIKey::Code::BackTab;
     key.timestamp = time;
-    return window_->keyDown(key);
+    return window()->keyDown(key);
 }
 
 void QtInput::cancelAll(NSTimeInterval time) {
     while (!down_.empty()) {
         const std::int64_t finger = down_.back();
         down_.pop_back();
-        window_->touchCancelled_at_time(finger, time);
+        window()->touchCancelled_at_time(finger, time);
     }
 }
 

@@ -4,7 +4,7 @@
 
 #include <QPointF>
 
-#include <GXUIPickers/UIWindow.h>
+#include <GXUIPickers/UIWindowInput.h>
 
 class QKeyEvent;
 class QMouseEvent;
@@ -27,7 +27,8 @@ namespace gx::qt {
 /// everything but this object, so the caller has to keep it alive.
 class QtInput {
 public:
-    explicit QtInput(Ref<UIWindow> window) : window_(std::move(window)) {}
+    explicit QtInput(Ref<UIWindowInput> window) : window_(std::move(window)) {}
+    void setWindow(Ref<UIWindowInput> window) { window_ = std::move(window); }
 
     bool touch(const QTouchEvent& event, NSTimeInterval time);
     bool mousePress(const QMouseEvent& event, NSTimeInterval time);
@@ -35,8 +36,8 @@ public:
     bool mouseRelease(const QMouseEvent& event, NSTimeInterval time);
     bool wheel(const QWheelEvent& event, NSTimeInterval time);
     /// The pointer comes into the widget, or leaves it.
-    void pointerEntered(QPointF place) { window_->pointerMoved({place.x(), place.y()}); }
-    void pointerLeft() { window_->pointerLeft(); }
+    void pointerEntered(QPointF place) { window()->pointerMoved({place.x(), place.y()}); }
+    void pointerLeft() { window()->pointerLeft(); }
     /// A key goes down or repeats. Tab is left to `moveFocus`.
     bool keyPress(const QKeyEvent& event, NSTimeInterval time);
     /// Tab, or Shift and Tab.
@@ -47,12 +48,14 @@ public:
 private:
     static constexpr std::int64_t mouseFinger = UITouch::pointerIdentifier;
 
+    /// By value: a call may set another one.
+    Ref<UIWindowInput> window() const { return window_; }
     bool isDown(std::int64_t finger) const;
     bool begin(std::int64_t finger, QPointF place, NSTimeInterval time);
     bool move(std::int64_t finger, QPointF place, NSTimeInterval time);
     bool end(std::int64_t finger, QPointF place, NSTimeInterval time);
 
-    Ref<UIWindow> window_;
+    Ref<UIWindowInput> window_;
     std::vector<std::int64_t> down_;
 };
 

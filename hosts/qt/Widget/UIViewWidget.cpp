@@ -56,8 +56,8 @@ UIUserInterfaceStyle styleOf(const QPalette& palette) {
 } // namespace
 
 UIViewWidget::UIViewWidget(QWidget* parent)
-    : QWidget(parent), window_(gx::create<UIWindow>(CGRectMake(0, 0, width(), height()))), input_(std::make_shared<QtInput>(window_)),
-      canvas_(std::make_unique<QtCanvas>()), eventClock_(std::make_unique<QtEventClock>()) {
+    : QWidget(parent), window_(gx::create<UIWindow>(CGRectMake(0, 0, width(), height()))), windowInput_(window_),
+      input_(std::make_shared<QtInput>(window_)), canvas_(std::make_unique<QtCanvas>()), eventClock_(std::make_unique<QtEventClock>()) {
     steadyClock_.start();
     frameTimer_.setSingleShot(true);
     frameTimer_.setTimerType(Qt::PreciseTimer);
@@ -87,7 +87,7 @@ QSize UIViewWidget::sizeHint() const { return rootView_ && !sizeHint_.isEmpty() 
 
 void UIViewWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    window_->setFrame(CGRectMake(0, 0, width(), height()));
+    windowInput_->setFrame(CGRectMake(0, 0, width(), height()));
     // The application may have put the view elsewhere meanwhile.
     if (rootView_ && rootView_->superview() == window_) rootView_->setFrame(window_->bounds());
 }
@@ -99,7 +99,7 @@ void UIViewWidget::setUserInterfaceStyle(std::optional<UIUserInterfaceStyle> sty
     followPalette();
 }
 
-void UIViewWidget::followPalette() { window_->setUserInterfaceStyle(fixedStyle_.value_or(styleOf(palette()))); }
+void UIViewWidget::followPalette() { windowInput_->setUserInterfaceStyle(fixedStyle_.value_or(styleOf(palette()))); }
 
 void UIViewWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
@@ -114,7 +114,8 @@ void UIViewWidget::changeEvent(QEvent* event) {
 void UIViewWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     canvas_->begin(painter);
-    window_->draw(*canvas_);
+    const Ref<UIWindowInput> window = windowInput_;
+    window->draw(*canvas_);
     canvas_->end();
 }
 
@@ -132,6 +133,11 @@ void UIViewWidget::setClock(std::function<double()> clock, FrameDriver driver) {
     driver_ = ownClock_ ? driver : FrameDriver::Timer;
     frameTimer_.stop();
     if (isFrameDue_) scheduleTick();
+}
+
+void UIViewWidget::setWindowInput(Ref<UIWindowInput> input) {
+    windowInput_ = input ? std::move(input) : window_;
+    input_->setWindow(windowInput_);
 }
 
 void UIViewWidget::windowNeedsFrame() {
@@ -152,7 +158,7 @@ void UIViewWidget::scheduleTick() {
 
 bool UIViewWidget::stepFrame() {
     const QPointer<QWidget> self(this); // A delegate may drop the widget.
-    const Ref<UIWindow> window = window_;
+    const Ref<UIWindowInput> window = windowInput_;
     const bool draws = window->tick(now());
     if (!self) return draws;
     isFrameDue_ = draws;
@@ -209,7 +215,7 @@ bool UIViewWidget::event(QEvent* event) {
 
 void UIViewWidget::hideEvent(QHideEvent* event) {
     const std::shared_ptr<QtInput> input = input_;
-    const Ref<UIWindow> window = window_;
+    const Ref<UIWindowInput> window = windowInput_;
     QWidget::hideEvent(event);
     input->pointerLeft();
     input->cancelAll(now());
@@ -228,18 +234,18 @@ bool UIViewWidget::focusNextPrevChild(bool next) {
 
 void UIViewWidget::focusInEvent(QFocusEvent* event) {
     const std::shared_ptr<QtInput> input = input_;
-    const Ref<UIWindow> window = window_;
+    const Ref<UIWindowInput> window = windowInput_;
     const double time = now();
     const Qt::FocusReason reason = event->reason();
     QWidget::focusInEvent(event);
     window->setReceivesKeys(true);
     if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
-    window->setFirstResponder(nullptr);
+    window->takeFocusAway();
     input->moveFocus(reason == Qt::TabFocusReason, time);
 }
 
 void UIViewWidget::focusOutEvent(QFocusEvent* event) {
-    const Ref<UIWindow> window = window_;
+    const Ref<UIWindowInput> window = windowInput_;
     QWidget::focusOutEvent(event);
     window->setReceivesKeys(false);
 }

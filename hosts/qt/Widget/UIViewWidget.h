@@ -61,7 +61,7 @@ public:
     UIUserInterfaceStyle userInterfaceStyle() const { return window_->userInterfaceStyle(); }
 
     /// The contrast that colours are drawn in. Default: normal.
-    void setContrast(UIAccessibilityContrast contrast) { window_->setAccessibilityContrast(contrast); }
+    void setContrast(UIAccessibilityContrast contrast) { windowInput_->setAccessibilityContrast(contrast); }
     UIAccessibilityContrast contrast() const { return window_->accessibilityContrast(); }
 
     /// Called for each row that passes a wheel's selection indicator while the user spins it: the
@@ -70,6 +70,9 @@ public:
 
     // For tests and recordings
 
+    /// What gets all that the widget would send to its window, to pass it on: a recorder. Nothing
+    /// for the window itself.
+    void setWindowInput(Ref<UIWindowInput> input);
     enum class FrameDriver {
         Timer, ///< ticks come by themselves
         Hand   ///< only `stepFrame` ticks
@@ -112,6 +115,7 @@ private:
     void followPalette();
 
     Ref<UIWindow> window_;
+    Ref<UIWindowInput> windowInput_; // The window, or what stands before it.
     Ref<UIView> rootView_;
     std::shared_ptr<QtInput> input_;
     std::unique_ptr<QtCanvas> canvas_;

@@ -34,7 +34,7 @@ void UIPickerMarks::draw(UIGraphicsContext& context, CGRect indicator) const {
     const NSInteger ofKeys = window && window->showsFocus() && wheel_.isFirstResponder() ? components_.componentOfKeys() : -1;
     if (ofKeys >= 0) UIPickerSelectionIndicator::drawFocus(context, partOf(ofKeys), wheel_.tintColor());
     if (hovered_ == ofKeys || !components_.canBeChosen(hovered_)) return;
-    if (isSpun_) {
+    if (isSpun_ && ofKeys < 0) {
         UIPickerSelectionIndicator::drawFocus(context, partOf(hovered_), wheel_.tintColor());
     } else {
         UIPickerSelectionIndicator::drawHover(context, partOf(hovered_), wheel_.tintColor());

@@ -10,7 +10,8 @@ namespace gx {
 /// pointer.
 ///
 /// The pointer's mark is quiet at first. It becomes that of the keys when the user spins the
-/// column, by the mouse wheel or a drag, and stays so until the pointer leaves the column.
+/// column, by the mouse wheel or a drag, and stays so until the pointer leaves the column. While
+/// the column of the keys is marked, that mark is the only strong one.
 class UIPickerMarks {
 public:
     UIPickerMarks(UIView& wheel, const UIPickerComponents& components) : wheel_(wheel), components_(components) {}

@@ -8,7 +8,7 @@
 /// - `NSLocale::setCurrentLocale`: the user's decimal separator and writing direction;
 /// - `NSRunLoop::mainRunLoop()->setWakeHandler`: when to call `runPass`.
 ///
-/// It gives each window that it shows:
+/// It gives each window that it shows, through `UIWindowInput`:
 /// - its size (`setFrame`), and itself with `setHost`;
 /// - what the user wants to see, at any time, also while a wheel spins: light or dark
 ///   (`setUserInterfaceStyle`), the contrast (`setAccessibilityContrast`), and whether things may
@@ -40,3 +40,4 @@
 #include "UITextEngine.h"
 #include "UIWindow.h"
 #include "UIWindowHost.h"
+#include "UIWindowInput.h"

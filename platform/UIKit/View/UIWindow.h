@@ -6,6 +6,7 @@
 #include "GXExport.h"
 #include "UIView.h"
 #include "UIWindowHost.h"
+#include "UIWindowInput.h"
 
 namespace gx {
 
@@ -18,7 +19,7 @@ class UIPointerTracking;
 /// tests.
 ///
 /// Invariant: the first responder is a view of this window, or nothing.
-class GX_EXPORT UIWindow : public UIView, public UIViewRoot {
+class GX_EXPORT UIWindow : public UIView, public UIViewRoot, public UIWindowInput {
 public:
     UIWindow();
     ~UIWindow() override;
@@ -28,13 +29,14 @@ public:
     void setHost(UIWindowHost* host);
     UIWindowHost* host() const { return host_; }
 
+    void setFrame(CGRect frame) override { UIView::setFrame(frame); }
     /// The look that colours are drawn in.
     UIUserInterfaceStyle userInterfaceStyle() const { return style_; }
-    void setUserInterfaceStyle(UIUserInterfaceStyle style);
+    void setUserInterfaceStyle(UIUserInterfaceStyle style) override;
     /// The contrast of its colours, and how much wheels fade the rows beside the selection
     /// indicator. Default normal.
     UIAccessibilityContrast accessibilityContrast() const { return contrast_; }
-    void setAccessibilityContrast(UIAccessibilityContrast contrast);
+    void setAccessibilityContrast(UIAccessibilityContrast contrast) override;
     /// Whether nothing in it moves by itself, for users who get dizzy by motion. Default false.
     ///
     /// What would glide arrives in the next tick at the latest:
@@ -45,7 +47,7 @@ public:
     /// Content that a finger has thrown stops where it was let go. What follows a finger does so as
     /// before. Turned on while something moves, it lets that arrive in the next tick.
     bool reducesMotion() const { return reducesMotion_; }
-    void setReducesMotion(bool reduces) { reducesMotion_ = reduces; }
+    void setReducesMotion(bool reduces) override { reducesMotion_ = reduces; }
 
     // From the host.
     //
@@ -57,21 +59,21 @@ public:
 
     /// A finger comes down. An identifier that is still down is cancelled first. Returns whether a
     /// view took the touch.
-    bool touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
+    bool touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) override;
     /// Unknown identifiers are ignored, here and in the next two.
-    void touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
-    void touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time);
+    void touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) override;
+    void touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) override;
     /// The system takes the finger away.
-    void touchCancelled_at_time(std::int64_t identifier, NSTimeInterval time);
+    void touchCancelled_at_time(std::int64_t identifier, NSTimeInterval time) override;
     /// Sent to the view below the location. Returns whether a view used it.
-    bool scroll(const UIScroll& scroll);
+    bool scroll(const UIScroll& scroll) override;
 
     /// The pointer is at a place in the window, whether its button is held or not.
     ///
     /// The views below it are asked what they show (`UIResponder::hoverMoved`), again before
     /// each frame until `pointerLeft`.
-    void pointerMoved(CGPoint location);
-    void pointerLeft();
+    void pointerMoved(CGPoint location) override;
+    void pointerLeft() override;
     /// How the pointer is to look now.
     UIPointerStyle pointerStyle() const;
 
@@ -83,11 +85,13 @@ public:
     ///
     /// Beyond the last one the focus is given up and the result is false, so that the host may go
     /// on to what lies around the window; the next Tab begins at the first again.
-    bool keyDown(const UIKey& key);
+    bool keyDown(const UIKey& key) override;
     /// Whether keys come to this window at present. Default true. While they do not, no focus is
     /// shown, but it is kept.
     bool receivesKeys() const { return receivesKeys_; }
-    void setReceivesKeys(bool receives);
+    void setReceivesKeys(bool receives) override;
+    /// Nobody has the focus any more, as when Tab comes in from around the window.
+    void takeFocusAway() override { setFirstResponder(nullptr); }
 
     /// Ends every movement in the window at once, for a window that closes or is hidden, so that no
     /// spin is lost.
@@ -98,9 +102,9 @@ public:
     /// Moves everything to `time`, lays out, and returns whether to draw (again).
     ///
     /// While something moves it returns true at every call; otherwise once after each change.
-    bool tick(NSTimeInterval time);
+    bool tick(NSTimeInterval time) override;
     /// Draws the frame. The canvas is the host's.
-    void draw(UIGraphicsContext& context);
+    void draw(UIGraphicsContext& context) override;
 
     /// Whether `giveFeedback` reaches the host. Default true.
     bool isFeedbackEnabled() const { return isFeedbackEnabled_; }

@@ -124,6 +124,9 @@ TEST_F(UIPickerMarks, TheColumnOfKeysIsMarkedOnceAlsoBelowThePointer) {
     std::vector<std::string> both = strongOnFirst;
     both.push_back(faintOnLast.front());
     EXPECT_EQ(marks(), both);
+    window.scrollNotches(last, 1);
+    window.runUntilStill();
+    EXPECT_EQ(marks(), both) << "the strong mark says where keys go";
 }
 
 TEST_F(UIPickerMarks, AtHighContrastTheFaintMarkIsStrongerAndHasNoBars) {

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <nlohmann/json.hpp>
+
+namespace gallery {
+
+/// Reads the members of one line of a recording, each with its check.
+///
+/// Invariant: the first problem stays in `error`; what is read after it means nothing.
+class LineReader {
+public:
+    /// In bytes. The longest line has the text of a file, escaped.
+    static constexpr std::size_t longestLine = 8U << 20U;
+    /// Far beyond any screen and any recording.
+    static constexpr double largestNumber = 1e12;
+
+    explicit LineReader(const std::string& line);
+
+    bool isGood() const { return error_.empty(); }
+    const std::string& error() const { return error_; }
+    void refuse(const std::string& reason);
+
+    double number(const char* name, double lowest = -largestNumber, double highest = largestNumber);
+    std::int64_t integer(const char* name);
+    bool flag(const char* name);
+    std::string text(const char* name);
+
+private:
+    const nlohmann::ordered_json* member(const char* name);
+
+    nlohmann::ordered_json line_;
+    std::string error_;
+};
+
+} // namespace gallery
