@@ -48,6 +48,20 @@ TEST_F(EntryScreenTest, ADamagedFileChangesNothingAndShowsAReason) {
     EXPECT_EQ(files->text, "{\"format\"");
 }
 
+TEST_F(EntryScreenTest, MessagesAreInTheChosenLanguage) {
+    openEntry();
+    Settings settings = screen->settings();
+    settings.language = "fr";
+    choose(settings);
+    tap(entry()->saveButton());
+    EXPECT_EQ(entry()->message(), "Enregistré\u00A0: workout.json");
+    tap(entry()->openButton());
+    EXPECT_EQ(entry()->message(), "Ouvert\u00A0: file.json");
+    files->text = R"({"format": "GXUIPickers workout", "version": 1, "workout": {}})";
+    tap(entry()->openButton());
+    EXPECT_EQ(entry()->message(), "file.json\u00A0: Le fichier ne contient aucun nombre pour\u00A0: distance.");
+}
+
 TEST_F(EntryScreenTest, ShowsReadAndWriteErrorsAndNothingForADismissedDialog) {
     openEntry();
     const Workout before = entry()->workout();
