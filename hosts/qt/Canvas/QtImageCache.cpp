@@ -7,6 +7,7 @@ namespace gx::qt {
 namespace {
 
 QImage converted(const UIImage& image) {
+    if (image.pixels().empty()) return {}; // A picture of another host's.
     const int width = image.pixelWidth();
     const QImage borrowed(image.pixels().data(), width, image.pixelHeight(), static_cast<qsizetype>(width) * 4, QImage::Format_RGBA8888);
     return borrowed.convertToFormat(QImage::Format_ARGB32_Premultiplied);

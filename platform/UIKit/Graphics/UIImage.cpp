@@ -24,6 +24,15 @@ Ref<UIImage> UIImage::imageWithPixels_width_height_scale(std::vector<std::uint8_
     return image;
 }
 
+Ref<UIImage> UIImage::imageWithHostHandle_size(std::int64_t handle, CGSize size) {
+    const bool isSized = size.width > 0 && size.height > 0 && std::isfinite(size.width) && std::isfinite(size.height);
+    if (!isSized) return nullptr;
+    auto image = create<UIImage>();
+    image->hostHandle_ = handle;
+    image->hostSize_ = size;
+    return image;
+}
+
 Ref<UIImage> UIImage::imageWithContentsOfFile(const std::string& path) {
     const Ref<UIImageLoader> loader = UIImageLoader::shared();
     return loader ? loader->imageWithContentsOfFile(path) : nullptr;
@@ -35,6 +44,8 @@ Ref<UIImage> UIImage::imageWithLight_dark(Ref<UIImage> light, Ref<UIImage> dark)
     image->width_ = light->width_;
     image->height_ = light->height_;
     image->scale_ = light->scale_;
+    image->hostHandle_ = light->hostHandle_;
+    image->hostSize_ = light->hostSize_;
     image->accessibilityLabel_ = light->accessibilityLabel_;
     image->light_ = light->light_ ? light->light_ : std::move(light);
     image->dark_ = dark->dark_ ? dark->dark_ : std::move(dark);

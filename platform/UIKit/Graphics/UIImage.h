@@ -12,7 +12,7 @@
 
 namespace gx {
 
-/// A picture as pixels, or as a pair of pictures, one for each look.
+/// A picture as pixels, or one that the host has, or a pair of pictures, one for each look.
 ///
 /// Invariant: the pixels never change, so hosts may cache what they make of an image for as long as
 /// it lives.
@@ -24,6 +24,9 @@ public:
     ///   premultiplied.
     /// - `scale` is pixels for a point.
     static Ref<UIImage> imageWithPixels_width_height_scale(std::vector<std::uint8_t> pixels, int width, int height, double scale);
+    /// Stands for a picture that the host has itself, knows by a handle and draws. There are no
+    /// pixels. Returns nothing if a side is not above 0.
+    static Ref<UIImage> imageWithHostHandle_size(std::int64_t handle, CGSize size);
     /// Reads a picture with the host's loader; nothing without a host, or if it cannot be read.
     static Ref<UIImage> imageWithContentsOfFile(const std::string& path);
 
@@ -42,7 +45,9 @@ public:
     // For a pair, these are the light picture's.
 
     /// In points.
-    CGSize size() const { return {width_ / scale_, height_ / scale_}; }
+    CGSize size() const { return hostHandle_ ? hostSize_ : CGSize{width_ / scale_, height_ / scale_}; }
+    /// Nothing for an image of pixels.
+    std::optional<std::int64_t> hostHandle() const { return hostHandle_; }
     int pixelWidth() const { return width_; }
     int pixelHeight() const { return height_; }
     double scale() const { return scale_; }
@@ -57,6 +62,8 @@ private:
     int width_ = 0;
     int height_ = 0;
     double scale_ = 1;
+    std::optional<std::int64_t> hostHandle_;
+    CGSize hostSize_;
     // A pair has both and no pixels of its own; neither of them is a pair.
     Ref<const UIImage> light_;
     Ref<const UIImage> dark_;

@@ -37,6 +37,11 @@ TEST(QtImageCache, HalvesAsFarAsTheSizeAllows) {
     EXPECT_EQ(cache.byteCount(), 4U * (4096 + 1024 + 256 + 64 + 16 + 4 + 1));
 }
 
+TEST(QtImageCache, APictureWithoutPixelsIsEmpty) {
+    QtImageCache cache;
+    EXPECT_TRUE(cache.imageOfSize(*UIImage::imageWithHostHandle_size(1, {16, 16}), 16, 16).isNull());
+}
+
 TEST(QtImageCache, ReleasesExpiredPictures) {
     QtImageCache cache;
     cache.imageOfSize(*imageOfSide(16), 16, 16);

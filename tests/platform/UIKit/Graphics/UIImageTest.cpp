@@ -146,6 +146,33 @@ TEST_F(UIImageTest, APairBeginsWithTheLabelOfItsLightPictureAndThenHasItsOwn) {
     EXPECT_EQ(light->accessibilityLabel(), "Sunny");
 }
 
+TEST_F(UIImageTest, APictureOfTheHostHasAHandleAndASizeButNoPixels) {
+    const Ref<UIImage> image = UIImage::imageWithHostHandle_size(7, {24.5, 12});
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->hostHandle(), 7);
+    EXPECT_EQ(image->size(), CGSizeMake(24.5, 12));
+    EXPECT_TRUE(image->pixels().empty());
+    EXPECT_EQ(image->pixelWidth(), 0);
+    EXPECT_EQ(square(2, 1, 9)->hostHandle(), std::nullopt);
+}
+
+TEST_F(UIImageTest, APictureOfTheHostMustHaveASize) {
+    EXPECT_FALSE(UIImage::imageWithHostHandle_size(7, {0, 12}));
+    EXPECT_FALSE(UIImage::imageWithHostHandle_size(7, {12, -1}));
+    EXPECT_FALSE(UIImage::imageWithHostHandle_size(7, {12, std::numeric_limits<double>::quiet_NaN()}));
+    EXPECT_FALSE(UIImage::imageWithHostHandle_size(7, {std::numeric_limits<double>::infinity(), 12}));
+}
+
+TEST_F(UIImageTest, PicturesOfTheHostMakeAPair) {
+    const Ref<UIImage> light = UIImage::imageWithHostHandle_size(1, {24, 12});
+    const Ref<UIImage> dark = UIImage::imageWithHostHandle_size(2, {24, 12});
+    const Ref<UIImage> pair = UIImage::imageWithLight_dark(light, dark);
+    ASSERT_TRUE(pair);
+    EXPECT_EQ(pair->size(), CGSizeMake(24, 12));
+    EXPECT_EQ(pair->resolved(UIUserInterfaceStyle::Light).hostHandle(), 1);
+    EXPECT_EQ(pair->resolved(UIUserInterfaceStyle::Dark).hostHandle(), 2);
+}
+
 TEST_F(UIImageTest, WithoutAHostNoFileIsRead) {
     EXPECT_FALSE(UIImageLoader::shared());
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("sun.png"));
