@@ -110,9 +110,11 @@ CGSize UILabel::sizeThatFits(CGSize) const {
 }
 
 void UILabel::fitText(CGFloat width) const {
-    if (isFitted_ && width == fittedWidth_) return;
+    const std::uint64_t generation = UITextEngine::generation();
+    if (isFitted_ && width == fittedWidth_ && generation == fittedGeneration_) return;
     isFitted_ = true;
     fittedWidth_ = width;
+    fittedGeneration_ = generation;
     const std::string text = text_.value_or("");
     const Ref<UIFont> font = drawnFont();
     const Ref<UITextEngine> engine = UITextEngine::shared();

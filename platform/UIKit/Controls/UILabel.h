@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -78,6 +79,7 @@ private:
     mutable std::string fittedText_;
     mutable CGSize fittedSize_;
     mutable CGFloat fittedWidth_ = 0;
+    mutable std::uint64_t fittedGeneration_ = 0; // Of the text engine.
     mutable bool isFitted_ = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "CGGeometry.h"
@@ -19,6 +20,13 @@ public:
     static Ref<UITextEngine> shared();
     /// For everything that measures afterwards. An empty reference restores the fixed-width engine.
     static void setShared(Ref<UITextEngine> engine);
+
+    /// For a host whose texts measure differently from now on, such as when fonts have come late.
+    /// Views measure again what they keep; pickers are laid out with `reloadData`.
+    static void measuresDidChange();
+    /// Another number after each such change, and after `setShared`: for views that keep what they
+    /// have measured.
+    static std::uint64_t generation();
 
     /// The size of one line of UTF-8 text: its advance width and the line height of the font. Empty
     /// text has no width and a full line height.

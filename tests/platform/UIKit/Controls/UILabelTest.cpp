@@ -352,3 +352,21 @@ TEST_F(UILabelTest, NoAttributedTextTakesAPlainOneAway) {
     EXPECT_EQ(label->text(), std::nullopt);
     EXPECT_EQ(drawn(), Calls{});
 }
+
+TEST_F(UILabelTest, ATextIsMeasuredAgainOnceMeasuresHaveChanged) {
+    label->setText("abcde");
+    EXPECT_EQ(drawnInWidth(60), Calls{"text abcde at 0 0 with 0 0 0 1"});
+    engine->setCodePointWidth(20);
+    EXPECT_EQ(drawn(), Calls{"text abcde at 0 0 with 0 0 0 1"});
+    UITextEngine::measuresDidChange();
+    EXPECT_EQ(drawn(), Calls{"text ab\u2026 at 0 0 with 0 0 0 1"});
+}
+
+TEST_F(UILabelTest, ATextIsMeasuredAgainByAnotherEngine) {
+    label->setText("abcde");
+    EXPECT_EQ(drawnInWidth(60), Calls{"text abcde at 0 0 with 0 0 0 1"});
+    const auto wide = create<UIFixedWidthTextEngine>();
+    wide->setCodePointWidth(20);
+    UITextEngine::setShared(wide);
+    EXPECT_EQ(drawn(), Calls{"text ab\u2026 at 0 0 with 0 0 0 1"});
+}
