@@ -35,9 +35,13 @@ function(gx_add_floor name)
   add_library(${target})
   add_library(gx::${name} ALIAS ${target})
   # Before 1.0 each minor version may change the binary interface, so it is a part of the SONAME.
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name} POSITION_INDEPENDENT_CODE ON
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name}
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR} INSTALL_RPATH "$ORIGIN")
+  if(NOT CMAKE_SYSTEM_NAME STREQUAL "WASI")
+    # A WebAssembly module is never moved; there, such code is only larger.
+    set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  endif()
   target_compile_features(${target} PUBLIC cxx_std_20)
   # g++ looks at system headers where a link leads, away from those beside it; SYSTEM and
   # precompiling make them such.
@@ -106,4 +110,23 @@ function(gx_add_umbrella_header)
   file(CONFIGURE OUTPUT "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" CONTENT "${lines}")
   set_property(GLOBAL APPEND PROPERTY GX_PUBLIC_HEADERS GXUIPickers.h)
   install(FILES "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GXUIPickers)
+endfunction()
+
+# gx_add_web_library(<name> FOLDERS <folder>… DEPENDS <target>…): a static library of all sources in
+# the folders but main.cpp, for the module or, natively, for its tests. It is not installed.
+function(gx_add_web_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;DEPENDS")
+  add_library(${name} STATIC)
+  foreach(folder IN LISTS arg_FOLDERS)
+    file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp")
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+    target_sources(${name} PRIVATE ${sources})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
+    gx_compile_as_unit(${name} "${folder}" ${sources})
+  endforeach()
+  target_compile_options(${name} PRIVATE -ffunction-sections -fdata-sections)
+  if(GX_PRECOMPILE_HEADERS)
+    target_precompile_headers(${name} PRIVATE <GXUIPickers/UIWindow.h>)
+  endif()
+  target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE gx_flags)
 endfunction()

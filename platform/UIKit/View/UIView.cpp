@@ -36,7 +36,8 @@ void UIView::insertSubview_atIndex(const Ref<UIView>& view, NSInteger index) {
     }
     const UIColor tintBefore = added->tintColor();
     const auto size = static_cast<NSInteger>(subviews_.size());
-    subviews_.insert(subviews_.begin() + std::clamp<NSInteger>(index, 0, size), added);
+    const auto place = static_cast<std::ptrdiff_t>(std::clamp<NSInteger>(index, 0, size));
+    subviews_.insert(subviews_.begin() + place, added);
     added->setNodeAbove(this);
     if (added->needsLayout_ || added->needsLayoutBelow_) added->setNeedsLayout();
     setNeedsLayout();

@@ -1,0 +1,1 @@
+# What CMake itself knows of newer systems: nothing is special about this one.

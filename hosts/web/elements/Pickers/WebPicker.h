@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <GXUIPickers/GXBasePickerViewDelegate.h>
+#include <GXUIPickers/GXHeightPickerView.h>
+#include <GXUIPickers/GXIconPickerView.h>
+
+#include "WebProperty.h"
+
+namespace gx::web {
+
+/// One picker with its properties as plain numbers, as attributes of a page give them.
+///
+/// A property that decides what is shown selects the present value again. A picker of a kind has
+/// the properties that its `get` returns something for.
+class WebPicker : public NSObject, public GXBasePickerViewDelegate, public GXHeightPickerViewDelegate {
+public:
+    virtual Ref<UIView> view() const = 0;
+    virtual std::vector<Ref<UIPickerView>> wheels() const = 0;
+    virtual std::optional<double> get(WebProperty property) const = 0;
+    /// Returns whether the picker has the property.
+    virtual bool set(WebProperty property, double value) = 0;
+    /// What an icon picker shows; ignored by all others.
+    virtual void setIcons(Ref<const GXIconPickerView::Images> /*icons*/) {}
+    virtual Ref<const GXIconPickerView::Images> icons() const { return nullptr; }
+    /// Reads texts and fonts again, in the largest fonts that fit.
+    virtual void reload() = 0;
+    /// The value as it is shown.
+    virtual std::string text() const = 0;
+    virtual void setAccessibilityLabel(std::optional<std::string> label) { view()->setAccessibilityLabel(std::move(label)); }
+
+    /// Gives another picker of the same kind all that this one has.
+    void copyTo(WebPicker& other) const;
+    /// Called after the user has selected something.
+    std::function<void()> didChange;
+
+    void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>& pickerView, const NSNumber& value,
+                                                       NSInteger component) override;
+    void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>& pickerView, CGFloat height, bool metric) override;
+};
+
+} // namespace gx::web

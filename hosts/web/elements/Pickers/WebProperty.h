@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+
+namespace gx::web {
+
+/// The pickers, as the page numbers them.
+enum class WebPickerKind : std::int32_t {
+    Number = 0,
+    Bpm,
+    Calories,
+    Distance,
+    DistanceAndDuration,
+    Duration,
+    HeartRate,
+    Height,
+    Icon,
+    Pace,
+    Speed,
+    Temperature,
+    WeatherAndTemperature,
+    Weight,
+    Columns,
+    Count
+};
+
+/// The properties of all pickers, as the page numbers them; all of them numbers, flags as 0 and 1.
+///
+/// In the order in which they are applied to a new picker: what is shown, then the range, then
+/// values.
+enum class WebProperty : std::int32_t {
+    Metric = 0,
+    WeightUnit,     ///< a `GXWeightUnit`
+    UnitSelectable, ///< whether the unit has a column
+    FractionDigits, ///< of a distance
+    Layout,         ///< of a duration, one of `GXDurationType.h`
+    HoursStep,
+    MinutesStep,
+    SecondsStep,
+    NullRow, ///< whether the first heart rate is "-"
+    Gap,     ///< between the heart rates
+    Min,
+    Max,
+    Step,
+    MinDistance,
+    MaxDistance,
+    MinDuration,
+    MaxDuration,
+    Average,
+    Maximum,
+    Distance,
+    Duration,
+    Weather,
+    Temperature,
+    Value,
+    Count
+};
+
+} // namespace gx::web

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <vector>
+
+#include "WebOwnProperties.h"
+#include "WebPicker.h"
+
+namespace gx::web {
+
+/// A picker of one wheel and a value from a range; with two values for the heart rates.
+template <class Picker>
+class WebSinglePicker : public WebPicker {
+public:
+    Ref<UIView> view() const override { return picker_; }
+    std::vector<Ref<UIPickerView>> wheels() const override { return {picker_->pickerView()}; }
+
+    std::optional<double> get(WebProperty property) const override {
+        const std::optional<double> own = ownProperty(*picker_, property);
+        return own ? own : rangeProperty(*picker_, property);
+    }
+    bool set(WebProperty property, double value) override {
+        const bool isOwn = setOwnProperty(*picker_, property, value);
+        if (!isOwn && !setRangeProperty(*picker_, property, value)) return false;
+        const bool isValue = property == WebProperty::Value || property == WebProperty::Average || property == WebProperty::Maximum;
+        if (!isValue) selectAgain(*picker_);
+        return true;
+    }
+
+    void reload() override {
+        picker_->reloadData();
+        picker_->sizeFontsToFit();
+    }
+    std::string text() const override { return picker_->currentValueText(); }
+
+    /// To be called once: the picker holds its delegate weakly.
+    void follow() { picker_->setDelegate(WeakRef<GXBasePickerViewDelegate>(refTo(this))); }
+
+protected:
+    const Ref<Picker>& picker() const { return picker_; }
+
+private:
+    Ref<Picker> picker_ = create<Picker>(CGRectZero);
+};
+
+/// The icons are the page's pictures; the value is the index of one.
+class WebIconPicker final : public WebSinglePicker<GXIconPickerView> {
+public:
+    void setIcons(Ref<const GXIconPickerView::Images> icons) override {
+        picker()->setIconImages(std::move(icons));
+        selectAgain(*picker());
+    }
+    Ref<const GXIconPickerView::Images> icons() const override { return picker()->iconImages(); }
+};
+
+} // namespace gx::web
