@@ -45,7 +45,10 @@ void MeasurementCell::setName_value(const std::string& name, const std::string& 
     setNeedsLayout();
 }
 
-void MeasurementCell::setOpen(bool open) { value_->setColor(open ? Theme::accent() : Theme::secondaryText()); }
+void MeasurementCell::setOpen(bool open) {
+    value_->setColor(open ? Theme::accent() : Theme::secondaryText());
+    setAccessibilityExpanded(open);
+}
 
 // Layout
 

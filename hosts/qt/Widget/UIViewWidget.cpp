@@ -239,6 +239,7 @@ void UIViewWidget::focusInEvent(QFocusEvent* event) {
     const Qt::FocusReason reason = event->reason();
     QWidget::focusInEvent(event);
     window->setReceivesKeys(true);
+    announceAccessibilityFocus(*this);
     if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) return;
     window->takeFocusAway();
     input->moveFocus(reason == Qt::TabFocusReason, time);

@@ -274,8 +274,14 @@ std::optional<std::string> GXBasePickerView::pickerView_accessibilityValueForRow
 }
 
 std::string GXBasePickerView::reportedTitle(NSInteger component, RowInComponent instead) {
-    const NSInteger row = component == instead.component ? instead.row : selectedRowInComponent(pickerView(), component);
-    return pickerView_titleForRow_forComponent(pickerView(), row, component).value_or(std::string());
+    const Ref<GXMultiValuePickerView> wheel = pickerView();
+    NSInteger row = 0;
+    if (component == instead.component) {
+        row = instead.row;
+    } else if (wheel) {
+        row = wheel->announcedRowInComponent(component);
+    }
+    return pickerView_titleForRow_forComponent(wheel, row, component).value_or(std::string());
 }
 
 GXAccessibilityNumber GXBasePickerView::reportedNumber(NSInteger wholeComponent, std::string fraction, RowInComponent instead) {

@@ -212,7 +212,7 @@ protected:
         NSInteger row;
         NSInteger component;
     };
-    /// The title of the row that a component reports; empty for none.
+    /// The title of the row that a screen reader says of a component; empty for none.
     std::string reportedTitle(NSInteger component, RowInComponent instead);
     /// The number on two components, with what the wheel shows between them.
     GXAccessibilityNumber reportedNumber(NSInteger wholeComponent, std::string fraction, RowInComponent instead);

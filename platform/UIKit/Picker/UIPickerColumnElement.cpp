@@ -1,5 +1,7 @@
 #include "UIPickerColumnElement.h"
 
+#include <cmath>
+
 namespace gx {
 
 /// Where the column is shown that is known as this part; −1 while the user cannot spin it.
@@ -50,7 +52,7 @@ std::optional<std::string> UIPickerColumnElement::label() const {
 std::optional<std::string> UIPickerColumnElement::value() const {
     const std::optional<Column> column = present();
     if (!column) return std::nullopt;
-    return column->wheel->rows.accessibilityText(column->wheel->owner.selectedRow(column->component), column->component);
+    return column->wheel->rows.accessibilityText(column->wheel->owner.announcedRow(column->component), column->component);
 }
 
 CGRect UIPickerColumnElement::frame() const {
@@ -62,13 +64,55 @@ CGRect UIPickerColumnElement::frame() const {
 
 std::optional<NSInteger> UIPickerColumnElement::index() const {
     const std::optional<Column> column = present();
-    return column ? std::optional(column->wheel->owner.selectedRow(column->component)) : std::nullopt;
+    return column ? std::optional(column->wheel->owner.announcedRow(column->component)) : std::nullopt;
 }
 
 NSInteger UIPickerColumnElement::count() const {
     const std::optional<Column> column = present();
     return column ? column->wheel->owner.rowCount(column->component) : 0;
 }
+
+// The focus
+
+bool UIPickerColumnElement::isFocused() const {
+    const std::optional<Column> column = UIAccessibilityElement::isFocused() ? present() : std::nullopt;
+    return column && column->wheel->controller.componentOfKeys() == column->component;
+}
+
+bool UIPickerColumnElement::focus() const {
+    const std::optional<Column> column = presentForUser();
+    if (!column) return false;
+    column->wheel->controller.chooseComponent(column->component);
+    return UIAccessibilityElement::focus() && isFocused();
+}
+
+// Numbers
+
+std::optional<UIAccessibilityNumbers> UIPickerColumnElement::numbers() const {
+    const std::optional<Column> column = present();
+    if (!column) return std::nullopt;
+    const UIPickerOrderedNumbers::Titles titles = titlesOf(*column);
+    const NSInteger row = column->wheel->owner.announcedRow(column->component);
+    const UIPickerOrderedNumbers numbers(count(), titles, UIPickerOrderedNumbers::leadingNumber);
+    if (const auto shown = numbers.shownAtRow(row))
+        return UIAccessibilityNumbers{shown->value, shown->minimum, shown->maximum, shown->step};
+    return UIAccessibilityElement::numbers();
+}
+
+void UIPickerColumnElement::setNumber(double number) {
+    const std::optional<Column> column = std::isnan(number) ? std::nullopt : presentForUser();
+    if (!column) return;
+    const UIPickerOrderedNumbers::Titles titles = titlesOf(*column);
+    const UIPickerOrderedNumbers numbers(count(), titles, UIPickerOrderedNumbers::leadingNumber);
+    if (!numbers.shownAtRow(column->wheel->owner.announcedRow(column->component))) return UIAccessibilityElement::setNumber(number);
+    setIndex(numbers.rowNearestTo(number));
+}
+
+UIPickerOrderedNumbers::Titles UIPickerColumnElement::titlesOf(const Column& column) {
+    return [wheel = column.wheel, component = column.component](NSInteger row) { return wheel->rows.titleOfRow(row, component); };
+}
+
+// Actions
 
 void UIPickerColumnElement::increment() { step(1); }
 void UIPickerColumnElement::decrement() { step(-1); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UIPickerController.h"
+#include "UIPickerOrderedNumbers.h"
 
 namespace gx {
 
@@ -33,10 +34,17 @@ public:
     CGRect frame() const override;
     std::optional<NSInteger> index() const override;
     NSInteger count() const override;
+    /// Those of the rows' titles, if they are numbers in order.
+    std::optional<UIAccessibilityNumbers> numbers() const override;
+
+    bool isFocused() const override;
+    /// Also makes it the column of the keys.
+    bool focus() const override;
 
     void increment() override;
     void decrement() override;
     void setIndex(NSInteger index) override;
+    void setNumber(double number) override;
 
 private:
     struct Column {
@@ -45,6 +53,7 @@ private:
     };
 
     static NSInteger adjustableComponent(const Wheel& wheel, NSInteger part);
+    static UIPickerOrderedNumbers::Titles titlesOf(const Column& column);
 
     std::optional<Column> present() const;
     std::optional<Column> presentForUser() const;

@@ -48,6 +48,7 @@ public:
     Ref<UIFont> titleFont() override { return wheel.titleFont(); }
     NSInteger componentCount() override { return wheel.numberOfComponents(); }
     NSInteger selectedRow(NSInteger component) override { return wheel.selectedRowInComponent(component); }
+    NSInteger announcedRow(NSInteger component) override { return wheel.announcedRowInComponent(component); }
     NSInteger rowCount(NSInteger component) override { return wheel.numberOfRowsInComponent(component); }
     Ref<UIView> visibleView(NSInteger row, NSInteger component) override { return wheel.viewForRow_forComponent(row, component); }
     void report(NSInteger row, NSInteger component) override { wheel.turnToRow_inComponent(row, component); }
@@ -160,6 +161,12 @@ NSInteger UIPickerView::rowInSelectionIndicatorOfComponent(NSInteger component) 
     return axis.isActive() ? components.clampedRow(component, axis.nearestRow()) : selectedRowInComponent(component);
 }
 
+NSInteger UIPickerView::announcedRowInComponent(NSInteger component) {
+    const Ref<UIPickerView> keep = self();
+    const std::optional<NSInteger> stepped = implementation_->components.steppedRow(component);
+    return stepped ? *stepped : selectedRowInComponent(component);
+}
+
 bool UIPickerView::isTurning() const { return implementation_->components.isActive(); }
 
 NSInteger UIPickerView::componentOfKeys() {
@@ -189,9 +196,8 @@ void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
     components.at(component).requested = present;
     components.at(component).axis.restOnRow(present);
     implementation_->invalidate();
-    if (const Ref<UIPickerViewDelegate> delegate = delegate_.lock()) {
-        delegate->pickerView_didSelectRow_inComponent(keep, present, component);
-    }
+    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
+    if (delegate) delegate->pickerView_didSelectRow_inComponent(keep, present, component);
 }
 
 // Layout and drawing

@@ -166,6 +166,10 @@ public:
     /// The row that is nearest to the selection indicator now, also during a movement; −1 for a
     /// component that does not exist.
     NSInteger rowInSelectionIndicatorOfComponent(NSInteger component);
+    /// The row that a screen reader says of a component: the one that a key or an action sends the
+    /// column to, at once, and otherwise the selected one. So a delegate that puts the rows of
+    /// several columns into one accessibility text uses this row of the others.
+    NSInteger announcedRowInComponent(NSInteger component);
     /// Whether any column is moving or held, by the user or by an animated request.
     bool isTurning() const;
     /// The column that keys move: the one chosen last, by a key or a touch, or the first that can

@@ -1,20 +1,12 @@
 #include "UITableView.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "UIKey.h"
 #include "UITableViewContent.h"
 
 namespace gx {
-
-namespace {
-
-/// A height that may be left to the table.
-CGFloat heightOr(CGFloat automatic, CGFloat height) {
-    return height == UITableView::automaticDimension ? automatic : UITableViewRows::clampedHeight(height);
-}
-
-} // namespace
 
 /// The content, and its way to the data source and the delegate.
 class UITableView::Parts final : public UITableViewContent::Client {
@@ -22,6 +14,11 @@ public:
     explicit Parts(UITableView& table) : content(table, *this, highestPassedCount), table_(table) {}
 
     UITableViewContent content;
+
+    /// A height that may be left to the table.
+    static CGFloat heightOr(CGFloat automatic, CGFloat height) {
+        return height == automaticDimension ? automatic : UITableViewRows::clampedHeight(height);
+    }
 
     NSInteger sectionCount() override {
         const auto source = table_.dataSource_.lock();
@@ -55,6 +52,14 @@ public:
         const auto delegate = table_.delegate_.lock();
         return !delegate || delegate->tableView_shouldHighlightRowAtIndexPath(table_.self(), path);
     }
+    void tapRow(NSIndexPath path, NSTimeInterval time) override {
+        content.highlightTap_until(path, time + tapDuration);
+        if (const auto delegate = table_.delegate_.lock()) delegate->tableView_didSelectRowAtIndexPath(table_.self(), path);
+    }
+    bool isPartOfRowAbove(NSIndexPath path) override {
+        const auto source = table_.dataSource_.lock();
+        return source && source->tableView_isRowPartOfRowAbove(table_.self(), path);
+    }
 
 private:
     UITableView& table_;
@@ -65,21 +70,20 @@ UITableView::~UITableView() = default;
 
 UITableViewContent& UITableView::content() const { return parts_->content; }
 
+UITableViewContent& UITableView::refreshedContent() {
+    content().refresh();
+    return content();
+}
+
 // Properties
 
-void UITableView::setRowHeight(CGFloat height) {
-    const CGFloat clamped = heightOr(defaultRowHeight, height);
-    if (clamped == rowHeight_) return;
-    rowHeight_ = clamped;
-    reloadData();
+void UITableView::setHeight(CGFloat& height, CGFloat automatic, CGFloat wanted) {
+    const CGFloat clamped = Parts::heightOr(automatic, wanted);
+    if (clamped != std::exchange(height, clamped)) reloadData();
 }
 
-void UITableView::setSectionHeaderHeight(CGFloat height) {
-    const CGFloat clamped = heightOr(defaultSectionHeaderHeight, height);
-    if (clamped == sectionHeaderHeight_) return;
-    sectionHeaderHeight_ = clamped;
-    reloadData();
-}
+void UITableView::setRowHeight(CGFloat height) { setHeight(rowHeight_, defaultRowHeight, height); }
+void UITableView::setSectionHeaderHeight(CGFloat height) { setHeight(sectionHeaderHeight_, defaultSectionHeaderHeight, height); }
 
 // Cells
 
@@ -97,27 +101,23 @@ Ref<UITableViewCell> UITableView::dequeueReusableCellWithIdentifier(const std::s
 
 NSInteger UITableView::numberOfSections() {
     const Ref<UITableView> keep = self();
-    content().refresh();
-    return content().rows().sectionCount();
+    return refreshedContent().rows().sectionCount();
 }
 
 NSInteger UITableView::numberOfRowsInSection(NSInteger section) {
     const Ref<UITableView> keep = self();
-    content().refresh();
-    return content().rows().rowCount(section);
+    return refreshedContent().rows().rowCount(section);
 }
 
 CGRect UITableView::rectForRowAtIndexPath(NSIndexPath path) {
     const Ref<UITableView> keep = self();
-    content().refresh();
-    return content().rows().exists(path) ? content().rectOfRow(path) : CGRectZero;
+    return refreshedContent().rows().exists(path) ? content().rectOfRow(path) : CGRectZero;
 }
 
 std::optional<NSIndexPath> UITableView::indexPathForRowAtPoint(CGPoint point) {
     const Ref<UITableView> keep = self();
-    content().refresh();
-    if (!(point.x >= 0 && point.x < bounds().size.width)) return std::nullopt;
-    return content().rows().rowAt(point.y);
+    const UITableViewRows& rows = refreshedContent().rows();
+    return point.x >= 0 && point.x < bounds().size.width ? rows.rowAt(point.y) : std::nullopt;
 }
 
 Ref<UITableViewCell> UITableView::cellForRowAtIndexPath(NSIndexPath path) {
@@ -140,8 +140,7 @@ std::vector<NSIndexPath> UITableView::indexPathsForVisibleRows() {
 
 std::optional<NSIndexPath> UITableView::indexPathForFocusedRow() {
     const Ref<UITableView> keep = self();
-    content().refresh();
-    return content().focus().row();
+    return refreshedContent().focus().row();
 }
 
 // Changes
@@ -160,8 +159,7 @@ void UITableView::deleteRowsAtIndexPaths_animated(const std::vector<NSIndexPath>
 
 void UITableView::scrollToRowAtIndexPath_animated(NSIndexPath path, bool animated) {
     const Ref<UITableView> keep = self();
-    content().refresh();
-    if (content().rows().exists(path)) scrollRectToVisible_animated(content().rectOfRow(path), animated);
+    if (refreshedContent().rows().exists(path)) scrollRectToVisible_animated(content().rectOfRow(path), animated);
 }
 
 // Layout
@@ -198,12 +196,7 @@ void UITableView::pressEnded(bool isTap, NSTimeInterval time) {
     const std::optional<NSIndexPath> path = press.row();
     if (!isTap || !path) return press.cancel();
     press.end();
-    tapRow(*path, time);
-}
-
-void UITableView::tapRow(NSIndexPath path, NSTimeInterval time) {
-    content().highlightTap_until(path, time + tapDuration);
-    if (const auto delegate = delegate_.lock()) delegate->tableView_didSelectRowAtIndexPath(self(), path);
+    parts_->tapRow(*path, time);
 }
 
 void UITableView::touchEnded(const UITouch& touch) {
@@ -246,7 +239,7 @@ bool UITableView::keyPressed(const UIKey& key) {
     if (!present || !parts_->canTapRow(*present)) return UIScrollView::keyPressed(pressed);
     if (pressed.isRepeat || !content().rows().exists(*present)) return true; // Taps once.
     content().focusRow(*present);
-    tapRow(*present, pressed.timestamp);
+    parts_->tapRow(*present, pressed.timestamp);
     return true;
 }
 
@@ -265,6 +258,14 @@ void UITableView::revealDescendant(CGRect rect) {
     const Ref<UITableView> keep = self();
     const std::optional<NSIndexPath> row = isFirstResponder() && rect == bounds() ? content().focusedRow() : std::nullopt;
     UIScrollView::revealDescendant(row ? content().rectOfRowAndHeader(*row) : rect);
+}
+
+// Accessibility
+
+UIAccessibilityElements UITableView::accessibilityElements() { return UITableViewElement::elementsOf(self(), {self(), &content()}); }
+
+Ref<UIAccessibilityElement> UITableView::focusedAccessibilityElement() {
+    return UITableViewElement::focusedOf(self(), {self(), &content()});
 }
 
 // Time and drawing

@@ -36,6 +36,11 @@ public:
     virtual std::optional<std::string> tableView_titleForHeaderInSection(const Ref<UITableView>& /*tableView*/, NSInteger /*section*/) {
         return std::nullopt;
     }
+    /// Whether a row belongs to the one above it, as an open picker does. Default: false.
+    ///
+    /// A screen reader does not count it, and finds what it holds in the row above. Called only for
+    /// screen readers, and not in sections of more than 1000 rows.
+    virtual bool tableView_isRowPartOfRowAbove(const Ref<UITableView>& /*tableView*/, NSIndexPath /*indexPath*/) { return false; }
 };
 
 /// Gives a table the heights of rows, and is notified of what the user does with them. All
@@ -87,6 +92,10 @@ public:
 ///   a finger focuses its row too.
 /// - Tab goes on to views inside the rows in sight that take the focus. When such a row leaves,
 ///   the table has the focus again.
+///
+/// **Accessibility.** Each section is a list, with a heading before it if it has a title. Its rows
+/// are items, also those out of sight, which come into sight when they get the focus or are
+/// activated. A cell's label and `isAccessibilityExpanded` are its row's.
 class GX_EXPORT UITableView : public UIScrollView {
 public:
     /// Makes the cells of a reuse identifier.
@@ -223,6 +232,8 @@ public:
     /// When Tab comes to the table itself, the focused row scrolls into sight.
     void revealDescendant(CGRect rect) override;
     bool advanceToTime(NSTimeInterval time) override;
+    UIAccessibilityElements accessibilityElements() override;
+    Ref<UIAccessibilityElement> focusedAccessibilityElement() override;
 
 protected:
     void scrollViewDidScroll() override;
@@ -236,7 +247,8 @@ private:
 
     Ref<UITableView> self() { return refTo(this); }
     UITableViewContent& content() const;
-    void tapRow(NSIndexPath path, NSTimeInterval time);
+    UITableViewContent& refreshedContent();
+    void setHeight(CGFloat& height, CGFloat automatic, CGFloat wanted);
 
     WeakRef<UITableViewDataSource> dataSource_;
     WeakRef<UITableViewDelegate> delegate_;

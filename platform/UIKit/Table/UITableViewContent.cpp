@@ -222,6 +222,30 @@ void UITableViewContent::advanceToTime(NSTimeInterval time) {
     press_.advanceToTime(time);
 }
 
+// For screen readers
+
+NSInteger UITableViewContent::sectionCount() {
+    refresh();
+    return rows().sectionCount();
+}
+
+NSInteger UITableViewContent::rowCount(NSInteger section) {
+    refresh();
+    return rows().rowCount(section);
+}
+
+void UITableViewContent::readCell(NSIndexPath path, const CellReader& read) {
+    refresh();
+    if (const Ref<UITableViewCell> cell = visible_.cellOfRow(path)) return read(*cell);
+    if (!cache_.isReady() || !rows().exists(path)) return;
+    const UITableViewRowCache::OpenQuery query(cache_);
+    if (const Ref<UITableViewCell> cell = visible_.borrowCell(path, rows())) {
+        cell->layoutIfNeeded();
+        read(*cell);
+        visible_.returnCell(cell);
+    }
+}
+
 void UITableViewContent::takeFocusFromCell(const Ref<UITableViewCell>& cell) {
     const Ref<UIWindow> window = table_.window();
     const Ref<UIView> first = window ? window->firstResponder() : nullptr;

@@ -5,6 +5,7 @@
 
 #include "UIScrollView.h"
 #include "UITableViewDrawing.h"
+#include "UITableViewElement.h"
 #include "UITableViewHeaders.h"
 #include "UITableViewKeyFocus.h"
 #include "UITableViewPress.h"
@@ -19,12 +20,14 @@ namespace gx {
 /// its client. The parts know each other by constant references alone.
 ///
 /// Invariants: every visible row exists in `rows()`; nothing changes them while a query is open.
-class UITableViewContent final : private UITableViewVisibleRows::Client {
+class UITableViewContent final : public UITableViewElement::Table, private UITableViewVisibleRows::Client {
 public:
     /// The data source and the delegate. Every call may do anything but destroy the table.
     class Client : public UITableViewRowCache::Source, public UITableViewKeyFocus::Client {
     public:
         virtual Ref<UITableViewCell> cellForRow(NSIndexPath path) = 0;
+        virtual bool isPartOfRowAbove(NSIndexPath path) = 0;
+        virtual void tapRow(NSIndexPath path, NSTimeInterval time) = 0;
         virtual void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) = 0;
         virtual Ref<UIFont> headerFont() const = 0;
     };
@@ -76,6 +79,23 @@ public:
     /// Draws all rows in their places from now on.
     void finishChange();
     void advanceToTime(NSTimeInterval time);
+
+    // For screen readers
+
+    NSInteger sectionCount() override;
+    NSInteger rowCount(NSInteger section) override;
+    std::optional<std::string> title(NSInteger section) override { return rows().title(section); }
+    bool isPartOfRowAbove(NSIndexPath path) override { return client_.isPartOfRowAbove(path); }
+    bool canTap(NSIndexPath path) override { return client_.canTapRow(path); }
+    CGRect frameOfHeader(NSInteger section) override { return rectOf(rows().spanOfHeader(section)); }
+    CGRect frameOfRow(NSIndexPath path) override { return rectOfRow(path); }
+    std::optional<NSIndexPath> rowOfView(const Ref<UIView>& view) override { return visible_.rowOfView(view); }
+    std::optional<NSInteger> sectionOfHeader(const Ref<UIView>& view) override { return headers_.sectionOf(view); }
+    Ref<UITableViewCell> visibleCell(NSIndexPath path) override { return visible_.cellOfRow(path); }
+    void readCell(NSIndexPath path, const CellReader& read) override;
+    std::optional<NSIndexPath> rowOfKeys() override { return focusedRow(); }
+    void chooseRow(NSIndexPath path) override { focusRow(path); }
+    void tapRow(NSIndexPath path, NSTimeInterval time) override { client_.tapRow(path, time); }
 
 private:
     Ref<UIView> self() const { return refTo<UIView>(&table_); }

@@ -24,6 +24,10 @@
 /// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when
 ///   `tick` returns true.
 ///
+/// A host that has a screen reader gives it `UIWindow::accessibilityElements` as a tree (see
+/// `UIAccessibilityElement`), the `focusedAccessibilityElement` and, after each frame, what
+/// `UIAccessibilityChanges` finds: another focus, other values, announcements.
+///
 /// The window asks of a host (`UIWindowHost`): frames, how the pointer looks, and feedback for
 /// the user unless the window's `setFeedbackEnabled` turns it off. Touches, scrolling and keys that
 /// no view used are the host's own, as the results of the calls say.

@@ -234,6 +234,8 @@ bool UIView::advanceToTime(NSTimeInterval) { return false; }
 
 UIAccessibilityElements UIView::accessibilityElements() { return accessibilityElementsOfSubviews(refTo(this)); }
 
+Ref<UIAccessibilityElement> UIView::focusedAccessibilityElement() { return gx::focusedAccessibilityElement(accessibilityElements()); }
+
 UIAccessibilityElements accessibilityElementsOfSubviews(const Ref<UIView>& view) {
     UIAccessibilityElements elements;
     if (!view) return elements;

@@ -86,6 +86,9 @@ public:
 
     /// What a screen reader finds in the view, in reading order. Here what its subviews offer.
     virtual UIAccessibilityElements accessibilityElements();
+    /// Which of them has the focus, while the view is first responder. Nothing while keys do not
+    /// come to the window.
+    virtual Ref<UIAccessibilityElement> focusedAccessibilityElement();
 
 protected:
     /// Whether the next layout pass will lay out this view itself.

@@ -270,6 +270,26 @@ void UIViewNode::revealDescendant(CGRect rect) {
     if (const Ref<UIViewNode> above = refTo(above_)) above->revealDescendant(convertRect_toView(rect, above));
 }
 
+// Accessibility. A frame is needed, since a host looks for changes after each one.
+
+void UIViewNode::setAccessibilityLabel(std::optional<std::string> label) {
+    if (label == accessibilityLabel_) return;
+    accessibilityLabel_ = std::move(label);
+    setNeedsDisplay();
+}
+
+void UIViewNode::setAccessibilityRole(std::optional<UIAccessibilityRole> role) {
+    if (role == accessibilityRole_) return;
+    accessibilityRole_ = role;
+    setNeedsDisplay();
+}
+
+void UIViewNode::setAccessibilityExpanded(std::optional<bool> expanded) {
+    if (expanded == isAccessibilityExpanded_) return;
+    isAccessibilityExpanded_ = expanded;
+    setNeedsDisplay();
+}
+
 // Time
 
 void UIViewNode::finishAnimations() {}

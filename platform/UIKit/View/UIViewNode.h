@@ -14,6 +14,20 @@ namespace gx {
 
 class UIViewNode;
 
+/// What a screen reader takes something for, which decides what it says of it and offers to do.
+enum class UIAccessibilityRole {
+    Text,
+    Image,
+    Button,     ///< can be activated
+    Adjustable, ///< has an index and a count, and can be incremented and decremented
+    Heading,    ///< names what follows it
+    Group,      ///< holds others
+    RadioGroup, ///< holds radio buttons, one of which is checked
+    RadioButton,
+    List,    ///< holds items, and headings among them
+    ListItem ///< can be activated
+};
+
 /// What a view asks of the window at the top of its tree. `UIWindow` alone implements it.
 class GX_EXPORT UIViewRoot {
 public:
@@ -24,6 +38,10 @@ public:
     /// Takes the focus from the view and from those below it.
     virtual void resignFirstResponderWithin(const Ref<UIViewNode>& view) = 0;
     virtual bool isFocusedOn(const UIViewNode& view) const = 0;
+    /// Whether keys come to the window, so that the focus is anywhere at all.
+    virtual bool receivesKeys() const = 0;
+    /// Has the view with the focus mark it, as after a key.
+    virtual void showFocusMark() = 0;
     /// Gives the focus to a view, or to nobody.
     virtual void moveFocusTo(const Ref<UIViewNode>& view) = 0;
     /// A tap at a point of the window, if what lies topmost there is the view or one below it.
@@ -166,7 +184,16 @@ public:
     /// itself knows to say. Here nothing.
     virtual std::optional<std::string> accessibilityLabel() const { return accessibilityLabel_; }
     /// Nothing leaves it to the view again.
-    void setAccessibilityLabel(std::optional<std::string> label) { accessibilityLabel_ = std::move(label); }
+    void setAccessibilityLabel(std::optional<std::string> label);
+    /// What a screen reader takes the view for. Nothing leaves it to the view itself.
+    ///
+    /// Example: a label that names a part of the screen is a `Heading`.
+    std::optional<UIAccessibilityRole> accessibilityRole() const { return accessibilityRole_; }
+    void setAccessibilityRole(std::optional<UIAccessibilityRole> role);
+    /// Whether what belongs to the view is open or closed, as the picker of a row. Default nothing:
+    /// there is nothing to open.
+    std::optional<bool> isAccessibilityExpanded() const { return isAccessibilityExpanded_; }
+    void setAccessibilityExpanded(std::optional<bool> expanded);
 
 protected:
     UIViewNode* nodeAbove() const { return above_; }
@@ -199,6 +226,8 @@ private:
     std::optional<UIColor> backgroundColor_;
     std::optional<UIColor> tintColor_;
     std::optional<std::string> accessibilityLabel_;
+    std::optional<UIAccessibilityRole> accessibilityRole_;
+    std::optional<bool> isAccessibilityExpanded_;
     double alpha_ = 1;
     CGFloat cornerRadius_ = 0;
     NSInteger tag_ = 0;

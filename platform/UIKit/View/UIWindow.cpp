@@ -212,6 +212,15 @@ void UIWindow::setReceivesKeys(bool receives) {
     notifyFocus();
 }
 
+// Accessibility
+
+Ref<UIAccessibilityElement> UIWindow::focusedAccessibilityElement() {
+    const Ref<UIView> first = firstResponder();
+    const Ref<UIAccessibilityElement> focused = first && receivesKeys_ ? first->focusedAccessibilityElement() : nullptr;
+    // What holds it is known to what offers it.
+    return focused ? sameAccessibilityElement(accessibilityElements(), focused) : nullptr;
+}
+
 // Time
 
 void UIWindow::finishAnimations() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "GXExport.h"
@@ -88,7 +89,7 @@ public:
     bool keyDown(const UIKey& key) override;
     /// Whether keys come to this window at present. Default true. While they do not, no focus is
     /// shown, but it is kept.
-    bool receivesKeys() const { return receivesKeys_; }
+    bool receivesKeys() const override { return receivesKeys_; }
     void setReceivesKeys(bool receives) override;
     /// Nobody has the focus any more, as when Tab comes in from around the window.
     void takeFocusAway() override { setFirstResponder(nullptr); }
@@ -119,12 +120,26 @@ public:
     /// A finger needs no mark.
     bool showsFocus() const { return isFocusShown_ && receivesKeys_; }
 
+    // Accessibility
+
+    /// The element with the focus: the wheel's chosen column, the table's focused row, or another
+    /// view. Nothing without a focus, and while keys do not come to the window.
+    Ref<UIAccessibilityElement> focusedAccessibilityElement() override;
+    /// Has a screen reader say a text; an empty one is ignored. It waits for the host, which takes
+    /// it after the next frame, behind the changes that the same event has caused.
+    void announce(std::string text, UIAccessibilityAnnouncement::Priority priority = UIAccessibilityAnnouncement::Priority::Polite) {
+        if (announcements_.add({std::move(text), priority})) requestFrame();
+    }
+    /// The announcements since the last call, in their order; of many the newest.
+    std::vector<UIAccessibilityAnnouncement> takeAnnouncements() { return announcements_.take(); }
+
     // From views
 
     /// What `becomeFirstResponder` and `resignFirstResponder` end in.
     void setFirstResponder(const Ref<UIView>& view);
     void cancelTouchesWithin(const Ref<UIViewNode>& view) override;
     void resignFirstResponderWithin(const Ref<UIViewNode>& view) override;
+    void showFocusMark() override { showFocus(true); }
     /// Calls the view's `advanceToTime` before each frame, until that returns false.
     void animateView(const Ref<UIView>& view);
     /// Asks the host for a click or a vibration, if feedback is enabled.
@@ -164,6 +179,7 @@ private:
     NSTimeInterval latestTime_ = 0;
     bool needsFrame_ = true;
     bool isTicking_ = false;
+    UIAccessibilityAnnouncements announcements_;
 };
 
 /// What `UIViewNode::window` returns: the window at the top of the view's tree. Empty without one.

@@ -270,7 +270,7 @@ std::optional<std::string> GXHeightPickerView::pickerView_accessibilityLabelForC
 
 std::optional<std::string> GXHeightPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                 NSInteger component) {
-    const auto rowOf = [this, row, component](NSInteger asked) { return asked == component ? row : selectedRowInComponent(asked); };
+    const auto rowOf = [this, row, component](NSInteger asked) { return asked == component ? row : announcedRowInComponent(asked); };
     if (isMetric()) return accessibilitySum({{wrappingAdd(rowOf(0), lowestCentimetres), GXAccessibilityUnit::Centimetre}});
     return accessibilitySum({{wrappingAdd(rowOf(0), lowestFeet), GXAccessibilityUnit::Foot}, {rowOf(1), GXAccessibilityUnit::Inch}});
 }

@@ -41,9 +41,11 @@ void UIPickerColumnAxis::setRows_height_extent(NSInteger count, CGFloat rowHeigh
         // Nothing is left to land on, so nothing is reported.
         restOnRow(0);
     } else if (isGone) {
+        stepped_.reset();
         restOnRow(reportedRow);
         if (isUsers) axis_.landAt(0);
     } else {
+        if (stepped_ && *stepped_ >= count_) stepped_.reset();
         anchorAt(std::min(anchor_, count_ - 1));
         axis_.adjustToRange();
     }
@@ -69,9 +71,11 @@ void UIPickerColumnAxis::glideToRow(NSInteger row, NSTimeInterval duration, std:
 
 void UIPickerColumnAxis::snap(std::optional<NSTimeInterval> start) { glideToRow(nearestRow(), UIScrollMotion::snapDuration, start); }
 
-/// Rows that pass are counted from where the user's gesture begins.
+/// Rows that pass are counted from where the user's gesture begins, and its steps are its own.
 void UIPickerColumnAxis::beginGesture() {
-    if (!isUsersGesture()) passed_ = nearestRow();
+    if (isUsersGesture()) return;
+    passed_ = nearestRow();
+    stepped_.reset();
 }
 
 // The finger
@@ -181,6 +185,7 @@ bool UIPickerColumnAxis::spinToRow(NSInteger row) {
     beginGesture();
     const bool isStep = to - from >= -1 && to - from <= 1;
     glideToRow(to, isStep ? stepDuration() : UIScrollMotion::requestDuration, std::nullopt);
+    stepped_ = to;
     return true;
 }
 

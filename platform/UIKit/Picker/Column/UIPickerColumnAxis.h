@@ -43,6 +43,11 @@ public:
     bool isUsersGesture() const { return isActive() && state() != State::Requested; }
     /// The row that the movement ends on.
     NSInteger landingRow() const;
+    /// The row that the last step of this gesture goes to, which a screen reader says at once.
+    ///
+    /// It stays until the column rests, whatever follows: a finger or a fling is said at rest.
+    /// Nothing at rest, and for a gesture without a step.
+    std::optional<NSInteger> steppedRow() const { return isUsersGesture() ? stepped_ : std::nullopt; }
 
     NSInteger anchorRow() const { return anchor_; }
     /// From the anchor, in rows.
@@ -121,6 +126,7 @@ private:
     UIScrollAxis axis_{UIScrollFeel::wheelColumn};
     NSInteger anchor_ = 0;
     NSInteger passed_ = 0; // The nearest row when passed rows were last counted.
+    std::optional<NSInteger> stepped_;
 
     NSTimeInterval touchTime_ = 0; // When the finger came down …
     // … and how fast the fling was that it caught, in rows per second.

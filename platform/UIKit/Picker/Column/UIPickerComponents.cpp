@@ -73,6 +73,11 @@ NSInteger UIPickerComponents::clampedRow(NSInteger component, NSInteger row) {
     return std::clamp<NSInteger>(row, 0, std::max<NSInteger>(refreshRows(component) - 1, 0));
 }
 
+std::optional<NSInteger> UIPickerComponents::steppedRow(NSInteger component) {
+    const std::optional<NSInteger> row = exists(component) ? at(component).axis.steppedRow() : std::nullopt;
+    return row ? std::optional(clampedRow(component, *row)) : std::nullopt;
+}
+
 // As cached
 
 CGFloat UIPickerComponents::width(NSInteger component, CGFloat available) const {

@@ -39,6 +39,8 @@ public:
     virtual Ref<UIFont> titleFont() = 0;
     virtual NSInteger componentCount() = 0;
     virtual NSInteger selectedRow(NSInteger component) = 0;
+    /// The row that a screen reader says. Here the selected one.
+    virtual NSInteger announcedRow(NSInteger component) { return selectedRow(component); }
     virtual NSInteger rowCount(NSInteger component) = 0;
     virtual Ref<UIView> visibleView(NSInteger row, NSInteger component) = 0;
     /// A gesture of the user has ended on the row.
@@ -91,6 +93,9 @@ public:
     /// Clamped to the rows there are; 0 without any.
     NSInteger clampedRow(NSInteger component, NSInteger row);
     NSInteger requestedRow(NSInteger component) { return clampedRow(component, at(component).requested); }
+    /// Where a step of the user sends the column, until it rests. Nothing without one, and for a
+    /// component that does not exist.
+    std::optional<NSInteger> steppedRow(NSInteger component);
 
     // As cached.
 

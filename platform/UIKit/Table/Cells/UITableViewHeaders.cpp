@@ -20,8 +20,9 @@ Ref<UILabel> makeHeader() {
 
 } // namespace
 
-bool UITableViewHeaders::contains(const Ref<UIView>& view) const {
-    return std::any_of(shown_.begin(), shown_.end(), [&view](const Header& header) { return header.label == view; });
+std::optional<NSInteger> UITableViewHeaders::sectionOf(const Ref<UIView>& view) const {
+    const auto header = std::find_if(shown_.begin(), shown_.end(), [&view](const Header& entry) { return entry.label == view; });
+    return header != shown_.end() ? std::optional(header->section) : std::nullopt;
 }
 
 void UITableViewHeaders::hide(std::size_t index) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "UILabel.h"
@@ -24,7 +25,9 @@ public:
     void hideAll();
     /// In no particular order.
     const std::vector<Header>& shown() const { return shown_; }
-    bool contains(const Ref<UIView>& view) const;
+    bool contains(const Ref<UIView>& view) const { return sectionOf(view).has_value(); }
+    /// The section that the view is the header of at present.
+    std::optional<NSInteger> sectionOf(const Ref<UIView>& view) const;
 
 private:
     void hide(std::size_t index);

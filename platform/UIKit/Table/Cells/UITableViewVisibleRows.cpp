@@ -58,13 +58,19 @@ void UITableViewVisibleRows::dropLeaving() {
     }
 }
 
-Ref<UITableViewCell> UITableViewVisibleRows::newCell(NSIndexPath path) {
+/// The data source's cell for a row. Others that it has dequeued meanwhile go back.
+Ref<UITableViewCell> UITableViewVisibleRows::queriedCell(NSIndexPath path) {
     Ref<UITableViewCell> cell = client_.cellForRow(path);
     while (!lent_.empty()) {
         const Ref<UITableViewCell> lent = std::move(lent_.back());
         lent_.pop_back();
         if (lent != cell) keepOrDrop(lent);
     }
+    return cell;
+}
+
+Ref<UITableViewCell> UITableViewVisibleRows::newCell(NSIndexPath path) {
+    Ref<UITableViewCell> cell = queriedCell(path);
     if (!cell) return nullptr;
     // A cell shows one row. The one that it showed before is left empty.
     pool_.remove(cell);
@@ -95,8 +101,25 @@ std::optional<NSIndexPath> UITableViewVisibleRows::rowOfCell(const Ref<UITableVi
     return row->path;
 }
 
-bool UITableViewVisibleRows::contains(const Ref<UIView>& view) const {
-    return std::any_of(shown_.begin(), shown_.end(), [&view](const Row& row) { return row.cell == view; });
+std::optional<NSIndexPath> UITableViewVisibleRows::rowOfView(const Ref<UIView>& view) const {
+    const auto row = std::find_if(shown_.begin(), shown_.end(), [&view](const Row& entry) { return entry.cell == view; });
+    return view && row != shown_.end() ? std::optional(row->path) : std::nullopt;
+}
+
+Ref<UITableViewCell> UITableViewVisibleRows::borrowCell(NSIndexPath path, const UITableViewRows& rows) {
+    Ref<UITableViewCell> cell = queriedCell(path);
+    const auto isIt = [&cell](const Row& row) { return row.cell == cell; };
+    const bool isShown = std::any_of(shown_.begin(), shown_.end(), isIt) || std::any_of(removed_.begin(), removed_.end(), isIt);
+    if (!cell || isShown) return nullptr;
+    pool_.remove(cell);
+    removeCell(leaving_, cell);
+    place(cell, path, rows);
+    return cell;
+}
+
+void UITableViewVisibleRows::returnCell(const Ref<UITableViewCell>& cell) {
+    cell->setHidden(true);
+    keepOrDrop(cell);
 }
 
 void UITableViewVisibleRows::place(const Ref<UITableViewCell>& cell, NSIndexPath path, const UITableViewRows& rows) const {

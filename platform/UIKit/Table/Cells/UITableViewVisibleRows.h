@@ -57,7 +57,8 @@ public:
     Ref<UITableViewCell> cellOfRow(NSIndexPath path) const;
     /// Nothing for a cell that shows no row, and for none.
     std::optional<NSIndexPath> rowOfCell(const Ref<UITableViewCell>& cell) const;
-    bool contains(const Ref<UIView>& view) const;
+    bool contains(const Ref<UIView>& view) const { return rowOfView(view).has_value(); }
+    std::optional<NSIndexPath> rowOfView(const Ref<UIView>& view) const;
 
     /// Places the row's cell; queries one if the row comes into sight.
     void show(NSIndexPath path, const UITableViewRows& rows);
@@ -71,11 +72,17 @@ public:
     void hideRemoved();
     void retireRemoved();
 
+    /// A cell for a row that is not in sight, with the row's place, to be read and returned at
+    /// once. Nothing if the data source gives none, or one that is in sight.
+    Ref<UITableViewCell> borrowCell(NSIndexPath path, const UITableViewRows& rows);
+    void returnCell(const Ref<UITableViewCell>& cell);
+
     bool hasLeaving() const { return !leaving_.empty(); }
     /// Removes the cells that are not reused from the table. Not while a finger is down.
     void dropLeaving();
 
 private:
+    Ref<UITableViewCell> queriedCell(NSIndexPath path);
     Ref<UITableViewCell> newCell(NSIndexPath path);
     void place(const Ref<UITableViewCell>& cell, NSIndexPath path, const UITableViewRows& rows) const;
     std::vector<Row>::const_iterator find(NSIndexPath path) const;

@@ -24,6 +24,9 @@ std::vector<std::string>& events() {
 void note(QAccessibleEvent* event) {
     if (event->type() == QAccessible::ValueChanged) {
         events().push_back("value " + static_cast<QAccessibleValueChangeEvent*>(event)->value().toString().toStdString());
+    } else if (event->type() == QAccessible::TextUpdated) {
+        auto* const update = static_cast<QAccessibleTextUpdateEvent*>(event);
+        events().push_back("text " + update->textRemoved().toStdString() + " > " + update->textInserted().toStdString());
     } else {
         events().emplace_back(event->type() == QAccessible::ObjectReorder ? "reorder" : "other");
     }
@@ -46,6 +49,7 @@ struct QtAccessibility : WidgetTest {
     }
     static const QString& increase() { return QAccessibleActionInterface::increaseAction(); }
     static const QString& decrease() { return QAccessibleActionInterface::decreaseAction(); }
+    static const QString& setFocus() { return QAccessibleActionInterface::setFocusAction(); }
 };
 
 } // namespace
@@ -74,7 +78,7 @@ TEST_F(QtAccessibility, AColumnsRectIsItsStripOnTheScreen) {
     EXPECT_EQ(interface()->childAt(outside.x(), outside.y()), nullptr);
 }
 
-TEST_F(QtAccessibility, TheValueIsTheRow) {
+TEST_F(QtAccessibility, TheValueIsTheNumberShown) {
     QAccessibleValueInterface* const value = child(0)->valueInterface();
     ASSERT_TRUE(value);
     EXPECT_EQ(value->currentValue().toInt(), 10);
@@ -89,10 +93,42 @@ TEST_F(QtAccessibility, TheValueIsTheRow) {
     value->setCurrentValue(1000);
     run(1);
     EXPECT_EQ(source->notices, (Notices{{25, 0}, {99, 0}}));
+    source->title = [](NSInteger row, NSInteger) { return std::to_string(row - 20); };
+    wheel->reloadAllComponents();
+    run(0.1);
+    EXPECT_EQ(value->currentValue().toInt(), 79);
+    EXPECT_EQ(value->minimumValue().toInt(), -20);
+    EXPECT_EQ(value->maximumValue().toInt(), 79);
+    value->setCurrentValue(-5.2);
+    run(1);
+    EXPECT_EQ(source->notices, (Notices{{25, 0}, {99, 0}, {15, 0}}));
+}
+
+TEST_F(QtAccessibility, AReadOnlyTextIsTheValueAsAPersonSaysIt) {
+    source->title = [](NSInteger row, NSInteger) { return std::to_string(row) + " km"; };
+    wheel->reloadAllComponents();
+    run(0.1);
+    QAccessibleTextInterface* const text = child(0)->textInterface();
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->characterCount(), 5);
+    EXPECT_EQ(text->text(0, 5), "10 km");
+    EXPECT_EQ(text->text(0, -1), "10 km");
+    EXPECT_EQ(text->text(3, 100), "km");
+    EXPECT_EQ(text->text(-2, 2), "10");
+    EXPECT_EQ(text->text(4, 2), "");
+    EXPECT_EQ(text->cursorPosition(), 0);
+    EXPECT_EQ(text->selectionCount(), 0);
+    int start = 7;
+    int end = 7;
+    text->selection(0, &start, &end);
+    EXPECT_EQ(end - start, 0);
+    EXPECT_EQ(text->attributes(0, &start, &end), "");
+    EXPECT_EQ(end, 5);
+    EXPECT_EQ(child(0)->editableTextInterface(), nullptr);
 }
 
 TEST_F(QtAccessibility, ActionsSpinTheWheelAndAreReportedOnce) {
-    EXPECT_EQ(child(0)->actionInterface()->actionNames(), (QStringList{increase(), decrease()}));
+    EXPECT_EQ(child(0)->actionInterface()->actionNames(), (QStringList{increase(), decrease(), setFocus()}));
     act(child(0), increase());
     act(child(0), increase());
     EXPECT_TRUE(source->notices.empty());
@@ -197,17 +233,19 @@ TEST_F(QtAccessibility, ListenersAreNotifiedOfAChangedValue) {
     act(child(0), increase());
     step(0.01);
     view->announceChanges(note);
-    EXPECT_EQ(events(), Events{"reorder"}) << "it has not come to rest";
+    EXPECT_EQ(events(), (Events{"reorder", "value 11", "text 10 > 11"})) << "a step has its value at once";
     run(1);
     view->announceChanges(note);
-    EXPECT_EQ(events(), (Events{"reorder", "value 11"}));
+    EXPECT_EQ(events().size(), 3U) << "and nothing more when it has come to rest";
+    events().clear();
     wheel->selectRow_inComponent_animated(20, 1, false);
     view->announceChanges(note);
-    EXPECT_EQ(events(), (Events{"reorder", "value 11", "value 20"}));
+    EXPECT_EQ(events(), (Events{"value 20", "text 10 > 20"}));
+    events().clear();
     source->rows = {100};
     wheel->reloadAllComponents();
     view->announceChanges(note);
-    EXPECT_EQ(events(), (Events{"reorder", "value 11", "value 20", "reorder"}));
+    EXPECT_EQ(events(), Events{"reorder"});
 }
 
 TEST(QtAccessibilityLifetime, InterfacesAreDeletedWithTheWidget) {

@@ -126,7 +126,8 @@ TEST_F(UIPickerColumnElementInWindow, AnIncrementMovesByOneRowAndIsReportedOnceA
     element()->increment();
     window.tick(TestWindow::frame);
     EXPECT_EQ(source->notices, Notices{}) << "not before it rests";
-    EXPECT_EQ(element()->index(), 10);
+    EXPECT_EQ(element()->index(), 11) << "where it goes to, at once";
+    EXPECT_EQ(wheel->selectedRowInComponent(0), 10);
     EXPECT_TRUE(wheel->isTurning());
     window.runUntilStill();
     EXPECT_EQ(source->notices, (Notices{{11, 0}}));

@@ -1,0 +1,202 @@
+#include "QtAccessibleElement.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace gx::qt {
+
+QString textOf(const std::optional<std::string>& text) { return text ? QString::fromStdString(*text) : QString(); }
+
+QtAccessibleElement::QtAccessibleElement(QWidget* widget, WeakRef<UIWindow> window, Clock clock, Ref<UIAccessibilityElement> element)
+    : widget_(widget), window_(std::move(window)), clock_(std::move(clock)), element_(std::move(element)),
+      value_([this] { return text(QAccessible::Value); }) {}
+
+bool QtAccessibleElement::isValid() const {
+    const Ref<UIViewNode> view = element_->view();
+    const Ref<UIWindow> window = window_.lock();
+    return !widget_.isNull() && window && view && view->window() == window && element_->exists();
+}
+
+QAccessible::Role QtAccessibleElement::role() const {
+    switch (element_->role()) {
+    case UIAccessibilityRole::Adjustable:
+        return QAccessible::SpinBox;
+    case UIAccessibilityRole::Button:
+        return element_->isChecked() ? QAccessible::CheckBox : QAccessible::Button;
+    case UIAccessibilityRole::Image:
+        return QAccessible::Graphic;
+    case UIAccessibilityRole::Heading:
+        return QAccessible::Heading;
+    case UIAccessibilityRole::Group:
+    case UIAccessibilityRole::RadioGroup:
+        return QAccessible::Grouping;
+    case UIAccessibilityRole::RadioButton:
+        return QAccessible::RadioButton;
+    case UIAccessibilityRole::List:
+        return QAccessible::List;
+    case UIAccessibilityRole::ListItem:
+        return QAccessible::ListItem;
+    case UIAccessibilityRole::Text:
+        break;
+    }
+    return QAccessible::StaticText;
+}
+
+QString QtAccessibleElement::text(QAccessible::Text kind) const {
+    if (!isValid()) return {};
+    if (kind == QAccessible::Name) return textOf(element_->label());
+    return kind == QAccessible::Value ? textOf(element_->value()) : QString();
+}
+
+QRect QtAccessibleElement::rect() const {
+    if (!isValid()) return {};
+    const CGRect area = element_->frame();
+    if (!widget_) return {};
+    const QRect inWidget = QRectF(area.origin.x, area.origin.y, area.size.width, area.size.height).toAlignedRect();
+    return {widget_->mapToGlobal(inWidget.topLeft()), inWidget.size()};
+}
+
+QAccessible::State QtAccessibleElement::state() const {
+    QAccessible::State state;
+    if (!isValid()) {
+        state.invalid = true;
+        return state;
+    }
+    const bool hasActions = !actionNames().isEmpty();
+    state.disabled = !widget_->isEnabled() || (hasActions && !element_->isEnabled());
+    state.invisible = !widget_->isVisible();
+    state.offscreen = !rect().intersects(QRect(widget_->mapToGlobal(QPoint()), widget_->size()));
+    state.readOnly = !hasActions;
+    state.focusable = widget_->focusPolicy() != Qt::NoFocus && element_->isFocusable();
+    state.focused = widget_->hasFocus() && element_->isFocused();
+    if (const std::optional<bool> isExpanded = element_->isExpanded()) {
+        state.expandable = true;
+        state.expanded = *isExpanded;
+        state.collapsed = !*isExpanded;
+    }
+    if (const std::optional<bool> isChecked = element_->isChecked()) {
+        state.checkable = true;
+        state.checked = *isChecked;
+    }
+    return state;
+}
+
+void* QtAccessibleElement::interface_cast(QAccessible::InterfaceType type) {
+    if (type == QAccessible::ValueInterface && isAdjustable()) return static_cast<QAccessibleValueInterface*>(this);
+    if (type == QAccessible::TextInterface && isAdjustable()) return static_cast<QAccessibleTextInterface*>(&value_);
+    if (type == QAccessible::ActionInterface && !actionNames().isEmpty()) return static_cast<QAccessibleActionInterface*>(this);
+    return nullptr;
+}
+
+// The tree
+
+QtAccessibleTree* QtAccessibleElement::tree() const {
+    return widget_ ? dynamic_cast<QtAccessibleTree*>(QAccessible::queryAccessibleInterface(widget_.data())) : nullptr;
+}
+
+QAccessibleInterface* QtAccessibleElement::parent() const {
+    const Ref<UIAccessibilityElement> container = element_->container();
+    if (!widget_) return nullptr;
+    const QtAccessibleTree* const tree = container ? this->tree() : nullptr;
+    return tree ? tree->interfaceOf(container) : QAccessible::queryAccessibleInterface(widget_.data());
+}
+
+int QtAccessibleElement::childCount() const {
+    return static_cast<int>(std::min<NSInteger>(element_->childCount(), std::numeric_limits<int>::max()));
+}
+
+QAccessibleInterface* QtAccessibleElement::child(int index) const {
+    const Ref<UIAccessibilityElement> child = index >= 0 && index < childCount() ? element_->child(index) : nullptr;
+    const QtAccessibleTree* const tree = child ? this->tree() : nullptr;
+    return tree ? tree->interfaceOf(child) : nullptr;
+}
+
+int QtAccessibleElement::indexOfChild(const QAccessibleInterface* child) const {
+    const auto* const element = dynamic_cast<const QtAccessibleElement*>(child);
+    const NSInteger index = element ? element_->indexOfChild(*element->element()) : -1;
+    return index < childCount() ? static_cast<int>(index) : -1;
+}
+
+QAccessibleInterface* QtAccessibleElement::childAt(int x, int y) const {
+    // The items of a list lie where the view is, which knows those in sight.
+    QAccessibleInterface* const root = widget_ ? QAccessible::queryAccessibleInterface(widget_.data()) : nullptr;
+    QAccessibleInterface* found = root != nullptr ? root->childAt(x, y) : nullptr;
+    while (found != nullptr && found->parent() != this) found = found == root ? nullptr : found->parent();
+    return found;
+}
+
+QAccessibleInterface* QtAccessibleElement::focusChild() const {
+    const Ref<UIWindow> window = window_.lock();
+    const Ref<UIAccessibilityElement> focused = window && widget_ && widget_->hasFocus() ? window->focusedAccessibilityElement() : nullptr;
+    for (Ref<UIAccessibilityElement> above = focused; above; above = above->container()) {
+        if (!above->isSameAs(*element_)) continue;
+        const QtAccessibleTree* const tree = this->tree();
+        return tree ? tree->interfaceOf(focused) : nullptr;
+    }
+    return nullptr;
+}
+
+// Numbers
+
+QVariant QtAccessibleElement::number(double UIAccessibilityNumbers::*part) const {
+    const std::optional<UIAccessibilityNumbers> numbers = isValid() ? element_->numbers() : std::nullopt;
+    return numbers ? QVariant((*numbers).*part) : QVariant();
+}
+
+QVariant QtAccessibleElement::currentValue() const { return number(&UIAccessibilityNumbers::value); }
+QVariant QtAccessibleElement::minimumValue() const { return number(&UIAccessibilityNumbers::minimum); }
+QVariant QtAccessibleElement::maximumValue() const { return number(&UIAccessibilityNumbers::maximum); }
+QVariant QtAccessibleElement::minimumStepSize() const { return number(&UIAccessibilityNumbers::step); }
+
+void QtAccessibleElement::setCurrentValue(const QVariant& value) {
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    if (isNumber && canAct()) Ref<UIAccessibilityElement>(element_)->setNumber(number);
+}
+
+// Actions
+
+QStringList QtAccessibleElement::actionNames() const {
+    QStringList names;
+    switch (element_->role()) {
+    case UIAccessibilityRole::Adjustable:
+        names = {increaseAction(), decreaseAction()};
+        break;
+    case UIAccessibilityRole::Button:
+    case UIAccessibilityRole::RadioButton:
+    case UIAccessibilityRole::ListItem:
+        names = {pressAction()};
+        if (element_->isChecked()) names.append(toggleAction());
+        break;
+    default:
+        break;
+    }
+    if (element_->isFocusable()) names.append(setFocusAction());
+    return names;
+}
+
+void QtAccessibleElement::doAction(const QString& name) {
+    if (!canAct() || !actionNames().contains(name)) return;
+    // The views may drop the widget, and with it this interface.
+    const Ref<UIAccessibilityElement> element = element_;
+    if (name == increaseAction()) {
+        element->increment();
+    } else if (name == decreaseAction()) {
+        element->decrement();
+    } else if (name == setFocusAction()) {
+        takeFocus();
+    } else {
+        element->activateAtTime(clock_());
+    }
+}
+
+void QtAccessibleElement::takeFocus() {
+    const Ref<UIAccessibilityElement> element = element_;
+    const QPointer<QWidget> widget = widget_;
+    widget->window()->activateWindow();
+    if (widget) widget->setFocus(Qt::OtherFocusReason); // Keys come to its window then.
+    element->focus();
+}
+
+} // namespace gx::qt

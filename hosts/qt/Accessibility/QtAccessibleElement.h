@@ -1,0 +1,87 @@
+#pragma once
+
+#include <functional>
+
+#include <QAccessible>
+#include <QPointer>
+#include <QWidget>
+
+#include "QtAccessibleText.h"
+#include <GXUIPickers/UIWindow.h>
+
+namespace gx::qt {
+
+/// Where elements find each other's interfaces. `QtAccessibleView` implements it.
+class QtAccessibleTree {
+public:
+    /// The same for the same element, as long as its view lives. Nothing for none, and once the
+    /// widget is gone.
+    virtual QAccessibleInterface* interfaceOf(const Ref<UIAccessibilityElement>& element) const = 0;
+
+protected:
+    ~QtAccessibleTree() = default;
+};
+
+/// One element of a widget's views.
+///
+/// Invalid, with actions that are no-ops, while the element does not exist.
+class QtAccessibleElement : public QAccessibleInterface, public QAccessibleValueInterface, public QAccessibleActionInterface {
+public:
+    /// Returns seconds on the clock of the window's ticks; used only while the widget lives.
+    using Clock = std::function<NSTimeInterval()>;
+
+    QtAccessibleElement(QWidget* widget, WeakRef<UIWindow> window, Clock clock, Ref<UIAccessibilityElement> element);
+
+    bool isSameAs(const UIAccessibilityElement& element) const { return element_->isSameAs(element); }
+    const Ref<UIAccessibilityElement>& element() const { return element_; }
+    /// Another handle of the same element, which may belong to another container now.
+    void setElement(const Ref<UIAccessibilityElement>& element) {
+        if (element->container() || !element_->container()) element_ = element;
+    }
+
+    bool isValid() const override;
+    QObject* object() const override { return nullptr; }
+    QAccessible::Role role() const override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override;
+    QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType type) override;
+
+    QAccessibleInterface* parent() const override;
+    QAccessibleInterface* child(int index) const override;
+    int childCount() const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+    // The value is the number that is shown.
+
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant& value) override;
+    QVariant minimumValue() const override;
+    QVariant maximumValue() const override;
+    QVariant minimumStepSize() const override;
+
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+private:
+    bool isAdjustable() const { return element_->role() == UIAccessibilityRole::Adjustable; }
+    bool canAct() const { return isValid() && widget_->isEnabled(); }
+    void takeFocus();
+    QtAccessibleTree* tree() const;
+    QVariant number(double UIAccessibilityNumbers::*part) const;
+
+    QPointer<QWidget> widget_;
+    WeakRef<UIWindow> window_;
+    Clock clock_;
+    Ref<UIAccessibilityElement> element_;
+    QtAccessibleText value_;
+};
+
+/// Of an element's text; empty for none.
+QString textOf(const std::optional<std::string>& text);
+
+} // namespace gx::qt
