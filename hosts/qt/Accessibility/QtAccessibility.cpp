@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "QtAccessibleBus.h"
+
 namespace gx::qt {
 
 QtAccessibleView::QtAccessibleView(QWidget* widget, WeakRef<UIWindow> window, Clock clock)
@@ -127,6 +129,8 @@ void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Se
     QAccessible::State changed;
     switch (change.kind) {
     case Kind::Elements: {
+        // Screen readers hear of each child, also where there are millions.
+        if (element->childCount() > highestReorderedCount) return;
         QAccessibleEvent event(element, QAccessible::ObjectReorder);
         return send(&event);
     }
@@ -146,7 +150,9 @@ void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Se
     case Kind::Expanded: {
         changed.expanded = true;
         QAccessibleStateChangeEvent event(element, changed);
-        return send(&event);
+        send(&event);
+        if (widget) reportExpandedOnBus(*element);
+        return;
     }
     case Kind::Checked: {
         changed.checked = true;

@@ -59,6 +59,9 @@ public:
     void forgetFocus();
 
 private:
+    /// Chosen: lists with more children do not report new ones.
+    static constexpr int highestReorderedCount = 1000;
+
     struct Known {
         Ref<UIAccessibilityElement> element;
         QAccessible::Id identifier;
