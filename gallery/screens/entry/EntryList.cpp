@@ -234,10 +234,6 @@ CGFloat EntryList::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NS
     return row.isPicker ? pickerHeight() : heightOfRow(row.measurement);
 }
 
-bool EntryList::tableView_isRowPartOfRowAbove(const Ref<UITableView>&, NSIndexPath path) { return rows_.rowAt(path).isPicker; }
-
-bool EntryList::tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) { return !rows_.rowAt(path).isPicker; }
-
 void EntryList::tableView_didSelectRowAtIndexPath(const Ref<UITableView>&, NSIndexPath path) {
     const EntryRows::Row row = rows_.rowAt(path);
     if (row.isPicker) return;

@@ -61,7 +61,9 @@ public:
         return rows_.rowCountOfSection(section);
     }
     std::optional<std::string> tableView_titleForHeaderInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;
-    bool tableView_isRowPartOfRowAbove(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+    bool tableView_isRowPartOfRowAbove(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {
+        return rows_.rowAt(path).isPicker;
+    }
     gx::Ref<gx::UITableViewCell> tableView_cellForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
     gx::CGFloat tableView_heightForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
     bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {

@@ -129,7 +129,7 @@ void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Se
     QAccessible::State changed;
     switch (change.kind) {
     case Kind::Elements: {
-        // Screen readers hear of each child, also where there are millions.
+        // Qt sends an event for each child, also where there are millions.
         if (element->childCount() > highestReorderedCount) return;
         QAccessibleEvent event(element, QAccessible::ObjectReorder);
         return send(&event);
