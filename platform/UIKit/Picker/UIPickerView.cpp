@@ -113,11 +113,6 @@ void UIPickerView::exchangeComponents(NSInteger one, NSInteger other) {
     if (implementation_->components.exchange(one, other)) setNeedsDisplay();
 }
 
-Ref<UIFont> UIPickerView::titleFont() {
-    static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(titleFontSize, UIFontWeight::Medium);
-    return font;
-}
-
 // Queries
 
 NSInteger UIPickerView::numberOfComponents() {
@@ -196,8 +191,7 @@ void UIPickerView::turnToRow_inComponent(NSInteger row, NSInteger component) {
     components.at(component).requested = present;
     components.at(component).axis.restOnRow(present);
     implementation_->invalidate();
-    const Ref<UIPickerViewDelegate> delegate = delegate_.lock();
-    if (delegate) delegate->pickerView_didSelectRow_inComponent(keep, present, component);
+    if (const auto delegate = delegate_.lock()) delegate->pickerView_didSelectRow_inComponent(keep, present, component);
 }
 
 // Layout and drawing

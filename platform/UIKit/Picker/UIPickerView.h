@@ -230,7 +230,10 @@ protected:
     void exchangeComponents(NSInteger one, NSInteger other);
     /// The font of rows with titles, attributed ones without a font of their own included. Read
     /// whenever a row is bound. Here 22 points, medium.
-    virtual Ref<UIFont> titleFont();
+    virtual Ref<UIFont> titleFont() {
+        static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(titleFontSize, UIFontWeight::Medium);
+        return font;
+    }
 
 private:
     class Implementation;
