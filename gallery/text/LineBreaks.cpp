@@ -41,6 +41,8 @@ bool standsAlone(char32_t code) {
     return (code >= 0x3000 && code <= 0x30FF) || (code >= 0x3400 && code <= 0x9FFF) || (code >= 0xF900 && code <= 0xFAFF) ||
            (code >= 0xFF00 && code <= 0xFFEF);
 }
+// Words of other languages, in which a break is read as their end.
+bool isKatakana(char32_t code) { return code >= 0x30A1 && code <= 0x30FF; }
 bool mayBeginLine(char32_t code) {
     return !isOneOf(U"、。，．・：；？！）」』】〉》ー々ぁぃぅぇぉっゃゅょゎァィゥェォッャュョヮ%,.:;!?)…", code);
 }
@@ -83,7 +85,8 @@ std::vector<Piece> piecesOf(std::string_view text) {
             const char32_t after = characters[end].code;
             const bool isHyphen = before == '-' && end >= i + 2 && isLetter(characters[end - 2].code) && isLetter(after);
             const bool isBetween = (standsAlone(before) || standsAlone(after)) && mayEndLine(before) && mayBeginLine(after);
-            if (isHyphen || isBetween) break;
+            const bool isWord = isKatakana(before) && isKatakana(after);
+            if (isHyphen || (isBetween && !isWord)) break;
         }
         pieces.push_back({text.substr(characters[i].start, characters[end - 1].end - characters[i].start), followsSpace});
         followsSpace = false;
@@ -125,6 +128,7 @@ Part beginningThatFits(std::string_view word, CGFloat width, const LineBreaks::W
         std::string line = std::string(word.substr(0, length)) + "-";
         if (widthOf(line) <= width) return {std::move(line), length};
     }
+    while (fitting > 1 && fitting < characters.size() && !mayBeginLine(characters[fitting].code)) --fitting;
     const std::size_t length = characters[fitting - 1].end;
     return {std::string(word.substr(0, length)), length};
 }

@@ -51,6 +51,10 @@ TEST(LineBreaksTest, WhereNoSyllableIsFoundCharactersAreKeptWhole) {
 TEST(LineBreaksTest, ChineseAndJapaneseBreakBetweenCharactersButNotBeforePunctuation) {
     EXPECT_EQ(linesOf("\u3042\u3044\u3046\u3002\u3048", 3), (Lines{"\u3042\u3044", "\u3046\u3002\u3048"}));
     EXPECT_EQ(linesOf("\u3042\u30AB\u30C3\u3068", 2), (Lines{"\u3042", "\u30AB\u30C3", "\u3068"})) << "nor before a small kana";
+    // すべてのピッカー
+    const char* allPickers = "\u3059\u3079\u3066\u306E\u30D4\u30C3\u30AB\u30FC";
+    EXPECT_EQ(linesOf(allPickers, 6), (Lines{"\u3059\u3079\u3066\u306E", "\u30D4\u30C3\u30AB\u30FC"})) << "nor within katakana";
+    EXPECT_EQ(linesOf(allPickers, 3), (Lines{"\u3059\u3079\u3066", "\u306E", "\u30D4\u30C3", "\u30AB\u30FC"}));
     EXPECT_EQ(linesOf("\u8DDD\u79BB 5 km", 4), (Lines{"\u8DDD\u79BB 5", "km"}));
     EXPECT_EQ(linesOf("\uAC70\uB9AC \uC18D\uB3C4", 4), (Lines{"\uAC70\uB9AC", "\uC18D\uB3C4"})) << "Korean has spaces";
 }
