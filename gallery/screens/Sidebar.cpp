@@ -102,6 +102,7 @@ void Sidebar::setChosenPage(std::size_t page) {
     for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setChosen(i == page);
     chosen_ = page;
     setNeedsLayout();
+    Theme::layOutAgain(list_); // The strong text of the chosen row may need another line.
 }
 
 void Sidebar::showNames() {
