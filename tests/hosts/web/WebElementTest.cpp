@@ -205,7 +205,7 @@ TEST_F(WebElementTest, ItsColumnsAreToldWithNameAndValue) {
     element->picker().set(WebProperty::Metric, 1);
     draw(*element);
     WebAccessibility& accessibility = element->accessibility();
-    ASSERT_EQ(accessibility.refresh(*element->picker().view()), 2);
+    ASSERT_EQ(accessibility.refresh(*element->picker().view(), element->picker().wheels()), 2);
     EXPECT_EQ(accessibility.text_ofColumn(WebAccessibility::Text::Label, 0), "Distance, kilometres");
     EXPECT_EQ(accessibility.text_ofColumn(WebAccessibility::Text::Value, 1), "5.0 kilometres");
     EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Value, 0), 5);
@@ -216,6 +216,23 @@ TEST_F(WebElementTest, ItsColumnsAreToldWithNameAndValue) {
     run(*element, 2);
     EXPECT_EQ(element->picker().get(WebProperty::Value), 6000);
     EXPECT_EQ(page.changes, 1);
+}
+
+TEST_F(WebElementTest, TheColumnWithTheFocusIsThatOfTheKeys) {
+    const auto element = opened(WebPickerKind::Duration);
+    draw(*element);
+    const WebElement::Visit visit(*element);
+    WebAccessibility& accessibility = element->accessibility();
+    ASSERT_EQ(accessibility.refresh(*element->picker().view(), element->picker().wheels()), 2);
+    const auto focused = [&accessibility](NSInteger column) {
+        return accessibility.number_ofColumn(WebAccessibility::Number::IsFocused, column);
+    };
+    EXPECT_EQ(focused(1), 0);
+    accessibility.act_onColumn(WebAccessibility::Action::Focus, 1, 0);
+    EXPECT_EQ(focused(0), 0);
+    EXPECT_EQ(focused(1), 1);
+    EXPECT_TRUE(element->window().keyDown({UIKey::Code::Left, {}, 0, false, now}));
+    EXPECT_EQ(focused(0), 1);
 }
 
 TEST_F(WebElementTest, ThePageKnowsItsElementsByNumber) {

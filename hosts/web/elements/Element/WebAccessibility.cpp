@@ -6,7 +6,8 @@
 
 namespace gx::web {
 
-NSInteger WebAccessibility::refresh(UIView& view) {
+NSInteger WebAccessibility::refresh(UIView& view, std::vector<Ref<UIPickerView>> wheels) {
+    wheels_ = std::move(wheels);
     columns_ = view.accessibilityElements();
     const auto isOther = [](const Ref<UIAccessibilityElement>& element) { return element->role() != UIAccessibilityRole::Adjustable; };
     columns_.erase(std::remove_if(columns_.begin(), columns_.end(), isOther), columns_.end());
@@ -17,11 +18,31 @@ Ref<UIAccessibilityElement> WebAccessibility::at(NSInteger column) const {
     return column >= 0 && column < static_cast<NSInteger>(columns_.size()) ? columns_[static_cast<std::size_t>(column)] : nullptr;
 }
 
+Ref<UIPickerView> WebAccessibility::wheelOf(const UIAccessibilityElement& element) const {
+    const Ref<UIViewNode> view = element.view();
+    const auto wheel = std::find_if(wheels_.begin(), wheels_.end(), [&view](const Ref<UIPickerView>& known) { return known == view; });
+    return wheel == wheels_.end() ? nullptr : *wheel;
+}
+
+/// Gives the wheel the focus, and goes to the column as the keys would.
+void WebAccessibility::focus(const UIAccessibilityElement& element) const {
+    const Ref<UIPickerView> wheel = wheelOf(element);
+    const Ref<UIWindow> window = wheel ? wheel->window() : nullptr;
+    if (!window || !wheel->becomeFirstResponder()) return;
+    UIKey key;
+    for (NSInteger left = wheel->numberOfComponents(); left > 0 && wheel->componentOfKeys() != element.part(); --left) {
+        key.code = wheel->componentOfKeys() < element.part() ? UIKey::Code::Right : UIKey::Code::Left;
+        window->keyDown(key);
+    }
+}
+
 std::optional<double> WebAccessibility::number_ofColumn(Number number, NSInteger column) const {
     const Ref<UIAccessibilityElement> element = at(column);
     if (!element) return std::nullopt;
     const CGRect frame = element->frame();
     const std::optional<NSInteger> index = element->index();
+    const Ref<UIPickerView> wheel = wheelOf(*element);
+    const bool isFocused = wheel && wheel->isFirstResponder() && wheel->componentOfKeys() == element->part();
     switch (number) {
     case Number::X:
         return frame.origin.x;
@@ -38,7 +59,7 @@ std::optional<double> WebAccessibility::number_ofColumn(Number number, NSInteger
     case Number::Maximum:
         return static_cast<double>(element->count() - 1);
     case Number::IsFocused:
-        return 0;
+        return isFocused ? 1 : 0;
     }
     return std::nullopt;
 }
@@ -54,7 +75,7 @@ void WebAccessibility::act_onColumn(Action action, NSInteger column, double argu
     if (!element) return;
     switch (action) {
     case Action::Focus:
-        if (const Ref<UIViewNode> view = element->view()) view->becomeFirstResponder();
+        focus(*element);
         break;
     case Action::Step:
         if (argument > 0) {

@@ -2,9 +2,11 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <GXUIPickers/UIAccessibility.h>
-#include <GXUIPickers/UIView.h>
+#include <GXUIPickers/UIPickerView.h>
+#include <GXUIPickers/UIWindow.h>
 
 namespace gx::web {
 
@@ -19,8 +21,8 @@ public:
     enum class Text : std::int32_t { Label = 0, Value };
     enum class Action : std::int32_t { Focus = 0, Step, SetNumber };
 
-    /// Returns how many there are now.
-    NSInteger refresh(UIView& view);
+    /// Of the wheels of a view. Returns how many there are now.
+    NSInteger refresh(UIView& view, std::vector<Ref<UIPickerView>> wheels);
     /// Nothing where the column has no such number.
     std::optional<double> number_ofColumn(Number number, NSInteger column) const;
     std::optional<std::string> text_ofColumn(Text text, NSInteger column) const;
@@ -28,8 +30,11 @@ public:
 
 private:
     Ref<UIAccessibilityElement> at(NSInteger column) const;
+    Ref<UIPickerView> wheelOf(const UIAccessibilityElement& element) const;
+    void focus(const UIAccessibilityElement& element) const;
 
     UIAccessibilityElements columns_;
+    std::vector<Ref<UIPickerView>> wheels_;
 };
 
 } // namespace gx::web

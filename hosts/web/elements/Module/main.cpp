@@ -37,7 +37,7 @@ std::string takeText(std::int32_t length) { return sharedText().substr(0, static
 
 extern "C" [[noreturn]] void abort_message(const char* /*format*/, ...) { __builtin_trap(); }
 _LIBCPP_BEGIN_NAMESPACE_STD
-[[noreturn]] void __libcpp_verbose_abort(const char* /*format*/, ...) noexcept { __builtin_trap(); }
+[[noreturn]] void __libcpp_verbose_abort(const char* /*format*/, ...) { __builtin_trap(); }
 _LIBCPP_END_NAMESPACE_STD
 
 // Texts
@@ -263,8 +263,9 @@ GX_WEB_EXPORT("setReceivesKeys") void gx_web_set_receives_keys(std::int32_t numb
 
 /// Reads the columns that the user can spin again, and returns how many there are.
 GX_WEB_EXPORT("columns") std::int32_t gx_web_columns(std::int32_t number) {
-    return visit(number,
-                 [](WebElement& element) { return static_cast<std::int32_t>(element.accessibility().refresh(*element.picker().view())); });
+    return visit(number, [](WebElement& element) {
+        return static_cast<std::int32_t>(element.accessibility().refresh(*element.picker().view(), element.picker().wheels()));
+    });
 }
 
 /// NaN for a number that the column does not have.

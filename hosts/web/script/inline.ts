@@ -1,0 +1,17 @@
+// One file for a page without a bundler: the module comes with the script.
+import { defineElements } from './pickers.js';
+import { startModule } from './module.js';
+import packed from 'gxuipickers.wasm.gz';
+
+export * from './index.js';
+
+async function compile(): Promise<WebAssembly.Module> {
+    const bytes = Uint8Array.from(atob(packed), (letter) => letter.charCodeAt(0));
+    const unpacked = new Response(bytes).body!.pipeThrough(new DecompressionStream('gzip'));
+    return WebAssembly.compile(await new Response(unpacked).arrayBuffer());
+}
+
+if (typeof HTMLElement !== 'undefined') {
+    startModule(compile()).catch(() => {}); // It has been told.
+    defineElements();
+}

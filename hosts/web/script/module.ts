@@ -1,0 +1,205 @@
+import { measure } from './fonts.js';
+
+/** What the module exports. Elements are known by numbers that `Module` gives. */
+interface Exports {
+    memory: WebAssembly.Memory;
+    _initialize(): void;
+    text(length: number): number;
+    numbers(count: number): number;
+    open(element: number, kind: number, rowFont: number, rowSize: number, labelFont: number, labelSize: number, languageLength: number, isRightToLeft: number): number;
+    close(element: number): void;
+    elementCount(): number;
+    fontsDidLoad(): void;
+    setFonts(element: number, rowFont: number, rowSize: number, labelFont: number, labelSize: number): void;
+    setLanguage(element: number, length: number, isRightToLeft: number): void;
+    setLabel(element: number, length: number): void;
+    setSize(element: number, width: number, height: number): void;
+    reload(element: number): void;
+    setTraits(element: number, traits: number): void;
+    get(element: number, property: number): number;
+    getLive(element: number, property: number): number;
+    set(element: number, property: number, value: number): number;
+    valueText(element: number): number;
+    setIcons(element: number, numbers: number, count: number, labelsLength: number): void;
+    setRowCounts(element: number, numbers: number, count: number): void;
+    setColumn(element: number, column: number, width: number, labelLength: number): void;
+    row(element: number, column: number, isLive: number): number;
+    setRow(element: number, column: number, row: number): void;
+    tick(element: number, time: number): number;
+    draw(element: number): void;
+    finish(element: number): void;
+    touch(element: number, phase: number, finger: number, x: number, y: number, time: number): number;
+    pointer(element: number, isInside: number, x: number, y: number): void;
+    scroll(element: number, isNotches: number, deltaX: number, deltaY: number, x: number, y: number, time: number, isFinished: number): number;
+    key(element: number, code: number, textLength: number, modifiers: number, isRepeat: number, time: number): number;
+    setReceivesKeys(element: number, receives: number): void;
+    columns(element: number): number;
+    columnNumber(element: number, column: number, which: number): number;
+    columnText(element: number, column: number, which: number): number;
+    columnAct(element: number, column: number, action: number, argument: number): void;
+}
+
+/** What an element shows a frame on. */
+export interface Drawing {
+    fillRect(shape: number, x: number, y: number, width: number, height: number, radius: number, alpha: number): void;
+    drawText(isRow: boolean, font: number, size: number, text: string, scaleX: number, scaleY: number, x: number, y: number, alpha: number, home: number): void;
+    drawImage(image: number, scaleX: number, scaleY: number, x: number, y: number, width: number, height: number, alpha: number, home: number): void;
+}
+
+/** What the module tells an element, while it is being called. */
+export interface Client extends Drawing {
+    needsFrame(): void;
+    didPassRow(): void;
+    didChange(): void;
+    /** The title of a row of the page's own columns. */
+    rowTitle(column: number, row: number): string | null;
+}
+
+/** The functions of the module that need no texts. */
+export type Calls = Omit<Exports, 'memory' | '_initialize' | 'text' | 'numbers'>;
+
+const decoder = new TextDecoder();
+const encoder = new TextEncoder();
+
+/** The one WebAssembly module of the page, once it is there. */
+export class Module {
+    private readonly exports: Exports;
+    private readonly clients = new Map<number, Client>();
+    private drawing: Client | undefined;
+    private lastNumber = 0;
+    private bytes: Uint8Array;
+
+    constructor(compiled: WebAssembly.Module) {
+        const client = (element: number): Client | undefined => this.clients.get(element);
+        const page = {
+            measureText: (font: number, size: number, text: number, length: number, result: number) => {
+                const [width, height] = measure(font, size, this.textAt(text, length));
+                const sizes = new Float64Array(this.exports.memory.buffer, result, 2);
+                sizes[0] = width;
+                sizes[1] = height;
+            },
+            fillRect: (...call: Parameters<Drawing['fillRect']>) => this.drawing?.fillRect(...call),
+            drawText: (isRow: number, font: number, size: number, text: number, length: number, scaleX: number, scaleY: number, x: number, y: number, alpha: number, home: number) =>
+                this.drawing?.drawText(isRow !== 0, font, size, this.textAt(text, length), scaleX, scaleY, x, y, alpha, home),
+            drawImage: (...call: Parameters<Drawing['drawImage']>) => this.drawing?.drawImage(...call),
+            needsFrame: (element: number) => client(element)?.needsFrame(),
+            didPassRow: (element: number) => client(element)?.didPassRow(),
+            didChange: (element: number) => client(element)?.didChange(),
+            rowTitle: (element: number, column: number, row: number) => {
+                const title = client(element)?.rowTitle(column, row) ?? null;
+                return title === null ? -1 : this.giveText(title);
+            },
+        };
+        const instance = new WebAssembly.Instance(compiled, { page });
+        this.exports = instance.exports as unknown as Exports;
+        this.bytes = new Uint8Array(this.exports.memory.buffer);
+        this.exports._initialize();
+    }
+
+    get calls(): Calls {
+        return this.exports;
+    }
+
+    /** How much memory the module has, in bytes. */
+    get memorySize(): number {
+        return this.exports.memory.buffer.byteLength;
+    }
+
+    /** A number for a new element. */
+    register(client: Client): number {
+        this.lastNumber += 1;
+        this.clients.set(this.lastNumber, client);
+        return this.lastNumber;
+    }
+
+    unregister(element: number): void {
+        this.exports.close(element);
+        this.clients.delete(element);
+    }
+
+    /** Draws the element's frame on what it registered. */
+    draw(element: number): void {
+        this.drawing = this.clients.get(element);
+        try {
+            this.exports.draw(element);
+        } finally {
+            this.drawing = undefined;
+        }
+    }
+
+    /** Puts a text into the shared buffer and returns its length in bytes. */
+    giveText(text: string): number {
+        const encoded = encoder.encode(text);
+        const place = this.exports.text(encoded.length);
+        this.view().set(encoded, place);
+        return encoded.length;
+    }
+
+    /** The text that a call has left in the shared buffer. */
+    takeText(length: number): string | null {
+        return length < 0 ? null : this.textAt(this.exports.text(0), length);
+    }
+
+    /** Hands numbers over and returns where they lie. */
+    giveNumbers(numbers: readonly number[]): number {
+        const place = this.exports.numbers(numbers.length);
+        new Float64Array(this.exports.memory.buffer, place, numbers.length).set(numbers);
+        return place;
+    }
+
+    private view(): Uint8Array {
+        // Memory that has grown has another buffer.
+        if (this.bytes.buffer !== this.exports.memory.buffer) this.bytes = new Uint8Array(this.exports.memory.buffer);
+        return this.bytes;
+    }
+
+    private textAt(place: number, length: number): string {
+        const bytes = this.view();
+        // Titles are digits nearly always; for a few letters this is faster than the decoder.
+        if (length <= 8) {
+            let text = '';
+            for (let i = place; i < place + length; i += 1) {
+                const byte = bytes[i]!;
+                if (byte > 127) return decoder.decode(bytes.subarray(place, place + length));
+                text += String.fromCharCode(byte);
+            }
+            return text;
+        }
+        return decoder.decode(bytes.subarray(place, place + length));
+    }
+}
+
+let loaded: Module | undefined;
+let loading: Promise<Module> | undefined;
+const waiting = new Set<() => void>();
+
+/** The module, if it is there already. */
+export const loadedModule = (): Module | undefined => loaded;
+
+/** Calls back once the module is there; never, if it cannot be loaded. Returns how to call it off. */
+export function whenLoaded(callback: () => void): () => void {
+    waiting.add(callback);
+    return () => waiting.delete(callback);
+}
+
+/**
+ * Starts the module from what it was compiled to. The first call counts; later ones return the same
+ * module.
+ */
+export function startModule(compiled: WebAssembly.Module | Promise<WebAssembly.Module>): Promise<Module> {
+    loading ??= Promise.resolve(compiled).then(
+        (ready) => {
+            const module = new Module(ready);
+            loaded = module;
+            const callbacks = [...waiting];
+            waiting.clear();
+            for (const callback of callbacks) callback();
+            return module;
+        },
+        (reason: unknown) => {
+            console.error('GXUIPickers: the module cannot be loaded; elements show their content.', reason);
+            throw reason;
+        },
+    );
+    return loading;
+}

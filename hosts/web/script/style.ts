@@ -1,0 +1,65 @@
+/** The style sheet of every element's shadow tree, made once a page. */
+let sheet: CSSStyleSheet | undefined;
+
+const css = `
+:host {
+    display: block;
+    position: relative;
+    box-sizing: border-box;
+    /* The rows' font: 22 px where the root has 16. Rows are 40 high then, and five are in sight. */
+    font-size: 1.375rem;
+    height: calc(216em / 22);
+    min-width: 0;
+    overflow: clip;
+    -webkit-tap-highlight-color: transparent;
+    -webkit-user-select: none;
+    user-select: none;
+}
+:host([hidden]) { display: none; }
+:host(:disabled) { opacity: 0.45; }
+.surface, .columns { position: absolute; inset: 0; direction: ltr; }
+.surface { contain: strict; pointer-events: none; }
+.surface > * { position: absolute; left: 0; top: 0; transform-origin: 0 0; }
+.text { white-space: pre; font-variant-numeric: inherit; text-align: left; }
+.image { display: grid; place-items: center; overflow: hidden; }
+.image > * { width: 100%; height: 100%; object-fit: contain; }
+.row, .separator { font-weight: 500; color: var(--gx-row-color, inherit); }
+.label { font-weight: 400; color: var(--gx-label-color, color-mix(in srgb, currentColor 64%, transparent)); }
+.indicator {
+    box-sizing: border-box;
+    background: var(--gx-indicator-color, color-mix(in srgb, currentColor 12%, transparent));
+    border-radius: var(--gx-indicator-radius, 8px);
+}
+.outline { background: currentColor; }
+.focus { background: var(--gx-focus-color, AccentColor); }
+.column {
+    position: absolute;
+    margin: 0;
+    outline: none;
+    touch-action: pan-x;
+    cursor: ns-resize;
+}
+:host(:disabled) .column, :host([readonly]) .column { touch-action: auto; cursor: default; }
+.probe { position: absolute; visibility: hidden; white-space: pre; pointer-events: none; left: 0; top: 0; }
+.isReady ~ slot { display: none; }
+@media (prefers-contrast: more) {
+    .label { color: var(--gx-label-color, inherit); }
+}
+@media (forced-colors: active) {
+    .indicator { border: 1px solid CanvasText; background: transparent; }
+    .focus { forced-color-adjust: none; background: Highlight; }
+    .outline { display: none; }
+    .row, .separator, .label { color: CanvasText; }
+    :host(:disabled) { opacity: 1; }
+    :host(:disabled) .text { color: GrayText; }
+}
+`;
+
+/** Gives a shadow tree its style sheet: a constructed one, which every content security policy allows. */
+export function adoptStyle(root: ShadowRoot): void {
+    if (!sheet) {
+        sheet = new CSSStyleSheet();
+        sheet.replaceSync(css);
+    }
+    root.adoptedStyleSheets = [sheet];
+}

@@ -1,0 +1,310 @@
+import { ColumnAction, Columns } from './accessibility.js';
+import { clock } from './clock.js';
+import { numberOfFont } from './fonts.js';
+import { Input } from './input.js';
+import type { Calls, Client, Module } from './module.js';
+import type { Kind } from './properties.js';
+import { Surface } from './surface.js';
+
+/** What a view tells its element, each after the module has returned. */
+export interface ViewOwner {
+    /** Rows have passed the selection indicator, so many since the last call. */
+    didPassRows(count: number): void;
+    /** The user has selected something. */
+    didChange(): void;
+    /** The module has trapped; the view shows nothing any more. */
+    didFail(reason: unknown): void;
+    rowTitle(column: number, row: number): string | null;
+}
+
+/** What decides how a picker behaves, besides its properties. */
+export interface Traits {
+    isDisabled: boolean;
+    isReadOnly: boolean;
+    isRequired: boolean;
+    isInvalid: boolean;
+    isHighContrast: boolean;
+    reducesMotion: boolean;
+}
+
+/** The fonts of rows and labels, as the module knows them. */
+export interface Fonts {
+    row: number;
+    rowSize: number;
+    label: number;
+    labelSize: number;
+}
+
+/** The fonts that two elements are shown in. */
+export function fontsOf(row: Element, label: Element): Fonts {
+    const rowStyle = getComputedStyle(row);
+    const labelStyle = getComputedStyle(label);
+    return {
+        row: numberOfFont(rowStyle),
+        rowSize: parseFloat(rowStyle.fontSize),
+        label: numberOfFont(labelStyle),
+        labelSize: parseFloat(labelStyle.fontSize),
+    };
+}
+
+/**
+ * One picker of the module on the page: its frames, its input and its columns.
+ *
+ * It lives from `open` to `close`. Events of its element are dispatched when no call to the module
+ * is under way, so their listeners may do anything.
+ */
+export class View implements Client {
+    readonly number: number;
+    private readonly columns: Columns;
+    private readonly input: Input;
+    private request: number | undefined;
+    private passedRows = 0;
+    private hasChanged = false;
+    private areColumnsOld = true;
+    private depth = 0;
+    private isClosed = false;
+    private traits: Traits | undefined;
+
+    constructor(
+        private readonly module: Module,
+        private readonly owner: ViewOwner,
+        readonly surface: Surface,
+        root: HTMLElement,
+    ) {
+        this.number = module.register(this);
+        this.columns = new Columns({
+            calls: module.calls,
+            number: this.number,
+            takeText: (length) => module.takeText(length),
+            didFocusColumn: (column) => this.didFocusColumn(column),
+        });
+        root.append(this.columns.root);
+        this.input = new Input(this.columns.root, {
+            touch: (phase, finger, x, y, time) => this.call((calls) => calls.touch(this.number, phase, finger, x, y, time) === 1, false),
+            pointer: (isInside, x, y) => this.call((calls) => calls.pointer(this.number, Number(isInside), x, y), undefined),
+            scroll: (isNotches, deltaX, deltaY, x, y, time, isFinished) =>
+                this.call((calls) => calls.scroll(this.number, Number(isNotches), deltaX, deltaY, x, y, time, Number(isFinished)) === 1, false),
+            key: (code, text, modifiers, isRepeat, time) => {
+                const isUsed = this.call((calls) => calls.key(this.number, code, module.giveText(text), modifiers, Number(isRepeat), time) === 1, false);
+                // The row that a key moves to is told at once.
+                if (isUsed) this.updateColumns();
+                return isUsed;
+            },
+        });
+        this.columns.root.addEventListener('focusin', () => this.setReceivesKeys(true));
+        this.columns.root.addEventListener('focusout', (event) => {
+            if (!this.columns.root.contains(event.relatedTarget as Node | null)) this.setReceivesKeys(false);
+        });
+    }
+
+    open(kind: Kind, fonts: Fonts, language: string, isRightToLeft: boolean): boolean {
+        this.surface.labelFont = fonts.label;
+        return this.call(
+            (calls) =>
+                calls.open(this.number, kind, fonts.row, fonts.rowSize, fonts.label, fonts.labelSize, this.module.giveText(language), Number(isRightToLeft)) === 1,
+            false,
+        );
+    }
+
+    /** Ends what moves first, so that it is reported. */
+    close(): void {
+        if (this.isClosed) return;
+        this.input.cancelAll();
+        this.finish();
+        this.isClosed = true;
+        if (this.request !== undefined) clock().cancelFrame(this.request);
+        this.columns.root.remove();
+        this.module.unregister(this.number);
+    }
+
+    /**
+     * Calls the module. What it tells meanwhile is told to the element afterwards. Should it trap,
+     * the view is closed and the result is `otherwise`.
+     */
+    call<Result>(work: (calls: Calls) => Result, otherwise: Result): Result {
+        if (this.isClosed) return otherwise;
+        this.depth += 1;
+        let result = otherwise;
+        try {
+            result = work(this.module.calls);
+        } catch (reason) {
+            this.fail(reason);
+        } finally {
+            this.depth -= 1;
+        }
+        if (this.depth === 0) this.flush();
+        return result;
+    }
+
+    private fail(reason: unknown): void {
+        this.isClosed = true;
+        if (this.request !== undefined) clock().cancelFrame(this.request);
+        this.columns.root.remove();
+        this.owner.didFail(reason);
+    }
+
+    private flush(): void {
+        const passed = this.passedRows;
+        const hasChanged = this.hasChanged;
+        this.passedRows = 0;
+        this.hasChanged = false;
+        if (hasChanged) this.areColumnsOld = true;
+        if (passed > 0) this.owner.didPassRows(passed);
+        if (hasChanged) this.owner.didChange();
+    }
+
+    // What the module tells
+
+    needsFrame(): void {
+        if (this.request === undefined && !this.isClosed) this.request = clock().requestFrame((time) => this.frame(time));
+    }
+
+    didPassRow(): void {
+        this.passedRows += 1;
+    }
+
+    didChange(): void {
+        this.hasChanged = true;
+    }
+
+    rowTitle(column: number, row: number): string | null {
+        return this.owner.rowTitle(column, row);
+    }
+
+    fillRect(...call: Parameters<Surface['fillRect']>): void {
+        this.surface.fillRect(...call);
+    }
+
+    drawText(...call: Parameters<Surface['drawText']>): void {
+        this.surface.drawText(...call);
+    }
+
+    drawImage(...call: Parameters<Surface['drawImage']>): void {
+        this.surface.drawImage(...call);
+    }
+
+    // Frames
+
+    private frame(time: number): void {
+        this.request = undefined;
+        const draws = this.call((calls) => calls.tick(this.number, time) === 1, false);
+        if (draws) {
+            this.draw();
+            this.needsFrame();
+        } else if (this.areColumnsOld) {
+            this.updateColumns();
+        }
+    }
+
+    /** Shows the first frame at once; the columns follow with the next one. */
+    showNow(): void {
+        this.call((calls) => calls.tick(this.number, clock().now()), 0);
+        this.draw();
+        this.changed();
+    }
+
+    private draw(): void {
+        this.surface.begin();
+        this.call(() => this.module.draw(this.number), undefined);
+        this.surface.end();
+    }
+
+    /** Something is to be shown and told again. */
+    changed(): void {
+        this.areColumnsOld = true;
+        this.needsFrame();
+    }
+
+    updateColumns(): void {
+        const traits = this.traits;
+        if (this.isClosed || !traits) return;
+        this.areColumnsOld = false;
+        this.call(() => this.columns.update(traits), undefined);
+    }
+
+    /** Ends every movement at once; what the user has turned is reported. */
+    finish(): void {
+        this.call((calls) => calls.finish(this.number), undefined);
+    }
+
+    // Settings
+
+    setTraits(traits: Traits): void {
+        this.traits = traits;
+        const takesInput = !traits.isDisabled && !traits.isReadOnly;
+        if (!takesInput) this.input.cancelAll();
+        this.call((calls) => calls.setTraits(this.number, Number(traits.isHighContrast) | (Number(traits.reducesMotion) << 1) | (Number(takesInput) << 2)), undefined);
+        this.changed();
+    }
+
+    setFonts(fonts: Fonts): void {
+        this.surface.labelFont = fonts.label;
+        this.surface.forgetFonts();
+        this.call((calls) => calls.setFonts(this.number, fonts.row, fonts.rowSize, fonts.label, fonts.labelSize), undefined);
+        this.changed();
+    }
+
+    setLanguage(language: string, isRightToLeft: boolean): void {
+        this.call((calls) => calls.setLanguage(this.number, this.module.giveText(language), Number(isRightToLeft)), undefined);
+        this.changed();
+    }
+
+    setLabel(label: string | null): void {
+        this.call((calls) => calls.setLabel(this.number, label === null ? -1 : this.module.giveText(label)), undefined);
+        this.areColumnsOld = true;
+        this.needsFrame();
+    }
+
+    setSize(width: number, height: number): void {
+        this.call((calls) => calls.setSize(this.number, width, height), undefined);
+        this.changed();
+    }
+
+    reload(): void {
+        this.surface.forgetFonts();
+        this.call((calls) => calls.reload(this.number), undefined);
+        this.changed();
+    }
+
+    /** The pictures of an icon picker, each with what it shows. */
+    setIcons(images: readonly { node: HTMLElement; width: number; height: number; label: string }[]): void {
+        this.surface.setImages(images.map((image) => image.node));
+        const numbers = images.flatMap((image, handle) => [handle, image.width, image.height]);
+        this.call((calls) => {
+            const length = this.module.giveText(images.map((image) => `${image.label.replaceAll('\n', ' ')}\n`).join(''));
+            calls.setIcons(this.number, this.module.giveNumbers(numbers), images.length, length);
+        }, undefined);
+        this.changed();
+    }
+
+    /** The columns of a wheel of the page's own. */
+    setColumns(counts: readonly number[], columns: readonly { width: number; label: string }[]): void {
+        this.call((calls) => {
+            calls.setRowCounts(this.number, this.module.giveNumbers(counts), counts.length);
+            columns.forEach((column, i) => calls.setColumn(this.number, i, column.width, this.module.giveText(column.label)));
+        }, undefined);
+        this.changed();
+    }
+
+    get valueText(): string {
+        return this.call((calls) => this.module.takeText(calls.valueText(this.number)) ?? '', '');
+    }
+
+    // The focus
+
+    private setReceivesKeys(receives: boolean): void {
+        this.call((calls) => calls.setReceivesKeys(this.number, Number(receives)), undefined);
+    }
+
+    private didFocusColumn(column: number): void {
+        this.setReceivesKeys(true);
+        // A finger or the mouse chooses a column by itself and needs no mark.
+        const isByKeys = this.columns.root.querySelector('.column:focus-visible') !== null;
+        if (isByKeys) this.call((calls) => calls.columnAct(this.number, column, ColumnAction.Focus, 0), undefined);
+    }
+
+    focus(options?: FocusOptions): void {
+        if (this.areColumnsOld) this.updateColumns();
+        this.columns.focus(0, options);
+    }
+}

@@ -1,0 +1,70 @@
+// Chromium for the tests, and what they do in it.
+import { createRequire } from 'node:module';
+import { mkdtemp, rm } from 'node:fs/promises';
+import os from 'node:os';
+import path from 'node:path';
+import { fileURLToPath } from 'node:url';
+
+const tools = createRequire(path.join(path.dirname(fileURLToPath(import.meta.url)), '../../hosts/web/package.json'));
+const { chromium } = tools('playwright-core');
+
+const flags = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking', '--disable-component-update', '--disable-sync', '--font-render-hinting=none'];
+
+/** A browser with a profile of its own. */
+export async function startBrowser() {
+    const profile = await mkdtemp(path.join(os.tmpdir(), 'gx-web-'));
+    const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', headless: true, args: flags });
+    return {
+        browser,
+        stop: async () => {
+            await browser.close();
+            await rm(profile, { recursive: true, force: true });
+        },
+    };
+}
+
+/** A page with this body and the elements' script, its errors and warnings noted. */
+export function pageOf(body, { head = '', lang = 'en', script = '/package/gxuipickers.js' } = {}) {
+    return `<!doctype html><html lang="${lang}"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width">${head}<script type="module" src="${script}"></script></head><body>${body}</body></html>`;
+}
+
+/** Touches by the protocol, which needs no window in front. */
+export async function touches(page) {
+    const client = await page.context().newCDPSession(page);
+    const send = (type, points, timestamp) =>
+        client.send('Input.dispatchTouchEvent', { type, touchPoints: points.map(({ x, y, id = 0 }) => ({ x, y, id })), ...(timestamp === undefined ? {} : { timestamp }) });
+    return {
+        start: (points, time) => send('touchStart', points, time),
+        move: (points, time) => send('touchMove', points, time),
+        end: (points = [], time = undefined) => send('touchEnd', points, time),
+        /** Down, an even way, up; slow enough to have no speed at the end if `rest` is given. */
+        async drag(from, to, { steps = 10, rest = 150 } = {}) {
+            await send('touchStart', [from]);
+            for (let i = 1; i <= steps; i += 1) {
+                const share = i / steps;
+                await send('touchMove', [{ x: from.x + (to.x - from.x) * share, y: from.y + (to.y - from.y) * share }]);
+                await new Promise((resolve) => setTimeout(resolve, 8));
+            }
+            if (rest > 0) {
+                await new Promise((resolve) => setTimeout(resolve, rest));
+                await send('touchMove', [{ x: to.x, y: to.y }]);
+            }
+            await send('touchEnd', []);
+        },
+    };
+}
+
+/** Waits until nothing of the element has moved for a third of a second: what settles moves unseen. */
+export function untilStill(page, selector) {
+    return page.evaluate(async (asked) => {
+        const surface = document.querySelector(asked).shadowRoot.querySelector('.surface');
+        const look = () => [...surface.children].map((node) => node.style.cssText).join('\n');
+        let before = look();
+        for (let still = 0; still < 20;) {
+            await new Promise((resolve) => requestAnimationFrame(resolve));
+            const now = look();
+            still = now === before ? still + 1 : 0;
+            before = now;
+        }
+    }, selector);
+}
