@@ -36,7 +36,8 @@ public:
     virtual std::optional<std::string> accessibilityValue(const Delegate& delegate, NSInteger row, NSInteger component) = 0;
 
     // What subclasses of the wheel may override.
-    virtual Ref<UIFont> titleFont() = 0;
+    /// Of rows with a title alone. Nothing leaves it to the label.
+    virtual Ref<UIFont> titleFont() { return nullptr; }
     virtual NSInteger componentCount() = 0;
     virtual NSInteger selectedRow(NSInteger component) = 0;
     /// The row that a screen reader says. Here the selected one.
