@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ChoiceElements.h"
 #include "ReadingDirection.h"
 #include "Theme.h"
 #include <GXUIPickers/UIGraphicsContext.h>
@@ -44,6 +45,20 @@ void drawLookSign(UIGraphicsContext& context, CGPoint middle, const UIColor& sur
     context.fillRect(circle(middle, radius - thickness), surface, radius - thickness);
     context.restoreState();
 }
+
+/// A button that is one of several choices, as the languages are.
+class ChoiceButtonElement : public ChoiceElement {
+public:
+    explicit ChoiceButtonElement(const Ref<Button>& button) : ChoiceElement(button), button_(button) {}
+
+    std::optional<bool> isChecked() const override {
+        const auto button = button_.lock();
+        return button && button->isChosen();
+    }
+
+private:
+    WeakRef<Button> button_;
+};
 
 } // namespace
 
@@ -137,9 +152,13 @@ void Button::drawRect(UIGraphicsContext& context, CGRect rect) {
     drawFocus(context, lit, radius);
 }
 
-std::optional<std::string> Button::accessibilityLabel() const { return Control::accessibilityLabel().value_or(title_); }
+std::optional<std::string> Button::accessibilityLabel() const {
+    const std::string label = Control::accessibilityLabel().value_or(title_);
+    return detail_ ? label + ", " + detail_() : label;
+}
 
 UIAccessibilityElements Button::accessibilityElements() {
+    if (ChoiceGroupElement::around(refTo<UIView>(this))) return {std::make_shared<ChoiceButtonElement>(refTo(this))};
     return wholeAccessibilityElement(refTo<UIView>(this), UIAccessibilityRole::Button);
 }
 

@@ -15,8 +15,8 @@ namespace gallery {
 class Button : public Control {
 public:
     enum class Style {
-        Plain,  ///< the title in the middle, in the accent colour
-        Row,    ///< a row of a list: the title at the leading edge; highlighted when chosen
+        Plain, ///< the title in the middle, in the accent colour
+        Row,   ///< a row of a list: the title at the leading edge; highlighted when chosen
         /// a heading that leads somewhere: the title as in a row, an arrow at the other edge
         Heading
     };
@@ -32,6 +32,8 @@ public:
     void setTitle(std::string title);
     bool isChosen() const { return isChosen_; }
     void setChosen(bool chosen);
+    /// What a screen reader says behind the title, such as a state: called each time. May be empty.
+    void setAccessibilityDetail(std::function<std::string()> detail) { detail_ = std::move(detail); }
     /// Called for a tap; may do anything, remove the button included.
     void setAction(std::function<void()> action) { action_ = std::move(action); }
 
@@ -40,8 +42,9 @@ public:
     gx::CGSize sizeThatFits(gx::CGSize available) const override;
     void layoutSubviews() override;
     void drawRect(gx::UIGraphicsContext& context, gx::CGRect rect) override;
-    /// The title, also where a sign is drawn.
+    /// The title, also where a sign is drawn, and the detail.
     std::optional<std::string> accessibilityLabel() const override;
+    /// A button or, in a view with the role `RadioGroup`, one of its choices.
     gx::UIAccessibilityElements accessibilityElements() override;
 
 protected:
@@ -58,6 +61,7 @@ private:
     Sign sign_ = Sign::None;
     bool isChosen_ = false;
     std::function<void()> action_;
+    std::function<std::string()> detail_;
     gx::Ref<Paragraph> label_;
     gx::Ref<Paragraph> arrow_; // Only of a heading.
 };

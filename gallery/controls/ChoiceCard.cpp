@@ -33,6 +33,7 @@ bool ChoiceCard::initWithFrame(CGRect frame) {
 Ref<SegmentedControl> ChoiceCard::addChoice(const std::string& title, std::vector<std::string> choices, std::size_t chosen) {
     titles_.push_back(Paragraph::paragraphWithStyle_color(Theme::TextStyle::StrongCaption, Theme::secondaryText()));
     titles_.back()->setText(title);
+    titles_.back()->setAccessibilityLabel(""); // The group has the name.
     controls_.push_back(SegmentedControl::segmentsWithChoices(std::move(choices), chosen));
     controls_.back()->setAccessibilityLabel(title);
     addSubview(titles_.back());

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "ChoiceElements.h"
 #include "ReadingDirection.h"
 #include "Theme.h"
 #include <GXUIPickers/UIGraphicsContext.h>
@@ -26,44 +27,53 @@ constexpr std::size_t mostInOneColumn = 3;
 
 CGFloat sumOf(const std::vector<CGFloat>& widths) { return std::accumulate(widths.begin(), widths.end(), 0.0); }
 
-/// The control as one adjustable element for screen readers.
-class SegmentsElement : public UIAccessibilityElement {
+/// One of the choices, as a radio button.
+class SegmentElement : public ChoiceElement {
 public:
-    explicit SegmentsElement(const Ref<SegmentedControl>& segments)
-        : UIAccessibilityElement(segments, UIAccessibilityRole::Adjustable), segments_(segments) {}
+    SegmentElement(const Ref<SegmentedControl>& segments, std::size_t index)
+        : ChoiceElement(segments, static_cast<NSInteger>(index)), segments_(segments), index_(index) {}
 
-    std::optional<std::string> value() const override {
+    bool exists() const override {
         const auto segments = segments_.lock();
-        return segments ? std::optional(segments->choices()[segments->chosen()]) : std::nullopt;
+        return segments && index_ < segments->choices().size() && ChoiceElement::exists();
     }
-    std::optional<NSInteger> index() const override {
-        const auto segments = segments_.lock();
-        return segments ? std::optional(static_cast<NSInteger>(segments->chosen())) : std::nullopt;
+    std::optional<std::string> label() const override {
+        return exists() ? std::optional(segments_.lock()->choices()[index_]) : std::nullopt;
     }
-    NSInteger count() const override {
-        const auto segments = segments_.lock();
-        return segments ? static_cast<NSInteger>(segments->choices().size()) : 0;
+    CGRect frame() const override {
+        const CGRect whole = ChoiceElement::frame();
+        if (!exists()) return whole;
+        const CGRect segment = segments_.lock()->frameOfSegment(index_);
+        return CGRectOffset(segment, whole.origin.x, whole.origin.y);
     }
-    void increment() override { setIndex(index().value_or(0) + 1); }
-    void decrement() override { setIndex(index().value_or(0) - 1); }
-    void setIndex(NSInteger index) override {
+    std::optional<bool> isChecked() const override { return exists() && segments_.lock()->chosen() == index_; }
+    bool isFocused() const override { return exists() && segments_.lock()->segmentOfKeys() == index_ && ChoiceElement::isFocused(); }
+    bool focus() const override {
+        if (!exists() || !isFocusable()) return false;
+        segments_.lock()->setSegmentOfKeys(index_);
+        return ChoiceElement::focus() && isFocused();
+    }
+    void activateAtTime(NSTimeInterval) const override {
         const auto segments = segments_.lock();
-        if (segments && isEnabled()) segments->choose(static_cast<std::size_t>(std::clamp<NSInteger>(index, 0, count() - 1)));
+        if (segments && isEnabled()) segments->choose(index_);
     }
 
 private:
     WeakRef<SegmentedControl> segments_;
+    std::size_t index_;
 };
 
 } // namespace
 
 UIAccessibilityElements SegmentedControl::accessibilityElements() {
-    if (choices_.empty()) return {};
-    return {std::make_shared<SegmentsElement>(refTo(this))};
+    UIAccessibilityElements elements;
+    for (std::size_t i = 0; i < choices_.size(); ++i) elements.push_back(std::make_shared<SegmentElement>(refTo(this), i));
+    return elements;
 }
 
 Ref<SegmentedControl> SegmentedControl::segmentsWithChoices(std::vector<std::string> choices, std::size_t chosen) {
     auto segments = create<SegmentedControl>(CGRectZero);
+    segments->setAccessibilityRole(UIAccessibilityRole::RadioGroup);
     segments->choices_ = std::move(choices);
     segments->ruler_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::StrongCaption, Theme::text());
     for (const std::string& choice : segments->choices_) {
@@ -81,7 +91,14 @@ Ref<SegmentedControl> SegmentedControl::segmentsWithChoices(std::vector<std::str
 void SegmentedControl::setChosen(std::size_t chosen) {
     if (chosen >= choices_.size()) return;
     chosen_ = chosen;
+    segmentOfKeys_ = chosen;
     showChosen();
+}
+
+void SegmentedControl::setSegmentOfKeys(std::size_t index) {
+    if (index >= choices_.size() || index == segmentOfKeys_) return;
+    segmentOfKeys_ = index;
+    setNeedsDisplay();
 }
 
 void SegmentedControl::showChosen() {
@@ -202,14 +219,14 @@ bool SegmentedControl::keyPressed(const UIKey& key) {
     if ((!isLeft && key.code != UIKey::Code::Right) || key.isCommand()) return Control::keyPressed(key);
     const Ref<UIView> keep = refTo<UIView>(this);
     // Wraps below 0 and is then ignored, as beyond the last one.
-    const std::size_t beside = isBack ? chosen_ - 1 : chosen_ + 1;
+    const std::size_t beside = isBack ? segmentOfKeys_ - 1 : segmentOfKeys_ + 1;
     choose(beside);
     return true;
 }
 
 bool SegmentedControl::canBecomeFirstResponder() { return !choices_.empty(); }
 
-CGPoint SegmentedControl::pointOfKeys() const { return middleOfSegment(chosen_); }
+CGPoint SegmentedControl::pointOfKeys() const { return middleOfSegment(segmentOfKeys_); }
 
 CGPoint SegmentedControl::middleOfSegment(std::size_t index) const {
     const CGRect segment = frameOfSegment(index);

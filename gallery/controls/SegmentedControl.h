@@ -29,6 +29,11 @@ public:
     std::size_t chosen() const { return chosen_; }
     /// Ignored beyond the choices. The action is not called.
     void setChosen(std::size_t chosen);
+    /// The one that has the focus, if the control has it: the chosen one, until a screen reader
+    /// moves the focus alone. Return and Space choose it, left and right the one beside it.
+    std::size_t segmentOfKeys() const { return segmentOfKeys_; }
+    /// Ignored beyond the choices.
+    void setSegmentOfKeys(std::size_t index);
     /// Called when the user has chosen another one.
     void setAction(std::function<void(std::size_t chosen)> action) { action_ = std::move(action); }
     /// The segment's rectangle in this view's coordinates; empty beyond the choices.
@@ -45,7 +50,7 @@ public:
     /// Chooses, and calls the action, as a tap on the segment does. Ignored for the chosen one and
     /// beyond the choices.
     void choose(std::size_t index);
-    /// One adjustable element, with the view's label as its name.
+    /// A radio button for each choice, in a group with the view's label as its name.
     gx::UIAccessibilityElements accessibilityElements() override;
 
 protected:
@@ -65,6 +70,7 @@ private:
 
     std::vector<std::string> choices_;
     std::size_t chosen_ = 0;
+    std::size_t segmentOfKeys_ = 0;
     std::function<void(std::size_t)> action_;
     std::vector<gx::Ref<Paragraph>> labels_;
     // Measures each text as that of the chosen one, which is the widest.

@@ -41,6 +41,7 @@ bool NoticeLog::initWithFrame(CGRect frame) {
     setBackgroundColor(Theme::card());
     setCornerRadius(Theme::cardRadius);
     heading_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::StrongCaption, Theme::secondaryText());
+    heading_->setAccessibilityRole(UIAccessibilityRole::Heading);
     addSubview(heading_);
     invitation_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Body, Theme::secondaryText());
     addSubview(invitation_);

@@ -80,6 +80,7 @@ void PickerPage::showTexts() {
 bool PickerPage::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     title_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::text());
+    title_->setAccessibilityRole(UIAccessibilityRole::Heading);
     purpose_ = create<Paragraph>(CGRectZero);
     pickerCard_ = Theme::makeCard();
     log_ = create<NoticeLog>(CGRectZero);

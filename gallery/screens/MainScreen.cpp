@@ -35,6 +35,7 @@ bool MainScreen::initWithFrame(CGRect frame) {
     bar_->setBackgroundColor(Theme::sidebar());
     barTitle_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::text());
     barTitle_->setTextAlignment(NSTextAlignmentCenter);
+    barTitle_->setAccessibilityRole(UIAccessibilityRole::Heading);
     menuButton_ = Button::buttonWithTitle_sign(Translations::text("All pages"), Button::Sign::Menu);
     menuButton_->setAction([weak] {
         if (const auto screen = weak.lock()) screen->setMenuShown(!screen->isMenuShown());
@@ -46,6 +47,10 @@ bool MainScreen::initWithFrame(CGRect frame) {
         Settings changed = screen->settings();
         changed.style = screen->style() == UIUserInterfaceStyle::Light ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
         screen->setSettings(changed);
+    });
+    styleButton_->setAccessibilityDetail([weak] {
+        const auto screen = weak.lock();
+        return Translations::text(screen && screen->style() == UIUserInterfaceStyle::Dark ? "Dark" : "Light");
     });
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{barTitle_, menuButton_, styleButton_}) bar_->addSubview(view);
     // In the order of Tab: the bar above the page, the page, and then the list of the other pages.
@@ -107,6 +112,7 @@ Ref<PickerPage> MainScreen::page() const { return index_ < firstPickerPage ? nul
 
 void MainScreen::showTitles() {
     barTitle_->setText(isMenuShown_ ? "GXUIPickers" : Translations::text(names_[index_]));
+    menuButton_->setAccessibilityExpanded(isMenuShown_);
     sidebar_->setShowsTitle(hasSidebar());
     entry_->setShowsTitle(hasSidebar());
     if (settingsPage_) settingsPage_->setShowsTitle(hasSidebar());

@@ -57,7 +57,8 @@ Ref<OverviewScreen> OverviewScreen::overviewOfPages_open(std::vector<PickerPageD
     for (std::size_t i = 0; i < pages.size(); ++i) {
         Card card = {std::move(pages[i]), {}, Theme::makeCard(), nullptr};
         card.demo = makeDemo(card.page);
-        card.heading = Button::buttonWithTitle_style(Translations::text(card.page.name), Button::Style::Heading);
+        card.heading = Button::buttonWithTitle_style("", Button::Style::Heading);
+        nameHeading(card);
         card.heading->setAction([open, i] { open(i); });
         card.card->addSubview(card.heading);
         card.card->addSubview(card.demo.picker);
@@ -65,6 +66,11 @@ Ref<OverviewScreen> OverviewScreen::overviewOfPages_open(std::vector<PickerPageD
         overview->cards_.push_back(std::move(card));
     }
     return overview;
+}
+
+void OverviewScreen::nameHeading(const Card& card) {
+    card.heading->setTitle(Translations::text(card.page.name));
+    card.heading->setAccessibilityLabel(Translations::filled("Show the page: {0}", card.heading->title()));
 }
 
 PickerDemo OverviewScreen::makeDemo(const PickerPageDescription& page) {
@@ -75,8 +81,7 @@ PickerDemo OverviewScreen::makeDemo(const PickerPageDescription& page) {
 
 void OverviewScreen::renewPickers() {
     for (Card& card : cards_) {
-        // The language may be another one.
-        card.heading->setTitle(Translations::text(card.page.name));
+        nameHeading(card); // The language may be another one.
         const PickerDemo before = std::move(card.demo);
         card.demo = makeDemo(card.page);
         card.demo.setValues(before.values());

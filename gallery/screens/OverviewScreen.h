@@ -34,6 +34,7 @@ private:
         gx::Ref<Button> heading;
     };
     struct Grid;
+    static void nameHeading(const Card& card);
     static PickerDemo makeDemo(const PickerPageDescription& page);
 
     std::vector<Card> cards_;

@@ -68,6 +68,9 @@ bool SettingsScreen::initWithFrame(CGRect frame) {
     choicesCard_ = create<ChoiceCard>(CGRectZero);
     languageTitle_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::text());
     languageCard_ = Theme::makeCard();
+    title_->setAccessibilityRole(UIAccessibilityRole::Heading);
+    languageCard_->setAccessibilityRole(UIAccessibilityRole::RadioGroup);
+    languageTitle_->setAccessibilityRole(UIAccessibilityRole::Heading);
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{title_, choicesCard_, languageTitle_, languageCard_})
         addSubview(view);
     return true;
@@ -114,6 +117,7 @@ void SettingsScreen::makeControls() {
     const auto text = [](const char* english) { return Translations::text(english); };
     title_->setText(text("Settings"));
     languageTitle_->setText(text("Language"));
+    languageCard_->setAccessibilityLabel(text("Language"));
     addChoice("Units", {text("Metric"), text("Imperial")}, settings_.isMetric ? 0 : 1,
               [](Settings& settings, std::size_t choice) { settings.isMetric = choice == 0; });
     addChoice("Weight", {text("Kilograms"), text("Pounds"), text("Stones")}, static_cast<std::size_t>(settings_.weightUnit),

@@ -78,7 +78,9 @@ Ref<Sidebar> Sidebar::sidebarWithPages_show(const std::vector<std::string>& name
         sidebar->rows_.push_back(row);
         list->addSubview(row);
     }
+    list->setAccessibilityRole(UIAccessibilityRole::RadioGroup);
     sidebar->list_->setContent(list);
+    sidebar->showNames();
     return sidebar;
 }
 
@@ -106,6 +108,7 @@ void Sidebar::setChosenPage(std::size_t page) {
 }
 
 void Sidebar::showNames() {
+    list_->content()->setAccessibilityLabel(Translations::text("All pages"));
     for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i]->setTitle(Translations::text(names_[i]));
 }
 

@@ -31,6 +31,7 @@ struct EntryHeader::Frames {
 bool EntryHeader::initWithFrame(CGRect frame) {
     if (!UIView::initWithFrame(frame)) return false;
     title_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::text());
+    title_->setAccessibilityRole(UIAccessibilityRole::Heading);
     openButton_ = Button::buttonWithTitle_style("", Button::Style::Plain);
     saveButton_ = Button::buttonWithTitle_style("", Button::Style::Plain);
     message_ = create<Paragraph>(CGRectZero);
@@ -42,6 +43,8 @@ void EntryHeader::showTexts() {
     title_->setText(Translations::text("Add workout"));
     openButton_->setTitle(Translations::text("Open"));
     saveButton_->setTitle(Translations::text("Save"));
+    openButton_->setAccessibilityLabel(Translations::text("Open a workout"));
+    saveButton_->setAccessibilityLabel(Translations::text("Save the workout"));
     setNeedsLayout();
 }
 

@@ -6,6 +6,7 @@
 #include "ReadingDirection.h"
 #include "Translations.h"
 #include "WorkoutFile.h"
+#include <GXUIPickers/UIWindow.h>
 
 using namespace gx;
 
@@ -67,6 +68,8 @@ void EntryScreen::setFiles(std::shared_ptr<UserFiles> files) {
 
 void EntryScreen::tell(const std::string& message, bool isError) {
     header_->setMessage(message, isError);
+    using Priority = UIAccessibilityAnnouncement::Priority;
+    if (const Ref<UIWindow> shownIn = window()) shownIn->announce(message, isError ? Priority::Assertive : Priority::Polite);
     setNeedsLayout();
 }
 

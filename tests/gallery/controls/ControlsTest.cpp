@@ -341,36 +341,3 @@ TEST_F(ControlsTest, LeftAndRightChooseAmongSegmentsAndCallTheAction) {
     EXPECT_EQ(told.size(), 3U);
     EXPECT_FALSE(window->press(UIKey::Code::Right, UIKey::Alternate));
 }
-
-TEST_F(ControlsTest, AButtonIsReadByItsTitleAndPressedByAScreenReader) {
-    const auto elements = button->accessibilityElements();
-    ASSERT_EQ(elements.size(), 1U);
-    EXPECT_EQ(elements[0]->role(), UIAccessibilityRole::Button);
-    EXPECT_EQ(elements[0]->label(), "Press");
-    elements[0]->activateAtTime(window->now);
-    EXPECT_EQ(taps, 1);
-    EXPECT_EQ(Button::buttonWithTitle_sign("All pages", Button::Sign::Menu)->accessibilityLabel(), "All pages");
-}
-
-TEST_F(ControlsTest, SegmentsAreOneElementThatGoesFromChoiceToChoice) {
-    const auto segments = SegmentedControl::segmentsWithChoices({"One", "Two", "Three"}, 1);
-    segments->setFrame(CGRectMake(0, 200, 300, 40));
-    segments->setAccessibilityLabel("Number");
-    std::vector<std::size_t> told;
-    segments->setAction([&told](std::size_t chosen) { told.push_back(chosen); });
-    content->addSubview(segments);
-    const auto elements = segments->accessibilityElements();
-    ASSERT_EQ(elements.size(), 1U);
-    const auto& element = *elements[0];
-    EXPECT_EQ(element.role(), UIAccessibilityRole::Adjustable);
-    EXPECT_EQ(element.label(), "Number");
-    EXPECT_EQ(element.value(), "Two");
-    EXPECT_EQ(element.index(), 1);
-    EXPECT_EQ(element.count(), 3);
-    elements[0]->increment();
-    elements[0]->increment(); // There is no further one.
-    EXPECT_EQ(element.value(), "Three");
-    elements[0]->decrement();
-    elements[0]->setIndex(-5);
-    EXPECT_EQ(told, (std::vector<std::size_t>{2, 1, 0}));
-}
