@@ -86,6 +86,11 @@ std::vector<Change> UIAccessibilityChanges::takeChanges(UIWindow& window) {
     const bool isSame = focused && focused_ ? focused->isSameAs(*focused_) : focused == focused_;
     if (!isSame) changes.push_back({Change::Kind::Focus, focused, {}, {}});
     focused_ = focused;
+    // What takes the focus when the keys come back would cut them off.
+    if (!window.receivesKeys()) {
+        isLooking_ = false;
+        return changes;
+    }
     for (UIAccessibilityAnnouncement& announcement : window.takeAnnouncements()) {
         changes.push_back({Change::Kind::Announcement, nullptr, {}, std::move(announcement)});
     }

@@ -17,6 +17,8 @@ namespace gx {
 ///
 /// - A column that a key moves has its new value with the next look, and none when it lands. One
 ///   that a finger or a mouse wheel spins has it once it rests.
+/// - Announcements wait until keys come to the window, and follow the focus: after a dialog the
+///   focus would cut them off.
 /// - Elements that come have no changes of their own. Those that go are not mentioned again.
 class GX_EXPORT UIAccessibilityChanges {
 public:

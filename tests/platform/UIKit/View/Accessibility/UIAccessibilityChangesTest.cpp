@@ -148,6 +148,16 @@ TEST_F(UIAccessibilityChangesTest, AnnouncementsComeLastInTheirOrder) {
     EXPECT_EQ(take(), Texts{});
 }
 
+TEST_F(UIAccessibilityChangesTest, AnnouncementsWaitForTheFocusToComeBack) {
+    wheel->becomeFirstResponder();
+    window->setReceivesKeys(false); // A dialog has them.
+    take();
+    window->announce("Saved");
+    EXPECT_EQ(take(), Texts{});
+    window->setReceivesKeys(true);
+    EXPECT_EQ(take(), (Texts{"focus Number 0", "say Saved"}));
+}
+
 TEST_F(UIAccessibilityChangesTest, ALookWithinALookFindsNothing) {
     int looks = 0;
     source->title = [&](NSInteger row, NSInteger) {
