@@ -18,7 +18,9 @@ bool areSame(const UIAccessibilityElements& some, const UIAccessibilityElements&
 void collect(const Ref<UIAccessibilityElement>& element, UIAccessibilityElements& found) {
     const auto isIt = [&element](const auto& each) { return each->isSameAs(*element); };
     if (std::any_of(found.begin(), found.end(), isIt)) return;
+    // A group has collected all that it holds, and so this one too; a list has not.
     if (const Ref<UIAccessibilityElement> container = element->container()) collect(container, found);
+    if (std::any_of(found.begin(), found.end(), isIt)) return;
     found.push_back(element);
     if (element->role() == UIAccessibilityRole::List) return;
     for (NSInteger i = 0; i < element->childCount(); ++i) {

@@ -64,7 +64,39 @@ struct UIAccessibilityChangesTest : testing::Test {
     }
 };
 
+/// Two radio buttons, "first" and "second", in a group.
+class Choices : public UIView {
+public:
+    NSInteger chosen = 0;
+    UIAccessibilityElements accessibilityElements() override { return {choice(0), choice(1)}; }
+
+private:
+    struct Group : UIAccessibilityElement {
+        explicit Group(const Ref<Choices>& choices) : UIAccessibilityElement(choices, UIAccessibilityRole::RadioGroup), owner(choices) {}
+        NSInteger childCount() const override { return 2; }
+        Ref<UIAccessibilityElement> child(NSInteger index) const override { return owner.lock()->choice(index); }
+        WeakRef<Choices> owner;
+    };
+    struct Choice : UIAccessibilityElement {
+        Choice(const Ref<Choices>& choices, NSInteger index)
+            : UIAccessibilityElement(choices, UIAccessibilityRole::RadioButton, index), owner(choices) {}
+        std::optional<std::string> label() const override { return part() == 0 ? "first" : "second"; }
+        std::optional<bool> isChecked() const override { return owner.lock()->chosen == part(); }
+        Ref<UIAccessibilityElement> container() const override { return std::make_shared<Group>(owner.lock()); }
+        WeakRef<Choices> owner;
+    };
+    Ref<UIAccessibilityElement> choice(NSInteger index) { return std::make_shared<Choice>(refTo(this), index); }
+};
+
 } // namespace
+
+TEST_F(UIAccessibilityChangesTest, EachChoiceOfAGroupIsComparedOnce) {
+    const auto choices = create<Choices>(CGRectMake(0, 0, 50, 20));
+    window->addSubview(choices);
+    take();
+    choices->chosen = 1;
+    EXPECT_EQ(take(), (Texts{"first off", "second on"}));
+}
 
 TEST_F(UIAccessibilityChangesTest, AKeyAnnouncesEachStepAtOnceAndNothingWhenTheColumnLands) {
     wheel->becomeFirstResponder();
