@@ -205,7 +205,7 @@ TEST_F(WebElementTest, ItsColumnsAreToldWithNameAndValue) {
     element->picker().set(WebProperty::Metric, 1);
     draw(*element);
     WebAccessibility& accessibility = element->accessibility();
-    ASSERT_EQ(accessibility.refresh(*element->picker().view(), element->picker().wheels()), 2);
+    ASSERT_EQ(accessibility.refresh(*element->picker().view()), 2);
     EXPECT_EQ(accessibility.text_ofColumn(WebAccessibility::Text::Label, 0), "Distance, kilometres");
     EXPECT_EQ(accessibility.text_ofColumn(WebAccessibility::Text::Value, 1), "5.0 kilometres");
     EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Value, 0), 5);
@@ -218,12 +218,32 @@ TEST_F(WebElementTest, ItsColumnsAreToldWithNameAndValue) {
     EXPECT_EQ(page.changes, 1);
 }
 
+TEST_F(WebElementTest, ItsColumnsTellAndTakeTheNumbersThatTheyShow) {
+    const auto element = opened(WebPickerKind::Temperature);
+    element->picker().set(WebProperty::Metric, 1);
+    element->picker().set(WebProperty::Min, -20);
+    element->picker().set(WebProperty::Max, 60); // Not a row itself.
+    element->picker().set(WebProperty::Step, 1);
+    element->picker().set(WebProperty::Value, 20);
+    draw(*element);
+    WebAccessibility& accessibility = element->accessibility();
+    ASSERT_EQ(accessibility.refresh(*element->picker().view()), 1);
+    EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Value, 0), 20);
+    EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Minimum, 0), -20);
+    EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Maximum, 0), 59);
+    accessibility.act_onColumn(WebAccessibility::Action::SetNumber, 0, -5);
+    EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Value, 0), -5);
+    run(*element, 2);
+    EXPECT_EQ(element->picker().get(WebProperty::Value), -5);
+    EXPECT_EQ(page.changes, 1);
+}
+
 TEST_F(WebElementTest, TheColumnWithTheFocusIsThatOfTheKeys) {
     const auto element = opened(WebPickerKind::Duration);
     draw(*element);
     const WebElement::Visit visit(*element);
     WebAccessibility& accessibility = element->accessibility();
-    ASSERT_EQ(accessibility.refresh(*element->picker().view(), element->picker().wheels()), 2);
+    ASSERT_EQ(accessibility.refresh(*element->picker().view()), 2);
     const auto focused = [&accessibility](NSInteger column) {
         return accessibility.number_ofColumn(WebAccessibility::Number::IsFocused, column);
     };

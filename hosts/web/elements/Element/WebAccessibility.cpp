@@ -2,12 +2,9 @@
 
 #include <algorithm>
 
-#include <GXUIPickers/NSArithmetic.h>
-
 namespace gx::web {
 
-NSInteger WebAccessibility::refresh(UIView& view, std::vector<Ref<UIPickerView>> wheels) {
-    wheels_ = std::move(wheels);
+NSInteger WebAccessibility::refresh(UIView& view) {
     columns_ = view.accessibilityElements();
     const auto isOther = [](const Ref<UIAccessibilityElement>& element) { return element->role() != UIAccessibilityRole::Adjustable; };
     columns_.erase(std::remove_if(columns_.begin(), columns_.end(), isOther), columns_.end());
@@ -18,31 +15,11 @@ Ref<UIAccessibilityElement> WebAccessibility::at(NSInteger column) const {
     return column >= 0 && column < static_cast<NSInteger>(columns_.size()) ? columns_[static_cast<std::size_t>(column)] : nullptr;
 }
 
-Ref<UIPickerView> WebAccessibility::wheelOf(const UIAccessibilityElement& element) const {
-    const Ref<UIViewNode> view = element.view();
-    const auto wheel = std::find_if(wheels_.begin(), wheels_.end(), [&view](const Ref<UIPickerView>& known) { return known == view; });
-    return wheel == wheels_.end() ? nullptr : *wheel;
-}
-
-/// Gives the wheel the focus, and goes to the column as the keys would.
-void WebAccessibility::focus(const UIAccessibilityElement& element) const {
-    const Ref<UIPickerView> wheel = wheelOf(element);
-    const Ref<UIWindow> window = wheel ? wheel->window() : nullptr;
-    if (!window || !wheel->becomeFirstResponder()) return;
-    UIKey key;
-    for (NSInteger left = wheel->numberOfComponents(); left > 0 && wheel->componentOfKeys() != element.part(); --left) {
-        key.code = wheel->componentOfKeys() < element.part() ? UIKey::Code::Right : UIKey::Code::Left;
-        window->keyDown(key);
-    }
-}
-
 std::optional<double> WebAccessibility::number_ofColumn(Number number, NSInteger column) const {
     const Ref<UIAccessibilityElement> element = at(column);
     if (!element) return std::nullopt;
     const CGRect frame = element->frame();
-    const std::optional<NSInteger> index = element->index();
-    const Ref<UIPickerView> wheel = wheelOf(*element);
-    const bool isFocused = wheel && wheel->isFirstResponder() && wheel->componentOfKeys() == element->part();
+    const auto numbers = element->numbers();
     switch (number) {
     case Number::X:
         return frame.origin.x;
@@ -53,13 +30,13 @@ std::optional<double> WebAccessibility::number_ofColumn(Number number, NSInteger
     case Number::Height:
         return frame.size.height;
     case Number::Value:
-        return index ? std::optional(static_cast<double>(*index)) : std::nullopt;
+        return numbers ? std::optional(numbers->value) : std::nullopt;
     case Number::Minimum:
-        return 0;
+        return numbers ? std::optional(numbers->minimum) : std::nullopt;
     case Number::Maximum:
-        return static_cast<double>(element->count() - 1);
+        return numbers ? std::optional(numbers->maximum) : std::nullopt;
     case Number::IsFocused:
-        return isFocused ? 1 : 0;
+        return element->isFocused() ? 1 : 0;
     }
     return std::nullopt;
 }
@@ -75,7 +52,7 @@ void WebAccessibility::act_onColumn(Action action, NSInteger column, double argu
     if (!element) return;
     switch (action) {
     case Action::Focus:
-        focus(*element);
+        element->focus();
         break;
     case Action::Step:
         if (argument > 0) {
@@ -85,7 +62,7 @@ void WebAccessibility::act_onColumn(Action action, NSInteger column, double argu
         }
         break;
     case Action::SetNumber:
-        element->setIndex(truncateTo<NSInteger>(argument));
+        element->setNumber(argument);
         break;
     }
 }
