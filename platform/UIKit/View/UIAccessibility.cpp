@@ -124,7 +124,7 @@ Ref<UIAccessibilityElement> focusedAccessibilityElement(const UIAccessibilityEle
         const bool isSearched = element->role() != UIAccessibilityRole::List;
         for (NSInteger i = 0; isSearched && i < element->childCount(); ++i) {
             const Ref<UIAccessibilityElement> child = element->child(i);
-            if (const Ref<UIAccessibilityElement> focused = child ? focusedAccessibilityElement({child}) : nullptr) return focused;
+            if (Ref<UIAccessibilityElement> focused = child ? focusedAccessibilityElement({child}) : nullptr) return focused;
         }
         if (element->isFocused()) return element;
     }

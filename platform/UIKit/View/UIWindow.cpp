@@ -142,7 +142,7 @@ void UIWindow::updatePointer() {
     const std::optional<CGPoint> location = pointer_->location();
     const auto pressed = findTouch(UITouch::pointerIdentifier);
     const Ref<UIView> topmost = !location ? nullptr : pressed != touches_.end() ? pressed->view.lock() : hitTest(*location);
-    if (pointer_->hover(topmost) && host_) host_->pointerStyleDidChange(pointer_->style());
+    if (pointer_->hover(topmost) && host_ != nullptr) host_->pointerStyleDidChange(pointer_->style());
 }
 
 // Keys

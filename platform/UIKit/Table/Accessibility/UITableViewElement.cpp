@@ -25,8 +25,7 @@ bool canBeOperated(const Ref<UIAccessibilityElement>& element) {
 /// What can be operated in a cell, besides the cell.
 UIAccessibilityElements operatedIn(const Ref<UITableViewCell>& cell) {
     UIAccessibilityElements elements;
-    if (!cell) return elements;
-    for (const Ref<UIAccessibilityElement>& element : cell->accessibilityElements()) {
+    for (const Ref<UIAccessibilityElement>& element : cell ? cell->accessibilityElements() : elements) {
         if (element->view() != cell && canBeOperated(element)) elements.push_back(element);
     }
     return elements;
@@ -48,10 +47,22 @@ NSInteger itemCount(Table& table, NSInteger section, NSInteger rows) {
     return count;
 }
 
-class HeadingElement : public UITableViewElement {
+/// One that is only read: the focus of the table's view is a row's.
+class ReadElement : public UITableViewElement {
+public:
+    bool isFocusable() const override { return false; }
+    bool isFocused() const override { return false; }
+    bool focus() const override { return false; }
+    std::optional<bool> isExpanded() const override { return std::nullopt; }
+
+protected:
+    using UITableViewElement::UITableViewElement;
+};
+
+class HeadingElement : public ReadElement {
 public:
     HeadingElement(const Ref<UIView>& view, const Ref<Table>& table, NSInteger section)
-        : UITableViewElement(view, UIAccessibilityRole::Heading, partOfHeading(section), table), section_(section) {}
+        : ReadElement(view, UIAccessibilityRole::Heading, partOfHeading(section), table), section_(section) {}
 
     std::optional<std::string> label() const override {
         const Ref<Table> table = this->table();
@@ -97,23 +108,22 @@ public:
 
     bool isFocusable() const override {
         const Ref<Table> table = this->table();
-        return table && existsIn(*table) && UIAccessibilityElement::isFocusable() && table->canTap(path_);
+        return table && existsIn(*table) && UITableViewElement::isFocusable() && table->canTap(path_);
     }
     bool isFocused() const override {
         const Ref<Table> table = this->table();
-        return table && UIAccessibilityElement::isFocused() && table->rowOfKeys() == path_;
+        return table && UITableViewElement::isFocused() && table->rowOfKeys() == path_;
     }
     bool focus() const override {
         const Ref<Table> table = this->table();
         if (!isFocusable()) return false;
         table->chooseRow(path_);
-        return UIAccessibilityElement::focus() && isFocused();
+        return UITableViewElement::focus() && isFocused();
     }
     void activateAtTime(NSTimeInterval time) const override {
         const Ref<Table> table = this->table();
         const Ref<UIView> view = tableView();
         if (!isFocusable() || !view->viewRoot()) return;
-        // As a finger does, which shows no mark of the focus.
         table->chooseRow(path_);
         view->becomeFirstResponder();
         if (existsIn(*table)) table->tapRow(path_, time);
@@ -143,10 +153,10 @@ private:
     NSIndexPath path_;
 };
 
-class ListElement : public UITableViewElement {
+class ListElement : public ReadElement {
 public:
     ListElement(const Ref<UIView>& view, const Ref<Table>& table, NSInteger section)
-        : UITableViewElement(view, UIAccessibilityRole::List, partOfList(section), table), section_(section) {}
+        : ReadElement(view, UIAccessibilityRole::List, partOfList(section), table), section_(section) {}
 
     /// The section's title or, without one, what the table is called.
     std::optional<std::string> label() const override {
@@ -184,9 +194,9 @@ protected:
     CGRect frameIn(Table& table) const override {
         const NSInteger count = table.rowCount(section_);
         if (count == 0) return CGRectNull;
-        CGRect frame = table.frameOfRow({section_, 0});
-        frame.size.height = CGRectGetMaxY(table.frameOfRow({section_, count - 1})) - CGRectGetMinY(frame);
-        return frame;
+        const CGRect first = table.frameOfRow({section_, 0});
+        const CGFloat bottom = CGRectGetMaxY(table.frameOfRow({section_, count - 1}));
+        return CGRectMake(first.origin.x, first.origin.y, first.size.width, bottom - first.origin.y);
     }
 
 private:
@@ -234,8 +244,8 @@ private:
         const bool isEach = count_ <= UITableViewElement::highestSectionCount;
         while (section_ < section) {
             if (isEach && !hasHeading_ && table_->title(section_)) add(std::make_shared<HeadingElement>(view_, table_, section_));
-            const bool isOut = !hasItem_ && (isEach || hasHeading_) && table_->rowCount(section_) > 0;
-            if (isOut) add(std::make_shared<ListElement>(view_, table_, section_));
+            const bool isOffered = !hasItem_ && (isEach || hasHeading_);
+            if (isOffered && table_->rowCount(section_) > 0) add(std::make_shared<ListElement>(view_, table_, section_));
             ++section_;
             hasHeading_ = hasItem_ = false;
         }
@@ -258,10 +268,9 @@ bool UITableViewElement::exists() const {
 }
 
 CGRect UITableViewElement::frame() const {
-    const Ref<Table> table = this->table();
-    const Ref<UIView> view = tableView();
-    if (!table || !view || !exists()) return CGRectNull;
-    const CGPoint origin = view->convertPointFromWindow({});
+    const Ref<Table> table = this->table(); // Keeps the view, too.
+    if (!table || !exists()) return CGRectNull;
+    const CGPoint origin = tableView()->convertPointFromWindow({});
     return CGRectOffset(frameIn(*table), -origin.x, -origin.y);
 }
 

@@ -64,10 +64,6 @@ public:
 
     bool exists() const override;
     CGRect frame() const override;
-    bool isFocusable() const override { return false; }
-    bool isFocused() const override { return false; }
-    bool focus() const override { return false; }
-    std::optional<bool> isExpanded() const override { return std::nullopt; }
 
 protected:
     UITableViewElement(const Ref<UIView>& view, UIAccessibilityRole role, NSInteger part, WeakRef<Table> table)
