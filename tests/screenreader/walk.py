@@ -38,6 +38,7 @@ class Walk:
         self.faults = []
         self.counts = {"pages": 0, "elements": 0, "focus moves": 0, "columns": 0, "values": 0}
         self.place = ""
+        self.changed = None
 
     def expect(self, holds, message):
         if not holds:
@@ -105,9 +106,19 @@ class Walk:
     # Wheels
 
     def check_wheels(self, app):
-        for column in [element for element in app.elements() if element.role == "spin button"]:
+        columns = [element for element in app.elements() if element.role == "spin button"]
+        for column in columns:
             self.counts["columns"] += 1
             self.check_column(app, column)
+        self.expect_not_again(app.settle())
+        for column in columns:
+            self.check_text(column)
+        return columns
+
+    def expect_not_again(self, events):
+        """The column that was changed last does not tell its value again, as at rest."""
+        again = [event for event in events if is_value(event) and event.source == self.changed]
+        self.expect(not again, "told again: " + "; ".join(map(str, again)))
 
     def check_column(self, app, column):
         least, most, step = column.bounds
@@ -128,14 +139,12 @@ class Walk:
         near = first + step if up else first - step
         self.change(app, column, lambda: column.act("Increase" if up else "Decrease"), near, "stepped", is_bound)
         self.change(app, column, lambda: column.act("Decrease" if up else "Increase"), first, "stepped back", is_bound)
-        late = [event for event in app.settle() if event.source == column]
-        self.expect(not late, f"{column} is told again at rest: " + "; ".join(map(str, late)))
-        self.check_text(column)
 
     def change(self, app, column, act, expected, what, is_bound):
         """A change is told once, and read back as a number and as a text."""
         self.counts["values"] += 1
-        app.take_events()
+        self.expect_not_again(app.take_events())
+        self.changed = None if is_bound else column
         before = column.value
         act()
         if before != expected:
@@ -204,12 +213,8 @@ class Walk:
             row = app.find("list item", name + ",")
             self.expect({"expandable"} <= row.states and "expanded" not in row.states, f"the row is {sorted(row.states)}")
             row.grab_focus()
-            app.settle()
-            wheels = self.open_row(app, row, True)
-            self.expect(wheels, "it opens, and there is no wheel")
-            for column in wheels:
-                self.counts["columns"] += 1
-                self.check_column(app, column)
+            self.expect(self.open_row(app, row, True), "it opens, and there is no wheel")
+            self.check_wheels(app)
             self.expect(not self.open_row(app, row, False), "it closes, and its wheel is still there")
 
     def open_row(self, app, row, opens):
