@@ -12,6 +12,8 @@ CLEAN = {
     "services/CMakeLists.txt": "gx_add_floor(services\n  FOLDERS Units # one room\n  PUBLIC_HEADERS S.h\n  DEPENDS gx_platform)\n",
     "pickers/CMakeLists.txt": "gx_add_floor(pickers\n  FOLDERS Classes\n  PUBLIC_HEADERS P.h\n  DEPENDS gx_services)\n",
     "hosts/qt/CMakeLists.txt": "gx_add_floor(qt\n  FOLDERS .\n  PUBLIC_HEADERS Q.h\n  DEPENDS gx_platform)\n",
+    "hosts/web/CMakeLists.txt": "gx_add_web_library(gx_web\n  FOLDERS Page\n  DEPENDS gx::platform)\n",
+    "hosts/web/elements/CMakeLists.txt": "gx_add_web_library(gx_web_elements\n  FOLDERS Pickers\n  DEPENDS gx_web gx::pickers)\n",
     "gallery/CMakeLists.txt": "set(ROOMS app)\n",
     "platform/Low/A.h": "#pragma once\n#include <vector>\nclass A {\npublic:\n    void one();\n\nprivate:\n    int two_ = 0;\n};\n",
     "platform/Low/A.cpp": '#include "A.h"\nvoid A::one() {}\n',
@@ -22,6 +24,8 @@ CLEAN = {
     "services/Units/S.cpp": '#include "S.h"\n',
     "pickers/Classes/P.h": '#pragma once\n#include "S.h"\nstruct P {};\n',
     "hosts/qt/Q.h": "#pragma once\n#include <QObject>\n#include <GXUIPickers/A.h>\nstruct Q {};\n",
+    "hosts/web/Page/Y.h": "#pragma once\n#include <GXUIPickers/A.h>\nstruct Y {};\n",
+    "hosts/web/elements/Pickers/E.h": '#pragma once\n#include "Y.h"\n#include <GXUIPickers/P.h>\nstruct E {};\n',
     "gallery/app/main.cpp": "#include <GXUIPickers/P.h>\n#include <GXUIPickers/Q.h>\nint main() {}\n",
     "tests/ATest.cpp": '#include "A.h"\n// A comment.\nTEST(A, DoesOneThing) {}\n',
     "README.md": "# Title\n\nShort words.\n",
@@ -73,6 +77,10 @@ class StructureTest(CheckTest):
 
     def test_finds_a_host_that_uses_a_service(self):
         self.expect({"hosts/qt/Q.cpp": '#include "Q.h"\n#include <GXUIPickers/S.h>\n'}, "hosts/qt/Q.cpp:2: includes S of services/Units, a floor")
+
+    def test_finds_a_host_that_uses_its_elements(self):
+        self.expect({"hosts/web/Page/Y.cpp": '#include "Y.h"\n#include "E.h"\n'},
+                    "hosts/web/Page/Y.cpp:2: includes E of hosts/web/elements/Pickers, a floor", "circle: Y → E; E → Y", "circle of rooms")
 
     def test_finds_a_circle_of_pairs_through_a_source_file(self):
         self.expect({"platform/Low/A.cpp": '#include "A.h"\n#include "D.h"\n', "platform/Low/D.h": '#pragma once\n#include "A.h"\n'},
