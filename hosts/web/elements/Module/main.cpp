@@ -263,9 +263,8 @@ GX_WEB_EXPORT("setReceivesKeys") void gx_web_set_receives_keys(std::int32_t numb
 
 /// Reads the columns that the user can spin again, and returns how many there are.
 GX_WEB_EXPORT("columns") std::int32_t gx_web_columns(std::int32_t number) {
-    return visit(number, [](WebElement& element) {
-        return static_cast<std::int32_t>(element.accessibility().refresh(*element.picker().view()));
-    });
+    return visit(number,
+                 [](WebElement& element) { return static_cast<std::int32_t>(element.accessibility().refresh(*element.picker().view())); });
 }
 
 /// NaN for a number that the column does not have.
