@@ -29,7 +29,8 @@ SCREEN_READER = Path(__file__).with_name("start_orca.py")
 # Narrow as a phone: the list of pages is behind a button.
 SIZE = "390x844"
 # Qt asks the bus what is listened to while its first window opens, and sends nothing until it
-# knows. On a busy machine that may be too late for the window's own event; then it is started again.
+# knows. On a busy machine that may be too late for the window's own event; then it is started
+# again.
 STARTS = 3
 
 
