@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Walks the whole gallery as a client of the accessibility bus, and reports what such a client misses.
 
-    walk.py --gallery PROGRAM --folder FOLDER [--page NAME]…
+    walk.py --gallery PROGRAM --folder FOLDER [--page NAME]… [--half pages|entry]
 
 On every page each element has a name, a role, states and a place; what can take the focus takes it
 and says so once; each column of each wheel is stepped, set and read. The entry screen, the settings
@@ -21,6 +21,8 @@ from session import Session, TimedOut, wait_until
 
 ROLES = {"label", "heading", "icon", "image", "panel", "list", "list item", "push button", "radio button", "spin button"}
 OPERATED = {"list item", "push button", "radio button", "spin button"}
+# Before it are the entry screen, the settings and the overview.
+FIRST_PICKER_PAGE = 3
 WIDE = "800x640"
 LOW = "360x320"
 SECTIONS = ["Workout", "Best interval", "Heart", "Conditions", "Body"]
@@ -339,18 +341,22 @@ def main():
     parser.add_argument("--gallery", required=True)
     parser.add_argument("--folder", required=True, type=Path, help="for logs")
     parser.add_argument("--page", action="append", help="only this one")
+    parser.add_argument("--half", choices=["pages", "entry"], help="only the pages of pickers, or all but these")
     arguments = parser.parse_args()
     with Session(arguments.folder) as session:
         application.connect(session)
         walk = Walk(session, arguments.gallery)
         app = walk.start(WIDE)
         names = arguments.page or page_names(app)
-        if not arguments.page:
+        if arguments.half:
+            names = names[FIRST_PICKER_PAGE:] if arguments.half == "pages" else names[:FIRST_PICKER_PAGE]
+        has_entry = not arguments.page and arguments.half != "pages"
+        if has_entry:
             walk.check_gestures(app)
         walk.check_settings(app)  # From here on wheels arrive at once.
         for name in names:
             walk.check_page(app, name)
-        if not arguments.page:
+        if has_entry:
             walk.check_entry(app)
             walk.check_messages(app)
             walk.check_rows_out_of_sight()
