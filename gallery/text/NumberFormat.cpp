@@ -37,6 +37,7 @@ std::string NumberFormat::decimal(double value, int digits) {
     const std::string text = decimalWithSeparator(value, digits, locale->objectForKey(NSLocaleDecimalSeparator).value_or("."));
     // Beside a unit in Arabic the sign would stand behind the digits.
     const bool isIsolated = locale->isRightToLeft() && text.find("−") == 0;
+    // It closes what it opens. NOLINTNEXTLINE(misc-misleading-bidirectional)
     return isIsolated ? "\u2066" + text + "\u2069" : text;
 }
 

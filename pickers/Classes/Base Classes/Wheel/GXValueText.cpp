@@ -14,9 +14,11 @@ std::string withOneLeadingBlank(const std::string& title) {
 }
 
 // Characters without ink that set the direction of what is between them.
+// NOLINTBEGIN(misc-misleading-bidirectional): each use closes what it opens.
 constexpr const char* leftToRightIsolate = "\u2066";
 constexpr const char* firstStrongIsolate = "\u2068";
 constexpr const char* endOfIsolate = "\u2069";
+// NOLINTEND(misc-misleading-bidirectional)
 
 bool isRightToLeft() { return NSLocale::currentLocale()->isRightToLeft(); }
 
