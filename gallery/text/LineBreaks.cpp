@@ -95,6 +95,28 @@ std::vector<Piece> piecesOf(std::string_view text) {
     return pieces;
 }
 
+bool endsInDigit(std::string_view text) { return !text.empty() && text.back() >= '0' && text.back() <= '9'; }
+
+/// A number and the unit behind it, joined where both fit in one line.
+std::vector<Piece> joinNumbersAndUnits(const std::vector<Piece>& pieces, CGFloat room, const LineBreaks::WidthOf& widthOf) {
+    std::vector<Piece> joined;
+    bool isNumber = false; // A unit is no number, so "3 4 km" joins only its end.
+    for (const Piece& piece : pieces) {
+        if (isNumber && piece.followsSpace && !endsInDigit(piece.text)) {
+            const char* const start = joined.back().text.data();
+            const std::string_view both(start, static_cast<std::size_t>(piece.text.data() + piece.text.size() - start));
+            if (widthOf(both) <= room) {
+                joined.back().text = both;
+                isNumber = false;
+                continue;
+            }
+        }
+        joined.push_back(piece);
+        isNumber = endsInDigit(piece.text);
+    }
+    return joined;
+}
+
 /// Whether a new syllable may begin with a letter: at a consonant that a vowel follows.
 bool beginsSyllable(const std::vector<Character>& word, std::size_t at) {
     constexpr std::size_t fewest = 2; // Letters on either side.
@@ -140,7 +162,7 @@ std::vector<std::string> LineBreaks::linesOfText_width(std::string_view text, CG
     constexpr CGFloat tolerance = 0.01;
     const CGFloat room = width + tolerance;
     std::vector<std::string> lines;
-    for (const Piece& piece : piecesOf(text)) {
+    for (const Piece& piece : joinNumbersAndUnits(piecesOf(text), room, widthOf)) {
         if (!lines.empty()) {
             const std::string longer = lines.back() + (piece.followsSpace ? " " : "") + std::string(piece.text);
             if (widthOf(longer) <= room) {

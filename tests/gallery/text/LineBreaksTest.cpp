@@ -28,7 +28,7 @@ TEST(LineBreaksTest, LinesEndBetweenWords) {
     EXPECT_EQ(linesOf("  one   two ", 7), Lines{"one two"});
     EXPECT_EQ(linesOf("", 5), Lines{});
     EXPECT_EQ(linesOf("Text-Gr\u00F6\u00DFe", 9), (Lines{"Text-", "Gr\u00F6\u00DFe"})) << "after a hyphen between letters";
-    EXPECT_EQ(linesOf("a -5 b", 4), (Lines{"a -5", "b"})) << "not after a minus sign";
+    EXPECT_EQ(linesOf("a -5", 3), (Lines{"a", "-5"})) << "not after a minus sign";
 }
 
 TEST(LineBreaksTest, ALongWordIsDividedBeforeASyllable) {
@@ -48,6 +48,14 @@ TEST(LineBreaksTest, WhereNoSyllableIsFoundCharactersAreKeptWhole) {
     EXPECT_EQ(linesOf("abc", 0), (Lines{"a", "b", "c"})) << "at least one in a line";
 }
 
+TEST(LineBreaksTest, ANumberStaysWithItsUnitWhereBothFit) {
+    EXPECT_EQ(linesOf("partly cloudy, 18 \u00B0C", 18), (Lines{"partly cloudy,", "18 \u00B0C"}));
+    EXPECT_EQ(linesOf("5.3 km, 0:27 h", 13), (Lines{"5.3 km,", "0:27 h"}));
+    EXPECT_EQ(linesOf("1 of 2 columns", 7), (Lines{"1 of 2", "columns"})) << "too wide for one line together";
+    EXPECT_EQ(linesOf("3 4 km", 4), (Lines{"3", "4 km"})) << "the nearest number";
+    EXPECT_EQ(linesOf("MAX 171", 6), (Lines{"MAX", "171"})) << "not with the word before it";
+}
+
 TEST(LineBreaksTest, ChineseAndJapaneseBreakBetweenCharactersButNotBeforePunctuation) {
     EXPECT_EQ(linesOf("\u3042\u3044\u3046\u3002\u3048", 3), (Lines{"\u3042\u3044", "\u3046\u3002\u3048"}));
     EXPECT_EQ(linesOf("\u3042\u30AB\u30C3\u3068", 2), (Lines{"\u3042", "\u30AB\u30C3", "\u3068"})) << "nor before a small kana";
@@ -55,6 +63,6 @@ TEST(LineBreaksTest, ChineseAndJapaneseBreakBetweenCharactersButNotBeforePunctua
     const char* allPickers = "\u3059\u3079\u3066\u306E\u30D4\u30C3\u30AB\u30FC";
     EXPECT_EQ(linesOf(allPickers, 6), (Lines{"\u3059\u3079\u3066\u306E", "\u30D4\u30C3\u30AB\u30FC"})) << "nor within katakana";
     EXPECT_EQ(linesOf(allPickers, 3), (Lines{"\u3059\u3079\u3066", "\u306E", "\u30D4\u30C3", "\u30AB\u30FC"}));
-    EXPECT_EQ(linesOf("\u8DDD\u79BB 5 km", 4), (Lines{"\u8DDD\u79BB 5", "km"}));
+    EXPECT_EQ(linesOf("\u8DDD\u79BB 5 km", 4), (Lines{"\u8DDD\u79BB", "5 km"}));
     EXPECT_EQ(linesOf("\uAC70\uB9AC \uC18D\uB3C4", 4), (Lines{"\uAC70\uB9AC", "\uC18D\uB3C4"})) << "Korean has spaces";
 }
