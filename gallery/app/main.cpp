@@ -120,7 +120,8 @@ int main(int argc, char** argv) {
     const Ref<MainScreen> screen = start.makeScreen();
     if (!screen) {
         std::cerr << "gallery: there is no page " << start.page << ". The pages are:\n";
-        for (const std::string& name : create<MainScreen>(CGRectZero)->pageNames()) std::cerr << "  " << name << "\n";
+        const auto anyScreen = create<MainScreen>(CGRectZero); // The names are its own.
+        for (const std::string& name : anyScreen->pageNames()) std::cerr << "  " << name << "\n";
         return CannotStart;
     }
     if (!arguments->pictureFolder) return showWindow(screen, *arguments, start, clicks.get());
