@@ -15,7 +15,7 @@ namespace gallery {
 namespace {
 
 constexpr CGFloat inset = 12;
-constexpr CGFloat rowInset = 4; // Above and below a title of several lines.
+constexpr CGFloat lineInset = 4; // Above and below a title of several lines.
 constexpr const char* arrowToRight = "\u203A";
 constexpr const char* arrowToLeft = "\u2039";
 
@@ -117,7 +117,7 @@ void Button::showTitle() {
 }
 
 // A heading is aligned with the views below it; the others leave room for their background.
-CGFloat Button::widthBesideTitle() const { return style_ == Style::Heading ? std::ceil(arrow_->widthInOneLine()) + rowInset : 2 * inset; }
+CGFloat Button::widthBesideTitle() const { return style_ == Style::Heading ? std::ceil(arrow_->widthInOneLine()) + lineInset : 2 * inset; }
 
 CGSize Button::sizeThatFits(CGSize available) const {
     if (sign_ != Sign::None) return {std::round(40 * signScale()), std::round(40 * signScale())};
@@ -125,7 +125,7 @@ CGSize Button::sizeThatFits(CGSize available) const {
     CGFloat width = std::max(std::ceil(label_->widthInOneLine()) + beside, Theme::controlHeight());
     if (available.width > 0) width = std::min(width, available.width);
     const CGFloat lines = label_->sizeThatFits({std::max(0.0, width - beside), 0}).height;
-    return {width, std::max(Theme::controlHeight(), std::ceil(lines) + 2 * rowInset)};
+    return {width, std::max(Theme::controlHeight(), std::ceil(lines) + 2 * lineInset)};
 }
 
 void Button::layoutSubviews() {

@@ -30,8 +30,8 @@ constexpr double pickersShare = 0.55;
 // A phone in landscape has two columns, each nearly as wide as a small phone upright.
 constexpr CGFloat twoColumnWidth = 540;
 
-CGFloat heightOfRows(double rows) { return rows * GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
-CGFloat wheelHeight() { return std::max(usualWheelHeight, heightOfRows(fewestRowsOfWheel)); }
+CGFloat heightOfWheelRows(double rows) { return rows * GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
+CGFloat wheelHeight() { return std::max(usualWheelHeight, heightOfWheelRows(fewestRowsOfWheel)); }
 
 } // namespace
 
@@ -171,9 +171,9 @@ PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     const CGFloat optionsWidth = isPickerBeside ? logWidth : pickerWidth;
     const CGFloat optionsHeight = optionControls().empty() ? 0 : optionsCard_->sizeThatFits({optionsWidth, 0}).height;
     const CGFloat besidePicker = logHeight + (optionsHeight > 0 ? Theme::gap + optionsHeight : 0);
-    const CGFloat wheel =
-        isPickerBeside ? std::clamp(besidePicker - 2 * wheelPadding, wheelHeight(), std::max(wheelHeight(), heightOfRows(mostRowsOfWheel)))
-                       : wheelHeight();
+    const CGFloat wheel = isPickerBeside ? std::clamp(besidePicker - 2 * wheelPadding, wheelHeight(),
+                                                      std::max(wheelHeight(), heightOfWheelRows(mostRowsOfWheel)))
+                                         : wheelHeight();
     frames.picker = CGRectMake(margin, y, pickerWidth, std::floor(wheel) + 2 * wheelPadding);
     const CGFloat below = CGRectGetMaxY(frames.picker) + Theme::gap;
     const CGFloat besideX = margin + pickerWidth + Theme::gap;

@@ -14,14 +14,14 @@ EventRecorder::EventRecorder(Ref<UIWindowInput> window, std::function<double()> 
 // Each event is written before it is passed on, so that a recording has also the one that ends the
 // program.
 
-void EventRecorder::note(RecordedEvent event) { write_(event.line()); }
+void EventRecorder::note(const RecordedEvent& event) { write_(event.line()); }
 
 void EventRecorder::note(Kind kind, bool isOn) {
     RecordedEvent event;
     event.kind = kind;
     event.time = clock_();
     event.isOn = isOn;
-    note(std::move(event));
+    note(event);
 }
 
 void EventRecorder::noteTouch(Kind kind, std::int64_t identifier, CGPoint location, NSTimeInterval time) {
@@ -30,7 +30,7 @@ void EventRecorder::noteTouch(Kind kind, std::int64_t identifier, CGPoint locati
     event.time = time;
     event.finger = identifier;
     event.point = location;
-    note(std::move(event));
+    note(event);
 }
 
 bool EventRecorder::touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) {
@@ -59,7 +59,7 @@ bool EventRecorder::scroll(const UIScroll& scroll) {
     event.time = scroll.timestamp;
     event.point = scroll.locationInWindow;
     event.scroll = scroll;
-    note(std::move(event));
+    note(event);
     return window_->scroll(scroll);
 }
 
@@ -78,7 +78,7 @@ bool EventRecorder::keyDown(const UIKey& key) {
     event.kind = Kind::Key;
     event.time = key.timestamp;
     event.key = key;
-    note(std::move(event));
+    note(event);
     return window_->keyDown(key);
 }
 
@@ -102,7 +102,7 @@ void EventRecorder::setFrame(CGRect frame) {
     event.kind = Kind::Size;
     event.time = clock_();
     event.size = frame.size;
-    note(std::move(event));
+    note(event);
     window_->setFrame(frame);
 }
 
@@ -125,7 +125,7 @@ bool EventRecorder::tick(NSTimeInterval time) {
     RecordedEvent event;
     event.kind = Kind::Tick;
     event.time = time;
-    note(std::move(event));
+    note(event);
     return window_->tick(time);
 }
 
@@ -144,7 +144,7 @@ void EventRecorder::noteFile(const UserFiles::Outcome& outcome) {
     event.kind = Kind::File;
     event.time = clock_();
     event.file = outcome;
-    note(std::move(event));
+    note(event);
 }
 
 void EventRecorder::markPicture() {
@@ -152,7 +152,7 @@ void EventRecorder::markPicture() {
     event.kind = Kind::Picture;
     event.time = clock_();
     event.name = "mark-" + std::to_string(++pictures_);
-    note(std::move(event));
+    note(event);
 }
 
 UserFiles::Done RecordedFiles::recorded(const Done& done) const {

@@ -43,7 +43,7 @@ public:
     void markPicture();
 
 private:
-    void note(RecordedEvent event);
+    void note(const RecordedEvent& event);
     void note(RecordedEvent::Kind kind, bool isOn = false);
     void noteTouch(RecordedEvent::Kind kind, std::int64_t identifier, gx::CGPoint location, gx::NSTimeInterval time);
 

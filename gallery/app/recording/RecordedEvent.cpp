@@ -107,7 +107,7 @@ void checkName(LineReader& reader, const std::string& name) {
     const bool isPlain = std::all_of(name.begin(), name.end(), [](char letter) {
         return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') || (letter >= '0' && letter <= '9') || letter == '-';
     });
-    if (name.empty() || name.size() > longest || !isPlain) reader.refuse("\"name\" is no name of letters, digits and \"-\"");
+    if (name.empty() || name.size() > longest || !isPlain) reader.refuse(R"("name" is no name of letters, digits and "-")");
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "WebFont.h"
 
 #include <charconv>
+#include <cstddef>
+#include <iterator>
 
 namespace gx::web {
 
@@ -11,7 +13,7 @@ Ref<UIFont> WebFont::fontWithNumber_size(std::int32_t number, CGFloat size) {
 std::int32_t WebFont::numberOf(const UIFont& font, std::int32_t systemFont) {
     const std::string& family = font.familyName();
     std::int32_t number = systemFont;
-    std::from_chars(family.data(), family.data() + family.size(), number);
+    std::from_chars(family.data(), std::next(family.data(), static_cast<std::ptrdiff_t>(family.size())), number);
     return number;
 }
 

@@ -55,7 +55,7 @@ public:
     /// Of the rows that are in the selection indicator while the user turns, else as selected.
     double liveValue(WebProperty property) const;
 
-    bool tick(NSTimeInterval time) { return window().tick(time); }
+    bool tick(NSTimeInterval time) const { return window().tick(time); }
     void draw();
 
 private:

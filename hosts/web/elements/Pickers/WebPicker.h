@@ -24,8 +24,10 @@ public:
     virtual std::optional<double> get(WebProperty property) const = 0;
     /// Returns whether the picker has the property.
     virtual bool set(WebProperty property, double value) = 0;
+    // A picker that shows icons keeps them. NOLINTBEGIN(performance-unnecessary-value-param)
     /// What an icon picker shows; ignored by all others.
     virtual void setIcons(Ref<const GXIconPickerView::Images> /*icons*/) {}
+    // NOLINTEND(performance-unnecessary-value-param)
     virtual Ref<const GXIconPickerView::Images> icons() const { return nullptr; }
     /// Reads texts and fonts again, in the largest fonts that fit.
     virtual void reload() = 0;

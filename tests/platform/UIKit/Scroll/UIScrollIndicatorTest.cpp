@@ -1,6 +1,8 @@
 // The bar that shows which part of a scroll view's content is visible: where, and how long.
 
 #include <algorithm>
+#include <locale>
+#include <sstream>
 
 #include "FocusableView.h"
 #include "NSLocale.h"
@@ -18,6 +20,15 @@ struct DrawnBar {
     std::string fill;
 };
 
+/// With a point, whatever the user's locale has.
+double numberIn(const std::string& text) {
+    std::istringstream stream(text);
+    stream.imbue(std::locale::classic());
+    double number = 0;
+    stream >> number;
+    return number;
+}
+
 DrawnBar barIn(const Ref<UIView>& view) {
     RecordingCanvas canvas;
     view->renderInContext(canvas);
@@ -25,7 +36,7 @@ DrawnBar barIn(const Ref<UIView>& view) {
     double alpha = 1;
     for (const std::string& call : canvas.calls) {
         if (call == "save") alpha = 1;
-        if (call.starts_with("alpha ")) alpha = std::stod(call.substr(6));
+        if (call.starts_with("alpha ")) alpha = numberIn(call.substr(6));
         // All bars here are 4 points wide.
         if (call.starts_with("fill ") && call.find(" 4 160 ") != std::string::npos) bar = {alpha, call};
     }
