@@ -15,13 +15,13 @@ namespace gallery {
 
 namespace {
 
-constexpr CGFloat inset = 12;
+constexpr CGFloat sidebarInset = 12;
 
 /// Rows one below the other, each as high as its text needs.
 class SidebarList : public UIView {
 public:
     CGSize sizeThatFits(CGSize available) const override {
-        CGFloat height = inset;
+        CGFloat height = sidebarInset;
         for (const Ref<UIView>& row : subviews()) height += row->sizeThatFits({widthOfRows(available.width), 0}).height;
         return {available.width, height};
     }
@@ -31,7 +31,7 @@ public:
         CGFloat y = 0;
         for (const Ref<UIView>& row : subviews()) {
             const CGFloat height = row->sizeThatFits({width, 0}).height;
-            row->setFrame(CGRectMake(inset, y, width, height));
+            row->setFrame(CGRectMake(sidebarInset, y, width, height));
             y += height;
         }
     }
@@ -63,7 +63,7 @@ public:
     }
 
 private:
-    static CGFloat widthOfRows(CGFloat width) { return std::max(0.0, width - 2 * inset); }
+    static CGFloat widthOfRows(CGFloat width) { return std::max(0.0, width - 2 * sidebarInset); }
 };
 
 } // namespace
@@ -113,15 +113,15 @@ void Sidebar::showNames() {
 }
 
 CGFloat Sidebar::titleHeight() const {
-    const CGFloat width = std::max(0.0, bounds().size.width - 4 * inset);
+    const CGFloat width = std::max(0.0, bounds().size.width - 4 * sidebarInset);
     return std::max(Theme::barHeight(), std::ceil(title_->sizeThatFits({width, 0}).height));
 }
 
 void Sidebar::layoutSubviews() {
     UIView::layoutSubviews();
     const CGSize size = bounds().size;
-    title_->setFrame(CGRectMake(2 * inset, 0, std::max(0.0, size.width - 4 * inset), titleHeight()));
-    const CGFloat listY = title_->isHidden() ? inset : titleHeight();
+    title_->setFrame(CGRectMake(2 * sidebarInset, 0, std::max(0.0, size.width - 4 * sidebarInset), titleHeight()));
+    const CGFloat listY = title_->isHidden() ? sidebarInset : titleHeight();
     list_->setFrame(CGRectMake(0, listY, size.width, std::max(0.0, size.height - listY)));
     list_->layoutIfNeeded();
     // The chosen row stays visible.

@@ -16,7 +16,7 @@ namespace {
 
 // The rows of a wheel that are visible. More than nine look like a list; chosen by eye.
 constexpr double mostRowsOfWheel = 9;
-constexpr double fewestRowsOfWheel = 3;
+constexpr double fewestRowsOfPane = 3;
 constexpr CGFloat padding = Theme::cardPadding;
 // From the value to the wheel. Chosen by eye.
 constexpr CGFloat valueGap = 8;
@@ -81,7 +81,7 @@ PickerPane::Texts PickerPane::textsForWidth(CGFloat width) const {
 }
 
 CGSize PickerPane::sizeThatFits(CGSize available) const {
-    return {available.width, textsForWidth(available.width).height + fewestRowsOfWheel * rowHeight() + padding};
+    return {available.width, textsForWidth(available.width).height + fewestRowsOfPane * rowHeight() + padding};
 }
 
 void PickerPane::layoutSubviews() {
@@ -89,7 +89,7 @@ void PickerPane::layoutSubviews() {
     const CGSize size = bounds().size;
     const Texts texts = textsForWidth(size.width);
     const CGFloat room = size.height - texts.height - padding;
-    const CGFloat wheel = std::round(std::clamp(room, fewestRowsOfWheel * rowHeight(), mostRowsOfWheel * rowHeight()));
+    const CGFloat wheel = std::round(std::clamp(room, fewestRowsOfPane * rowHeight(), mostRowsOfWheel * rowHeight()));
     const CGFloat height = texts.height + wheel + padding;
     card_->setFrame(CGRectMake(0, 0, size.width, height));
     name_->setFrame(texts.name);
