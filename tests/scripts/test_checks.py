@@ -1,5 +1,6 @@
 """Plants one violation at a time into a small tree and expects the checks of scripts/ to find that and nothing else."""
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -32,7 +33,7 @@ CLEAN = {
 }
 
 
-def run(script, files):
+def run(script, files, *arguments):
     """Exit code and findings, one a line."""
     with tempfile.TemporaryDirectory() as root:
         for name, text in files.items():
@@ -41,7 +42,7 @@ def run(script, files):
             with open(path, "w", encoding="utf-8") as file:
                 file.write(text)
         subprocess.run(["git", "init", "-q", root], check=True)
-        command = [sys.executable, os.path.join(ROOT, "scripts", script), "--root", root]
+        command = [sys.executable, os.path.join(ROOT, "scripts", script), "--root", root, *arguments]
         done = subprocess.run(command, capture_output=True, text=True)
         if done.returncode not in (0, 1) or "Traceback" in done.stderr:
             raise AssertionError(done.stderr)
@@ -160,6 +161,25 @@ class StructureTest(CheckTest):
                     + operations + "    std::function<void(int)> handler_;\n    int value_ = f(1);\n    int list_[2] = {1, 2}; // g();\n};\n"}
         self.expect(class_of(25))
         self.expect(class_of(26), "platform/Low/I.h:2: I has 26 private operations, at most 25")
+
+
+class DrawingTest(unittest.TestCase):
+    def test_nothing_is_outside_or_covered(self):
+        all_below = "".join(f"#include <GXUIPickers/{name}.h>\n" for name in "ASP")
+        arrows = {"pickers/Classes/P.cpp": all_below, "hosts/web/elements/Pickers/F.h": all_below, "gallery/app/all.h": all_below}
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "floors.svg")
+            run("check-structure", {**CLEAN, **arrows}, "--svg", path)
+            with open(path, encoding="utf-8") as file:
+                svg = file.read()
+        lanes = [int(x) for x in re.findall(r" H(-?\d+) V", svg)]
+        names = [(int(x), name) for x, name in re.findall(r'<text x="(\d+)" [^>]*font-weight="bold">([^<]*)<', svg)]
+        boxes = [int(x) for x in re.findall(r'<rect x="(\d+)" [^>]*rx="4"', svg)]
+        self.assertTrue(lanes and names and boxes)
+        self.assertGreater(min(lanes), 0)
+        letter = 7.5  # The width of a bold one, on average.
+        for x, name in names:
+            self.assertLess(x + letter * len(name), min(boxes), name)
 
 
 class CommentsTest(CheckTest):
