@@ -5,7 +5,6 @@
 #include <system_error>
 
 #include <QImage>
-#include <QShortcut>
 
 #include "EventPlayer.h"
 #include <GXUIPickers/NSRunLoop.h>
@@ -16,7 +15,7 @@ using namespace gx;
 namespace gallery {
 
 QtRecording::QtRecording(const std::string& path, qt::UIViewWidget& widget)
-    : widget_(widget), file_(path, std::ios::binary | std::ios::trunc) {
+    : widget_(widget), file_(path, std::ios::binary | std::ios::trunc), markKey_(QKeySequence(Qt::Key_F12), &widget) {
     recorder_ = std::make_shared<EventRecorder>(
         widget.uiWindow(), [&widget] { return widget.now(); }, [this](const std::string& line) { write(line); });
     // As the host does it, by way of the recorder.
@@ -24,8 +23,7 @@ QtRecording::QtRecording(const std::string& path, qt::UIViewWidget& widget)
     QObject::connect(&passTimer_, &QTimer::timeout, &widget, [recorder = recorder_] { recorder->runPass(); });
     NSRunLoop::mainRunLoop()->setWakeHandler([this] { passTimer_.start(0); });
     if (NSRunLoop::mainRunLoop()->hasWork()) passTimer_.start(0);
-    const auto* const mark = new QShortcut(Qt::Key_F12, &widget);
-    QObject::connect(mark, &QShortcut::activated, &widget, [recorder = recorder_] { recorder->markPicture(); });
+    QObject::connect(&markKey_, &QShortcut::activated, &widget, [recorder = recorder_] { recorder->markPicture(); });
     widget.setWindowInput(recorder_);
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include <QShortcut>
 #include <QTimer>
 
 #include "EventRecorder.h"
@@ -39,6 +40,7 @@ private:
     std::ofstream file_;
     std::shared_ptr<EventRecorder> recorder_;
     QTimer passTimer_;
+    QShortcut markKey_;
 };
 
 /// What a replay has found.
