@@ -161,7 +161,7 @@ class Application:
             self.events.append(Event(event))
 
     def settle(self):
-        """Waits until the gallery does nothing any more, and returns the events since the last call."""
+        """Waits until the gallery is idle, and returns the events since the last call."""
         self.session.wait_until_idle()
         return self.take_events()
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Says whether docs/screen-readers.md shows the scripts as they are; with --write it copies them there."""
+"""Compares docs/screen-readers.md with the scripts; --write copies them there."""
 
 import argparse
 import re

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Walks the whole gallery as a client of the accessibility bus, and reports what such a client misses.
+"""Walks the gallery as a client of the accessibility bus, and reports what the client misses.
 
     walk.py --gallery PROGRAM --folder FOLDER [--page NAME]… [--half pages|entry]
 
@@ -198,7 +198,7 @@ class Walk:
     # The entry screen
 
     def check_entry(self, app):
-        """Sections have headings, rows say their position, and a row opens and closes its picker."""
+        """Sections have headings, rows have positions, and a row opens and closes its picker."""
         self.place = "Add workout, as a list"
         self.open_page(app, "Add workout")
         elements = app.elements()
@@ -220,7 +220,7 @@ class Walk:
             self.expect(not self.open_row(app, row, False), "it closes, and its wheel is still there")
 
     def open_row(self, app, row, opens):
-        """Activates a row, expects it to say once what has happened, and returns the wheels' columns."""
+        """Activates a row, expects one event for it, and returns the columns of its wheels."""
         row.act(row.actions[0])
         told = [event.detail for event in app.settle() if event.type.endswith(":expanded") and event.source == row]
         self.expect(told == [int(opens)], f"it {'opens' if opens else 'closes'} and says so with {told}")

@@ -195,6 +195,11 @@ class CommentsTest(CheckTest):
         self.expect({"platform/Low/I.h": "int a = " + "1 + " * 30 + "1;\n"})
         self.expect({"platform/Low/I.h": 'auto a = "https://' + "x" * 100 + '";\n'})
 
+    def test_finds_a_comment_of_a_page_s_script_beyond_100_columns(self):
+        self.expect({"hosts/web/script/s.ts": "/** " + "x" * 96 + "\n */\n"})
+        self.expect({"hosts/web/script/s.ts": "/** " + "x" * 97 + "\n */\n"}, "hosts/web/script/s.ts:1: 101 columns, at most 100")
+        self.expect({"tests/web/t.mjs": "// " + "x" * 98 + "\n"}, "tests/web/t.mjs:1: 101 columns")
+
     def test_finds_a_document_beyond_100_columns(self):
         self.expect({"README.md": "x" * 101 + "\n"}, "README.md:1: 101 columns")
         self.expect({"README.md": "| " + "x" * 101 + " |\n\n```\n" + "x" * 101 + "\n```\n"})

@@ -54,7 +54,9 @@ export async function touches(page) {
     };
 }
 
-/** Waits until nothing of the element has moved for a third of a second: what settles moves unseen. */
+/**
+ * Waits until nothing of the element has moved for a third of a second: what settles moves unseen.
+ */
 export function untilStill(page, selector) {
     return page.evaluate(async (asked) => {
         const surface = document.querySelector(asked).shadowRoot.querySelector('.surface');

@@ -1,11 +1,15 @@
-// Serves folders on the loopback address, for tests and for trying things: startServer({ '/': FOLDER }).
+// Serves folders on the loopback address, for tests and for trying things: startServer({ '/':
+// FOLDER }).
 import { createServer } from 'node:http';
 import { readFile } from 'node:fs/promises';
 import path from 'node:path';
 
 const types = { '.html': 'text/html; charset=utf-8', '.js': 'text/javascript', '.mjs': 'text/javascript', '.wasm': 'application/wasm', '.css': 'text/css', '.json': 'application/json', '.map': 'application/json', '.svg': 'image/svg+xml' };
 
-/** Returns its address and how to stop it. `headers` go with every answer; `pages` are texts by their paths. */
+/**
+ * Returns its address and how to stop it. `headers` go with every response; `pages` are texts by
+ * their paths.
+ */
 export async function startServer({ folders, pages = {}, headers = {}, port = 0 }) {
     const server = createServer(async (request, response) => {
         const url = new URL(request.url, 'http://localhost');

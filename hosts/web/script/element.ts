@@ -426,7 +426,9 @@ export abstract class PickerElement extends Base implements PageObserver {
         this.view.setFonts(fonts);
     }
 
-    /** Reads everything again that the page's style sheets decide, where no change can be noticed. */
+    /**
+     * Reads everything again that the page's style sheets decide, where no change can be noticed.
+     */
     refresh(): void {
         this.fontsDidChange();
         this.languageDidChange();

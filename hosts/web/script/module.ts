@@ -176,7 +176,9 @@ const waiting = new Set<() => void>();
 /** The module, if it is there already. */
 export const loadedModule = (): Module | undefined => loaded;
 
-/** Calls back once the module is there; never, if it cannot be loaded. Returns how to call it off. */
+/**
+ * Calls back once the module is there; never, if it cannot be loaded. Returns how to call it off.
+ */
 export function whenLoaded(callback: () => void): () => void {
     waiting.add(callback);
     return () => waiting.delete(callback);

@@ -85,7 +85,9 @@ export class HeightPicker extends PickerElement {
     declare unit: UnitSystem;
 }
 
-/** A running pace, as the speed in metres per second. `min` is the fastest one, the largest number. */
+/**
+ * A running pace, as the speed in metres per second. `min` is the fastest one, the largest number.
+ */
 export class PacePicker extends PickerElement {
     static override readonly kind = Kind.Pace;
     declare value: number;
@@ -155,14 +157,19 @@ abstract class PickerWithIcons extends PickerElement {
     }
 }
 
-/** One of the pictures among its children, `<img alt>` or `<svg aria-label>`. The value is its index. */
+/**
+ * One of the pictures among its children, `<img alt>` or `<svg aria-label>`. The value is its
+ * index.
+ */
 export class IconPicker extends PickerWithIcons {
     static override readonly kind = Kind.Icon;
     declare value: number;
     declare min: number;
 }
 
-/** A weather, as the index of a picture among its children, and a temperature in degrees Celsius. */
+/**
+ * A weather, as the index of a picture among its children, and a temperature in degrees Celsius.
+ */
 export class WeatherAndTemperaturePicker extends PickerWithIcons {
     static override readonly kind = Kind.WeatherAndTemperature;
     declare weather: number;
@@ -202,7 +209,9 @@ export class Wheel extends PickerElement {
         if (this.view) this.didOpen(this.view);
     }
 
-    /** The selected row of each column; while the user turns, the row in the selection indicator. */
+    /**
+     * The selected row of each column; while the user turns, the row in the selection indicator.
+     */
     get rows(): number[] {
         return this.read_(1);
     }

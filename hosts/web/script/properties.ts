@@ -17,7 +17,9 @@ export enum Kind {
     Columns,
 }
 
-/** The properties, as the module numbers them (`WebProperty`), in the order of their application. */
+/**
+ * The properties, as the module numbers them (`WebProperty`), in the order of their application.
+ */
 export enum Property {
     Metric = 0,
     WeightUnit,

@@ -55,7 +55,10 @@ const css = `
 }
 `;
 
-/** Gives a shadow tree its style sheet: a constructed one, which every content security policy allows. */
+/**
+ * Gives a shadow tree its style sheet: a constructed one, which every content security policy
+ * allows.
+ */
 export function adoptStyle(root: ShadowRoot): void {
     if (!sheet) {
         sheet = new CSSStyleSheet();
