@@ -4,22 +4,21 @@
 #include <utility>
 
 #include <QPointer>
-#include <QWidget>
 
 #include "QtAccessibleBus.h"
 
 namespace gx::qt {
 
-QtAccessibleView::QtAccessibleView(QWidget* widget, WeakRef<UIWindow> window, Clock clock)
-    : QAccessibleWidget(widget, QAccessible::Grouping), window_(std::move(window)), clock_(std::move(clock)) {}
+QtAccessibleView::QtAccessibleView(std::shared_ptr<QtAccessibleSurface> surface, WeakRef<UIWindow> window, Clock clock)
+    : surface_(std::move(surface)), window_(std::move(window)), clock_(std::move(clock)) {}
 
 QtAccessibleView::~QtAccessibleView() {
     for (const Known& known : known_) QAccessible::deleteAccessibleInterface(known.identifier);
 }
 
 UIAccessibilityElements QtAccessibleView::elements() const {
-    const Ref<UIWindow> window = window_.lock(); // The views may drop the widget meanwhile.
-    return window && object() ? window->accessibilityElements() : UIAccessibilityElements();
+    const Ref<UIWindow> window = window_.lock(); // The views may drop the object meanwhile.
+    return window && surface_->exists() ? window->accessibilityElements() : UIAccessibilityElements();
 }
 
 void QtAccessibleView::removeExpired() const {
@@ -31,7 +30,7 @@ void QtAccessibleView::removeExpired() const {
 }
 
 QAccessibleInterface* QtAccessibleView::interfaceOf(const Ref<UIAccessibilityElement>& element) const {
-    if (!element || !object()) return nullptr;
+    if (!element || !surface_->exists()) return nullptr;
     const auto entry =
         std::find_if(known_.begin(), known_.end(), [&element](const Known& known) { return known.element->isSameAs(*element); });
     if (entry != known_.end()) {
@@ -41,23 +40,23 @@ QAccessibleInterface* QtAccessibleView::interfaceOf(const Ref<UIAccessibilityEle
     }
     removeExpired();
     // Owned by Qt from here on.
-    auto* const made = new QtAccessibleElement(widget(), window_, clock_, element);
+    auto* const made = new QtAccessibleElement(surface_, window_, clock_, element);
     known_.push_back({element, QAccessible::registerAccessibleInterface(made)});
     return made;
 }
 
 // The tree
 
-int QtAccessibleView::childCount() const { return static_cast<int>(top().size()); }
+int QtAccessibleView::elementCount() const { return static_cast<int>(top().size()); }
 
-QAccessibleInterface* QtAccessibleView::child(int index) const {
-    const QPointer<QObject> widget = object();
+QAccessibleInterface* QtAccessibleView::elementAt(int index) const {
+    const QPointer<QObject> object = surface_->object();
     const UIAccessibilityElements top = this->top();
-    if (!widget || index < 0 || static_cast<std::size_t>(index) >= top.size()) return nullptr;
+    if (!object || index < 0 || static_cast<std::size_t>(index) >= top.size()) return nullptr;
     return interfaceOf(top[static_cast<std::size_t>(index)]);
 }
 
-int QtAccessibleView::indexOfChild(const QAccessibleInterface* child) const {
+int QtAccessibleView::indexOfElement(const QAccessibleInterface* child) const {
     const auto* const known = dynamic_cast<const QtAccessibleElement*>(child);
     if (known == nullptr) return -1;
     const UIAccessibilityElements top = this->top();
@@ -65,11 +64,11 @@ int QtAccessibleView::indexOfChild(const QAccessibleInterface* child) const {
     return entry == top.end() ? -1 : static_cast<int>(entry - top.begin());
 }
 
-QAccessibleInterface* QtAccessibleView::childAt(int x, int y) const {
+QAccessibleInterface* QtAccessibleView::elementAtPlace(int x, int y) const {
     // What is read last is on top.
-    const QPointer<QObject> widget = object();
+    const QPointer<QObject> object = surface_->object();
     const UIAccessibilityElements elements = this->elements();
-    for (std::size_t i = elements.size(); widget && i-- > 0;) {
+    for (std::size_t i = elements.size(); object && i-- > 0;) {
         QAccessibleInterface* const found = interfaceOf(elements[i]);
         if (found == nullptr || !found->rect().contains(x, y)) continue;
         for (int child = 0; child < found->childCount(); ++child) {
@@ -85,46 +84,40 @@ QAccessibleInterface* QtAccessibleView::childAt(int x, int y) const {
 
 Ref<UIAccessibilityElement> QtAccessibleView::focused() const {
     const Ref<UIWindow> window = window_.lock();
-    return window && object() && widget()->hasFocus() ? window->focusedAccessibilityElement() : nullptr;
+    return window && surface_->exists() && surface_->hasFocus() ? window->focusedAccessibilityElement() : nullptr;
 }
 
-QAccessibleInterface* QtAccessibleView::focusChild() const {
-    const QPointer<QObject> widget = object();
+QAccessibleInterface* QtAccessibleView::focusedElement() const {
+    const QPointer<QObject> object = surface_->object();
     const Ref<UIAccessibilityElement> element = focused();
-    return widget && element ? interfaceOf(element) : nullptr;
-}
-
-QAccessible::State QtAccessibleView::state() const {
-    QAccessible::State state = QAccessibleWidget::state();
-    if (state.focused && focused()) state.focused = false;
-    return state;
+    return object && element ? interfaceOf(element) : nullptr;
 }
 
 // Changes
 
 void QtAccessibleView::announceChanges(Sender send) {
-    const QPointer<QObject> widget = object();
+    const QPointer<QObject> object = surface_->object();
     const Ref<UIWindow> window = window_.lock();
-    if (!widget || !window) return;
+    if (!object || !window) return;
     const std::shared_ptr<UIAccessibilityChanges> changes = changes_;
     const std::vector<UIAccessibilityChanges::Change> found = changes->takeChanges(*window);
-    // A listener or a view may drop the widget, and this with it.
+    // A listener or a view may drop the object, and this with it.
     bool isFocusAnnounced = false;
     for (const UIAccessibilityChanges::Change& change : found) {
-        if (!widget) return;
+        if (!object) return;
         using Kind = UIAccessibilityChanges::Change::Kind;
         if (change.kind == Kind::Announcement && !isFocusAnnounced) announceFocus(send);
         isFocusAnnounced |= change.kind == Kind::Announcement;
-        if (widget) announce(change, send);
+        if (object) announce(change, send);
     }
-    if (widget && !isFocusAnnounced) announceFocus(send);
+    if (object && !isFocusAnnounced) announceFocus(send);
 }
 
 void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Sender send) {
     using Kind = UIAccessibilityChanges::Change::Kind;
-    const QPointer<QObject> widget = object();
+    const QPointer<QObject> object = surface_->object();
     const QString value = change.element ? textOf(change.element->value()) : QString();
-    QAccessibleInterface* const element = !widget ? nullptr : change.element ? interfaceOf(change.element) : this;
+    QAccessibleInterface* const element = !object ? nullptr : change.element ? interfaceOf(change.element) : root();
     if (element == nullptr) return;
     QAccessible::State changed;
     switch (change.kind) {
@@ -151,7 +144,7 @@ void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Se
         changed.expanded = true;
         QAccessibleStateChangeEvent event(element, changed);
         send(&event);
-        if (widget) reportExpandedOnBus(*element);
+        if (object) reportExpandedOnBus(*element);
         return;
     }
     case Kind::Checked: {
@@ -159,22 +152,22 @@ void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Se
         QAccessibleStateChangeEvent event(element, changed);
         return send(&event);
     }
-    case Kind::Focus: // By `announceFocus`, since the widget's own focus counts too.
+    case Kind::Focus: // By `announceFocus`, since the surface's own focus counts too.
         return;
     case Kind::Announcement:
-        return announcements_.announce(*this->widget(), change.announcement, send);
+        return announcements_.announce(*object, change.announcement, send);
     }
 }
 
 void QtAccessibleView::announceFocus(Sender send) {
-    const QPointer<QObject> widget = object();
+    const QPointer<QObject> object = surface_->object();
     const Ref<UIAccessibilityElement> element = focused();
-    if (!widget) return;
+    if (!object) return;
     const bool isSame = element && focused_ ? element->isSameAs(*focused_) : element == focused_;
-    const bool hasFocus = this->widget()->hasFocus();
+    const bool hasFocus = surface_->hasFocus();
     focused_ = element;
     if (isSame || !hasFocus) return;
-    QAccessibleEvent event(element ? interfaceOf(element) : this, QAccessible::Focus);
+    QAccessibleEvent event(element ? interfaceOf(element) : root(), QAccessible::Focus);
     send(&event);
 }
 
@@ -185,19 +178,19 @@ void QtAccessibleView::forgetFocus() {
 
 namespace {
 
-/// Nothing for other widgets, and while no screen reader runs.
-QtAccessibleView* activeViewOf(QWidget& widget) {
-    return QAccessible::isActive() ? dynamic_cast<QtAccessibleView*>(QAccessible::queryAccessibleInterface(&widget)) : nullptr;
+/// Nothing for other objects, and while no screen reader runs.
+QtAccessibleView* activeViewOf(QObject& object) {
+    return QAccessible::isActive() ? dynamic_cast<QtAccessibleView*>(QAccessible::queryAccessibleInterface(&object)) : nullptr;
 }
 
 } // namespace
 
-void announceAccessibilityFocus(QWidget& widget) {
-    if (QtAccessibleView* const view = activeViewOf(widget)) view->forgetFocus();
+void announceAccessibilityFocus(QObject& object) {
+    if (QtAccessibleView* const view = activeViewOf(object)) view->forgetFocus();
 }
 
-void announceAccessibilityChanges(QWidget& widget) {
-    if (QtAccessibleView* const view = activeViewOf(widget)) view->announceChanges();
+void announceAccessibilityChanges(QObject& object) {
+    if (QtAccessibleView* const view = activeViewOf(object)) view->announceChanges();
 }
 
 } // namespace gx::qt

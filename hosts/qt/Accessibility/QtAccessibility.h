@@ -5,19 +5,19 @@
 #include <vector>
 
 #include <QAccessible>
-#include <QAccessibleWidget>
 
 #include "QtAccessibleAnnouncements.h"
 #include "QtAccessibleElement.h"
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIAccessibilityChanges.h>
 
 namespace gx::qt {
 
-/// What a screen reader finds in a widget that shows views.
+/// What a screen reader finds in the views that a surface shows: the part of its accessibility
+/// interface that is the same for a widget and an item of Qt Quick.
 ///
-/// The widget is a group that holds the elements of its views (see `UIAccessibilityElement`) in
-/// reading order, as a tree. Qt makes it on the first query, by the factory that `installQtHost`
-/// installs.
+/// That interface derives from this one too. It is a group that holds the elements of the views
+/// (see `UIAccessibilityElement`) in reading order, as a tree.
 ///
 /// - Supports: names, values, places and states; the focus, also set from outside; columns of a
 ///   wheel as spin boxes, whose value is the number they show and whose text is the row's
@@ -28,24 +28,23 @@ namespace gx::qt {
 /// Elements come and go with every reload, while Qt knows each by an interface that has to stay the
 /// same. So an element keeps its interface for as long as its view lives; while it is not on the
 /// screen, the interface is invalid and its actions are no-ops.
-class QtAccessibleView : public QAccessibleWidget, public QtAccessibleTree {
+class GX_EXPORT QtAccessibleView : public QtAccessibleTree {
 public:
     using Clock = QtAccessibleElement::Clock;
 
-    /// `window` holds the views that the widget shows. The clock is used only while the widget
+    /// `window` holds the views that the surface shows. The clock is used only while its object
     /// lives.
-    QtAccessibleView(QWidget* widget, WeakRef<UIWindow> window, Clock clock);
-    ~QtAccessibleView() override;
+    QtAccessibleView(std::shared_ptr<QtAccessibleSurface> surface, WeakRef<UIWindow> window, Clock clock);
+    Q_DISABLE_COPY_MOVE(QtAccessibleView)
 
-    int childCount() const override;
-    QAccessibleInterface* child(int index) const override;
-    int indexOfChild(const QAccessibleInterface* child) const override;
+    int elementCount() const;
+    QAccessibleInterface* elementAt(int index) const;
+    int indexOfElement(const QAccessibleInterface* element) const;
     /// The element in sight at a place, however deep in the tree it is.
-    QAccessibleInterface* childAt(int x, int y) const override;
-    /// The element with the focus, while the widget has the focus.
-    QAccessibleInterface* focusChild() const override;
-    /// Focused only while none of its elements is.
-    QAccessible::State state() const override;
+    QAccessibleInterface* elementAtPlace(int x, int y) const;
+    /// The element with the focus, while the surface has the focus.
+    QAccessibleInterface* focusedElement() const;
+    bool isElementFocused() const { return focused() != nullptr; }
 
     QAccessibleInterface* interfaceOf(const Ref<UIAccessibilityElement>& element) const override;
 
@@ -57,6 +56,9 @@ public:
     void announceChanges(Sender send = &QAccessible::updateAccessibility);
     /// The next `announceChanges` reports the focus, also where it was before.
     void forgetFocus();
+
+protected:
+    ~QtAccessibleView();
 
 private:
     /// Chosen: lists with more children do not report new ones.
@@ -72,7 +74,9 @@ private:
     void removeExpired() const;
     void announce(const UIAccessibilityChanges::Change& change, Sender send);
     void announceFocus(Sender send);
+    QAccessibleInterface* root() const { return QAccessible::queryAccessibleInterface(surface_->object()); }
 
+    std::shared_ptr<QtAccessibleSurface> surface_; // Never empty.
     WeakRef<UIWindow> window_;
     Clock clock_;
     mutable std::vector<Known> known_; // Queries add what they return for the first time.
@@ -81,11 +85,11 @@ private:
     Ref<UIAccessibilityElement> focused_; // As announced last.
 };
 
-/// To be called when the widget gets the focus: Qt has told screen readers of the widget then, and
+/// To be called when a surface gets the focus: Qt has told screen readers of its object then, and
 /// they have to know which of its elements it is.
-void announceAccessibilityFocus(QWidget& widget);
-/// Has the widget's `QtAccessibleView` announce changes while a screen reader runs; a no-op for
-/// other widgets.
-void announceAccessibilityChanges(QWidget& widget);
+GX_EXPORT void announceAccessibilityFocus(QObject& object);
+/// Has the object's `QtAccessibleView` announce changes while a screen reader runs; a no-op for
+/// objects without one.
+GX_EXPORT void announceAccessibilityChanges(QObject& object);
 
 } // namespace gx::qt

@@ -1,5 +1,7 @@
 #include "QtAccessibleAnnouncements.h"
 
+#include <QPointer>
+
 namespace gx::qt {
 
 namespace {
@@ -14,14 +16,14 @@ constexpr QAccessible::Role messageRole = QAccessible::AlertMessage;
 constexpr QAccessible::Event messageEvent = QAccessible::Alert;
 #endif
 
-/// A message beside the children of a widget. It has a name and nothing else.
+/// A message beside the elements of the views. It has a name and nothing else.
 class Message : public QAccessibleInterface {
 public:
-    Message(QWidget* widget, QString text) : widget_(widget), text_(std::move(text)) {}
+    Message(QObject* object, QString text) : object_(object), text_(std::move(text)) {}
 
-    bool isValid() const override { return !widget_.isNull(); }
+    bool isValid() const override { return !object_.isNull(); }
     QObject* object() const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return widget_ ? QAccessible::queryAccessibleInterface(widget_.data()) : nullptr; }
+    QAccessibleInterface* parent() const override { return object_ ? QAccessible::queryAccessibleInterface(object_.data()) : nullptr; }
     QAccessibleInterface* child(int) const override { return nullptr; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     int childCount() const override { return 0; }
@@ -37,7 +39,7 @@ public:
     }
 
 private:
-    QPointer<QWidget> widget_;
+    QPointer<QObject> object_;
     QString text_;
 };
 
@@ -49,11 +51,11 @@ QtAccessibleAnnouncements::~QtAccessibleAnnouncements() {
     for (const QAccessible::Id message : messages_) QAccessible::deleteAccessibleInterface(message);
 }
 
-void QtAccessibleAnnouncements::announce(QWidget& widget, const UIAccessibilityAnnouncement& announcement, Sender send) {
+void QtAccessibleAnnouncements::announce(QObject& object, const UIAccessibilityAnnouncement& announcement, Sender send) {
     const QString text = QString::fromStdString(announcement.text);
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
     // Owned by Qt from here on.
-    auto* const message = new Message(&widget, text);
+    auto* const message = new Message(&object, text);
     messages_.push_back(QAccessible::registerAccessibleInterface(message));
     if (messages_.size() > keptCount) {
         QAccessible::deleteAccessibleInterface(messages_.front());
@@ -62,7 +64,7 @@ void QtAccessibleAnnouncements::announce(QWidget& widget, const UIAccessibilityA
     QAccessibleEvent event(message, messageEvent);
     send(&event);
 #else
-    QAccessibleAnnouncementEvent event(&widget, text);
+    QAccessibleAnnouncementEvent event(&object, text);
     const bool isUrgent = announcement.priority == UIAccessibilityAnnouncement::Priority::Assertive;
     event.setPoliteness(isUrgent ? QAccessible::AnnouncementPoliteness::Assertive : QAccessible::AnnouncementPoliteness::Polite);
     send(&event);

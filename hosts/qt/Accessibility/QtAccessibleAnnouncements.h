@@ -3,8 +3,7 @@
 #include <deque>
 
 #include <QAccessible>
-#include <QPointer>
-#include <QWidget>
+#include <QObject>
 
 #include <GXUIPickers/UIWindow.h>
 
@@ -22,7 +21,7 @@ public:
     Q_DISABLE_COPY_MOVE(QtAccessibleAnnouncements)
 
     using Sender = void (*)(QAccessibleEvent* event);
-    void announce(QWidget& widget, const UIAccessibilityAnnouncement& announcement, Sender send);
+    void announce(QObject& object, const UIAccessibilityAnnouncement& announcement, Sender send);
 
 private:
     /// Chosen as what waits at most: a screen reader reads a message a moment after it came.

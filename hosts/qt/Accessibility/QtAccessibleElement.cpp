@@ -8,14 +8,15 @@ namespace gx::qt {
 
 QString textOf(const std::optional<std::string>& text) { return text ? QString::fromStdString(*text) : QString(); }
 
-QtAccessibleElement::QtAccessibleElement(QWidget* widget, WeakRef<UIWindow> window, Clock clock, Ref<UIAccessibilityElement> element)
-    : widget_(widget), window_(std::move(window)), clock_(std::move(clock)), element_(std::move(element)),
+QtAccessibleElement::QtAccessibleElement(std::shared_ptr<QtAccessibleSurface> surface, WeakRef<UIWindow> window, Clock clock,
+                                         Ref<UIAccessibilityElement> element)
+    : surface_(std::move(surface)), window_(std::move(window)), clock_(std::move(clock)), element_(std::move(element)),
       value_([this] { return text(QAccessible::Value); }) {}
 
 bool QtAccessibleElement::isValid() const {
     const Ref<UIViewNode> view = element_->view();
     const Ref<UIWindow> window = window_.lock();
-    return !widget_.isNull() && window && view && view->window() == window && element_->exists();
+    return surface_->exists() && window && view && view->window() == window && element_->exists();
 }
 
 QAccessible::Role QtAccessibleElement::role() const {
@@ -52,9 +53,8 @@ QString QtAccessibleElement::text(QAccessible::Text kind) const {
 QRect QtAccessibleElement::rect() const {
     if (!isValid()) return {};
     const CGRect area = element_->frame();
-    if (!widget_) return {};
-    const QRect inWidget = QRectF(area.origin.x, area.origin.y, area.size.width, area.size.height).toAlignedRect();
-    return {widget_->mapToGlobal(inWidget.topLeft()), inWidget.size()};
+    if (!surface_->exists()) return {};
+    return surface_->onScreen({area.origin.x, area.origin.y, area.size.width, area.size.height});
 }
 
 QAccessible::State QtAccessibleElement::state() const {
@@ -64,12 +64,12 @@ QAccessible::State QtAccessibleElement::state() const {
         return state;
     }
     const bool hasActions = !actionNames().isEmpty();
-    state.disabled = !widget_->isEnabled() || (hasActions && !element_->isEnabled());
-    state.invisible = !widget_->isVisible();
-    state.offscreen = !rect().intersects(QRect(widget_->mapToGlobal(QPoint()), widget_->size()));
+    state.disabled = !surface_->isEnabled() || (hasActions && !element_->isEnabled());
+    state.invisible = !surface_->isVisible();
+    state.offscreen = !rect().intersects(surface_->frame());
     state.readOnly = !hasActions;
-    state.focusable = widget_->focusPolicy() != Qt::NoFocus && element_->isFocusable();
-    state.focused = widget_->hasFocus() && element_->isFocused();
+    state.focusable = surface_->canTakeFocus() && element_->isFocusable();
+    state.focused = surface_->hasFocus() && element_->isFocused();
     if (const std::optional<bool> isExpanded = element_->isExpanded()) {
         state.expandable = true;
         state.expanded = *isExpanded;
@@ -92,14 +92,14 @@ void* QtAccessibleElement::interface_cast(QAccessible::InterfaceType type) {
 // The tree
 
 QtAccessibleTree* QtAccessibleElement::tree() const {
-    return widget_ ? dynamic_cast<QtAccessibleTree*>(QAccessible::queryAccessibleInterface(widget_.data())) : nullptr;
+    return surface_->exists() ? dynamic_cast<QtAccessibleTree*>(QAccessible::queryAccessibleInterface(surface_->object())) : nullptr;
 }
 
 QAccessibleInterface* QtAccessibleElement::parent() const {
     const Ref<UIAccessibilityElement> container = element_->container();
-    if (!widget_) return nullptr;
+    if (!surface_->exists()) return nullptr;
     const QtAccessibleTree* const tree = container ? this->tree() : nullptr;
-    return tree ? tree->interfaceOf(container) : QAccessible::queryAccessibleInterface(widget_.data());
+    return tree ? tree->interfaceOf(container) : QAccessible::queryAccessibleInterface(surface_->object());
 }
 
 int QtAccessibleElement::childCount() const {
@@ -120,7 +120,7 @@ int QtAccessibleElement::indexOfChild(const QAccessibleInterface* child) const {
 
 QAccessibleInterface* QtAccessibleElement::childAt(int x, int y) const {
     // The items of a list lie where the view is, which knows those in sight.
-    QAccessibleInterface* const root = widget_ ? QAccessible::queryAccessibleInterface(widget_.data()) : nullptr;
+    QAccessibleInterface* const root = surface_->exists() ? QAccessible::queryAccessibleInterface(surface_->object()) : nullptr;
     QAccessibleInterface* found = root != nullptr ? root->childAt(x, y) : nullptr;
     while (found != nullptr && found->parent() != this) found = found == root ? nullptr : found->parent();
     return found;
@@ -128,7 +128,8 @@ QAccessibleInterface* QtAccessibleElement::childAt(int x, int y) const {
 
 QAccessibleInterface* QtAccessibleElement::focusChild() const {
     const Ref<UIWindow> window = window_.lock();
-    const Ref<UIAccessibilityElement> focused = window && widget_ && widget_->hasFocus() ? window->focusedAccessibilityElement() : nullptr;
+    const bool hasFocus = window && surface_->exists() && surface_->hasFocus();
+    const Ref<UIAccessibilityElement> focused = hasFocus ? window->focusedAccessibilityElement() : nullptr;
     for (Ref<UIAccessibilityElement> above = focused; above; above = above->container()) {
         if (!above->isSameAs(*element_)) continue;
         const QtAccessibleTree* const tree = this->tree();
@@ -178,7 +179,7 @@ QStringList QtAccessibleElement::actionNames() const {
 
 void QtAccessibleElement::doAction(const QString& name) {
     if (!canAct() || !actionNames().contains(name)) return;
-    // The views may drop the widget, and with it this interface.
+    // The views may drop the object, and with it this interface.
     const Ref<UIAccessibilityElement> element = element_;
     if (name == increaseAction()) {
         element->increment();
@@ -193,9 +194,8 @@ void QtAccessibleElement::doAction(const QString& name) {
 
 void QtAccessibleElement::takeFocus() {
     const Ref<UIAccessibilityElement> element = element_;
-    const QPointer<QWidget> widget = widget_;
-    widget->window()->activateWindow();
-    if (widget) widget->setFocus(Qt::OtherFocusReason); // Keys come to its window then.
+    const std::shared_ptr<QtAccessibleSurface> surface = surface_;
+    surface->takeFocus();
     element->focus();
 }
 

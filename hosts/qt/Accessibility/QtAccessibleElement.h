@@ -1,36 +1,38 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QAccessible>
-#include <QPointer>
-#include <QWidget>
 
+#include "QtAccessibleSurface.h"
 #include "QtAccessibleText.h"
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIWindow.h>
 
 namespace gx::qt {
 
 /// Where elements find each other's interfaces. `QtAccessibleView` implements it.
-class QtAccessibleTree {
+class GX_EXPORT QtAccessibleTree {
 public:
     /// The same for the same element, as long as its view lives. Nothing for none, and once the
-    /// widget is gone.
+    /// surface has no object.
     virtual QAccessibleInterface* interfaceOf(const Ref<UIAccessibilityElement>& element) const = 0;
 
 protected:
     ~QtAccessibleTree() = default;
 };
 
-/// One element of a widget's views.
+/// One element of the views that a surface shows.
 ///
 /// Invalid, with actions that are no-ops, while the element does not exist.
 class QtAccessibleElement : public QAccessibleInterface, public QAccessibleValueInterface, public QAccessibleActionInterface {
 public:
-    /// Returns seconds on the clock of the window's ticks; used only while the widget lives.
+    /// Returns seconds on the clock of the window's ticks; used only while the object lives.
     using Clock = std::function<NSTimeInterval()>;
 
-    QtAccessibleElement(QWidget* widget, WeakRef<UIWindow> window, Clock clock, Ref<UIAccessibilityElement> element);
+    QtAccessibleElement(std::shared_ptr<QtAccessibleSurface> surface, WeakRef<UIWindow> window, Clock clock,
+                        Ref<UIAccessibilityElement> element);
 
     bool isSameAs(const UIAccessibilityElement& element) const { return element_->isSameAs(element); }
     const Ref<UIAccessibilityElement>& element() const { return element_; }
@@ -69,12 +71,12 @@ public:
 
 private:
     bool isAdjustable() const { return element_->role() == UIAccessibilityRole::Adjustable; }
-    bool canAct() const { return isValid() && widget_->isEnabled(); }
+    bool canAct() const { return isValid() && surface_->isEnabled(); }
     void takeFocus();
     QtAccessibleTree* tree() const;
     QVariant number(double UIAccessibilityNumbers::*part) const;
 
-    QPointer<QWidget> widget_;
+    std::shared_ptr<QtAccessibleSurface> surface_; // Never empty.
     WeakRef<UIWindow> window_;
     Clock clock_;
     Ref<UIAccessibilityElement> element_;

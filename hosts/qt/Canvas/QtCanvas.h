@@ -8,6 +8,7 @@
 
 #include "QtImageCache.h"
 #include "QtTextImageCache.h"
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIGraphicsContext.h>
 
 class QPainter;
@@ -29,7 +30,7 @@ namespace gx::qt {
 ///
 /// Invariant: transform, clip and alpha are kept here and not in the painter, whose states are
 /// costly to save and restore. The painter gets a clip or an opacity only when it has to change.
-class QtCanvas : public UIGraphicsContext {
+class GX_EXPORT QtCanvas : public UIGraphicsContext {
 public:
     explicit QtCanvas(Ref<QtTextEngine> engine = QtTextEngine::shared(),
                       std::shared_ptr<QtTextImageCache> texts = QtTextImageCache::shared(),

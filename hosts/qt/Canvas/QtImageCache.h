@@ -6,6 +6,7 @@
 
 #include <QImage>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIImage.h>
 
 namespace gx::qt {
@@ -14,7 +15,7 @@ namespace gx::qt {
 ///
 /// It takes any `UIImage`, releases pictures that are not referenced any longer, and is bounded by
 /// bytes, but for the picture used last. A picture without any reference is converted each time.
-class QtImageCache {
+class GX_EXPORT QtImageCache {
 public:
     /// Chosen: enough for a screen full of icons or two photographs.
     static constexpr std::size_t defaultCapacity = std::size_t{32} << 20U;

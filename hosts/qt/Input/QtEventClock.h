@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/NSObject.h>
 
 namespace gx::qt {
@@ -19,7 +20,7 @@ namespace gx::qt {
 ///
 /// Invariant: the event with the least delay since the input began sets the zero, and no event lies
 /// in the future.
-class QtEventClock {
+class GX_EXPORT QtEventClock {
 public:
     /// `milliseconds` is the event's own time, 0 if it has none; `now` the frames' time of its
     /// delivery, in seconds.

@@ -4,6 +4,7 @@
 
 #include <QPointF>
 
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIWindowInput.h>
 
 class QKeyEvent;
@@ -25,7 +26,7 @@ namespace gx::qt {
 /// Times are in seconds on the clock of the window's ticks. Each operation returns whether the
 /// event was handled; others are for the widgets around the view. Callbacks of views may drop
 /// everything but this object, so the caller has to keep it alive.
-class QtInput {
+class GX_EXPORT QtInput {
 public:
     explicit QtInput(Ref<UIWindowInput> window) : window_(std::move(window)) {}
     void setWindow(Ref<UIWindowInput> window) { window_ = std::move(window); }

@@ -9,6 +9,7 @@
 #include <QFontMetricsF>
 
 #include "QtTextCache.h"
+#include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UITextEngine.h>
 
 namespace gx::qt {
@@ -23,7 +24,7 @@ namespace gx::qt {
 /// Qt rounds the size of a font to whole pixels, also one that is given in points. So each face is
 /// opened once at a thousand pixels without hinting, and measuring and drawing scale from there:
 /// 22.5 points are exactly that on every screen, and text is as wide as it was measured.
-class QtTextEngine : public UITextEngine {
+class GX_EXPORT QtTextEngine : public UITextEngine {
 public:
     /// The pixel size in which faces are opened. Chosen: large enough that rounding does not
     /// matter.

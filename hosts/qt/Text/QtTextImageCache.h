@@ -7,6 +7,7 @@
 
 #include "QtTextCache.h"
 #include "QtTextEngine.h"
+#include <GXUIPickers/GXExport.h>
 
 namespace gx::qt {
 
@@ -26,7 +27,7 @@ struct QtTextImage {
 ///
 /// - Supports: any text, font, colour and resolution; bounded by bytes.
 /// - Does not support: images larger than `largestSide`. The caller draws such text directly.
-class QtTextImageCache {
+class GX_EXPORT QtTextImageCache {
 public:
     /// Chosen: about a thousand rows of a wheel on a screen with two pixels a point.
     static constexpr std::size_t defaultCapacity = std::size_t{16} << 20U;

@@ -14,10 +14,11 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
-#include "QtAccessibility.h"
+#include "QtAccessibleWidget.h"
 #include "QtCanvas.h"
 #include "QtEventClock.h"
 #include "QtInput.h"
+#include "QtLooks.h"
 
 namespace gx::qt {
 
@@ -32,25 +33,10 @@ double framePeriod(const QScreen* screen) {
     return 1 / (rate >= 1 ? rate : usualRate);
 }
 
-Qt::CursorShape shapeOf(UIPointerStyle style) {
-    switch (style) {
-    case UIPointerStyle::Press:
-        return Qt::PointingHandCursor;
-    case UIPointerStyle::Turn:
-        return Qt::OpenHandCursor;
-    case UIPointerStyle::Turning:
-        return Qt::ClosedHandCursor;
-    case UIPointerStyle::Disabled:
-        return Qt::ForbiddenCursor;
-    default:
-        return Qt::ArrowCursor;
-    }
-}
-
-/// A window darker than the middle needs bright text.
-UIUserInterfaceStyle styleOf(const QPalette& palette) {
-    constexpr int middle = 128;
-    return palette.color(QPalette::Window).lightness() < middle ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light;
+/// For `QAccessible::installFactory`: the interfaces of `UIViewWidget`s, nothing for other objects.
+QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
+    auto* const widget = dynamic_cast<UIViewWidget*>(object);
+    return widget ? new QtAccessibleWidget(widget, widget->uiWindow(), [widget] { return widget->now(); }) : nullptr;
 }
 
 } // namespace
@@ -66,7 +52,8 @@ UIViewWidget::UIViewWidget(QWidget* parent)
     setMouseTracking(true);          // A move without a button shows that a release went elsewhere.
     setFocusPolicy(Qt::StrongFocus); // A press takes the focus away from where the user was typing.
     followPalette();
-    window_->setHost(this); // A new window asks for its first frame.
+    QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
+    window_->setHost(this);                              // A new window asks for its first frame.
 }
 
 UIViewWidget::~UIViewWidget() { window_->setHost(nullptr); }
@@ -99,7 +86,7 @@ void UIViewWidget::setUserInterfaceStyle(std::optional<UIUserInterfaceStyle> sty
     followPalette();
 }
 
-void UIViewWidget::followPalette() { windowInput_->setUserInterfaceStyle(fixedStyle_.value_or(styleOf(palette()))); }
+void UIViewWidget::followPalette() { windowInput_->setUserInterfaceStyle(fixedStyle_.value_or(styleOfPalette(palette()))); }
 
 void UIViewWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
@@ -183,7 +170,7 @@ void UIViewWidget::pointerStyleDidChange(UIPointerStyle style) {
     if (style == UIPointerStyle::Default) {
         unsetCursor(); // That of the widgets around.
     } else {
-        setCursor(shapeOf(style));
+        setCursor(cursorOfStyle(style));
     }
 }
 

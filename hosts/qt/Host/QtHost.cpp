@@ -5,26 +5,17 @@
 #include <QPointer>
 #include <QTimer>
 
-#include "QtAccessibility.h"
 #include "QtImageLoader.h"
 #include "QtTextEngine.h"
 #include <GXUIPickers/UIHost.h>
-#include <GXUIPickers/UIViewWidget.h>
 
 namespace gx::qt {
 
 namespace {
 
-/// For `QAccessible::installFactory`: the interfaces of `UIViewWidget`s, nothing for other objects.
-QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
-    auto* const widget = dynamic_cast<UIViewWidget*>(object);
-    return widget ? new QtAccessibleView(widget, widget->uiWindow(), [widget] { return widget->now(); }) : nullptr;
-}
-
 /// The application's fonts and timers are about to be destroyed.
 void uninstall() {
     NSRunLoop::mainRunLoop()->setWakeHandler(nullptr);
-    QAccessible::removeFactory(accessibleInterfaceFor);
     if (std::dynamic_pointer_cast<QtImageLoader>(UIImageLoader::shared())) UIImageLoader::setShared(nullptr);
     if (UITextEngine::shared() == QtTextEngine::shared()) UITextEngine::setShared(nullptr);
 }
@@ -48,7 +39,6 @@ void installQtHost(QGuiApplication& application, const QtHostOptions& options) {
     UIImageLoader::setShared(std::make_shared<QtImageLoader>());
     NSLocale::setCurrentLocale(localeFromQLocale(options.locale.value_or(QLocale::system())));
     pumpRunLoop(application);
-    QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
     qAddPostRoutine(uninstall);
 }
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+#include <QRect>
+
+#include <GXUIPickers/GXExport.h>
+
+namespace gx::qt {
+
+/// What shows a window's views on the screen, as far as screen readers need it: a widget, or an
+/// item of Qt Quick.
+///
+/// It may outlive its object. The other operations are only for while there is one.
+class GX_EXPORT QtAccessibleSurface {
+public:
+    virtual ~QtAccessibleSurface() = default;
+
+    /// The one whose accessibility interface holds the elements of the views; nothing once it is
+    /// gone.
+    virtual QObject* object() const = 0;
+    bool exists() const { return object() != nullptr; }
+
+    virtual bool isEnabled() const = 0;
+    virtual bool isVisible() const = 0;
+    /// Whether keys come to it at present, and whether they can.
+    virtual bool hasFocus() const = 0;
+    virtual bool canTakeFocus() const = 0;
+    /// Also brings its window to the front. Callbacks may drop the object.
+    virtual void takeFocus() = 0;
+    /// A rectangle of the window on the screen.
+    virtual QRect onScreen(const QRectF& area) const = 0;
+    /// All of it on the screen.
+    virtual QRect frame() const = 0;
+};
+
+} // namespace gx::qt
