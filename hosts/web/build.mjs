@@ -19,7 +19,20 @@ if (!source || !folder) {
 }
 mkdirSync(folder, { recursive: true });
 const wasm = path.join(folder, 'gxuipickers.wasm');
-execFileSync(path.join(here, 'node_modules/.bin/wasm-opt'), ['-Oz', '--enable-bulk-memory', '--enable-sign-ext', '--enable-mutable-globals', '--enable-nontrapping-float-to-int', source, '-o', wasm], { stdio: 'inherit' });
+execFileSync(
+    path.join(here, 'node_modules/.bin/wasm-opt'),
+    [
+        '-Oz',
+        '--enable-bulk-memory',
+        '--enable-sign-ext',
+        '--enable-mutable-globals',
+        '--enable-nontrapping-float-to-int',
+        source,
+        '-o',
+        wasm,
+    ],
+    { stdio: 'inherit' },
+);
 const packed = gzipSync(readFileSync(wasm), { level: 9 });
 
 const packedModule = {
@@ -29,11 +42,28 @@ const packedModule = {
         plugin.onLoad({ filter: /.*/, namespace: 'packed' }, () => ({ contents: packed.toString('base64'), loader: 'text' }));
     },
 };
-const common = { bundle: true, format: 'esm', target: 'es2022', minify: true, sourcemap: true, charset: 'utf8', legalComments: 'none', logLevel: 'warning' };
-await build({ ...common, entryPoints: [path.join(here, 'script/inline.ts')], outfile: path.join(folder, 'gxuipickers.js'), plugins: [packedModule] });
+const common = {
+    bundle: true,
+    format: 'esm',
+    target: 'es2022',
+    minify: true,
+    sourcemap: true,
+    charset: 'utf8',
+    legalComments: 'none',
+    logLevel: 'warning',
+};
+await build({
+    ...common,
+    entryPoints: [path.join(here, 'script/inline.ts')],
+    outfile: path.join(folder, 'gxuipickers.js'),
+    plugins: [packedModule],
+});
 await build({ ...common, entryPoints: [path.join(here, 'script/asset.ts')], outfile: path.join(folder, 'asset.js') });
-execFileSync(path.join(here, 'node_modules/.bin/tsc'), ['-p', here, '--emitDeclarationOnly', '--outDir', path.join(folder, 'types')], { stdio: 'inherit' });
-for (const name of ['package/package.json', 'package/README.md', '../../LICENSE']) copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
+execFileSync(path.join(here, 'node_modules/.bin/tsc'), ['-p', here, '--emitDeclarationOnly', '--outDir', path.join(folder, 'types')], {
+    stdio: 'inherit',
+});
+for (const name of ['package/package.json', 'package/README.md', '../../LICENSE'])
+    copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
 
 const sizes = Object.fromEntries(
     ['gxuipickers.wasm', 'asset.js', 'gxuipickers.js'].map((name) => {
@@ -42,4 +72,5 @@ const sizes = Object.fromEntries(
     }),
 );
 writeFileSync(path.join(folder, 'sizes.json'), JSON.stringify(sizes, null, 2) + '\n');
-for (const [name, size] of Object.entries(sizes)) console.log(`${name.padEnd(20)} ${String(size.bytes).padStart(8)} bytes ${String(size.gzip).padStart(8)} gzipped`);
+for (const [name, size] of Object.entries(sizes))
+    console.log(`${name.padEnd(20)} ${String(size.bytes).padStart(8)} bytes ${String(size.gzip).padStart(8)} gzipped`);

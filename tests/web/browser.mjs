@@ -8,7 +8,16 @@ import { fileURLToPath } from 'node:url';
 const tools = createRequire(path.join(path.dirname(fileURLToPath(import.meta.url)), '../../hosts/web/package.json'));
 const { chromium } = tools('playwright-core');
 
-const flags = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--disable-background-networking', '--disable-component-update', '--disable-sync', '--font-render-hinting=none'];
+const flags = [
+    '--no-sandbox',
+    '--disable-gpu',
+    '--disable-quic',
+    '--no-first-run',
+    '--disable-background-networking',
+    '--disable-component-update',
+    '--disable-sync',
+    '--font-render-hinting=none',
+];
 
 /** A browser with a profile of its own. */
 export async function startBrowser() {
@@ -32,7 +41,11 @@ export function pageOf(body, { head = '', lang = 'en', script = '/package/gxuipi
 export async function touches(page) {
     const client = await page.context().newCDPSession(page);
     const send = (type, points, timestamp) =>
-        client.send('Input.dispatchTouchEvent', { type, touchPoints: points.map(({ x, y, id = 0 }) => ({ x, y, id })), ...(timestamp === undefined ? {} : { timestamp }) });
+        client.send('Input.dispatchTouchEvent', {
+            type,
+            touchPoints: points.map(({ x, y, id = 0 }) => ({ x, y, id })),
+            ...(timestamp === undefined ? {} : { timestamp }),
+        });
     return {
         start: (points, time) => send('touchStart', points, time),
         move: (points, time) => send('touchMove', points, time),

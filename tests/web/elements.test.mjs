@@ -32,7 +32,11 @@ const shown = {
 };
 
 test('every element opens and shows its first value', async () => {
-    const { page, logs, close } = await stage.open(Object.keys(shown).map((name) => `<${name}></${name}>`).join(''));
+    const { page, logs, close } = await stage.open(
+        Object.keys(shown)
+            .map((name) => `<${name}></${name}>`)
+            .join(''),
+    );
     const texts = await page.evaluate((names) => names.map((name) => document.querySelector(name).valueText), Object.keys(shown));
     const expected = { ...shown, 'gx-height-picker': texts[7] };
     assert.match(texts[7], /^180 cm$/, 'a height of 0 shows as 180');
@@ -55,7 +59,10 @@ test('attributes and properties go together', async () => {
         ['gx-number-picker', { min: 10, max: 50, step: 5, value: 25 }, '25'],
         ['gx-calories-picker', { value: 420 }, '420 kcal'],
     ];
-    const markup = ([name, attributes]) => `<${name} ${Object.entries(attributes).map(([key, value]) => `${key}="${value}"`).join(' ')}></${name}>`;
+    const markup = ([name, attributes]) =>
+        `<${name} ${Object.entries(attributes)
+            .map(([key, value]) => `${key}="${value}"`)
+            .join(' ')}></${name}>`;
     const { page, logs, close } = await stage.open(cases.map(markup).join('') + '<div id="made"></div>');
     const made = await page.evaluate((all) => {
         const camel = (name) => name.replace(/-([a-z])/g, (_, letter) => letter.toUpperCase());
@@ -74,7 +81,8 @@ test('attributes and properties go together', async () => {
 });
 
 test('properties that were set before the element was defined are taken over', async () => {
-    const early = '<script>const made = document.createElement("gx-distance-picker"); made.value = 6200; made.unit = "imperial"; document.body.append(made);</script>';
+    const early =
+        '<script>const made = document.createElement("gx-distance-picker"); made.value = 6200; made.unit = "imperial"; document.body.append(made);</script>';
     const { page, logs, close } = await stage.open(`<div></div>${early}`);
     await page.waitForFunction(() => document.querySelector('gx-distance-picker').valueText !== '');
     const read = await page.evaluate(() => {
@@ -88,14 +96,19 @@ test('properties that were set before the element was defined are taken over', a
 });
 
 test('what is no number or no unit is ignored with one warning that names the element', async () => {
-    const { page, logs, close } = await stage.open('<gx-distance-picker value="far" unit="cubits"></gx-distance-picker><gx-number-picker min="9" max="3"></gx-number-picker>');
+    const { page, logs, close } = await stage.open(
+        '<gx-distance-picker value="far" unit="cubits"></gx-distance-picker><gx-number-picker min="9" max="3"></gx-number-picker>',
+    );
     assert.equal(await page.evaluate(() => document.querySelector('gx-distance-picker').valueText), '5.0 km');
-    assert.deepEqual(logs.filter((line) => line.startsWith('warning')), [
-        // In the order in which the elements are defined.
-        'warning: <gx-number-picker>: min="9" and max="3" are crossed.',
-        'warning: <gx-distance-picker>: value="far" is no number; it is ignored.',
-        'warning: <gx-distance-picker>: unit="cubits" is none of metric, imperial; it is ignored.',
-    ]);
+    assert.deepEqual(
+        logs.filter((line) => line.startsWith('warning')),
+        [
+            // In the order in which the elements are defined.
+            'warning: <gx-number-picker>: min="9" and max="3" are crossed.',
+            'warning: <gx-distance-picker>: value="far" is no number; it is ignored.',
+            'warning: <gx-distance-picker>: unit="cubits" is none of metric, imperial; it is ignored.',
+        ],
+    );
     await page.evaluate(() => (document.querySelector('gx-distance-picker').value = 'near'));
     assert.equal(logs.at(-1), 'warning: <gx-distance-picker>: value = near is no number; it is ignored.');
     assert.equal(await page.evaluate(() => document.querySelector('gx-distance-picker').value), 5000);
@@ -108,15 +121,28 @@ test('a form has the values, resets them and disables the pickers', async () => 
         <fieldset><gx-bpm-picker name="rate" value="100"></gx-bpm-picker></fieldset></form>`;
     const { page, close } = await stage.open(body);
     const data = () => page.evaluate(() => [...new FormData(document.querySelector('form'))]);
-    assert.deepEqual(await data(), [['way', '5300'], ['heart-average', '142'], ['heart-maximum', '171'], ['rate', '100']]);
+    assert.deepEqual(await data(), [
+        ['way', '5300'],
+        ['heart-average', '142'],
+        ['heart-maximum', '171'],
+        ['rate', '100'],
+    ]);
     await page.evaluate(() => {
         document.querySelector('gx-distance-picker').value = 8000;
         document.querySelector('gx-heart-rate-picker').average = 0;
     });
-    assert.deepEqual((await data()).slice(0, 2), [['way', '8000'], ['heart-average', '0']]);
+    assert.deepEqual((await data()).slice(0, 2), [
+        ['way', '8000'],
+        ['heart-average', '0'],
+    ]);
     assert.equal(await page.evaluate(() => document.querySelector('form').checkValidity()), false, 'no average');
     await page.evaluate(() => document.querySelector('form').reset());
-    assert.deepEqual(await data(), [['way', '5300'], ['heart-average', '142'], ['heart-maximum', '171'], ['rate', '100']]);
+    assert.deepEqual(await data(), [
+        ['way', '5300'],
+        ['heart-average', '142'],
+        ['heart-maximum', '171'],
+        ['rate', '100'],
+    ]);
     assert.equal(await page.evaluate(() => document.querySelector('form').checkValidity()), true);
     await page.evaluate(() => (document.querySelector('fieldset').disabled = true));
     assert.deepEqual((await data()).length, 3);
@@ -128,16 +154,25 @@ test('a form has the values, resets them and disables the pickers', async () => 
 });
 
 test('columns are spin buttons with name, value and text, and the tools for accessibility find nothing', async () => {
-    const body = '<main><h1>Workout</h1><label for="d">Way</label><gx-distance-picker id="d" value="5300"></gx-distance-picker><gx-weight-picker value="72.5"></gx-weight-picker><gx-duration-picker></gx-duration-picker></main>';
+    const body =
+        '<main><h1>Workout</h1><label for="d">Way</label><gx-distance-picker id="d" value="5300"></gx-distance-picker><gx-weight-picker value="72.5"></gx-weight-picker><gx-duration-picker></gx-duration-picker></main>';
     const { page, close } = await stage.open(body, { options: { head: '<title>Workout</title>' } });
     await untilColumns(page, 'gx-duration-picker');
-    const columns = await page.evaluate(() => [...document.querySelector('#d').shadowRoot.querySelectorAll('.column')].map((node) => Object.fromEntries(['role', 'aria-label', 'aria-valuetext', 'tabindex'].map((name) => [name, node.getAttribute(name)]))));
+    const columns = await page.evaluate(() =>
+        [...document.querySelector('#d').shadowRoot.querySelectorAll('.column')].map((node) =>
+            Object.fromEntries(['role', 'aria-label', 'aria-valuetext', 'tabindex'].map((name) => [name, node.getAttribute(name)])),
+        ),
+    );
     assert.deepEqual(columns, [
         { role: 'spinbutton', 'aria-label': 'Way, kilometres', 'aria-valuetext': '5.3 kilometres', tabindex: '0' },
         { role: 'spinbutton', 'aria-label': 'Way, tenths', 'aria-valuetext': '5.3 kilometres', tabindex: '0' },
     ]);
     await page.evaluate(await readFile(tools.resolve('axe-core/axe.min.js'), 'utf8'));
-    const found = await page.evaluate(async () => (await globalThis.axe.run()).violations.map((violation) => `${violation.id}: ${violation.nodes.map((node) => node.html).join(' ')}`));
+    const found = await page.evaluate(async () =>
+        (await globalThis.axe.run()).violations.map(
+            (violation) => `${violation.id}: ${violation.nodes.map((node) => node.html).join(' ')}`,
+        ),
+    );
     assert.deepEqual(found, []);
     await close();
 });
@@ -150,10 +185,13 @@ test('it follows the page’s language, direction, font and colours', async () =
     await page.evaluate(() => (document.documentElement.lang = 'en'));
     await page.waitForFunction(() => document.querySelector('gx-distance-picker').valueText === '5.3 km');
     assert.deepEqual(await texts(), ['5.3 km', '5,3 km']);
-    const rowHeight = () => page.evaluate(() => parseFloat(document.querySelector('gx-distance-picker').shadowRoot.querySelector('.indicator').style.height));
+    const rowHeight = () =>
+        page.evaluate(() => parseFloat(document.querySelector('gx-distance-picker').shadowRoot.querySelector('.indicator').style.height));
     assert.equal(await rowHeight(), 40);
     await page.evaluate(() => (document.documentElement.style.fontSize = '32px'));
-    await page.waitForFunction(() => parseFloat(document.querySelector('gx-distance-picker').shadowRoot.querySelector('.indicator').style.height) === 80);
+    await page.waitForFunction(
+        () => parseFloat(document.querySelector('gx-distance-picker').shadowRoot.querySelector('.indicator').style.height) === 80,
+    );
     assert.deepEqual(await texts(), ['5.3 km', '5,3 km']);
     const color = await page.evaluate(() => {
         document.body.style.color = 'rgb(10, 120, 30)';
@@ -166,7 +204,10 @@ test('it follows the page’s language, direction, font and colours', async () =
 test('a strict content security policy is kept', async () => {
     const policy = "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; connect-src 'self'; img-src 'self'";
     for (const script of ['/package/gxuipickers.js', '/package/asset.js']) {
-        const { page, logs, close } = await stage.open('<gx-distance-picker value="5300"></gx-distance-picker>', { options: { script }, headers: { 'content-security-policy': policy } });
+        const { page, logs, close } = await stage.open('<gx-distance-picker value="5300"></gx-distance-picker>', {
+            options: { script },
+            headers: { 'content-security-policy': policy },
+        });
         assert.equal(await page.evaluate(() => document.querySelector('gx-distance-picker').valueText), '5.3 km', script);
         assertQuiet(logs);
         await close();
@@ -179,7 +220,10 @@ test('without the module the element’s content stays in view', async () => {
     await page.waitForFunction(() => customElements.get('gx-distance-picker'));
     await page.waitForTimeout(300);
     assert.ok(await page.isVisible('input'));
-    assert.ok(logs.some((line) => line.includes('GXUIPickers: the module cannot be loaded')), logs.join('\n'));
+    assert.ok(
+        logs.some((line) => line.includes('GXUIPickers: the module cannot be loaded')),
+        logs.join('\n'),
+    );
     await close();
 });
 
@@ -221,7 +265,10 @@ test('a wheel of the page’s own columns counts its rows without making them', 
     const wheel = await page.evaluate(() => {
         const element = document.querySelector('gx-wheel');
         globalThis.asked = 0;
-        element.columns = [{ rows: ['red', 'green', 'blue'], label: 'Colour' }, { rows: 1e9, label: 'Number', title: (row) => ((globalThis.asked += 1), `#${row}`) }];
+        element.columns = [
+            { rows: ['red', 'green', 'blue'], label: 'Colour' },
+            { rows: 1e9, label: 'Number', title: (row) => ((globalThis.asked += 1), `#${row}`) },
+        ];
         element.rows = [2, 123456789];
         return [element.rows, element.valueText, globalThis.asked < 100];
     });
@@ -235,14 +282,26 @@ test('in steady motion no element is made or removed', async () => {
     const changes = await page.evaluate(async () => {
         const surface = document.querySelector('gx-bpm-picker').shadowRoot.querySelector('.surface');
         const column = document.querySelector('gx-bpm-picker').shadowRoot.querySelector('.column');
-        const notch = () => column.dispatchEvent(new WheelEvent('wheel', { deltaY: 9, deltaMode: 1, bubbles: true, cancelable: true, clientX: column.getBoundingClientRect().x + 5, clientY: 100 }));
+        const notch = () =>
+            column.dispatchEvent(
+                new WheelEvent('wheel', {
+                    deltaY: 9,
+                    deltaMode: 1,
+                    bubbles: true,
+                    cancelable: true,
+                    clientX: column.getBoundingClientRect().x + 5,
+                    clientY: 100,
+                }),
+            );
         const frames = async (count) => {
             for (let i = 0; i < count; i += 1) await new Promise((resolve) => requestAnimationFrame(resolve));
         };
         notch();
         await frames(10);
         let made = 0;
-        const watch = new MutationObserver((list) => (made += list.filter((entry) => entry.target === surface && entry.type === 'childList').length));
+        const watch = new MutationObserver(
+            (list) => (made += list.filter((entry) => entry.target === surface && entry.type === 'childList').length),
+        );
         watch.observe(surface, { childList: true, subtree: true });
         for (let i = 0; i < 5; i += 1) notch();
         await frames(20);

@@ -13,7 +13,11 @@ const twoRows = 2 * 40 + 6;
 async function opened(body = distance, settings = {}) {
     const opening = await stage.open(body, settings);
     await untilColumns(opening.page, asked);
-    return { ...opening, place: await columnPlace(opening.page, asked), value: () => opening.page.evaluate(() => document.querySelector('gx-distance-picker').value) };
+    return {
+        ...opening,
+        place: await columnPlace(opening.page, asked),
+        value: () => opening.page.evaluate(() => document.querySelector('gx-distance-picker').value),
+    };
 }
 
 test('a finger turns a column, with input on the way and one change at rest', async () => {
@@ -24,10 +28,20 @@ test('a finger turns a column, with input on the way and one change at rest', as
     await untilStill(page, asked);
     assert.equal(await value(), 7000);
     const noted = await events();
-    assert.deepEqual(noted.filter(([type]) => type === 'change'), [['change', 7000]]);
+    assert.deepEqual(
+        noted.filter(([type]) => type === 'change'),
+        [['change', 7000]],
+    );
     assert.equal(noted.at(-1)[0], 'change');
-    assert.ok(noted.some(([type, at]) => type === 'input' && at === 6000), JSON.stringify(noted));
-    assert.deepEqual(noted.filter(([type]) => type === 'gx-tick'), [], 'ticks are off');
+    assert.ok(
+        noted.some(([type, at]) => type === 'input' && at === 6000),
+        JSON.stringify(noted),
+    );
+    assert.deepEqual(
+        noted.filter(([type]) => type === 'gx-tick'),
+        [],
+        'ticks are off',
+    );
     assertQuiet(logs);
     await close();
 });
@@ -36,8 +50,14 @@ test('two fingers turn two columns at once', async () => {
     const { page, place, value, close } = await opened();
     const other = await columnPlace(page, asked, 1);
     const finger = await touches(page);
-    const at = (points) => [{ x: place.x, y: place.y - points, id: 1 }, { x: other.x, y: other.y - points / 2 - 3, id: 2 }];
-    await finger.start([{ ...place, id: 1 }, { ...other, id: 2 }]);
+    const at = (points) => [
+        { x: place.x, y: place.y - points, id: 1 },
+        { x: other.x, y: other.y - points / 2 - 3, id: 2 },
+    ];
+    await finger.start([
+        { ...place, id: 1 },
+        { ...other, id: 2 },
+    ]);
     for (let i = 1; i <= 10; i += 1) await finger.move(at((twoRows * i) / 10));
     await page.waitForTimeout(200);
     await finger.move(at(twoRows));
@@ -117,7 +137,10 @@ test('keys move rows, choose columns and type numbers', async () => {
     await page.keyboard.press('ArrowDown');
     await untilStill(page, asked);
     assert.equal(await value(), 6100);
-    assert.equal(await page.evaluate(() => document.querySelector('gx-distance-picker').shadowRoot.activeElement.getAttribute('aria-label')), 'Distance, tenths');
+    assert.equal(
+        await page.evaluate(() => document.querySelector('gx-distance-picker').shadowRoot.activeElement.getAttribute('aria-label')),
+        'Distance, tenths',
+    );
     await page.keyboard.press('ArrowLeft');
     await page.keyboard.press('PageDown');
     await untilStill(page, asked);

@@ -36,7 +36,12 @@ export class Stage {
         });
         page.on('pageerror', (error) => logs.push(`thrown: ${error.message}`));
         await page.goto(this.server.address + address);
-        if (wait) await page.waitForFunction(() => [...document.querySelectorAll('*')].filter((node) => node.localName.startsWith('gx-')).every((node) => node.shadowRoot?.querySelector('.surface.isReady')));
+        if (wait)
+            await page.waitForFunction(() =>
+                [...document.querySelectorAll('*')]
+                    .filter((node) => node.localName.startsWith('gx-'))
+                    .every((node) => node.shadowRoot?.querySelector('.surface.isReady')),
+            );
         return { page, logs, close: () => opened.close() };
     }
 }
@@ -71,7 +76,8 @@ export async function noteEvents(page, selector, property = 'value') {
         ([asked, name]) => {
             const element = document.querySelector(asked);
             globalThis.events = [];
-            for (const type of ['input', 'change', 'gx-tick']) element.addEventListener(type, () => globalThis.events.push([type, element[name]]));
+            for (const type of ['input', 'change', 'gx-tick'])
+                element.addEventListener(type, () => globalThis.events.push([type, element[name]]));
         },
         [selector, property],
     );

@@ -6,7 +6,7 @@ import { loadedModule, whenLoaded } from './module.js';
 import { Surface } from './surface.js';
 
 /** Where there is no DOM, as on a server, the classes exist and do nothing. */
-const Base = (globalThis.HTMLElement ?? class {}) as typeof HTMLElement;
+const Base = (typeof HTMLElement === 'undefined' ? class {} : HTMLElement) as typeof HTMLElement;
 
 /** In milliseconds. Chosen: short enough to be felt as a tick. */
 const tickVibration = 5;
@@ -96,7 +96,7 @@ export abstract class PickerElement extends Base implements PageObserver {
             if (!Object.hasOwn(this, name)) continue;
             const self = this as unknown as Record<string, unknown>;
             const value = self[name];
-            delete self[name];
+            Reflect.deleteProperty(self, name);
             self[name] = value;
         }
     }
@@ -185,7 +185,9 @@ export abstract class PickerElement extends Base implements PageObserver {
     private takeAttribute(option: Option, text: string | null): void {
         const number = numberOf(option, text);
         if (number === undefined && text !== null) {
-            this.warn(`${option.attribute}="${text}" is ${option.words ? 'none of ' + Object.keys(option.words).join(', ') : 'no number'}; it is ignored`);
+            this.warn(
+                `${option.attribute}="${text}" is ${option.words ? 'none of ' + Object.keys(option.words).join(', ') : 'no number'}; it is ignored`,
+            );
         }
         if (number === undefined) this.settings.delete(option.property);
         else this.settings.set(option.property, number);
@@ -213,7 +215,10 @@ export abstract class PickerElement extends Base implements PageObserver {
         if (!this.defaults.has(option.property)) {
             this.defaults.set(option.property, option.fallback ?? view.call((calls) => calls.get(view.number, option.property), NaN));
         }
-        const value = this.settings.get(option.property) ?? (option.isFlag ? numberOf(option, this.getAttribute(option.attribute)) : undefined) ?? this.defaults.get(option.property)!;
+        const value =
+            this.settings.get(option.property) ??
+            (option.isFlag ? numberOf(option, this.getAttribute(option.attribute)) : undefined) ??
+            this.defaults.get(option.property)!;
         view.call((calls) => calls.set(view.number, option.property, value), 0);
         if (option.isValue) this.noteValues();
         view.changed();
@@ -221,7 +226,8 @@ export abstract class PickerElement extends Base implements PageObserver {
 
     private read(option: Option, isLive = false): number {
         const view = this.view;
-        if (!view) return this.settings.get(option.property) ?? numberOf(option, this.getAttribute(option.attribute)) ?? option.fallback ?? NaN;
+        if (!view)
+            return this.settings.get(option.property) ?? numberOf(option, this.getAttribute(option.attribute)) ?? option.fallback ?? NaN;
         return view.call((calls) => (isLive ? calls.getLive(view.number, option.property) : calls.get(view.number, option.property)), NaN);
     }
 
@@ -239,12 +245,12 @@ export abstract class PickerElement extends Base implements PageObserver {
         }
         if (!option.isValue) {
             if (value === null || value === undefined) this.removeAttribute(option.attribute);
-            else this.setAttribute(option.attribute, String(value));
+            else this.setAttribute(option.attribute, `${value as number}`);
             return;
         }
-        const number = numberOf(option, String(value));
+        const number = numberOf(option, `${value as number}`);
         if (number === undefined) {
-            this.warn(`${propertyName(option.attribute)} = ${String(value)} is no number; it is ignored`);
+            this.warn(`${propertyName(option.attribute)} = ${value as number} is no number; it is ignored`);
             return;
         }
         this.settings.set(option.property, number);
@@ -260,7 +266,7 @@ export abstract class PickerElement extends Base implements PageObserver {
 
     private didPassRows(count: number): void {
         if (this.hasAttribute('ticks')) {
-            navigator.vibrate?.(tickVibration);
+            if ('vibrate' in navigator) navigator.vibrate(tickVibration);
             for (let i = 0; i < count; i += 1) this.dispatchEvent(new CustomEvent('gx-tick'));
         }
         this.dispatchEvent(new Event('input', { bubbles: true, composed: true }));
@@ -277,7 +283,8 @@ export abstract class PickerElement extends Base implements PageObserver {
 
     /** Everything that the user can change, in its order. */
     protected usersNumbers(): number[] {
-        const isUsers = (option: Option): boolean => option.isValue === true || option.property === Property.WeightUnit || option.property === Property.Metric;
+        const isUsers = (option: Option): boolean =>
+            option.isValue === true || option.property === Property.WeightUnit || option.property === Property.Metric;
         return this.options.filter(isUsers).map((option) => this.read(option));
     }
 
@@ -373,7 +380,8 @@ export abstract class PickerElement extends Base implements PageObserver {
 
     /** What the page calls it; columns name their part after it. */
     private get name_(): string | null {
-        const label = this.getAttribute('aria-label')?.trim() ?? [...this.internals.labels].map((node) => node.textContent?.trim() ?? '').join(' ');
+        const label =
+            this.getAttribute('aria-label')?.trim() ?? [...this.internals.labels].map((node) => node.textContent?.trim() ?? '').join(' ');
         return label === '' ? null : label;
     }
 

@@ -25,7 +25,10 @@ export function numberOfFont(style: CSSStyleDeclaration): number {
 /** The advance width and the line height of a text, in CSS pixels. */
 export function measure(font: number, size: number, text: string): [number, number] {
     if (context === undefined) {
-        context = typeof OffscreenCanvas === 'function' ? new OffscreenCanvas(1, 1).getContext('2d') : document.createElement('canvas').getContext('2d');
+        context =
+            typeof OffscreenCanvas === 'function'
+                ? new OffscreenCanvas(1, 1).getContext('2d')
+                : document.createElement('canvas').getContext('2d');
     }
     const known = fonts[font];
     if (!context || !known) return [text.length * size * 0.6, size * 1.2];

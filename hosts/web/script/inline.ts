@@ -12,6 +12,6 @@ async function compile(): Promise<WebAssembly.Module> {
 }
 
 if (typeof HTMLElement !== 'undefined') {
-    startModule(compile()).catch(() => {}); // It has been told.
+    startModule(compile()).catch(() => undefined); // It has been told.
     defineElements();
 }

@@ -59,6 +59,9 @@ const strokePause = 120;
 /** The mouse with its button held, as the module numbers it (`UITouch::pointerIdentifier`). */
 const pointerFinger = -1;
 
+/** Whether a key types; all others have names of several letters. */
+const isOneCharacter = (key: string): boolean => key.length === (key.codePointAt(0)! > 0xffff ? 2 : 1);
+
 const fingerOf = (event: PointerEvent): number => (event.pointerType === 'mouse' ? pointerFinger : event.pointerId);
 
 /** Takes the pointers, wheels and keys of one element to the module. */
@@ -107,7 +110,7 @@ export class Input {
     private move(event: PointerEvent): void {
         if (event.pointerType === 'mouse') this.target.pointer(true, ...this.place(event));
         if (!this.pointers.has(event.pointerId)) return;
-        const events = event.getCoalescedEvents?.() ?? [];
+        const events = 'getCoalescedEvents' in event ? event.getCoalescedEvents() : [];
         for (const part of events.length > 0 ? events : [event]) {
             const [x, y] = this.place(part);
             this.target.touch(Phase.Moved, fingerOf(event), x, y, clock().timeOf(part));
@@ -138,7 +141,9 @@ export class Input {
         const isWheel = isInLines || (event.deltaX === 0 && units !== undefined && units !== 0 && units % unitsOfNotch === 0);
         let isTaken: boolean;
         if (isWheel) {
-            const notches = isInLines ? event.deltaY / (event.deltaMode === WheelEvent.DOM_DELTA_LINE ? linesOfNotch : 1) : -(units ?? 0) / unitsOfNotch;
+            const notches = isInLines
+                ? event.deltaY / (event.deltaMode === WheelEvent.DOM_DELTA_LINE ? linesOfNotch : 1)
+                : -(units ?? 0) / unitsOfNotch;
             isTaken = this.target.scroll(true, isInLines ? event.deltaX / linesOfNotch : 0, notches, x, y, time, false);
         } else {
             isTaken = this.target.scroll(false, event.deltaX, event.deltaY, x, y, time, false);
@@ -157,7 +162,7 @@ export class Input {
 
     private key(event: KeyboardEvent): void {
         if (event.isComposing || event.defaultPrevented) return;
-        const isTyped = [...event.key].length === 1 && event.key !== ' ';
+        const isTyped = isOneCharacter(event.key) && event.key !== ' ';
         const code = isTyped ? Code.Character : (codes[event.key] ?? Code.None);
         if (code === Code.None) return; // Tab among them: each column takes the focus of itself.
         // What AltGr types is no command.

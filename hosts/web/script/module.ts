@@ -6,7 +6,16 @@ interface Exports {
     _initialize(): void;
     text(length: number): number;
     numbers(count: number): number;
-    open(element: number, kind: number, rowFont: number, rowSize: number, labelFont: number, labelSize: number, languageLength: number, isRightToLeft: number): number;
+    open(
+        element: number,
+        kind: number,
+        rowFont: number,
+        rowSize: number,
+        labelFont: number,
+        labelSize: number,
+        languageLength: number,
+        isRightToLeft: number,
+    ): number;
     close(element: number): void;
     elementCount(): number;
     fontsDidLoad(): void;
@@ -30,7 +39,16 @@ interface Exports {
     finish(element: number): void;
     touch(element: number, phase: number, finger: number, x: number, y: number, time: number): number;
     pointer(element: number, isInside: number, x: number, y: number): void;
-    scroll(element: number, isNotches: number, deltaX: number, deltaY: number, x: number, y: number, time: number, isFinished: number): number;
+    scroll(
+        element: number,
+        isNotches: number,
+        deltaX: number,
+        deltaY: number,
+        x: number,
+        y: number,
+        time: number,
+        isFinished: number,
+    ): number;
     key(element: number, code: number, textLength: number, modifiers: number, isRepeat: number, time: number): number;
     setReceivesKeys(element: number, receives: number): void;
     columns(element: number): number;
@@ -42,8 +60,29 @@ interface Exports {
 /** What an element shows a frame on. */
 export interface Drawing {
     fillRect(shape: number, x: number, y: number, width: number, height: number, radius: number, alpha: number): void;
-    drawText(isRow: boolean, font: number, size: number, text: string, scaleX: number, scaleY: number, x: number, y: number, alpha: number, home: number): void;
-    drawImage(image: number, scaleX: number, scaleY: number, x: number, y: number, width: number, height: number, alpha: number, home: number): void;
+    drawText(
+        isRow: boolean,
+        font: number,
+        size: number,
+        text: string,
+        scaleX: number,
+        scaleY: number,
+        x: number,
+        y: number,
+        alpha: number,
+        home: number,
+    ): void;
+    drawImage(
+        image: number,
+        scaleX: number,
+        scaleY: number,
+        x: number,
+        y: number,
+        width: number,
+        height: number,
+        alpha: number,
+        home: number,
+    ): void;
 }
 
 /** What the module tells an element, while it is being called. */
@@ -79,8 +118,19 @@ export class Module {
                 sizes[1] = height;
             },
             fillRect: (...call: Parameters<Drawing['fillRect']>) => this.drawing?.fillRect(...call),
-            drawText: (isRow: number, font: number, size: number, text: number, length: number, scaleX: number, scaleY: number, x: number, y: number, alpha: number, home: number) =>
-                this.drawing?.drawText(isRow !== 0, font, size, this.textAt(text, length), scaleX, scaleY, x, y, alpha, home),
+            drawText: (
+                isRow: number,
+                font: number,
+                size: number,
+                text: number,
+                length: number,
+                scaleX: number,
+                scaleY: number,
+                x: number,
+                y: number,
+                alpha: number,
+                home: number,
+            ) => this.drawing?.drawText(isRow !== 0, font, size, this.textAt(text, length), scaleX, scaleY, x, y, alpha, home),
             drawImage: (...call: Parameters<Drawing['drawImage']>) => this.drawing?.drawImage(...call),
             needsFrame: (element: number) => client(element)?.needsFrame(),
             didPassRow: (element: number) => client(element)?.didPassRow(),

@@ -43,7 +43,7 @@ function watch(): void {
         attributes: true,
         attributeFilter: ['lang', 'dir'],
     });
-    document.fonts?.addEventListener('loadingdone', () => {
+    document.fonts.addEventListener('loadingdone', () => {
         forgetLineHeights();
         loadedModule()?.calls.fontsDidLoad();
         tell((observer) => observer.fontsDidLoad());

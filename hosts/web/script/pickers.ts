@@ -131,7 +131,12 @@ abstract class PickerWithIcons extends PickerElement {
     override connectedCallback(): void {
         super.connectedCallback();
         this.watch = new MutationObserver(() => this.view && this.readIcons(this.view));
-        this.watch.observe(this, { childList: true, attributes: true, subtree: true, attributeFilter: ['src', 'alt', 'aria-label', 'width', 'height'] });
+        this.watch.observe(this, {
+            childList: true,
+            attributes: true,
+            subtree: true,
+            attributeFilter: ['src', 'alt', 'aria-label', 'width', 'height'],
+        });
     }
 
     override disconnectedCallback(): void {
@@ -144,7 +149,9 @@ abstract class PickerWithIcons extends PickerElement {
     }
 
     private readIcons(view: View): void {
-        const nodes = [...this.children].filter((child): child is HTMLElement => child instanceof HTMLImageElement || child instanceof SVGElement);
+        const nodes = [...this.children].filter(
+            (child): child is HTMLElement => child instanceof HTMLImageElement || child instanceof SVGElement,
+        );
         const size = (node: Element, name: string): number => Number(node.getAttribute(name)) || 24;
         view.setIcons(
             nodes.map((node) => ({
@@ -276,7 +283,7 @@ export const elements = {
 
 /** Defines all elements; a second call, and one where there is no DOM, does nothing. */
 export function defineElements(): void {
-    for (const [name, element] of Object.entries(elements)) define(name, element as unknown as typeof PickerElement);
+    for (const [name, element] of Object.entries(elements)) define(name, element);
 }
 
 declare global {

@@ -69,11 +69,7 @@ const metric: Option = { attribute: 'unit', property: Property.Metric, words: { 
 const number = (attribute: string, property: Property): Option => ({ attribute, property });
 const value = (attribute: string, property: Property): Option => ({ attribute, property, isValue: true });
 
-const range: readonly Option[] = [
-    number('min', Property.Min),
-    number('max', Property.Max),
-    number('step', Property.Step),
-];
+const range: readonly Option[] = [number('min', Property.Min), number('max', Property.Max), number('step', Property.Step)];
 const single: readonly Option[] = [...range, value('value', Property.Value)];
 const durationSteps: readonly Option[] = [
     number('hours-step', Property.HoursStep),

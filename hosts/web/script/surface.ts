@@ -44,7 +44,16 @@ export class Surface implements Drawing {
     private readonly rects: HTMLElement[] = [];
     private readonly images = new Map<number, HTMLElement>();
     private rectCount = 0;
-    private draws: { key: string; text: string; image: number; font: number; size: number; isRow: boolean; transform: string; opacity: string }[] = [];
+    private draws: {
+        key: string;
+        text: string;
+        image: number;
+        font: number;
+        size: number;
+        isRow: boolean;
+        transform: string;
+        opacity: string;
+    }[] = [];
     private drawCount = 0;
     /** The font of labels, by which they are told from separators. */
     labelFont = -1;
@@ -67,7 +76,7 @@ export class Surface implements Drawing {
         this.drawCount = 0;
     }
 
-    fillRect(shape: number, x: number, y: number, width: number, height: number, radius: number, alpha: number): void {
+    fillRect(shape: Shape, x: number, y: number, width: number, height: number, radius: number, alpha: number): void {
         const node = this.rects[this.rectCount] ?? this.addRect();
         this.rectCount += 1;
         const part = shape === Shape.Indicator ? 'indicator' : shape === Shape.Outline ? 'outline' : 'focus';
@@ -83,15 +92,48 @@ export class Surface implements Drawing {
         set(style, 'display', '');
     }
 
-    drawText(isRow: boolean, font: number, size: number, text: string, scaleX: number, scaleY: number, x: number, y: number, alpha: number, home: number): void {
+    drawText(
+        isRow: boolean,
+        font: number,
+        size: number,
+        text: string,
+        scaleX: number,
+        scaleY: number,
+        x: number,
+        y: number,
+        alpha: number,
+        home: number,
+    ): void {
         this.add(`${rounded(home)}/${font}/${text}`, text, -1, font, size, isRow, scaleX, scaleY, x, y, alpha);
     }
 
-    drawImage(image: number, scaleX: number, scaleY: number, x: number, y: number, width: number, height: number, alpha: number, home: number): void {
+    drawImage(
+        image: number,
+        scaleX: number,
+        scaleY: number,
+        x: number,
+        y: number,
+        width: number,
+        height: number,
+        alpha: number,
+        home: number,
+    ): void {
         this.add(`${rounded(home)}/image/${image}`, `${width}/${height}`, image, -1, 0, true, scaleX, scaleY, x, y, alpha);
     }
 
-    private add(key: string, text: string, image: number, font: number, size: number, isRow: boolean, scaleX: number, scaleY: number, x: number, y: number, alpha: number): void {
+    private add(
+        key: string,
+        text: string,
+        image: number,
+        font: number,
+        size: number,
+        isRow: boolean,
+        scaleX: number,
+        scaleY: number,
+        x: number,
+        y: number,
+        alpha: number,
+    ): void {
         const transform =
             scaleX === 1 && scaleY === 1
                 ? `translate(${rounded(x)}px,${rounded(y)}px)`
@@ -183,7 +225,17 @@ export class Surface implements Drawing {
         node.className = isImage ? 'image' : 'text';
         if (isImage) node.part.value = 'image';
         this.root.append(node);
-        const item: Item = { node, key: '', text: '', font: isImage ? -1 : NaN, size: 0, isRow: false, transform: '', opacity: '', isShown: true };
+        const item: Item = {
+            node,
+            key: '',
+            text: '',
+            font: isImage ? -1 : NaN,
+            size: 0,
+            isRow: false,
+            transform: '',
+            opacity: '',
+            isShown: true,
+        };
         this.items.push(item);
         return item;
     }

@@ -83,9 +83,15 @@ export class View implements Client {
             touch: (phase, finger, x, y, time) => this.call((calls) => calls.touch(this.number, phase, finger, x, y, time) === 1, false),
             pointer: (isInside, x, y) => this.call((calls) => calls.pointer(this.number, Number(isInside), x, y), undefined),
             scroll: (isNotches, deltaX, deltaY, x, y, time, isFinished) =>
-                this.call((calls) => calls.scroll(this.number, Number(isNotches), deltaX, deltaY, x, y, time, Number(isFinished)) === 1, false),
+                this.call(
+                    (calls) => calls.scroll(this.number, Number(isNotches), deltaX, deltaY, x, y, time, Number(isFinished)) === 1,
+                    false,
+                ),
             key: (code, text, modifiers, isRepeat, time) => {
-                const isUsed = this.call((calls) => calls.key(this.number, code, module.giveText(text), modifiers, Number(isRepeat), time) === 1, false);
+                const isUsed = this.call(
+                    (calls) => calls.key(this.number, code, module.giveText(text), modifiers, Number(isRepeat), time) === 1,
+                    false,
+                );
                 // The row that a key moves to is told at once.
                 if (isUsed) this.updateColumns();
                 return isUsed;
@@ -101,7 +107,16 @@ export class View implements Client {
         this.surface.labelFont = fonts.label;
         return this.call(
             (calls) =>
-                calls.open(this.number, kind, fonts.row, fonts.rowSize, fonts.label, fonts.labelSize, this.module.giveText(language), Number(isRightToLeft)) === 1,
+                calls.open(
+                    this.number,
+                    kind,
+                    fonts.row,
+                    fonts.rowSize,
+                    fonts.label,
+                    fonts.labelSize,
+                    this.module.giveText(language),
+                    Number(isRightToLeft),
+                ) === 1,
             false,
         );
     }
@@ -233,7 +248,14 @@ export class View implements Client {
         this.traits = traits;
         const takesInput = !traits.isDisabled && !traits.isReadOnly;
         if (!takesInput) this.input.cancelAll();
-        this.call((calls) => calls.setTraits(this.number, Number(traits.isHighContrast) | (Number(traits.reducesMotion) << 1) | (Number(takesInput) << 2)), undefined);
+        this.call(
+            (calls) =>
+                calls.setTraits(
+                    this.number,
+                    Number(traits.isHighContrast) | (Number(traits.reducesMotion) << 1) | (Number(takesInput) << 2),
+                ),
+            undefined,
+        );
         this.changed();
     }
 
