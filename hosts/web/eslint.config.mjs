@@ -37,7 +37,7 @@ export default typescript.config(
                     ...['document', 'window', 'location', 'history', 'navigator', 'customElements', 'getComputedStyle'],
                     ...['requestAnimationFrame', 'dispatchEvent', 'addEventListener', 'matchMedia', 'scrollTo', 'scrollY'],
                     ...['Event', 'CustomEvent', 'WheelEvent', 'PointerEvent', 'KeyboardEvent', 'FormData', 'FontFace'],
-                    ...['MutationObserver', 'WebAssembly', 'Response', 'Node'],
+                    ...['MutationObserver', 'WebAssembly', 'Response', 'Node', 'URLSearchParams'],
                 ].map((name) => [name, 'readonly']),
             ),
         },

@@ -1,0 +1,100 @@
+// Measures our elements beside other wheel pickers, in Chromium:
+//
+//   node benchmarks/web/run.mjs [--quick] [--rounds N] [--only NAME,NAME] [--json FILE]
+//                                   [--before FOLDER]
+//
+// Needs `scripts/web build` and `npm ci` in this folder before. Prints tables in Markdown. All
+// pickers are visited in turns, several rounds in one run; the numbers are medians, with the
+// smallest and the largest beside them; --json's file has all. --quick makes one round, for trying.
+// --before is another build of our package, to compare two in one run.
+import { writeFileSync } from 'node:fs';
+import os from 'node:os';
+import path from 'node:path';
+import { parseArgs } from 'node:util';
+import { startServer } from '../../tests/web/server.mjs';
+import { startBrowser } from '../../tests/web/browser.mjs';
+import { buildPages, pages } from './build.mjs';
+import { fling, footprint, longestTasks, openPage, start } from './measure.mjs';
+import { processOfBrowser } from './processes.mjs';
+import { tables } from './report.mjs';
+
+const { values: asked } = parseArgs({
+    options: {
+        quick: { type: 'boolean' },
+        rounds: { type: 'string' },
+        only: { type: 'string' },
+        json: { type: 'string' },
+        before: { type: 'string' },
+    },
+});
+const rounds = Number(asked.rounds ?? (asked.quick ? 1 : 5));
+/** How often a page starts in a round: one start is shorter than a fling by far. */
+const starts = asked.quick ? 1 : 3;
+
+const packages = { elements: path.join(pages, '../package'), ...(asked.before ? { before: path.resolve(asked.before) } : {}) };
+const everyone = ['blank', ...Object.keys(packages), 'better-scroll', 'ionic', 'vant', 'react-wheel-picker', 'react-mobile-picker'];
+const names = asked.only
+    ? everyone.filter((name) => name === 'blank' || name === 'before' || asked.only.split(',').includes(name))
+    : everyone;
+const sizes = [
+    { title: '3 × 100 rows', columns: 3, rows: 100, names },
+    { title: '1 × 100 rows', columns: 1, rows: 100, names: names.filter((name) => name in packages) },
+    { title: '1 × 10 000 rows', columns: 1, rows: 10_000, names: names.filter((name) => name !== 'blank') },
+    { title: '1 × 10⁹ rows', columns: 1, rows: 1e9, names: names.filter((name) => name in packages) },
+];
+
+const downloads = await buildPages(names, packages);
+const empty = '<!doctype html><html lang="en"><head><meta charset="utf-8"><link rel="icon" href="data:,"></head><body></body></html>';
+const server = await startServer({ folders: { '/': pages }, pages: { '/empty.html': empty } });
+const { browser, stop } = await startBrowser();
+const pid = await processOfBrowser(browser);
+
+/** What was measured: by size, by name, a list of visits. */
+const visits = Object.fromEntries(sizes.map(({ title, names: those }) => [title, Object.fromEntries(those.map((name) => [name, []]))]));
+const loads = [os.loadavg()[0]];
+
+/** What once took longer than the driver waits is not visited again. */
+const isTooSlow = (title, name) => visits[title][name].some((visit) => visit.paint === undefined);
+/** Seconds-long starts are measured in two rounds only. */
+const isSlow = (title, name) => visits[title][name].some((visit) => visit.paint > 2000);
+
+async function visit({ title, columns, rows }, name, round, isWhole) {
+    const opened = await openPage({ browser, pid, address: server.address });
+    try {
+        const started = await start(opened, name, columns, rows);
+        const result = { ...started };
+        visits[title][name].push(result);
+        if (!started || !isWhole || name === 'blank') {
+            if (name === 'blank' && isWhole) result.footprint = await footprint(opened);
+            return;
+        }
+        result.footprint = await footprint(opened);
+        result.fling = await fling(opened);
+        // Tracing every task costs time: a visit of its own.
+        if (round === 0 && columns * rows <= 10_000) result.longest = await longestTasks(opened, name, columns, rows);
+        if (opened.errors.length > 0) throw new Error(`${name}: ${opened.errors.join('; ')}`);
+    } finally {
+        await opened.context.close();
+    }
+}
+
+// The first page of a browser costs more than all others.
+await (await openPage({ browser, pid, address: server.address })).context.close();
+const began = Date.now();
+for (let round = 0; round < rounds; round += 1) {
+    for (const size of sizes) {
+        for (let time = 0; time < starts; time += 1) {
+            for (const name of size.names) {
+                if (isTooSlow(size.title, name) || (isSlow(size.title, name) && (time > 0 || round > 1))) continue;
+                await visit(size, name, round, time === 0);
+            }
+        }
+    }
+    loads.push(os.loadavg()[0]);
+    process.stderr.write(`round ${round + 1} of ${rounds}: ${Math.round((Date.now() - began) / 1000)} s\n`);
+}
+const version = browser.version();
+await stop();
+await server.stop();
+if (asked.json) writeFileSync(asked.json, JSON.stringify({ version, loads, downloads, visits }, null, 1));
+console.log(tables({ version, loads, rounds, downloads, visits }));
