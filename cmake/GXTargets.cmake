@@ -112,11 +112,14 @@ function(gx_add_umbrella_header)
   install(FILES "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GXUIPickers)
 endfunction()
 
-# gx_add_web_library(<name> FOLDERS <folder>… DEPENDS <target>…): a static library of all sources in
-# the folders but main.cpp, for the module or, natively, for its tests. It is not installed.
-function(gx_add_web_library name)
+# gx_add_part(<name> FOLDERS <folder>… DEPENDS <target>…): a static library of all sources in the
+# folders but main.cpp, for a module of a host or, natively, for its tests. It is not installed.
+function(gx_add_part name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;DEPENDS")
   add_library(${name} STATIC)
+  if(NOT CMAKE_SYSTEM_NAME STREQUAL "WASI")
+    set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  endif()
   foreach(folder IN LISTS arg_FOLDERS)
     file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp")
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")

@@ -1,4 +1,4 @@
-/** The pickers, as the module numbers them (`WebPickerKind`). */
+/** The pickers, as the module numbers them (`PickerKind`). */
 export enum Kind {
     Number = 0,
     Bpm,
@@ -18,7 +18,7 @@ export enum Kind {
 }
 
 /**
- * The properties, as the module numbers them (`WebProperty`), in the order of their application.
+ * The properties, as the module numbers them (`PickerProperty`), in the order of their application.
  */
 export enum Property {
     Metric = 0,

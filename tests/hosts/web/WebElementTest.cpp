@@ -9,6 +9,7 @@
 
 using namespace gx;
 using namespace gx::web;
+using namespace gx::elements;
 using Texts = std::vector<std::string>;
 
 namespace {
@@ -28,7 +29,7 @@ struct WebElementTest : testing::Test {
         result.setLanguage_isRightToLeft(language, false);
         return result;
     }
-    std::unique_ptr<WebElement> opened(WebPickerKind kind, const std::string& language = "en") const {
+    std::unique_ptr<WebElement> opened(PickerKind kind, const std::string& language = "en") const {
         auto element = std::make_unique<WebElement>(5, kind, surroundings(language));
         if (!element->exists()) return element;
         element->setSize({320, 216});
@@ -67,25 +68,25 @@ constexpr CGPoint kilometres = {140, 108};
 } // namespace
 
 TEST_F(WebElementTest, EachKindOpensAndShowsSomething) {
-    for (int kind = 0; kind < static_cast<int>(WebPickerKind::Count); ++kind) {
-        const auto element = opened(static_cast<WebPickerKind>(kind));
+    for (int kind = 0; kind < static_cast<int>(PickerKind::Count); ++kind) {
+        const auto element = opened(static_cast<PickerKind>(kind));
         ASSERT_TRUE(element->exists()) << kind;
         if (element->columns()) element->columns()->setRowCounts({3});
         draw(*element);
-        const bool needsIcons = static_cast<WebPickerKind>(kind) == WebPickerKind::Icon;
+        const bool needsIcons = static_cast<PickerKind>(kind) == PickerKind::Icon;
         EXPECT_EQ(page.texts.empty(), needsIcons) << kind;
     }
 }
 
 TEST_F(WebElementTest, AKindThatDoesNotExistOpensNothing) {
-    EXPECT_FALSE(opened(WebPickerKind::Count)->exists());
-    EXPECT_FALSE(opened(static_cast<WebPickerKind>(-1))->exists());
+    EXPECT_FALSE(opened(PickerKind::Count)->exists());
+    EXPECT_FALSE(opened(static_cast<PickerKind>(-1))->exists());
 }
 
 TEST_F(WebElementTest, ADistanceIsShownInItsUnitWithSeparatorAndLabel) {
-    const auto element = opened(WebPickerKind::Distance);
-    EXPECT_TRUE(element->picker().set(WebProperty::Metric, 1));
-    EXPECT_TRUE(element->picker().set(WebProperty::Value, 5300));
+    const auto element = opened(PickerKind::Distance);
+    EXPECT_TRUE(element->picker().set(PickerProperty::Metric, 1));
+    EXPECT_TRUE(element->picker().set(PickerProperty::Value, 5300));
     draw(*element);
     EXPECT_EQ(page.middleRows(), (Texts{"5", "3"}));
     EXPECT_EQ(page.textsOutsideRows(), (Texts{"km", "."}));
@@ -95,31 +96,31 @@ TEST_F(WebElementTest, ADistanceIsShownInItsUnitWithSeparatorAndLabel) {
 }
 
 TEST_F(WebElementTest, PropertiesAreReadBackAndUnknownOnesAreNot) {
-    const auto element = opened(WebPickerKind::Distance);
-    WebPicker& picker = element->picker();
-    EXPECT_TRUE(picker.set(WebProperty::FractionDigits, 2));
-    EXPECT_EQ(picker.get(WebProperty::FractionDigits), 2);
-    EXPECT_FALSE(picker.set(WebProperty::Gap, 2));
-    EXPECT_EQ(picker.get(WebProperty::Gap), std::nullopt);
+    const auto element = opened(PickerKind::Distance);
+    PropertyPicker& picker = element->picker();
+    EXPECT_TRUE(picker.set(PickerProperty::FractionDigits, 2));
+    EXPECT_EQ(picker.get(PickerProperty::FractionDigits), 2);
+    EXPECT_FALSE(picker.set(PickerProperty::Gap, 2));
+    EXPECT_EQ(picker.get(PickerProperty::Gap), std::nullopt);
 }
 
 TEST_F(WebElementTest, WhatIsShownIsSelectedAgainAfterAnOption) {
-    const auto element = opened(WebPickerKind::Distance);
-    WebPicker& picker = element->picker();
-    picker.set(WebProperty::Metric, 1);
-    picker.set(WebProperty::Value, 5340);
-    picker.set(WebProperty::FractionDigits, 2);
+    const auto element = opened(PickerKind::Distance);
+    PropertyPicker& picker = element->picker();
+    picker.set(PickerProperty::Metric, 1);
+    picker.set(PickerProperty::Value, 5340);
+    picker.set(PickerProperty::FractionDigits, 2);
     EXPECT_EQ(picker.text(), "5.34 km");
-    picker.set(WebProperty::Metric, 0);
+    picker.set(PickerProperty::Metric, 0);
     EXPECT_EQ(picker.text(), "3.31 mi") << "3.318 miles, digits that are not shown cut off";
 }
 
 TEST_F(WebElementTest, ElementsOfOnePageHaveTheirOwnLanguages) {
-    const auto german = opened(WebPickerKind::Distance, "de");
-    const auto english = opened(WebPickerKind::Distance, "en");
+    const auto german = opened(PickerKind::Distance, "de");
+    const auto english = opened(PickerKind::Distance, "en");
     for (const auto* element : {&german, &english}) {
         const WebElement::Visit visit(**element);
-        (*element)->picker().set(WebProperty::Metric, 1);
+        (*element)->picker().set(PickerProperty::Metric, 1);
         (*element)->reload();
     }
     draw(*german);
@@ -129,31 +130,31 @@ TEST_F(WebElementTest, ElementsOfOnePageHaveTheirOwnLanguages) {
 }
 
 TEST_F(WebElementTest, ADragReportsOnceAtRest) {
-    const auto element = opened(WebPickerKind::Distance);
-    element->picker().set(WebProperty::Metric, 1);
+    const auto element = opened(PickerKind::Distance);
+    element->picker().set(PickerProperty::Metric, 1);
     draw(*element);
     drag(*element, kilometres, 86); // Two rows and the way before it turns.
     EXPECT_EQ(page.changes, 0);
-    EXPECT_EQ(element->liveValue(WebProperty::Value), 7000);
-    EXPECT_EQ(element->picker().get(WebProperty::Value), 5000);
+    EXPECT_EQ(element->liveValue(PickerProperty::Value), 7000);
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), 5000);
     EXPECT_GE(page.passedRows, 2);
     run(*element, 2);
     EXPECT_EQ(page.changes, 1);
-    EXPECT_EQ(element->picker().get(WebProperty::Value), 7000);
-    EXPECT_EQ(element->liveValue(WebProperty::Value), 7000);
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), 7000);
+    EXPECT_EQ(element->liveValue(PickerProperty::Value), 7000);
 }
 
 TEST_F(WebElementTest, WhatTheProgramSetsIsNotReported) {
-    const auto element = opened(WebPickerKind::HeartRate);
-    element->picker().set(WebProperty::Average, 140);
+    const auto element = opened(PickerKind::HeartRate);
+    element->picker().set(PickerProperty::Average, 140);
     run(*element, 2);
     EXPECT_EQ(page.changes, 0);
     EXPECT_EQ(page.passedRows, 0);
-    EXPECT_EQ(element->picker().get(WebProperty::Average), 140);
+    EXPECT_EQ(element->picker().get(PickerProperty::Average), 140);
 }
 
 TEST_F(WebElementTest, ATouchBesideTheColumnsIsThePages) {
-    const auto element = opened(WebPickerKind::Distance);
+    const auto element = opened(PickerKind::Distance);
     draw(*element);
     const WebElement::Visit visit(*element);
     EXPECT_FALSE(element->host().touchBegan(1, {5, 108}, now));
@@ -161,14 +162,14 @@ TEST_F(WebElementTest, ATouchBesideTheColumnsIsThePages) {
 }
 
 TEST_F(WebElementTest, LargerFontsMakeHigherRowsAndKeepTheValues) {
-    const auto element = opened(WebPickerKind::Distance);
-    element->picker().set(WebProperty::Metric, 1);
-    element->picker().set(WebProperty::Value, 5300);
+    const auto element = opened(PickerKind::Distance);
+    element->picker().set(PickerProperty::Metric, 1);
+    element->picker().set(PickerProperty::Value, 5300);
     const auto rowHeight = [&element] { return element->picker().wheels().front()->rowSizeForComponent(0).height; };
     EXPECT_EQ(rowHeight(), 40);
     element->setFonts({1, 44, 2, 44});
     EXPECT_EQ(rowHeight(), 80);
-    EXPECT_EQ(element->picker().get(WebProperty::Value), 5300);
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), 5300);
     EXPECT_EQ(element->picker().text(), "5.3 km");
     draw(*element);
     drag(*element, kilometres, 100);
@@ -178,7 +179,7 @@ TEST_F(WebElementTest, LargerFontsMakeHigherRowsAndKeepTheValues) {
 
 TEST_F(WebElementTest, ColumnsOfThePageShowItsTitles) {
     page.widthOfByte = 5;
-    const auto element = opened(WebPickerKind::Columns);
+    const auto element = opened(PickerKind::Columns);
     page.title = [](int column, double row) { return (column == 0 ? "a" : "b") + std::to_string(static_cast<long>(row)); };
     element->columns()->setRowCounts({3, 1e18});
     element->columns()->setRow_ofColumn(1, 0);
@@ -190,19 +191,19 @@ TEST_F(WebElementTest, ColumnsOfThePageShowItsTitles) {
 }
 
 TEST_F(WebElementTest, IconsAreThePagesPictures) {
-    const auto element = opened(WebPickerKind::Icon);
+    const auto element = opened(PickerKind::Icon);
     auto images = std::make_shared<GXIconPickerView::Images>();
     for (int i = 0; i < 3; ++i) images->push_back(UIImage::imageWithHostHandle_size(i, {24, 24}));
     element->setIcons(images);
-    element->picker().set(WebProperty::Value, 1);
+    element->picker().set(PickerProperty::Value, 1);
     draw(*element);
     ASSERT_EQ(page.images.size(), 3U);
-    EXPECT_EQ(element->picker().get(WebProperty::Value), 1);
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), 1);
 }
 
 TEST_F(WebElementTest, ItsColumnsAreToldWithNameAndValue) {
-    const auto element = opened(WebPickerKind::Distance);
-    element->picker().set(WebProperty::Metric, 1);
+    const auto element = opened(PickerKind::Distance);
+    element->picker().set(PickerProperty::Metric, 1);
     draw(*element);
     WebAccessibility& accessibility = element->accessibility();
     ASSERT_EQ(accessibility.refresh(*element->picker().view()), 2);
@@ -214,17 +215,17 @@ TEST_F(WebElementTest, ItsColumnsAreToldWithNameAndValue) {
     EXPECT_EQ(accessibility.text_ofColumn(WebAccessibility::Text::Value, -1), std::nullopt);
     accessibility.act_onColumn(WebAccessibility::Action::Step, 0, 1);
     run(*element, 2);
-    EXPECT_EQ(element->picker().get(WebProperty::Value), 6000);
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), 6000);
     EXPECT_EQ(page.changes, 1);
 }
 
 TEST_F(WebElementTest, ItsColumnsTellAndTakeTheNumbersThatTheyShow) {
-    const auto element = opened(WebPickerKind::Temperature);
-    element->picker().set(WebProperty::Metric, 1);
-    element->picker().set(WebProperty::Min, -20);
-    element->picker().set(WebProperty::Max, 60); // Not a row itself.
-    element->picker().set(WebProperty::Step, 1);
-    element->picker().set(WebProperty::Value, 20);
+    const auto element = opened(PickerKind::Temperature);
+    element->picker().set(PickerProperty::Metric, 1);
+    element->picker().set(PickerProperty::Min, -20);
+    element->picker().set(PickerProperty::Max, 60); // Not a row itself.
+    element->picker().set(PickerProperty::Step, 1);
+    element->picker().set(PickerProperty::Value, 20);
     draw(*element);
     WebAccessibility& accessibility = element->accessibility();
     ASSERT_EQ(accessibility.refresh(*element->picker().view()), 1);
@@ -234,12 +235,12 @@ TEST_F(WebElementTest, ItsColumnsTellAndTakeTheNumbersThatTheyShow) {
     accessibility.act_onColumn(WebAccessibility::Action::SetNumber, 0, -5);
     EXPECT_EQ(accessibility.number_ofColumn(WebAccessibility::Number::Value, 0), -5);
     run(*element, 2);
-    EXPECT_EQ(element->picker().get(WebProperty::Value), -5);
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), -5);
     EXPECT_EQ(page.changes, 1);
 }
 
 TEST_F(WebElementTest, TheColumnWithTheFocusIsThatOfTheKeys) {
-    const auto element = opened(WebPickerKind::Duration);
+    const auto element = opened(PickerKind::Duration);
     draw(*element);
     const WebElement::Visit visit(*element);
     WebAccessibility& accessibility = element->accessibility();
@@ -256,9 +257,9 @@ TEST_F(WebElementTest, TheColumnWithTheFocusIsThatOfTheKeys) {
 }
 
 TEST_F(WebElementTest, ThePageKnowsItsElementsByNumber) {
-    WebRegistry::add(opened(WebPickerKind::Bpm));
+    WebRegistry::add(opened(PickerKind::Bpm));
     EXPECT_EQ(WebRegistry::count(), 1);
-    EXPECT_EQ(visit(5, [](WebElement& element) { return element.picker().get(WebProperty::Value).value_or(0); }), 160);
+    EXPECT_EQ(visit(5, [](WebElement& element) { return element.picker().get(PickerProperty::Value).value_or(0); }), 160);
     EXPECT_EQ(visit(6, [](WebElement&) { return 7; }), 0);
     WebRegistry::remove(5);
     WebRegistry::remove(5);

@@ -1,104 +1,13 @@
 #include "WebColumns.h"
 
-#include <algorithm>
-
-#include <GXUIPickers/GXStyleSheet.h>
-#include <GXUIPickers/NSArithmetic.h>
-
 #include "WebPage.h"
 #include "WebText.h"
 
 namespace gx::web {
 
-void WebColumns::follow() {
-    const Ref<WebColumns> self = refTo(this);
-    wheel_->setDelegate(self);
-    wheel_->setDataSource(WeakRef<UIPickerViewDataSource>(self));
-}
-
-const WebColumns::Column* WebColumns::columnAt(NSInteger column) const {
-    return column >= 0 && column < static_cast<NSInteger>(columns_.size()) ? &columns_[static_cast<std::size_t>(column)] : nullptr;
-}
-
-void WebColumns::setRowCounts(const std::vector<double>& counts) {
-    columns_.clear();
-    for (const double count : counts) {
-        Column column;
-        column.rows = truncateTo<NSInteger>(std::clamp(count, 0.0, highestCount));
-        columns_.push_back(std::move(column));
-    }
-    wheel_->reloadAllComponents();
-}
-
-void WebColumns::setWidth_ofColumn(double width, NSInteger column) {
-    if (!columnAt(column)) return;
-    columns_[static_cast<std::size_t>(column)].width = width > 0 ? width : UIPickerView::automaticDimension;
-    wheel_->reloadAllComponents();
-}
-
-void WebColumns::setLabel_ofColumn(std::string label, NSInteger column) {
-    if (columnAt(column)) columns_[static_cast<std::size_t>(column)].label = std::move(label);
-}
-
-double WebColumns::rowOfColumn(NSInteger column) const { return static_cast<double>(wheel_->selectedRowInComponent(column)); }
-
-double WebColumns::shownRowOfColumn(NSInteger column) const {
-    return static_cast<double>(wheel_->rowInSelectionIndicatorOfComponent(column));
-}
-
-void WebColumns::setRow_ofColumn(double row, NSInteger column) {
-    wheel_->selectRow_inComponent_animated(truncateTo<NSInteger>(std::clamp(row, 0.0, highestCount)), column, false);
-}
-
-std::string WebColumns::text() const {
-    std::string text;
-    for (NSInteger i = 0; i < static_cast<NSInteger>(columns_.size()); ++i) {
-        const std::int32_t length = gx_page_row_title(number_, static_cast<std::int32_t>(i), rowOfColumn(i));
-        if (length <= 0) continue;
-        if (!text.empty()) text += ' ';
-        text.append(sharedText(), 0, static_cast<std::size_t>(length));
-    }
-    return text;
-}
-
-NSInteger WebColumns::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return static_cast<NSInteger>(columns_.size()); }
-
-NSInteger WebColumns::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
-    const Column* column = columnAt(component);
-    return column ? column->rows : 0;
-}
-
-std::optional<std::string> WebColumns::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) {
-    const std::int32_t length = gx_page_row_title(number_, static_cast<std::int32_t>(component), static_cast<double>(row));
+std::optional<std::string> WebColumns::titleOfRow_ofColumn(double row, NSInteger column) const {
+    const std::int32_t length = gx_page_row_title(number_, static_cast<std::int32_t>(column), row);
     return length < 0 ? std::nullopt : std::optional(sharedText().substr(0, static_cast<std::size_t>(length)));
-}
-
-CGFloat WebColumns::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger component) {
-    const Column* column = columnAt(component);
-    return column ? column->width : UIPickerView::automaticDimension;
-}
-
-CGFloat WebColumns::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) {
-    return GXStyleSheet::globalStyleSheet()->pickerRowHeight();
-}
-
-Ref<UIView> WebColumns::pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>& pickerView, NSInteger row,
-                                                                       NSInteger component, const Ref<UIView>& view) {
-    // Only labels are ever given, so only labels come back.
-    const Ref<UILabel> label = view ? std::static_pointer_cast<UILabel>(view) : create<UILabel>(CGRectZero);
-    label->setTextAlignment(NSTextAlignmentCenter);
-    setStyleSheetFont(label, GXStyleSheet::globalStyleSheet()->pickerValueFont());
-    label->setText(pickerView_titleForRow_forComponent(pickerView, row, component));
-    return label;
-}
-
-void WebColumns::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger, NSInteger) {
-    if (didChange) didChange();
-}
-
-std::optional<std::string> WebColumns::pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>&, NSInteger component) {
-    const Column* column = columnAt(component);
-    return column && !column->label.empty() ? std::optional(column->label) : std::nullopt;
 }
 
 } // namespace gx::web

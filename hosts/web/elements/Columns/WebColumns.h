@@ -1,66 +1,20 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include <GXUIPickers/GXMultiValuePickerView.h>
-
-#include "WebPicker.h"
+#include "ColumnsPropertyPicker.h"
 
 namespace gx::web {
 
-/// A wheel of the page's own columns: the page says how many rows each has, and is asked for the
-/// title of each row that comes into sight.
-///
-/// Values are rows. The page numbers them as doubles, so a column has 2^53 rows at most.
-class WebColumns final : public WebPicker, public UIPickerViewDataSource, public GXMultiValuePickerViewDelegate {
+/// A wheel of the page's own columns: the page is asked for the title of each row that comes into
+/// sight.
+class WebColumns final : public elements::ColumnsPropertyPicker {
 public:
-    /// 2^53, the last integer up to which all are doubles.
-    static constexpr double highestCount = 9007199254740992;
-
     /// The page that is asked for titles knows the columns by this number.
     void setNumber(std::int32_t number) { number_ = number; }
-    /// Replaces all columns. Counts are clamped to what a double counts.
-    void setRowCounts(const std::vector<double>& counts);
-    void setWidth_ofColumn(double width, NSInteger column);
-    void setLabel_ofColumn(std::string label, NSInteger column);
-    double rowOfColumn(NSInteger column) const;
-    void setRow_ofColumn(double row, NSInteger column);
-    /// The row in the selection indicator.
-    double shownRowOfColumn(NSInteger column) const;
 
-    Ref<UIView> view() const override { return wheel_; }
-    std::vector<Ref<UIPickerView>> wheels() const override { return {wheel_}; }
-    std::optional<double> get(WebProperty) const override { return std::nullopt; }
-    bool set(WebProperty, double) override { return false; }
-    void reload() override { wheel_->reloadAllComponents(); }
-    /// The titles of the selected rows.
-    std::string text() const override;
-    /// To be called once: the wheel holds its delegate weakly.
-    void follow();
-
-    NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
-    NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
-                                                                   NSInteger component) override;
-    CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    CGFloat pickerView_rowHeightForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    Ref<UIView> pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component,
-                                                               const Ref<UIView>& view) override;
-    void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
-    std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    std::optional<std::string> titleOfRow_ofColumn(double row, NSInteger column) const override;
 
 private:
-    struct Column {
-        NSInteger rows = 0;
-        CGFloat width = UIPickerView::automaticDimension;
-        std::string label;
-    };
-    const Column* columnAt(NSInteger column) const;
-
     std::int32_t number_ = 0;
-    std::vector<Column> columns_;
-    Ref<GXMultiValuePickerView> wheel_ = GXMultiValuePickerView::wheelWithFrame(CGRectZero);
 };
 
 } // namespace gx::web

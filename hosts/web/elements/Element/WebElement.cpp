@@ -4,12 +4,12 @@
 
 #include <GXUIPickers/NSRunLoop.h>
 
+#include "PropertyPickerFactory.h"
 #include "WebPage.h"
-#include "WebPickerFactory.h"
 
 namespace gx::web {
 
-WebElement::WebElement(std::int32_t number, WebPickerKind kind, WebSurroundings surroundings)
+WebElement::WebElement(std::int32_t number, elements::PickerKind kind, WebSurroundings surroundings)
     : kind_(kind), window_(number), surroundings_(std::move(surroundings)) {
     surroundings_.enter();
     makePicker();
@@ -25,13 +25,13 @@ WebElement::Visit::Visit(WebElement& element) { element.surroundings_.enter(); }
 WebElement::Visit::~Visit() { NSRunLoop::mainRunLoop()->runPass(); }
 
 void WebElement::makePicker() {
-    if (kind_ == WebPickerKind::Columns) {
+    if (kind_ == elements::PickerKind::Columns) {
         columns_ = create<WebColumns>();
         columns_->setNumber(window_.number());
         columns_->follow();
         picker_ = columns_;
     } else {
-        picker_ = pickerOfKind(kind_);
+        picker_ = elements::pickerOfKind(kind_);
     }
     if (!picker_) return;
     picker_->didChange = [this] {
@@ -47,7 +47,7 @@ void WebElement::setFonts(const WebFonts& fonts) {
     surroundings_.enter();
     if (styleSheet.textScale() != scale && !columns_) {
         window().finishAnimations();
-        const Ref<WebPicker> before = picker_;
+        const Ref<elements::PropertyPicker> before = picker_;
         makePicker();
         before->copyTo(*picker_);
         before->didChange = nullptr;
@@ -71,10 +71,10 @@ void WebElement::setLabel(std::optional<std::string> label) {
 
 void WebElement::setIcons(Ref<const GXIconPickerView::Images> icons) { picker_->setIcons(std::move(icons)); }
 
-double WebElement::liveValue(WebProperty property) const {
+double WebElement::liveValue(elements::PickerProperty property) const {
     const std::vector<Ref<UIPickerView>> wheels = picker_->wheels();
     const bool isTurning = std::any_of(wheels.begin(), wheels.end(), [](const Ref<UIPickerView>& wheel) { return wheel->isTurning(); });
-    if (window_.hasPassedRow() && isTurning) return valueInIndicator(*picker_, kind_, property);
+    if (window_.hasPassedRow() && isTurning) return elements::valueInIndicator(*picker_, kind_, property);
     return picker_->get(property).value_or(0);
 }
 

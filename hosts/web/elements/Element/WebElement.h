@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "PropertyPicker.h"
 #include "WebAccessibility.h"
 #include "WebCanvas.h"
 #include "WebColumns.h"
-#include "WebPicker.h"
 #include "WebSurroundings.h"
 #include "WebWindow.h"
 
@@ -18,7 +18,7 @@ namespace gx::web {
 /// A caller enters its surroundings first (`Visit`).
 class WebElement final {
 public:
-    WebElement(std::int32_t number, WebPickerKind kind, WebSurroundings surroundings);
+    WebElement(std::int32_t number, elements::PickerKind kind, WebSurroundings surroundings);
     ~WebElement();
     WebElement(const WebElement&) = delete;
     WebElement& operator=(const WebElement&) = delete;
@@ -37,7 +37,7 @@ public:
     WebWindow& host() { return window_; }
     bool exists() const { return picker_ != nullptr; }
     WebSurroundings& surroundings() { return surroundings_; }
-    WebPicker& picker() const { return *picker_; }
+    elements::PropertyPicker& picker() const { return *picker_; }
     /// Nothing unless the columns are the page's own.
     const Ref<WebColumns>& columns() const { return columns_; }
 
@@ -53,7 +53,7 @@ public:
     void setLabel(std::optional<std::string> label);
     void setIcons(Ref<const GXIconPickerView::Images> icons);
     /// Of the rows that are in the selection indicator while the user turns, else as selected.
-    double liveValue(WebProperty property) const;
+    double liveValue(elements::PickerProperty property) const;
 
     bool tick(NSTimeInterval time) const { return window().tick(time); }
     void draw();
@@ -61,10 +61,10 @@ public:
 private:
     void makePicker();
 
-    WebPickerKind kind_;
+    elements::PickerKind kind_;
     WebWindow window_;
     WebSurroundings surroundings_;
-    Ref<WebPicker> picker_;
+    Ref<elements::PropertyPicker> picker_;
     Ref<WebColumns> columns_;
     WebCanvas canvas_;
     WebAccessibility accessibility_;

@@ -57,7 +57,7 @@ std::int32_t gx_web_open(std::int32_t number, std::int32_t kind, std::int32_t ro
     WebSurroundings surroundings;
     surroundings.styleSheet()->setFonts({rowFont, rowSize, labelFont, labelSize});
     surroundings.setLanguage_isRightToLeft(takeText(languageLength), isRightToLeft != 0);
-    auto element = std::make_unique<WebElement>(number, static_cast<WebPickerKind>(kind), surroundings);
+    auto element = std::make_unique<WebElement>(number, static_cast<elements::PickerKind>(kind), surroundings);
     if (!element->exists()) return 0;
     WebRegistry::add(std::move(element));
     return 1;
@@ -111,17 +111,19 @@ GX_WEB_EXPORT("setTraits") void gx_web_set_traits(std::int32_t number, std::int3
 
 /// NaN for a property that the picker does not have.
 GX_WEB_EXPORT("get") double gx_web_get(std::int32_t number, std::int32_t property) {
-    return visit(number,
-                 [&](WebElement& element) { return element.picker().get(static_cast<WebProperty>(property)).value_or(std::nan("")); });
+    return visit(number, [&](WebElement& element) {
+        return element.picker().get(static_cast<elements::PickerProperty>(property)).value_or(std::nan(""));
+    });
 }
 
 /// Its value for the rows that are in the selection indicator now.
 GX_WEB_EXPORT("getLive") double gx_web_get_live(std::int32_t number, std::int32_t property) {
-    return visit(number, [&](WebElement& element) { return element.liveValue(static_cast<WebProperty>(property)); });
+    return visit(number, [&](WebElement& element) { return element.liveValue(static_cast<elements::PickerProperty>(property)); });
 }
 
 GX_WEB_EXPORT("set") std::int32_t gx_web_set(std::int32_t number, std::int32_t property, double value) {
-    return visit(number, [&](WebElement& element) { return element.picker().set(static_cast<WebProperty>(property), value) ? 1 : 0; });
+    return visit(number,
+                 [&](WebElement& element) { return element.picker().set(static_cast<elements::PickerProperty>(property), value) ? 1 : 0; });
 }
 
 /// The value as it is shown, in the text buffer.

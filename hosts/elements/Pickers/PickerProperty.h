@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-namespace gx::web {
+namespace gx::elements {
 
-/// The pickers, as the page numbers them.
-enum class WebPickerKind : std::int32_t {
+/// The pickers, as a page numbers them.
+enum class PickerKind : std::int32_t {
     Number = 0,
     Bpm,
     Calories,
@@ -24,11 +24,11 @@ enum class WebPickerKind : std::int32_t {
     Count
 };
 
-/// The properties of all pickers, as the page numbers them; all of them numbers, flags as 0 and 1.
+/// The properties of all pickers, as a page numbers them; all of them numbers, flags as 0 and 1.
 ///
 /// In the order in which they are applied to a new picker: what is shown, then the range, then
 /// values.
-enum class WebProperty : std::int32_t {
+enum class PickerProperty : std::int32_t {
     Metric = 0,
     WeightUnit,     ///< a `GXWeightUnit`
     UnitSelectable, ///< whether the unit has a column
@@ -56,4 +56,4 @@ enum class WebProperty : std::int32_t {
     Count
 };
 
-} // namespace gx::web
+} // namespace gx::elements

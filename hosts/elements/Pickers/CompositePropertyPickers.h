@@ -3,17 +3,17 @@
 #include <GXUIPickers/GXDistanceAndDurationPicker.h>
 #include <GXUIPickers/GXWeatherAndTemperaturePickerView.h>
 
-#include "WebPicker.h"
+#include "PropertyPicker.h"
 
-namespace gx::web {
+namespace gx::elements {
 
 /// Distance and duration side by side: the properties of both, and a range for each.
-class WebDistanceAndDurationPicker final : public WebPicker {
+class DistanceAndDurationPropertyPicker final : public PropertyPicker {
 public:
     Ref<UIView> view() const override { return picker_; }
     std::vector<Ref<UIPickerView>> wheels() const override;
-    std::optional<double> get(WebProperty property) const override;
-    bool set(WebProperty property, double value) override;
+    std::optional<double> get(PickerProperty property) const override;
+    bool set(PickerProperty property, double value) override;
     void reload() override;
     std::string text() const override { return picker_->currentValueText(); }
 
@@ -24,14 +24,14 @@ private:
     Ref<GXDistanceAndDurationPicker> picker_ = create<GXDistanceAndDurationPicker>(CGRectZero);
 };
 
-/// Weather, as one of the page's pictures, and temperature, whose range `Min`, `Max` and `Step`
+/// Weather, as one of the host's pictures, and temperature, whose range `Min`, `Max` and `Step`
 /// are.
-class WebWeatherAndTemperaturePicker final : public WebPicker {
+class WeatherAndTemperaturePropertyPicker final : public PropertyPicker {
 public:
     Ref<UIView> view() const override { return picker_; }
     std::vector<Ref<UIPickerView>> wheels() const override;
-    std::optional<double> get(WebProperty property) const override;
-    bool set(WebProperty property, double value) override;
+    std::optional<double> get(PickerProperty property) const override;
+    bool set(PickerProperty property, double value) override;
     void setIcons(Ref<const GXIconPickerView::Images> icons) override;
     Ref<const GXIconPickerView::Images> icons() const override { return picker_->weatherPicker()->iconImages(); }
     void reload() override;
@@ -44,4 +44,4 @@ private:
     Ref<GXWeatherAndTemperaturePickerView> picker_ = create<GXWeatherAndTemperaturePickerView>(CGRectZero);
 };
 
-} // namespace gx::web
+} // namespace gx::elements

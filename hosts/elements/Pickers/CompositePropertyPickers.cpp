@@ -1,47 +1,47 @@
-#include "WebCompositePickers.h"
+#include "CompositePropertyPickers.h"
 
-#include "WebOwnProperties.h"
+#include "OwnProperties.h"
 
-namespace gx::web {
+namespace gx::elements {
 
 namespace {
 
 /// A property of the whole as one of the range of an inner picker.
-std::optional<WebProperty> ofDistance(WebProperty property) {
+std::optional<PickerProperty> ofDistance(PickerProperty property) {
     switch (property) {
-    case WebProperty::MinDistance:
-        return WebProperty::Min;
-    case WebProperty::MaxDistance:
-        return WebProperty::Max;
-    case WebProperty::Distance:
-        return WebProperty::Value;
+    case PickerProperty::MinDistance:
+        return PickerProperty::Min;
+    case PickerProperty::MaxDistance:
+        return PickerProperty::Max;
+    case PickerProperty::Distance:
+        return PickerProperty::Value;
     default:
         return std::nullopt;
     }
 }
 
-std::optional<WebProperty> ofDuration(WebProperty property) {
+std::optional<PickerProperty> ofDuration(PickerProperty property) {
     switch (property) {
-    case WebProperty::MinDuration:
-        return WebProperty::Min;
-    case WebProperty::MaxDuration:
-        return WebProperty::Max;
-    case WebProperty::Duration:
-        return WebProperty::Value;
+    case PickerProperty::MinDuration:
+        return PickerProperty::Min;
+    case PickerProperty::MaxDuration:
+        return PickerProperty::Max;
+    case PickerProperty::Duration:
+        return PickerProperty::Value;
     default:
         return std::nullopt;
     }
 }
 
-bool isMetric(WebProperty property) { return property == WebProperty::Metric; }
+bool isMetric(PickerProperty property) { return property == PickerProperty::Metric; }
 
 } // namespace
 
-std::vector<Ref<UIPickerView>> WebDistanceAndDurationPicker::wheels() const {
+std::vector<Ref<UIPickerView>> DistanceAndDurationPropertyPicker::wheels() const {
     return {picker_->distancePicker()->pickerView(), picker_->durationPicker()->pickerView()};
 }
 
-std::optional<double> WebDistanceAndDurationPicker::get(WebProperty property) const {
+std::optional<double> DistanceAndDurationPropertyPicker::get(PickerProperty property) const {
     const GXDistancePickerView& distance = *picker_->distancePicker();
     const GXDurationPickerView& duration = *picker_->durationPicker();
     if (const auto inner = ofDistance(property)) return rangeProperty(distance, *inner);
@@ -50,7 +50,7 @@ std::optional<double> WebDistanceAndDurationPicker::get(WebProperty property) co
     return own ? own : ownProperty(duration, property);
 }
 
-bool WebDistanceAndDurationPicker::set(WebProperty property, double value) {
+bool DistanceAndDurationPropertyPicker::set(PickerProperty property, double value) {
     GXDistancePickerView& distance = *picker_->distancePicker();
     GXDurationPickerView& duration = *picker_->durationPicker();
     if (const auto inner = ofDistance(property)) return setRangeProperty(distance, *inner, value);
@@ -65,23 +65,23 @@ bool WebDistanceAndDurationPicker::set(WebProperty property, double value) {
     return true;
 }
 
-void WebDistanceAndDurationPicker::reload() {
+void DistanceAndDurationPropertyPicker::reload() {
     picker_->reloadData();
     picker_->sizeFontsToFit();
 }
 
-std::vector<Ref<UIPickerView>> WebWeatherAndTemperaturePicker::wheels() const {
+std::vector<Ref<UIPickerView>> WeatherAndTemperaturePropertyPicker::wheels() const {
     return {picker_->weatherPicker()->pickerView(), picker_->temperaturePicker()->pickerView()};
 }
 
-std::optional<double> WebWeatherAndTemperaturePicker::get(WebProperty property) const {
+std::optional<double> WeatherAndTemperaturePropertyPicker::get(PickerProperty property) const {
     const GXTemperaturePickerView& temperature = *picker_->temperaturePicker();
     switch (property) {
-    case WebProperty::Weather:
+    case PickerProperty::Weather:
         return picker_->weatherPicker()->currentValue().doubleValue();
-    case WebProperty::Temperature:
+    case PickerProperty::Temperature:
         return temperature.currentValue().doubleValue();
-    case WebProperty::Value:
+    case PickerProperty::Value:
         return std::nullopt;
     default:
         break;
@@ -90,11 +90,11 @@ std::optional<double> WebWeatherAndTemperaturePicker::get(WebProperty property) 
     return own ? own : rangeProperty(temperature, property);
 }
 
-bool WebWeatherAndTemperaturePicker::set(WebProperty property, double value) {
+bool WeatherAndTemperaturePropertyPicker::set(PickerProperty property, double value) {
     GXTemperaturePickerView& temperature = *picker_->temperaturePicker();
-    if (property == WebProperty::Value) return false;
-    if (property == WebProperty::Weather) return setRangeProperty(*picker_->weatherPicker(), WebProperty::Value, value);
-    if (property == WebProperty::Temperature) return setRangeProperty(temperature, WebProperty::Value, value);
+    if (property == PickerProperty::Value) return false;
+    if (property == PickerProperty::Weather) return setRangeProperty(*picker_->weatherPicker(), PickerProperty::Value, value);
+    if (property == PickerProperty::Temperature) return setRangeProperty(temperature, PickerProperty::Value, value);
     if (isMetric(property)) {
         picker_->setIsMetric(value != 0);
     } else if (!setRangeProperty(temperature, property, value)) {
@@ -104,14 +104,14 @@ bool WebWeatherAndTemperaturePicker::set(WebProperty property, double value) {
     return true;
 }
 
-void WebWeatherAndTemperaturePicker::setIcons(Ref<const GXIconPickerView::Images> icons) {
+void WeatherAndTemperaturePropertyPicker::setIcons(Ref<const GXIconPickerView::Images> icons) {
     picker_->weatherPicker()->setIconImages(std::move(icons));
     selectAgain(*picker_->weatherPicker());
 }
 
-void WebWeatherAndTemperaturePicker::reload() {
+void WeatherAndTemperaturePropertyPicker::reload() {
     picker_->reloadData();
     picker_->sizeFontsToFit();
 }
 
-} // namespace gx::web
+} // namespace gx::elements

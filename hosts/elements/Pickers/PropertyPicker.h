@@ -9,21 +9,22 @@
 #include <GXUIPickers/GXHeightPickerView.h>
 #include <GXUIPickers/GXIconPickerView.h>
 
-#include "WebProperty.h"
+#include "PickerProperty.h"
 
-namespace gx::web {
+namespace gx::elements {
 
-/// One picker with its properties as plain numbers, as attributes of a page give them.
+/// One picker with its properties as plain numbers, as hosts give them that know no classes of this
+/// library: attributes of a page, properties of QML.
 ///
 /// A property that decides what is shown selects the present value again. A picker of a kind has
 /// the properties that its `get` returns something for.
-class WebPicker : public NSObject, public GXBasePickerViewDelegate, public GXHeightPickerViewDelegate {
+class PropertyPicker : public NSObject, public GXBasePickerViewDelegate, public GXHeightPickerViewDelegate {
 public:
     virtual Ref<UIView> view() const = 0;
     virtual std::vector<Ref<UIPickerView>> wheels() const = 0;
-    virtual std::optional<double> get(WebProperty property) const = 0;
+    virtual std::optional<double> get(PickerProperty property) const = 0;
     /// Returns whether the picker has the property.
-    virtual bool set(WebProperty property, double value) = 0;
+    virtual bool set(PickerProperty property, double value) = 0;
     // A picker that shows icons keeps them. NOLINTBEGIN(performance-unnecessary-value-param)
     /// What an icon picker shows; ignored by all others.
     virtual void setIcons(Ref<const GXIconPickerView::Images> /*icons*/) {}
@@ -36,7 +37,7 @@ public:
     virtual void setAccessibilityLabel(std::optional<std::string> label) { view()->setAccessibilityLabel(std::move(label)); }
 
     /// Gives another picker of the same kind all that this one has.
-    void copyTo(WebPicker& other) const;
+    void copyTo(PropertyPicker& other) const;
     /// Called after the user has selected something.
     std::function<void()> didChange;
 
@@ -45,4 +46,4 @@ public:
     void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>& pickerView, CGFloat height, bool metric) override;
 };
 
-} // namespace gx::web
+} // namespace gx::elements

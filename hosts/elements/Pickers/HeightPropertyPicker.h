@@ -1,16 +1,16 @@
 #pragma once
 
-#include "WebPicker.h"
+#include "PropertyPicker.h"
 
-namespace gx::web {
+namespace gx::elements {
 
 /// The height: centimetres in either unit.
-class WebHeightPicker final : public WebPicker {
+class HeightPropertyPicker final : public PropertyPicker {
 public:
     Ref<UIView> view() const override { return picker_; }
     std::vector<Ref<UIPickerView>> wheels() const override { return {picker_}; }
-    std::optional<double> get(WebProperty property) const override;
-    bool set(WebProperty property, double value) override;
+    std::optional<double> get(PickerProperty property) const override;
+    bool set(PickerProperty property, double value) override;
     void reload() override { picker_->reloadData(); }
     std::string text() const override { return picker_->currentValueText(); }
 
@@ -21,4 +21,4 @@ private:
     Ref<GXHeightPickerView> picker_ = create<GXHeightPickerView>(CGRectZero);
 };
 
-} // namespace gx::web
+} // namespace gx::elements

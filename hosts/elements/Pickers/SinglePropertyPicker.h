@@ -2,26 +2,27 @@
 
 #include <vector>
 
-#include "WebOwnProperties.h"
-#include "WebPicker.h"
+#include "OwnProperties.h"
+#include "PropertyPicker.h"
 
-namespace gx::web {
+namespace gx::elements {
 
 /// A picker of one wheel and a value from a range; with two values for the heart rates.
 template <class Picker>
-class WebSinglePicker : public WebPicker {
+class SinglePropertyPicker : public PropertyPicker {
 public:
     Ref<UIView> view() const override { return picker_; }
     std::vector<Ref<UIPickerView>> wheels() const override { return {picker_->pickerView()}; }
 
-    std::optional<double> get(WebProperty property) const override {
+    std::optional<double> get(PickerProperty property) const override {
         const std::optional<double> own = ownProperty(*picker_, property);
         return own ? own : rangeProperty(*picker_, property);
     }
-    bool set(WebProperty property, double value) override {
+    bool set(PickerProperty property, double value) override {
         const bool isOwn = setOwnProperty(*picker_, property, value);
         if (!isOwn && !setRangeProperty(*picker_, property, value)) return false;
-        const bool isValue = property == WebProperty::Value || property == WebProperty::Average || property == WebProperty::Maximum;
+        const bool isValue =
+            property == PickerProperty::Value || property == PickerProperty::Average || property == PickerProperty::Maximum;
         if (!isValue) selectAgain(*picker_);
         return true;
     }
@@ -42,8 +43,8 @@ private:
     Ref<Picker> picker_ = create<Picker>(CGRectZero);
 };
 
-/// The icons are the page's pictures; the value is the index of one.
-class WebIconPicker final : public WebSinglePicker<GXIconPickerView> {
+/// The icons are the host's pictures; the value is the index of one.
+class IconPropertyPicker final : public SinglePropertyPicker<GXIconPickerView> {
 public:
     void setIcons(Ref<const GXIconPickerView::Images> icons) override {
         picker()->setIconImages(std::move(icons));
@@ -52,4 +53,4 @@ public:
     Ref<const GXIconPickerView::Images> icons() const override { return picker()->iconImages(); }
 };
 
-} // namespace gx::web
+} // namespace gx::elements

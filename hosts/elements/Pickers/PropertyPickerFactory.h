@@ -1,14 +1,14 @@
 #pragma once
 
-#include "WebPicker.h"
+#include "PropertyPicker.h"
 
-namespace gx::web {
+namespace gx::elements {
 
 /// A new picker, its delegate set; nothing for a kind that does not exist, and for `Columns`.
-Ref<WebPicker> pickerOfKind(WebPickerKind kind);
+Ref<PropertyPicker> pickerOfKind(PickerKind kind);
 
 /// The value of a property that the user would select if everything came to rest on the rows that
 /// are in the selection indicator.
-double valueInIndicator(const WebPicker& picker, WebPickerKind kind, WebProperty property);
+double valueInIndicator(const PropertyPicker& picker, PickerKind kind, PickerProperty property);
 
-} // namespace gx::web
+} // namespace gx::elements

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <GXUIPickers/GXMultiValuePickerView.h>
+
+#include "PropertyPicker.h"
+
+namespace gx::elements {
+
+/// A wheel of a host's own columns: it has counts of rows, widths and labels, and a subclass says
+/// the title of each row that comes into sight.
+///
+/// Values are rows. Hosts number them as doubles, so a column has 2^53 rows at most.
+class ColumnsPropertyPicker : public PropertyPicker, public UIPickerViewDataSource, public GXMultiValuePickerViewDelegate {
+public:
+    /// 2^53, the last integer up to which all are doubles.
+    static constexpr double highestCount = 9007199254740992;
+
+    NSInteger columnCount() const { return static_cast<NSInteger>(columns_.size()); }
+    /// Replaces all columns. Counts are clamped to what a double counts.
+    void setRowCounts(const std::vector<double>& counts);
+    void setWidth_ofColumn(double width, NSInteger column);
+    void setLabel_ofColumn(std::string label, NSInteger column);
+    double rowOfColumn(NSInteger column) const;
+    void setRow_ofColumn(double row, NSInteger column);
+    /// The row in the selection indicator.
+    double shownRowOfColumn(NSInteger column) const;
+
+    Ref<UIView> view() const override { return wheel_; }
+    std::vector<Ref<UIPickerView>> wheels() const override { return {wheel_}; }
+    std::optional<double> get(PickerProperty) const override { return std::nullopt; }
+    bool set(PickerProperty, double) override { return false; }
+    void reload() override { wheel_->reloadAllComponents(); }
+    /// The titles of the selected rows.
+    std::string text() const override;
+    /// To be called once: the wheel holds its delegate weakly.
+    void follow();
+
+    /// Nothing for a row without a title.
+    virtual std::optional<std::string> titleOfRow_ofColumn(double row, NSInteger column) const = 0;
+
+    NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
+    NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
+                                                                   NSInteger component) override;
+    CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    CGFloat pickerView_rowHeightForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    Ref<UIView> pickerView_viewForRow_forComponent_reusingView(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component,
+                                                               const Ref<UIView>& view) override;
+    void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
+    std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+
+private:
+    struct Column {
+        NSInteger rows = 0;
+        CGFloat width = UIPickerView::automaticDimension;
+        std::string label;
+    };
+    const Column* columnAt(NSInteger column) const;
+
+    std::vector<Column> columns_;
+    Ref<GXMultiValuePickerView> wheel_ = GXMultiValuePickerView::wheelWithFrame(CGRectZero);
+};
+
+} // namespace gx::elements
