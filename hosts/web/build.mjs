@@ -2,11 +2,12 @@
 // The folder becomes the npm package:
 //   gxuipickers.js               one file, the module within
 //   asset.js, gxuipickers.wasm   for bundlers
-//   types/                       what TypeScript knows of both
+//   types/                       what TypeScript knows of both, and React and Vue of the elements
+//   custom-elements.json         what editors know of the elements
 //   sizes.json                   how large each is, and how large as a server would send it
 import { build } from 'esbuild';
 import { execFileSync } from 'node:child_process';
-import { copyFileSync, mkdirSync, readFileSync, writeFileSync } from 'node:fs';
+import { copyFileSync, cpSync, mkdirSync, readFileSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { gzipSync } from 'node:zlib';
@@ -62,6 +63,8 @@ await build({ ...common, entryPoints: [path.join(here, 'script/asset.ts')], outf
 execFileSync(path.join(here, 'node_modules/.bin/tsc'), ['-p', here, '--emitDeclarationOnly', '--outDir', path.join(folder, 'types')], {
     stdio: 'inherit',
 });
+cpSync(path.join(here, 'package/types'), path.join(folder, 'types'), { recursive: true });
+execFileSync(process.execPath, [path.join(here, 'package/manifest.mjs'), folder], { stdio: 'inherit' });
 for (const name of ['package/package.json', 'package/README.md', '../../LICENSE'])
     copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
 

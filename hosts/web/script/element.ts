@@ -17,10 +17,35 @@ const tickVibration = 5;
  * Attributes give numbers in base units; each has a property of its name. The attributes of values
  * are what a form is reset to, their properties what is shown now.
  *
- * Events:
- * - `input` while the user turns, once for each frame in which a row has passed;
- * - `change` when the user has come to rest on other values;
- * - `gx-tick` for each row that passes, with the attribute `ticks`.
+ * @attr {string} name - The name of the value in a form's data.
+ * @attr {boolean} disabled - Takes no input, and has no value in a form's data.
+ * @attr {boolean} readonly - Takes no input, but keeps its value in a form's data.
+ * @attr {boolean} required - A form is valid only if no value is missing, as a heart rate can be.
+ *
+ * @attr {string} lang - The language of units and numbers, if not that around the element.
+ * @attr {string} aria-label - What a screen reader calls it, if no label element says so.
+ * @attr {boolean} ticks - Dispatches `gx-tick`, and vibrates where a device can.
+ *
+ * @fires {Event} input - Rows have passed while the user turns; at most once a frame.
+ * @fires {Event} change - The user has come to rest on other values.
+ * @fires {CustomEvent} gx-tick - A row has passed. Needs the attribute `ticks`; does not bubble.
+ *
+ * @slot - Shown while there is no picker, such as an `<input type="number">`; and icons.
+ *
+ * @csspart row - The text of a row.
+ * @csspart separator - The text between two columns.
+ * @csspart label - The text beside the columns, such as a unit.
+ *
+ * @csspart indicator - The bar behind the selected row.
+ * @csspart outline - The line around the bar at high contrast.
+ * @csspart focus - The mark of the column that has the focus.
+ * @csspart column - What a finger touches and a screen reader finds.
+ *
+ * @cssprop --gx-row-color - The colour of rows and separators.
+ * @cssprop --gx-label-color - The colour of labels.
+ * @cssprop --gx-indicator-color - The colour of the bar behind the selected row.
+ * @cssprop --gx-indicator-radius - How round that bar is.
+ * @cssprop --gx-focus-color - The colour of the mark of the focus.
  */
 export abstract class PickerElement extends Base implements PageObserver {
     static readonly formAssociated: boolean = true;
