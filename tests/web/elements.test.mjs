@@ -115,44 +115,6 @@ test('what is no number or no unit is ignored with one warning that names the el
     await close();
 });
 
-test('a form has the values, resets them and disables the pickers', async () => {
-    const body = `<form><label for="d">Way</label><gx-distance-picker id="d" name="way" value="5300"></gx-distance-picker>
-        <gx-heart-rate-picker name="heart" average="142" maximum="171" required></gx-heart-rate-picker>
-        <fieldset><gx-bpm-picker name="rate" value="100"></gx-bpm-picker></fieldset></form>`;
-    const { page, close } = await stage.open(body);
-    const data = () => page.evaluate(() => [...new FormData(document.querySelector('form'))]);
-    assert.deepEqual(await data(), [
-        ['way', '5300'],
-        ['heart-average', '142'],
-        ['heart-maximum', '171'],
-        ['rate', '100'],
-    ]);
-    await page.evaluate(() => {
-        document.querySelector('gx-distance-picker').value = 8000;
-        document.querySelector('gx-heart-rate-picker').average = 0;
-    });
-    assert.deepEqual((await data()).slice(0, 2), [
-        ['way', '8000'],
-        ['heart-average', '0'],
-    ]);
-    assert.equal(await page.evaluate(() => document.querySelector('form').checkValidity()), false, 'no average');
-    await page.evaluate(() => document.querySelector('form').reset());
-    assert.deepEqual(await data(), [
-        ['way', '5300'],
-        ['heart-average', '142'],
-        ['heart-maximum', '171'],
-        ['rate', '100'],
-    ]);
-    assert.equal(await page.evaluate(() => document.querySelector('form').checkValidity()), true);
-    await page.evaluate(() => (document.querySelector('fieldset').disabled = true));
-    assert.deepEqual((await data()).length, 3);
-    assert.equal(await page.evaluate(() => document.querySelector('gx-bpm-picker').matches(':disabled')), true);
-    await untilColumns(page, '#d');
-    await page.click('label');
-    assert.equal(await page.evaluate(() => document.activeElement.id), 'd');
-    await close();
-});
-
 test('columns are spin buttons with name, value and text, and the tools for accessibility find nothing', async () => {
     const body =
         '<main><h1>Workout</h1><label for="d">Way</label><gx-distance-picker id="d" value="5300"></gx-distance-picker><gx-weight-picker value="72.5"></gx-weight-picker><gx-duration-picker></gx-duration-picker></main>';

@@ -25,6 +25,16 @@ export const enum ColumnAction {
     SetNumber,
 }
 
+/** What decides how a picker behaves, besides its properties. */
+export interface Traits {
+    isDisabled: boolean;
+    isReadOnly: boolean;
+    isRequired: boolean;
+    isInvalid: boolean;
+    isHighContrast: boolean;
+    reducesMotion: boolean;
+}
+
 /** What the columns' elements ask of the picker's. */
 export interface ColumnOwner {
     readonly calls: Calls;
@@ -56,7 +66,7 @@ export class Columns {
     }
 
     /** Reads all columns again. Writes only what has changed. */
-    update(traits: { isDisabled: boolean; isReadOnly: boolean; isRequired: boolean; isInvalid: boolean }): void {
+    update(traits: Traits): void {
         const { calls, number } = this.owner;
         this.count = calls.columns(number);
         let focused = -1;

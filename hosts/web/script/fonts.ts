@@ -22,6 +22,26 @@ export function numberOfFont(style: CSSStyleDeclaration): number {
     return number;
 }
 
+/** The fonts of rows and labels, as the module knows them. */
+export interface Fonts {
+    row: number;
+    rowSize: number;
+    label: number;
+    labelSize: number;
+}
+
+/** The fonts that two elements are shown in. */
+export function fontsOf(row: Element, label: Element): Fonts {
+    const rowStyle = getComputedStyle(row);
+    const labelStyle = getComputedStyle(label);
+    return {
+        row: numberOfFont(rowStyle),
+        rowSize: parseFloat(rowStyle.fontSize),
+        label: numberOfFont(labelStyle),
+        labelSize: parseFloat(labelStyle.fontSize),
+    };
+}
+
 /** The advance width and the line height of a text, in CSS pixels. */
 export function measure(font: number, size: number, text: string): [number, number] {
     if (context === undefined) {

@@ -39,10 +39,6 @@ function watch(): void {
         queries.set(query, list);
         list.addEventListener('change', () => tell((observer) => observer.traitsDidChange()));
     }
-    new MutationObserver(() => tell((observer) => observer.languageDidChange())).observe(document.documentElement, {
-        attributes: true,
-        attributeFilter: ['lang', 'dir'],
-    });
     document.fonts.addEventListener('loadingdone', () => {
         forgetLineHeights();
         loadedModule()?.calls.fontsDidLoad();
@@ -54,8 +50,26 @@ function watch(): void {
     addEventListener('pagehide', () => tell((observer) => observer.pageDidHide()));
 }
 
-export function observePage(observer: PageObserver): void {
+let languages: MutationObserver | undefined;
+const watchedRoots = new WeakSet<Node>();
+
+/** Languages and directions of the elements around one, out to its document. */
+function watchLanguages(element: Element): void {
+    languages ??= new MutationObserver(() => tell((observer) => observer.languageDidChange()));
+    let node: Element | undefined = element;
+    while (node) {
+        const root: Node = node.getRootNode();
+        if (!watchedRoots.has(root)) {
+            watchedRoots.add(root);
+            languages.observe(root, { subtree: true, attributes: true, attributeFilter: ['lang', 'dir'] });
+        }
+        node = isShadowRoot(root) ? root.host : undefined;
+    }
+}
+
+export function observePage(observer: PageObserver, element: Element): void {
     watch();
+    watchLanguages(element);
     observers.add(observer);
 }
 
@@ -63,15 +77,17 @@ export function forgetPage(observer: PageObserver): void {
     observers.delete(observer);
 }
 
+/** An element may be moved into a frame, where these classes are others. */
+const isElement = (node: Node): node is Element => node.nodeType === Node.ELEMENT_NODE;
+const isShadowRoot = (node: Node): node is ShadowRoot => 'host' in node && node.nodeType === Node.DOCUMENT_FRAGMENT_NODE;
+
 /** The language of an element: its own, or that of the nearest element around it that has one. */
 export function languageOf(element: Element): string {
     let node: Node | null = element;
     while (node) {
-        if (node instanceof Element) {
-            const language = node.getAttribute('lang');
-            if (language !== null && language !== '') return language;
-        }
-        node = node instanceof ShadowRoot ? node.host : node.parentNode;
+        const language: string | null = isElement(node) ? node.getAttribute('lang') : null;
+        if (language !== null && language !== '') return language;
+        node = isShadowRoot(node) ? node.host : node.parentNode;
     }
     return 'en';
 }

@@ -1,9 +1,11 @@
-import { define, PickerElement } from './element.js';
-import { Kind } from './properties.js';
-import type { View } from './view.js';
+import { PickerElement } from './element.js';
+import { IconPicker, WeatherAndTemperaturePicker } from './icons.js';
+import { Kind, optionsOf, propertyName, type Option, type UnitSystem } from './properties.js';
+import { Wheel } from './wheel.js';
 
-/** Metres, metres per second, degrees Celsius and so on are shown in one of two systems. */
-export type UnitSystem = 'metric' | 'imperial';
+export { IconPicker, WeatherAndTemperaturePicker } from './icons.js';
+export type { UnitSystem } from './properties.js';
+export { Wheel, type WheelColumn } from './wheel.js';
 
 /** A number from a range, in whole steps. The maximum itself is not offered. */
 export class NumberPicker extends PickerElement {
@@ -174,144 +176,6 @@ export class WeightPicker extends PickerElement {
     declare unitSelectable: boolean;
 }
 
-/** What has icons: the pictures among the element's children, in their order. */
-abstract class PickerWithIcons extends PickerElement {
-    private watch: MutationObserver | undefined;
-
-    override connectedCallback(): void {
-        super.connectedCallback();
-        this.watch = new MutationObserver(() => this.view && this.readIcons(this.view));
-        this.watch.observe(this, {
-            childList: true,
-            attributes: true,
-            subtree: true,
-            attributeFilter: ['src', 'alt', 'aria-label', 'width', 'height'],
-        });
-    }
-
-    override disconnectedCallback(): void {
-        this.watch?.disconnect();
-        super.disconnectedCallback();
-    }
-
-    protected override didOpen(view: View): void {
-        this.readIcons(view);
-    }
-
-    private readIcons(view: View): void {
-        const nodes = [...this.children].filter(
-            (child): child is HTMLElement => child instanceof HTMLImageElement || child instanceof SVGElement,
-        );
-        const size = (node: Element, name: string): number => Number(node.getAttribute(name)) || 24;
-        view.setIcons(
-            nodes.map((node) => ({
-                node,
-                width: size(node, 'width'),
-                height: size(node, 'height'),
-                label: node.getAttribute('alt') ?? node.getAttribute('aria-label') ?? '',
-            })),
-        );
-    }
-}
-
-/**
- * One of the pictures among its children, `<img alt>` or `<svg aria-label>`. The value is its
- * index.
- */
-export class IconPicker extends PickerWithIcons {
-    static override readonly kind = Kind.Icon;
-    declare value: number;
-    declare min: number;
-}
-
-/**
- * A weather, as the index of a picture among its children, and a temperature in degrees Celsius.
- */
-export class WeatherAndTemperaturePicker extends PickerWithIcons {
-    static override readonly kind = Kind.WeatherAndTemperature;
-    declare weather: number;
-    declare temperature: number;
-    declare min: number;
-    declare max: number;
-    declare step: number;
-    declare unit: UnitSystem;
-}
-
-/** A column of an application's own: titles, or how many rows there are and what shows a row. */
-export interface WheelColumn {
-    readonly rows: readonly string[] | number;
-    readonly title?: (row: number) => string;
-    /** In CSS pixels; an equal share without it. */
-    readonly width?: number;
-    readonly label?: string;
-}
-
-/** A wheel of an application's own columns. Its values are the selected rows. */
-export class Wheel extends PickerElement {
-    static override readonly kind = Kind.Columns;
-    private list: readonly WheelColumn[] = [];
-    private selected: number[] = [];
-
-    protected override ownPropertyNames(): string[] {
-        return ['columns', 'rows'];
-    }
-
-    get columns(): readonly WheelColumn[] {
-        return this.list;
-    }
-
-    set columns(columns: readonly WheelColumn[]) {
-        this.selected = this.rows;
-        this.list = [...columns];
-        if (this.view) this.didOpen(this.view);
-    }
-
-    /**
-     * The selected row of each column; while the user turns, the row in the selection indicator.
-     */
-    get rows(): number[] {
-        return this.read_(1);
-    }
-
-    set rows(rows: readonly number[]) {
-        this.selected = [...rows];
-        this.showRows();
-    }
-
-    private read_(isLive: number): number[] {
-        const view = this.view;
-        if (!view) return this.list.map((_, i) => this.selected[i] ?? 0);
-        return this.list.map((_, i) => view.call((calls) => calls.row(view.number, i, isLive), 0));
-    }
-
-    protected override usersNumbers(): number[] {
-        return this.read_(0);
-    }
-
-    private showRows(): void {
-        const view = this.view;
-        if (!view) return;
-        this.list.forEach((_, i) => view.call((calls) => calls.setRow(view.number, i, this.selected[i] ?? 0), undefined));
-        view.changed();
-    }
-
-    protected override didOpen(view: View): void {
-        const counts = this.list.map((column) => (typeof column.rows === 'number' ? column.rows : column.rows.length));
-        view.setColumns(
-            counts,
-            this.list.map((column) => ({ width: column.width ?? 0, label: column.label ?? '' })),
-        );
-        this.showRows();
-    }
-
-    protected override rowTitle(column: number, row: number): string | null {
-        const entry = this.list[column];
-        if (!entry) return null;
-        if (entry.title) return entry.title(row);
-        return typeof entry.rows === 'number' ? String(row) : (entry.rows[row] ?? null);
-    }
-}
-
 /** All elements by their names. */
 export const elements = {
     'gx-number-picker': NumberPicker,
@@ -330,6 +194,24 @@ export const elements = {
     'gx-weight-picker': WeightPicker,
     'gx-wheel': Wheel,
 } as const;
+
+/** Gives a class the accessors of its options, and the page the element. */
+function define(name: string, element: typeof PickerElement): void {
+    if (typeof customElements === 'undefined' || customElements.get(name)) return;
+    for (const option of optionsOf[element.kind]) {
+        Object.defineProperty(element.prototype, propertyName(option.attribute), {
+            configurable: true,
+            enumerable: true,
+            get(this: { getOption(asked: Option): unknown }) {
+                return this.getOption(option);
+            },
+            set(this: { setOption(asked: Option, value: unknown): void }, value: unknown) {
+                this.setOption(option, value);
+            },
+        });
+    }
+    customElements.define(name, element as unknown as CustomElementConstructor);
+}
 
 /** Defines all elements; a second call, and one where there is no DOM, does nothing. */
 export function defineElements(): void {

@@ -47,6 +47,9 @@ export enum Property {
     Value,
 }
 
+/** Metres, metres per second, degrees Celsius and so on are shown in one of two systems. */
+export type UnitSystem = 'metric' | 'imperial';
+
 /** How an attribute stands for a number of the module's. */
 export interface Option {
     /** The attribute; the property has the same name in camel case. */

@@ -1,5 +1,5 @@
-/** The style sheet of every element's shadow tree, made once a page. */
-let sheet: CSSStyleSheet | undefined;
+/** The style sheet of every element's shadow tree, made once a document. */
+const sheets = new WeakMap<Document, CSSStyleSheet>();
 
 const css = `
 :host {
@@ -60,9 +60,14 @@ const css = `
  * allows.
  */
 export function adoptStyle(root: ShadowRoot): void {
+    const page = root.ownerDocument;
+    let sheet = sheets.get(page);
     if (!sheet) {
-        sheet = new CSSStyleSheet();
+        // A document takes only sheets of its own window; one without a window shows nothing.
+        const Sheet = page.defaultView?.CSSStyleSheet ?? CSSStyleSheet;
+        sheet = new Sheet();
         sheet.replaceSync(css);
+        sheets.set(page, sheet);
     }
     root.adoptedStyleSheets = [sheet];
 }

@@ -1,6 +1,6 @@
-import { ColumnAction, Columns } from './accessibility.js';
+import { ColumnAction, Columns, type Traits } from './accessibility.js';
 import { clock } from './clock.js';
-import { numberOfFont } from './fonts.js';
+import type { Fonts } from './fonts.js';
 import { Input } from './input.js';
 import type { Calls, Client, Module } from './module.js';
 import type { Kind } from './properties.js';
@@ -15,36 +15,6 @@ export interface ViewOwner {
     /** The module has trapped; the view shows nothing any more. */
     didFail(reason: unknown): void;
     rowTitle(column: number, row: number): string | null;
-}
-
-/** What decides how a picker behaves, besides its properties. */
-export interface Traits {
-    isDisabled: boolean;
-    isReadOnly: boolean;
-    isRequired: boolean;
-    isInvalid: boolean;
-    isHighContrast: boolean;
-    reducesMotion: boolean;
-}
-
-/** The fonts of rows and labels, as the module knows them. */
-export interface Fonts {
-    row: number;
-    rowSize: number;
-    label: number;
-    labelSize: number;
-}
-
-/** The fonts that two elements are shown in. */
-export function fontsOf(row: Element, label: Element): Fonts {
-    const rowStyle = getComputedStyle(row);
-    const labelStyle = getComputedStyle(label);
-    return {
-        row: numberOfFont(rowStyle),
-        rowSize: parseFloat(rowStyle.fontSize),
-        label: numberOfFont(labelStyle),
-        labelSize: parseFloat(labelStyle.fontSize),
-    };
 }
 
 /**
@@ -97,7 +67,6 @@ export class View implements Client {
                 return isUsed;
             },
         });
-        this.columns.root.addEventListener('focusin', () => this.setReceivesKeys(true));
         this.columns.root.addEventListener('focusout', (event) => {
             if (!this.columns.root.contains(event.relatedTarget as Node | null)) this.setReceivesKeys(false);
         });
@@ -126,9 +95,7 @@ export class View implements Client {
         if (this.isClosed) return;
         this.input.cancelAll();
         this.finish();
-        this.isClosed = true;
-        if (this.request !== undefined) clock().cancelFrame(this.request);
-        this.columns.root.remove();
+        this.stop();
         this.module.unregister(this.number);
     }
 
@@ -151,10 +118,14 @@ export class View implements Client {
         return result;
     }
 
-    private fail(reason: unknown): void {
+    private stop(): void {
         this.isClosed = true;
         if (this.request !== undefined) clock().cancelFrame(this.request);
         this.columns.root.remove();
+    }
+
+    private fail(reason: unknown): void {
+        this.stop();
         this.owner.didFail(reason);
     }
 
@@ -273,8 +244,7 @@ export class View implements Client {
 
     setLabel(label: string | null): void {
         this.call((calls) => calls.setLabel(this.number, label === null ? -1 : this.module.giveText(label)), undefined);
-        this.areColumnsOld = true;
-        this.needsFrame();
+        this.changed();
     }
 
     setSize(width: number, height: number): void {
@@ -311,8 +281,6 @@ export class View implements Client {
     get valueText(): string {
         return this.call((calls) => this.module.takeText(calls.valueText(this.number)) ?? '', '');
     }
-
-    // The focus
 
     private setReceivesKeys(receives: boolean): void {
         this.call((calls) => calls.setReceivesKeys(this.number, Number(receives)), undefined);

@@ -1,0 +1,66 @@
+import { PickerElement } from './element.js';
+import { Kind, type UnitSystem } from './properties.js';
+import type { View } from './view.js';
+
+/** What has icons: the pictures among the element's children, in their order. */
+abstract class PickerWithIcons extends PickerElement {
+    private watch: MutationObserver | undefined;
+
+    override connectedCallback(): void {
+        super.connectedCallback();
+        this.watch = new MutationObserver(() => this.view && this.readIcons(this.view));
+        this.watch.observe(this, {
+            childList: true,
+            attributes: true,
+            subtree: true,
+            attributeFilter: ['src', 'alt', 'aria-label', 'width', 'height'],
+        });
+    }
+
+    override disconnectedCallback(): void {
+        this.watch?.disconnect();
+        super.disconnectedCallback();
+    }
+
+    protected override didOpen(view: View): void {
+        this.readIcons(view);
+    }
+
+    private readIcons(view: View): void {
+        const nodes = [...this.children].filter(
+            (child): child is HTMLElement => child instanceof HTMLImageElement || child instanceof SVGElement,
+        );
+        const size = (node: Element, name: string): number => Number(node.getAttribute(name)) || 24;
+        view.setIcons(
+            nodes.map((node) => ({
+                node,
+                width: size(node, 'width'),
+                height: size(node, 'height'),
+                label: node.getAttribute('alt') ?? node.getAttribute('aria-label') ?? '',
+            })),
+        );
+    }
+}
+
+/**
+ * One of the pictures among its children, `<img alt>` or `<svg aria-label>`. The value is its
+ * index.
+ */
+export class IconPicker extends PickerWithIcons {
+    static override readonly kind = Kind.Icon;
+    declare value: number;
+    declare min: number;
+}
+
+/**
+ * A weather, as the index of a picture among its children, and a temperature in degrees Celsius.
+ */
+export class WeatherAndTemperaturePicker extends PickerWithIcons {
+    static override readonly kind = Kind.WeatherAndTemperature;
+    declare weather: number;
+    declare temperature: number;
+    declare min: number;
+    declare max: number;
+    declare step: number;
+    declare unit: UnitSystem;
+}
