@@ -100,6 +100,9 @@ export type Calls = Omit<Exports, 'memory' | '_initialize' | 'text' | 'numbers'>
 const decoder = new TextDecoder();
 const encoder = new TextEncoder();
 
+/** Chosen: the titles of a few wheels. */
+const highestShortTextCount = 1000;
+
 /** The one WebAssembly module of the page, once it is there. */
 export class Module {
     private readonly exports: Exports;
@@ -107,6 +110,8 @@ export class Module {
     private drawing: Client | undefined;
     private lastNumber = 0;
     private bytes: Uint8Array;
+    /** Texts of up to four letters, by their bytes. */
+    private readonly shortTexts = new Map<number, string>();
 
     constructor(compiled: WebAssembly.Module) {
         const client = (element: number): Client | undefined => this.clients.get(element);
@@ -205,17 +210,21 @@ export class Module {
 
     private textAt(place: number, length: number): string {
         const bytes = this.view();
-        // Titles are digits nearly always; for a few letters this is faster than the decoder.
-        if (length <= 8) {
-            let text = '';
-            for (let i = place; i < place + length; i += 1) {
-                const byte = bytes[i]!;
-                if (byte > 127) return decoder.decode(bytes.subarray(place, place + length));
-                text += String.fromCharCode(byte);
-            }
-            return text;
+        if (length > 4) return decoder.decode(bytes.subarray(place, place + length));
+        // Titles are a few digits nearly always, and the same ones in each frame.
+        let code = 0;
+        for (let i = place; i < place + length; i += 1) {
+            const byte = bytes[i]!;
+            if (byte > 127) return decoder.decode(bytes.subarray(place, place + length));
+            code = code * 128 + byte;
         }
-        return decoder.decode(bytes.subarray(place, place + length));
+        let text = this.shortTexts.get(code);
+        if (text === undefined) {
+            text = decoder.decode(bytes.subarray(place, place + length));
+            if (this.shortTexts.size === highestShortTextCount) this.shortTexts.clear();
+            this.shortTexts.set(code, text);
+        }
+        return text;
     }
 }
 

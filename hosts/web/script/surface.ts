@@ -1,23 +1,31 @@
 import { lineHeight } from './fonts.js';
 import type { Drawing } from './module.js';
+import { rounded, Rects, type Shape } from './rects.js';
 
-/** What a rectangle is for (`WebShape`). */
-const enum Shape {
-    Indicator = 0,
-    Outline = 1,
-    Mark = 2,
-}
-
-/** A text or a picture on the page, and what was last written to it. */
-interface Item {
-    readonly node: HTMLElement;
-    key: string;
+/** A text or a picture of a frame. Numbers are rounded to what the page is given. */
+interface Draw {
+    /** The text; of a picture, its size. */
     text: string;
+    /** The handle of a picture; −1 for a text. */
+    image: number;
     font: number;
     size: number;
     isRow: boolean;
-    transform: string;
-    opacity: string;
+    scaleX: number;
+    scaleY: number;
+    x: number;
+    y: number;
+    alpha: number;
+    home: number;
+}
+
+/** A text or a picture on the page, and what was last written to it. */
+interface Item extends Draw {
+    readonly node: HTMLElement;
+    /** In which frame it was last drawn. */
+    frame: number;
+    /** Whether its font or its picture is to be written again. */
+    isOld: boolean;
     isShown: boolean;
 }
 
@@ -28,7 +36,7 @@ const enum Part {
     Label = 'label',
 }
 
-const rounded = (value: number): number => Math.round(value * 1000) / 1000;
+const nothing: Draw = { text: '', image: -1, font: -1, size: 0, isRow: false, scaleX: 1, scaleY: 1, x: NaN, y: NaN, alpha: NaN, home: 0 };
 
 /**
  * Shows the frames of an element: each row in sight is an element of its own, moved by its
@@ -39,22 +47,13 @@ const rounded = (value: number): number => Math.round(value * 1000) / 1000;
  */
 export class Surface implements Drawing {
     readonly root: HTMLElement;
-    private items: Item[] = [];
-    private readonly byKey = new Map<string, Item>();
-    private readonly rects: HTMLElement[] = [];
+    private readonly items: Item[] = [];
+    private readonly rects: Rects;
     private readonly images = new Map<number, HTMLElement>();
-    private rectCount = 0;
-    private draws: {
-        key: string;
-        text: string;
-        image: number;
-        font: number;
-        size: number;
-        isRow: boolean;
-        transform: string;
-        opacity: string;
-    }[] = [];
+    private readonly draws: Draw[] = [];
     private drawCount = 0;
+    private frame = 0;
+    private readonly open: Draw[] = [];
     /** The font of labels, by which they are told from separators. */
     labelFont = -1;
 
@@ -62,34 +61,24 @@ export class Surface implements Drawing {
         this.root = document.createElement('div');
         this.root.className = 'surface';
         this.root.setAttribute('aria-hidden', 'true');
+        this.rects = new Rects(this.root);
     }
 
     /** The picture that a handle stands for is copied for each row that shows it. */
     setImages(images: readonly HTMLElement[]): void {
         this.images.clear();
         images.forEach((image, handle) => this.images.set(handle, image));
-        for (const item of this.items) if (item.font < 0) item.text = '';
+        for (const item of this.items) if (item.image >= 0) item.isOld = true;
     }
 
     begin(): void {
-        this.rectCount = 0;
+        this.frame += 1;
+        this.rects.begin();
         this.drawCount = 0;
     }
 
     fillRect(shape: Shape, x: number, y: number, width: number, height: number, radius: number, alpha: number): void {
-        const node = this.rects[this.rectCount] ?? this.addRect();
-        this.rectCount += 1;
-        const part = shape === Shape.Indicator ? 'indicator' : shape === Shape.Outline ? 'outline' : 'focus';
-        if (node.part.value !== part) node.part.value = part;
-        if (node.className !== part) node.className = part;
-        const style = node.style;
-        set(style, 'transform', `translate(${rounded(x)}px,${rounded(y)}px)`);
-        set(style, 'width', `${rounded(width)}px`);
-        set(style, 'height', `${rounded(height)}px`);
-        // The page says how round the indicator is.
-        set(style, 'borderRadius', shape === Shape.Indicator ? '' : `${radius}px`);
-        set(style, 'opacity', String(rounded(alpha)));
-        set(style, 'display', '');
+        this.rects.fill(shape, x, y, width, height, radius, alpha);
     }
 
     drawText(
@@ -104,7 +93,7 @@ export class Surface implements Drawing {
         alpha: number,
         home: number,
     ): void {
-        this.add(`${rounded(home)}/${font}/${text}`, text, -1, font, size, isRow, scaleX, scaleY, x, y, alpha);
+        this.add(text, -1, font, size, isRow, scaleX, scaleY, x, y, alpha, home);
     }
 
     drawImage(
@@ -118,11 +107,10 @@ export class Surface implements Drawing {
         alpha: number,
         home: number,
     ): void {
-        this.add(`${rounded(home)}/image/${image}`, `${width}/${height}`, image, -1, 0, true, scaleX, scaleY, x, y, alpha);
+        this.add(`${width}/${height}`, image, -1, 0, true, scaleX, scaleY, x, y, alpha, home);
     }
 
     private add(
-        key: string,
         text: string,
         image: number,
         font: number,
@@ -133,75 +121,90 @@ export class Surface implements Drawing {
         x: number,
         y: number,
         alpha: number,
+        home: number,
     ): void {
-        const transform =
-            scaleX === 1 && scaleY === 1
-                ? `translate(${rounded(x)}px,${rounded(y)}px)`
-                : `matrix(${rounded(scaleX)},0,0,${rounded(scaleY)},${rounded(x)},${rounded(y)})`;
-        const opacity = String(rounded(alpha));
-        const draw = this.draws[this.drawCount];
-        if (draw) Object.assign(draw, { key, text, image, font, size, isRow, transform, opacity });
-        else this.draws.push({ key, text, image, font, size, isRow, transform, opacity });
+        const draw = (this.draws[this.drawCount] ??= { ...nothing });
         this.drawCount += 1;
+        draw.text = text;
+        draw.image = image;
+        draw.font = font;
+        draw.size = size;
+        draw.isRow = isRow;
+        draw.scaleX = rounded(scaleX);
+        draw.scaleY = rounded(scaleY);
+        draw.x = rounded(x);
+        draw.y = rounded(y);
+        draw.alpha = rounded(alpha);
+        draw.home = rounded(home);
     }
 
     end(): void {
-        for (let i = this.rectCount; i < this.rects.length; i += 1) set(this.rects[i]!.style, 'display', 'none');
-        const taken = new Set<Item>();
-        const open: number[] = [];
+        this.rects.end();
         // What is shown already keeps its item; the others take those that are left.
+        this.open.length = 0;
+        let next = 0;
         for (let i = 0; i < this.drawCount; i += 1) {
-            const item = this.byKey.get(this.draws[i]!.key);
-            if (item && !taken.has(item)) {
-                taken.add(item);
-                this.write(item, i);
+            const draw = this.draws[i]!;
+            const place = this.placeOf(draw, next);
+            if (place < 0) {
+                this.open.push(draw);
             } else {
-                open.push(i);
+                this.write(this.items[place]!, draw);
+                next = place + 1;
             }
         }
-        const free = this.items.filter((item) => !taken.has(item));
-        for (const i of open) {
-            const draw = this.draws[i]!;
+        for (const draw of this.open) {
             const isImage = draw.image >= 0;
-            const place = free.findIndex((item) => isImage === item.font < 0);
-            const item = place >= 0 ? free.splice(place, 1)[0]! : this.addItem(isImage);
-            if (this.byKey.get(item.key) === item) this.byKey.delete(item.key);
-            item.key = draw.key;
-            this.byKey.set(draw.key, item);
-            this.write(item, i);
+            const item = this.items.find((free) => free.frame !== this.frame && isImage === free.image >= 0);
+            this.write(item ?? this.addItem(isImage), draw);
         }
-        for (const item of free) {
-            if (!item.isShown) continue;
+        for (const item of this.items) {
+            if (item.frame === this.frame || !item.isShown) continue;
             item.isShown = false;
             item.node.style.visibility = 'hidden';
         }
     }
 
-    private write(item: Item, index: number): void {
-        const draw = this.draws[index]!;
+    /**
+     * Where the item is that shows this already. Frames draw nearly the same in the same order, so
+     * it mostly is the next one.
+     */
+    private placeOf(draw: Draw, next: number): number {
+        const count = this.items.length;
+        for (let i = 0; i < count; i += 1) {
+            const place = (next + i) % count;
+            const item = this.items[place]!;
+            if (item.frame === this.frame || item.home !== draw.home || item.image !== draw.image) continue;
+            if (draw.image >= 0 || (item.font === draw.font && item.text === draw.text)) return place;
+        }
+        return -1;
+    }
+
+    private write(item: Item, draw: Draw): void {
         const style = item.node.style;
-        if (item.text !== draw.text || (draw.image >= 0 && item.font !== -2 - draw.image)) {
-            item.text = draw.text;
-            if (draw.image >= 0) this.showImage(item, draw.image, draw.text);
-            else item.node.textContent = draw.text;
+        item.frame = this.frame;
+        item.home = draw.home;
+        if (draw.image >= 0) {
+            if (item.isOld || item.text !== draw.text || item.image !== draw.image) this.showImage(item, draw.image, draw.text);
+        } else {
+            if (item.text !== draw.text) item.node.textContent = draw.text;
+            if (item.isOld || item.font !== draw.font || item.size !== draw.size || item.isRow !== draw.isRow) this.showFont(item, draw);
         }
-        if (draw.image < 0 && (item.font !== draw.font || item.size !== draw.size || item.isRow !== draw.isRow)) {
-            item.font = draw.font;
-            item.size = draw.size;
-            item.isRow = draw.isRow;
-            const part = draw.font === this.labelFont ? Part.Label : draw.isRow ? Part.Row : Part.Separator;
-            item.node.part.value = part;
-            item.node.className = `text ${part}`;
-            style.fontSize = `${draw.size}px`;
-            style.lineHeight = `${lineHeight(draw.font, draw.size)}px`;
+        item.text = draw.text;
+        item.image = draw.image;
+        item.isOld = false;
+        const { scaleX, scaleY, x, y, alpha } = draw;
+        if (item.x !== x || item.y !== y || item.scaleX !== scaleX || item.scaleY !== scaleY) {
+            item.x = x;
+            item.y = y;
+            item.scaleX = scaleX;
+            item.scaleY = scaleY;
+            const isScaled = scaleX !== 1 || scaleY !== 1;
+            style.transform = isScaled ? `matrix(${scaleX},0,0,${scaleY},${x},${y})` : `translate(${x}px,${y}px)`;
         }
-        if (item.transform !== draw.transform) {
-            item.transform = draw.transform;
-            style.transform = draw.transform;
-        }
-        if (item.opacity !== draw.opacity) {
-            item.opacity = draw.opacity;
-            style.opacity = draw.opacity;
+        if (item.alpha !== alpha) {
+            item.alpha = alpha;
+            style.opacity = String(alpha);
         }
         if (!item.isShown) {
             item.isShown = true;
@@ -209,9 +212,19 @@ export class Surface implements Drawing {
         }
     }
 
+    private showFont(item: Item, draw: Draw): void {
+        item.font = draw.font;
+        item.size = draw.size;
+        item.isRow = draw.isRow;
+        const part = draw.font === this.labelFont ? Part.Label : draw.isRow ? Part.Row : Part.Separator;
+        item.node.part.value = part;
+        item.node.className = `text ${part}`;
+        item.node.style.fontSize = `${draw.size}px`;
+        item.node.style.lineHeight = `${lineHeight(draw.font, draw.size)}px`;
+    }
+
     private showImage(item: Item, image: number, size: string): void {
         const [width, height] = size.split('/');
-        item.font = -2 - image;
         const copy = this.images.get(image)?.cloneNode(true) as HTMLElement | undefined;
         copy?.removeAttribute('id');
         copy?.removeAttribute('slot');
@@ -225,44 +238,18 @@ export class Surface implements Drawing {
         node.className = isImage ? 'image' : 'text';
         if (isImage) node.part.value = 'image';
         this.root.append(node);
-        const item: Item = {
-            node,
-            key: '',
-            text: '',
-            font: isImage ? -1 : NaN,
-            size: 0,
-            isRow: false,
-            transform: '',
-            opacity: '',
-            isShown: true,
-        };
+        const item: Item = { ...nothing, node, image: isImage ? 0 : -1, frame: 0, isOld: true, isShown: true };
         this.items.push(item);
         return item;
     }
 
-    private addRect(): HTMLElement {
-        const node = document.createElement('div');
-        // Below all texts, in the order of drawing.
-        const last = this.rects[this.rects.length - 1];
-        if (last) last.after(node);
-        else this.root.prepend(node);
-        this.rects.push(node);
-        return node;
-    }
-
     /** After new fonts: sizes and line heights are written again. */
     forgetFonts(): void {
-        for (const item of this.items) if (item.font >= 0) item.font = NaN;
+        for (const item of this.items) if (item.image < 0) item.isOld = true;
     }
 
     /** How many elements it has made, for tests. */
     get nodeCount(): number {
-        return this.items.length + this.rects.length;
+        return this.items.length + this.rects.count;
     }
-}
-
-type Writable = 'transform' | 'width' | 'height' | 'borderRadius' | 'opacity' | 'display';
-
-function set(style: CSSStyleDeclaration, name: Writable, value: string): void {
-    if (style[name] !== value) style[name] = value;
 }
