@@ -5,6 +5,7 @@
 #include "GXHeartRatePickerView.h"
 #include "NSLocale.h"
 #include "PickerTest.h"
+#include "UITextEngine.h"
 
 using namespace gx;
 
@@ -40,6 +41,27 @@ TEST_F(RightToLeft, TheUnitOfABasePickerStandsLeftOfItsTitlesAtTheSameDistance) 
     EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(125, 98, 30, 20));
     // The other label begins 10 after the titles' end.
     EXPECT_EQ(wheel->leftDescLabel()->frame(), CGRectMake(195, 98, 40, 20));
+}
+
+TEST_F(RightToLeft, AUnitIsAsFarFromTheWidestDigits) {
+    /// The digits 0 to 8 are four points wider than all others.
+    class UnequalDigits : public UITextEngine {
+        CGSize sizeOfText_font(std::string_view text, const UIFont&) override {
+            CGFloat width = 0;
+            for (const char letter : text) width += letter >= '0' && letter <= '8' ? 14 : 10;
+            return {width, 20};
+        }
+    };
+    UITextEngine::setShared(create<UnequalDigits>());
+    const auto base = picker<GXBasePickerView>();
+    const auto& wheel = base->pickerView();
+    wheel->setRightLabelText("bpm");
+    // The last title is "99", of 20 points, but "80" needs 28: it begins at 157.
+    EXPECT_EQ(wheel->rightDescLabel()->frame(), CGRectMake(117, 98, 30, 20));
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("en"));
+    wheel->setLeftLabelText("bpm");
+    EXPECT_EQ(wheel->leftDescLabel()->frame(), CGRectMake(125, 98, 30, 20)) << "where one reads from the left it is the last title's";
+    UITextEngine::setShared(nullptr);
 }
 
 TEST_F(RightToLeft, InADistancePickerTheColumnsKeepTheirOrder) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "GXDigitWidths.h"
 #include "GXStyleSheet.h"
-#include "UITextEngine.h"
 
 namespace gx {
 
@@ -30,23 +30,6 @@ bool areLabelsInsideIndicator(const Ref<GXMultiValuePickerView>& wheel) {
         return !label->showsSomething() || !isOutside;
     };
     return isInside(wheel->leftDescLabel()) && isInside(wheel->rightDescLabel());
-}
-
-/// The widest of all texts that differ from this one in their digits alone: digits need not be
-/// equally wide.
-CGFloat widthWithAnyDigits(std::string text, const Ref<UIFont>& font) {
-    const Ref<UITextEngine> engine = UITextEngine::shared();
-    char widest = '0';
-    CGFloat width = 0;
-    for (char digit = '0'; digit <= '9'; ++digit) {
-        const CGFloat digitWidth = engine->sizeOfText_font(std::string(1, digit), *font).width;
-        if (digitWidth <= width) continue;
-        widest = digit;
-        width = digitWidth;
-    }
-    std::replace_if(
-        text.begin(), text.end(), [](char letter) { return letter >= '0' && letter <= '9'; }, widest);
-    return engine->sizeOfText_font(text, *font).width;
 }
 
 /// Some columns are of one width whatever the font, so that a large one would have its titles cut.

@@ -1,5 +1,6 @@
 #include "GXMultiValuePickerView.h"
 
+#include "GXDigitWidths.h"
 #include "GXStyleSheet.h"
 #include "NSArithmetic.h"
 #include "NSLocale.h"
@@ -215,7 +216,10 @@ CGFloat GXMultiValuePickerView::widestTitleWidth(const Sources& sources, NSInteg
     const NSInteger rows = sources.dataSource->pickerView_numberOfRowsInComponent(wheel, component);
     // The last title is taken to be the widest: the numbers of a component grow.
     const auto title = sources.delegate->pickerView_titleForRow_forComponent(wheel, wrappingSubtract<NSInteger>(rows, 1), component);
-    return sizeOfText(title, valueFont()).width;
+    // Where a unit stands before the number, it is beside the first digit of any row.
+    const Ref<GXStyleSheetFont> font = valueFont();
+    if (areSidesChanged() && title && font) return widthWithAnyDigits(*title, font->font());
+    return sizeOfText(title, font).width;
 }
 
 bool GXMultiValuePickerView::areSidesChanged() const { return labelsFollowReading_ && NSLocale::currentLocale()->isRightToLeft(); }
