@@ -27,7 +27,7 @@ PickerDemo pickerDemo(const Ref<GXBasePickerView>& picker, const NoticeHandler& 
                       std::function<std::string(const NSNumber&, NSInteger)> inWords) {
     const auto delegate = create<FunctionDelegate>();
     delegate->handler = [report, unit, inWords = std::move(inWords)](const NSNumber& value, NSInteger component) {
-        const std::string number = NumberFormat::boxed(value) + " " + unit;
+        const std::string number = NumberFormat::isolated(NumberFormat::boxed(value) + " " + unit);
         report({inWords(value, component), Translations::filled("{0} (component {1})", number, std::to_string(component))});
     };
     picker->setDelegate(delegate);

@@ -33,12 +33,15 @@ std::string decimalWithSeparator(double value, int digits, const std::string& se
 } // namespace
 
 std::string NumberFormat::decimal(double value, int digits) {
-    const Ref<NSLocale> locale = NSLocale::currentLocale();
-    const std::string text = decimalWithSeparator(value, digits, locale->objectForKey(NSLocaleDecimalSeparator).value_or("."));
+    const auto separator = NSLocale::currentLocale()->objectForKey(NSLocaleDecimalSeparator);
+    const std::string text = decimalWithSeparator(value, digits, separator.value_or("."));
     // Beside a unit in Arabic the sign would stand behind the digits.
-    const bool isIsolated = locale->isRightToLeft() && text.find("−") == 0;
+    return text.find("−") == 0 ? isolated(text) : text;
+}
+
+std::string NumberFormat::isolated(const std::string& text) {
     // It closes what it opens. NOLINTNEXTLINE(misc-misleading-bidirectional)
-    return isIsolated ? "\u2066" + text + "\u2069" : text;
+    return NSLocale::currentLocale()->isRightToLeft() ? "\u2066" + text + "\u2069" : text;
 }
 
 std::string NumberFormat::minutes(std::int64_t seconds) { return std::to_string(seconds / 60) + ":" + twoDigits(seconds % 60); }

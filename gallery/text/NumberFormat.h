@@ -14,8 +14,11 @@ public:
 
     /// Rounded to `digits` decimals (0 to 6), halves away from zero: "5.3" or "5,3", with the
     /// decimal separator of the current locale. "–" for what is not finite or too large to count.
-    /// Isolated in a right-to-left locale if it is negative.
+    /// Isolated if it is negative.
     static std::string decimal(double value, int digits);
+    /// A number and a Latin unit that keep their order in a right-to-left locale; the same text in
+    /// others.
+    static std::string isolated(const std::string& text);
     /// Minutes and seconds, "5:07".
     static std::string minutes(std::int64_t seconds);
     /// Hours and minutes, "1:05".

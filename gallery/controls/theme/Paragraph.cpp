@@ -2,6 +2,7 @@
 
 #include "LineBreaks.h"
 #include "ReadingDirection.h"
+#include "TextDirection.h"
 #include <GXUIPickers/UIGraphicsContext.h>
 #include <GXUIPickers/UITextEngine.h>
 
@@ -79,7 +80,14 @@ const std::vector<std::string>& Paragraph::linesForWidth(CGFloat width) const {
     linesFont_ = font;
     linesWidth_ = width;
     lines_ = LineBreaks::linesOfText_width(text_, width, [this](std::string_view part) { return widthOf(part); });
+    linesFromRight_.clear();
+    if (!TextDirection::hasLettersFromRight(text_)) return lines_;
+    for (const std::string& line : lines_) linesFromRight_.push_back(TextDirection::lineOfTextFromRight(line));
     return lines_;
+}
+
+const std::string& Paragraph::drawnLine(std::size_t index) const {
+    return linesFromRight_.empty() ? lines_[index] : linesFromRight_[index];
 }
 
 CGSize Paragraph::sizeThatFits(CGSize available) const {
@@ -92,9 +100,9 @@ void Paragraph::drawRect(UIGraphicsContext& context, CGRect rect) {
     const CGFloat height = static_cast<CGFloat>(lines.size()) * lineHeight();
     const CGFloat share = shareBeforeLine(alignment_);
     CGFloat y = rect.origin.y + 0.5 * (rect.size.height - height);
-    for (const std::string& line : lines) {
-        const CGFloat x = share == 0 ? 0 : share * (rect.size.width - widthOf(line));
-        context.drawText(line, *Theme::font(style_), color_, {rect.origin.x + x, y});
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const CGFloat x = share == 0 ? 0 : share * (rect.size.width - widthOf(lines[i]));
+        context.drawText(drawnLine(i), *Theme::font(style_), color_, {rect.origin.x + x, y});
         y += lineHeight();
     }
 }

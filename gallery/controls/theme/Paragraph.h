@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,7 @@ public:
 
 private:
     gx::CGFloat lineHeight() const;
+    const std::string& drawnLine(std::size_t index) const;
     gx::CGFloat widthOf(std::string_view text) const;
 
     std::string text_;
@@ -51,6 +53,7 @@ private:
 
     // The lines for a width and a font, broken once.
     mutable std::vector<std::string> lines_;
+    mutable std::vector<std::string> linesFromRight_; // As they are drawn; empty for other texts.
     mutable gx::CGFloat linesWidth_ = 0;
     mutable gx::Ref<gx::UIFont> linesFont_; // Empty while there are no lines.
 };

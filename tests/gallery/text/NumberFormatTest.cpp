@@ -41,6 +41,12 @@ TEST_F(NumberFormatTest, NegativeOnesKeepTheirOrderInTextFromTheRight) {
     EXPECT_EQ(NumberFormat::decimal(17.2, 1), "17\u066B2") << "the digits are the rules' own, the separator the locale's";
 }
 
+TEST_F(NumberFormatTest, ANumberAndItsLatinUnitKeepTheirOrderInTextFromTheRight) {
+    EXPECT_EQ(NumberFormat::isolated("75.8 kg"), "75.8 kg");
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("he"));
+    EXPECT_EQ(NumberFormat::isolated("75.8 kg"), "\u206675.8 kg\u2069");
+}
+
 TEST_F(NumberFormatTest, TheSeparatorIsTheUsers) {
     NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("de"));
     EXPECT_EQ(NumberFormat::decimal(5.3, 1), "5,3");

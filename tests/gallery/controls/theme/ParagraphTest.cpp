@@ -57,3 +57,16 @@ TEST(ParagraphTest, LinesBeginWhereTheLocaleIsReadFrom) {
     EXPECT_EQ(placeOfText("he", NSTextAlignmentLeft), "text abcd at 0 11");
     EXPECT_EQ(placeOfText("he", NSTextAlignmentCenter), "text abcd at 30 11");
 }
+
+TEST(ParagraphTest, LinesOfATextFromTheRightAreDrawnFromTheRight) {
+    const auto text = create<Paragraph>(CGRectMake(0, 0, 50, 66));
+    // Five characters a line: letters from the right, one from the left, and a digit alone.
+    text->setText("\u05D0\u05D0\u05D0 abc\u05D0 12345");
+    RecordingCanvas canvas;
+    text->drawRect(canvas, text->bounds());
+    ASSERT_EQ(canvas.calls.size(), 3U);
+    EXPECT_EQ(canvas.calls[0].find("text \u05D0\u05D0\u05D0 at"), 0U) << canvas.calls[0];
+    EXPECT_EQ(canvas.calls[1].find("text \u200Fabc\u05D0 at"), 0U) << canvas.calls[1];
+    EXPECT_EQ(canvas.calls[2].find("text \u200F12345 at"), 0U) << canvas.calls[2];
+    EXPECT_EQ(text->linesForWidth(50).at(2), "12345");
+}
