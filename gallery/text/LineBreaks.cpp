@@ -63,6 +63,12 @@ bool areOneSound(char32_t first, char32_t second) {
     return endsInH || isPolish || (first == 'c' && second == 'k') || (first == 'q' && second == 'u') || second == U'ь' || second == U'ъ';
 }
 
+/// A consonant and the r or l that follows begin a syllable together: "fil-tre".
+bool areOneOnset(char32_t first, char32_t second) {
+    const bool isLiquid = second == 'r' || second == 'l';
+    return isLiquid && isOneOf(U"bcdfgkptv", first) && !(second == 'l' && (first == 'd' || first == 't'));
+}
+
 /// A text that is not broken unless it is wider than a line.
 struct Piece {
     std::string_view text;
@@ -97,17 +103,30 @@ std::vector<Piece> piecesOf(std::string_view text) {
 
 bool endsInDigit(std::string_view text) { return !text.empty() && text.back() >= '0' && text.back() <= '9'; }
 
+/// How many pieces a unit has from here on: one, or the characters of a short Chinese or Japanese
+/// one. A longer run of them is a sentence.
+std::size_t lengthOfUnit(const std::vector<Piece>& pieces, std::size_t first) {
+    constexpr std::size_t longest = 3;
+    std::size_t end = first + 1;
+    while (end < pieces.size() && !pieces[end].followsSpace) ++end;
+    return end - first <= longest ? end - first : 1;
+}
+
 /// A number and the unit behind it, joined where both fit in one line.
 std::vector<Piece> joinNumbersAndUnits(const std::vector<Piece>& pieces, CGFloat room, const LineBreaks::WidthOf& widthOf) {
     std::vector<Piece> joined;
     bool isNumber = false; // A unit is no number, so "3 4 km" joins only its end.
-    for (const Piece& piece : pieces) {
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        const Piece& piece = pieces[i];
         if (isNumber && piece.followsSpace && !endsInDigit(piece.text)) {
+            const std::size_t length = lengthOfUnit(pieces, i);
+            const std::string_view end = pieces[i + length - 1].text;
             const char* const start = joined.back().text.data();
-            const std::string_view both(start, static_cast<std::size_t>(piece.text.data() + piece.text.size() - start));
+            const std::string_view both(start, static_cast<std::size_t>(end.data() + end.size() - start));
             if (widthOf(both) <= room) {
                 joined.back().text = both;
                 isNumber = false;
+                i += length - 1;
                 continue;
             }
         }
@@ -125,8 +144,9 @@ bool beginsSyllable(const std::vector<Character>& word, std::size_t at) {
     const bool areLetters =
         std::all_of(word.begin() + static_cast<std::ptrdiff_t>(at - fewest), word.begin() + static_cast<std::ptrdiff_t>(at + fewest),
                     [](const Character& character) { return isLetter(character.code); });
-    if (!areLetters || isVowel(code(at)) || areOneSound(code(at - 1), code(at))) return false;
-    const bool isPair = at + 2 < word.size() && areOneSound(code(at), code(at + 1));
+    const auto stayTogether = [](char32_t first, char32_t second) { return areOneSound(first, second) || areOneOnset(first, second); };
+    if (!areLetters || isVowel(code(at)) || stayTogether(code(at - 1), code(at))) return false;
+    const bool isPair = at + 2 < word.size() && stayTogether(code(at), code(at + 1));
     if (!isVowel(code(isPair ? at + 2 : at + 1))) return false;
     return std::any_of(word.begin(), word.begin() + static_cast<std::ptrdiff_t>(at),
                        [](const Character& character) { return isVowel(character.code); });

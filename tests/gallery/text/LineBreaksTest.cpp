@@ -38,6 +38,9 @@ TEST(LineBreaksTest, ALongWordIsDividedBeforeASyllable) {
     EXPECT_EQ(linesOf("Kilometer", 8), (Lines{"Kilome-", "ter"}));
     EXPECT_EQ(linesOf("Machines", 7), (Lines{"Machi-", "nes"}));
     EXPECT_EQ(linesOf("Machines", 5), (Lines{"Ma-", "chi-", "nes"})) << "not between c and h";
+    EXPECT_EQ(linesOf("Dezimaltrennzeichen", 10), (Lines{"Dezimal-", "trennzei-", "chen"})) << "t and r begin a syllable together";
+    EXPECT_EQ(linesOf("Filtre", 5), (Lines{"Fil-", "tre"}));
+    EXPECT_EQ(linesOf("Atlas", 4), (Lines{"At-", "las"})) << "t and l do not";
     EXPECT_EQ(linesOf("\u0440\u0430\u0441\u0441\u0442\u043E\u044F\u043D\u0438\u0435", 6),
               (Lines{"\u0440\u0430\u0441\u0441-", "\u0442\u043E\u044F\u043D\u0438\u0435"}));
 }
@@ -54,6 +57,11 @@ TEST(LineBreaksTest, ANumberStaysWithItsUnitWhereBothFit) {
     EXPECT_EQ(linesOf("1 of 2 columns", 7), (Lines{"1 of 2", "columns"})) << "too wide for one line together";
     EXPECT_EQ(linesOf("3 4 km", 4), (Lines{"3", "4 km"})) << "the nearest number";
     EXPECT_EQ(linesOf("MAX 171", 6), (Lines{"MAX", "171"})) << "not with the word before it";
+    EXPECT_EQ(linesOf("5 km, 0:27 \u6642\u9593", 12), (Lines{"5 km,", "0:27 \u6642\u9593"})) << "all characters of a unit";
+    // A unit has up to three characters. Four are a sentence, which may break anywhere.
+    EXPECT_EQ(linesOf("3 \u3042\u3044\u3046", 5), Lines{"3 \u3042\u3044\u3046"});
+    EXPECT_EQ(linesOf("a 3 \u3042\u3044\u3046", 6), (Lines{"a", "3 \u3042\u3044\u3046"}));
+    EXPECT_EQ(linesOf("a 3 \u3042\u3044\u3046\u3048", 6), (Lines{"a 3 \u3042\u3044", "\u3046\u3048"}));
 }
 
 TEST(LineBreaksTest, ChineseAndJapaneseBreakBetweenCharactersButNotBeforePunctuation) {
