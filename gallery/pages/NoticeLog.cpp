@@ -89,23 +89,31 @@ CGSize NoticeLog::sizeThatFits(CGSize available) const {
     return {available.width, top + heightOfRows(width) + 0.5 * Theme::cardPadding};
 }
 
-CGFloat NoticeLog::placeRow(const Row& row, CGFloat y, CGFloat width) {
+bool NoticeLog::hasOneLine(const Row& row, CGFloat width) {
+    return std::ceil(row.words->widthInOneLine()) + columnGap + row.facts->widthInOneLine() <= width;
+}
+
+CGFloat NoticeLog::heightOfRow(const Row& row, CGFloat width) {
+    if (hasOneLine(row, width)) return heightOfOneLine();
+    return std::ceil(row.words->sizeThatFits({width, 0}).height + row.facts->sizeThatFits({width, 0}).height) + 2 * rowPadding;
+}
+
+void NoticeLog::placeRow(const Row& row, CGFloat y, CGFloat width, CGFloat height) {
     const CGFloat x = Theme::cardPadding;
     const auto place = [this](Paragraph& text, CGRect frame) { text.setFrame(ReadingDirection::frame(frame, bounds().size.width)); };
-    const CGFloat wordsWidth = std::ceil(row.words->widthInOneLine());
-    const CGFloat factsX = wordsWidth + columnGap;
-    const bool hasOneLine = factsX + row.facts->widthInOneLine() <= width;
-    row.facts->setTextAlignment(hasOneLine ? ReadingDirection::trailingAlignment() : NSTextAlignmentNatural);
-    if (hasOneLine) {
-        place(*row.words, CGRectMake(x, y, wordsWidth, heightOfOneLine()));
-        place(*row.facts, CGRectMake(x + factsX, y, width - factsX, heightOfOneLine()));
-        return heightOfOneLine();
+    const bool isBeside = hasOneLine(row, width);
+    row.facts->setTextAlignment(isBeside ? ReadingDirection::trailingAlignment() : NSTextAlignmentNatural);
+    const CGFloat top = y + std::floor(0.5 * (height - heightOfRow(row, width)));
+    if (isBeside) {
+        const CGFloat wordsWidth = std::ceil(row.words->widthInOneLine());
+        const CGFloat factsX = wordsWidth + columnGap;
+        place(*row.words, CGRectMake(x, top, wordsWidth, heightOfOneLine()));
+        place(*row.facts, CGRectMake(x + factsX, top, width - factsX, heightOfOneLine()));
+        return;
     }
     const CGFloat wordsHeight = row.words->sizeThatFits({width, 0}).height;
-    const CGFloat factsHeight = row.facts->sizeThatFits({width, 0}).height;
-    place(*row.words, CGRectMake(x, y + rowPadding, width, wordsHeight));
-    place(*row.facts, CGRectMake(x, y + rowPadding + wordsHeight, width, factsHeight));
-    return std::ceil(wordsHeight + factsHeight) + 2 * rowPadding;
+    place(*row.words, CGRectMake(x, top + rowPadding, width, wordsHeight));
+    place(*row.facts, CGRectMake(x, top + rowPadding + wordsHeight, width, row.facts->sizeThatFits({width, 0}).height));
 }
 
 void NoticeLog::layoutSubviews() {
@@ -114,18 +122,26 @@ void NoticeLog::layoutSubviews() {
     const CGFloat x = Theme::cardPadding;
     heading_->setFrame(CGRectMake(x, x, width, headingHeight(width)));
     CGFloat y = x + headingHeight(width) + headingGap;
-    const CGFloat bottom = y + heightOfRows(width);
     invitation_->setFrame(CGRectMake(x, y, width, std::max(heightOfOneLine(), std::ceil(invitation_->sizeThatFits({width, 0}).height))));
+
+    CGFloat room = heightOfRows(width);
+    std::size_t shown = 0;
+    for (; shown < notices_.size(); ++shown) {
+        const CGFloat height = heightOfRow(rows_[shown], width);
+        if (shown > 0 && height > room) break;
+        room -= height;
+    }
+    const bool isFull = shown < notices_.size();
+    const CGFloat share = isFull ? std::max(0.0, std::floor(room / static_cast<CGFloat>(shown))) : 0;
     lines_.clear();
-    bool hasRoom = true;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         const Row& row = rows_[i];
-        const CGFloat height = i < notices_.size() ? placeRow(row, y, width) : 0;
-        hasRoom = hasRoom && i < notices_.size() && (i == 0 || y + height <= bottom);
-        row.words->setHidden(!hasRoom);
-        row.facts->setHidden(!hasRoom);
-        if (!hasRoom) continue;
+        row.words->setHidden(i >= shown);
+        row.facts->setHidden(i >= shown);
+        if (i >= shown) continue;
         if (i > 0) lines_.push_back(y);
+        const CGFloat height = heightOfRow(row, width) + share;
+        placeRow(row, y, width, height);
         y += height;
     }
     setNeedsDisplay();

@@ -10,9 +10,10 @@ namespace gallery {
 
 /// The latest calls of a delegate, newest on top.
 ///
-/// Its height depends on its width and the text size alone, so that nothing on the page moves while
-/// a wheel spins. Where the facts have no room beside the words they stand below them; notices for
-/// which there is no room are hidden.
+/// - Its height depends on its width and the text size alone, so that nothing on the page moves
+///   while a wheel spins.
+/// - Where the facts have no room beside the words they stand below them.
+/// - Notices for which there is no room are hidden. Then the others share the room that is left.
 class NoticeLog : public gx::UIView {
 public:
     static constexpr std::size_t capacity = 6;
@@ -36,8 +37,10 @@ private:
         gx::Ref<Paragraph> facts;
     };
     gx::CGFloat headingHeight(gx::CGFloat width) const;
-    /// Places a row and returns its height.
-    gx::CGFloat placeRow(const Row& row, gx::CGFloat y, gx::CGFloat width);
+    static bool hasOneLine(const Row& row, gx::CGFloat width);
+    static gx::CGFloat heightOfRow(const Row& row, gx::CGFloat width);
+    /// Places a row in the middle of this height.
+    void placeRow(const Row& row, gx::CGFloat y, gx::CGFloat width, gx::CGFloat height);
 
     std::vector<DelegateNotice> notices_;
     gx::Ref<Paragraph> heading_;

@@ -42,6 +42,19 @@ TEST_F(NoticeLogTest, FactsStandBesideTheWordsWhereBothFit) {
     EXPECT_EQ(visibleFrames(), (std::vector<CGRect>{{{16, 95}, {131, 22}}, {{16, 117}, {131, 22}}}));
 }
 
+TEST_F(NoticeLogTest, NoticesOfAFullListShareTheRoomThatIsLeft) {
+    // In 200 points there is room for two notices of 10 + 3 * 22 = 76, and 48 are left. The heading
+    // has three lines in 132 points.
+    for (int i = 0; i < 2; ++i) log->addNotice({"5.3 km", "5300.0 m of a run"});
+    layWithWidth(16 + 132 + 16);
+    EXPECT_EQ(visibleFrames(),
+              (std::vector<CGRect>{{{16, 95}, {132, 22}}, {{16, 117}, {132, 44}}, {{16, 171}, {132, 22}}, {{16, 193}, {132, 44}}}));
+    log->addNotice({"5.3 km", "5300.0 m of a run"});
+    layWithWidth(16 + 132 + 16);
+    EXPECT_EQ(visibleFrames(),
+              (std::vector<CGRect>{{{16, 107}, {132, 22}}, {{16, 129}, {132, 44}}, {{16, 207}, {132, 22}}, {{16, 229}, {132, 44}}}));
+}
+
 TEST_F(NoticeLogTest, WordsAreWhereReadingBegins) {
     NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar"));
     log->addNotice({"5.3 km", "5300 m"});
