@@ -18,7 +18,7 @@ namespace {
 constexpr CGFloat trackRadius = 11;
 constexpr CGFloat thumbInset = 3;
 // Beside a text; the narrow one where choices would not stand side by side otherwise.
-CGFloat narsegmentRowInset() { return thumbInset + Theme::scaled(2) - 1; }
+CGFloat narrowInset() { return thumbInset + Theme::scaled(2) - 1; }
 CGFloat wantedInset() { return thumbInset + Theme::scaled(4); }
 // Above and below a text of several lines.
 constexpr CGFloat segmentRowInset = thumbInset + 4;
@@ -132,7 +132,7 @@ const std::vector<CGRect>& SegmentedControl::framesForWidth(CGFloat width) const
         ruler_->setText(choice);
         texts.push_back(ruler_->widthInOneLine());
     }
-    for (const CGFloat inset : {wantedInset(), narsegmentRowInset()}) {
+    for (const CGFloat inset : {wantedInset(), narrowInset()}) {
         std::vector<CGFloat> needed = texts;
         for (CGFloat& each : needed) each += 2 * inset;
         if (sumOf(needed) <= width) {
@@ -161,7 +161,7 @@ std::vector<CGRect> SegmentedControl::framesSideBySide(CGFloat width, const std:
 std::vector<CGRect> SegmentedControl::framesInRows(CGFloat width, const std::vector<CGFloat>& texts) const {
     std::size_t columns = 1;
     if (texts.size() > mostInOneColumn) {
-        const CGFloat widest = *std::max_element(texts.begin(), texts.end()) + 2 * narsegmentRowInset();
+        const CGFloat widest = *std::max_element(texts.begin(), texts.end()) + 2 * narrowInset();
         columns = std::clamp<std::size_t>(static_cast<std::size_t>(width / widest), 1, texts.size());
         const std::size_t rows = (texts.size() + columns - 1) / columns;
         columns = (texts.size() + rows - 1) / rows; // The last row is as full as can be.
@@ -173,7 +173,7 @@ std::vector<CGRect> SegmentedControl::framesInRows(CGFloat width, const std::vec
         const std::size_t end = std::min(texts.size(), first + columns);
         CGFloat height = Theme::controlHeight();
         for (std::size_t i = first; i < end; ++i)
-            height = std::max(height, heightOfText(i, column - 2 * narsegmentRowInset()) + 2 * segmentRowInset);
+            height = std::max(height, heightOfText(i, column - 2 * narrowInset()) + 2 * segmentRowInset);
         for (std::size_t i = first; i < end; ++i) {
             const std::size_t place = i - first;
             frames.push_back(CGRectMake(static_cast<CGFloat>(place) * column, y, column, height));
@@ -198,7 +198,7 @@ CGSize SegmentedControl::sizeThatFits(CGSize available) const {
 
 void SegmentedControl::layoutSubviews() {
     Control::layoutSubviews();
-    for (std::size_t i = 0; i < labels_.size(); ++i) labels_[i]->setFrame(CGRectInset(frameOfSegment(i), narsegmentRowInset(), 0));
+    for (std::size_t i = 0; i < labels_.size(); ++i) labels_[i]->setFrame(CGRectInset(frameOfSegment(i), narrowInset(), 0));
 }
 
 void SegmentedControl::drawRect(UIGraphicsContext& context, CGRect rect) {

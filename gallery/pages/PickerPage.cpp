@@ -16,11 +16,8 @@ namespace gallery {
 namespace {
 
 constexpr CGFloat titleGap = 6;
-// Five rows of a wheel and the ends of two more. Of large rows at least three have to be whole.
+// Five rows of a wheel and the ends of two more. Large rows are fewer.
 constexpr CGFloat usualWheelHeight = 216;
-constexpr double fewestRowsOfWheel = 3;
-// Of a wheel with log and options beside it. More look like a list; chosen by eye.
-constexpr double mostRowsOfWheel = 10;
 // With it the card of the wheel is as high as the log, which may be beside it.
 constexpr CGFloat wheelPadding = 14;
 // Wider cards look empty. Chosen by eye.
@@ -31,7 +28,7 @@ constexpr double pickersShare = 0.55;
 constexpr CGFloat twoColumnWidth = 540;
 
 CGFloat heightOfWheelRows(double rows) { return rows * GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
-CGFloat wheelHeight() { return std::max(usualWheelHeight, heightOfWheelRows(fewestRowsOfWheel)); }
+CGFloat wheelHeight() { return std::max(usualWheelHeight, heightOfWheelRows(Theme::fewestRowsOfWheel)); }
 
 } // namespace
 
@@ -151,13 +148,13 @@ void PickerPage::turnForPicture() {
 PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     const CGFloat margin = Theme::marginForWidth(width);
     const CGFloat room = std::max(0.0, width - 2 * margin);
-    const bool hasTwoColumns = room >= std::max(twoColumnWidth, Theme::scaled(twoColumnWidth));
+    const bool hasTwoColumns = room >= Theme::grown(twoColumnWidth);
     const bool isPickerBeside = hasTwoColumns && showsPickerBeside_;
-    const CGFloat content = std::min(room, isPickerBeside ? widestContentBesidePicker : widestContent);
+    const CGFloat content = std::min(room, Theme::grown(isPickerBeside ? widestContentBesidePicker : widestContent));
     const CGFloat column = std::floor((isPickerBeside ? pickersShare : 0.5) * (content - Theme::gap));
 
     Frames frames;
-    CGFloat y = showsTitle_ ? margin : 12;
+    CGFloat y = showsTitle_ ? margin : Theme::gapBelowBar;
     if (showsTitle_) {
         frames.title = CGRectMake(margin, y, content, std::ceil(title_->sizeThatFits({content, 0}).height));
         y = CGRectGetMaxY(frames.title) + titleGap;
@@ -172,7 +169,7 @@ PickerPage::Frames PickerPage::framesForWidth(CGFloat width) const {
     const CGFloat optionsHeight = optionControls().empty() ? 0 : optionsCard_->sizeThatFits({optionsWidth, 0}).height;
     const CGFloat besidePicker = logHeight + (optionsHeight > 0 ? Theme::gap + optionsHeight : 0);
     const CGFloat wheel = isPickerBeside ? std::clamp(besidePicker - 2 * wheelPadding, wheelHeight(),
-                                                      std::max(wheelHeight(), heightOfWheelRows(mostRowsOfWheel)))
+                                                      std::max(wheelHeight(), heightOfWheelRows(Theme::mostRowsOfWheel)))
                                          : wheelHeight();
     frames.picker = CGRectMake(margin, y, pickerWidth, std::floor(wheel) + 2 * wheelPadding);
     const CGFloat below = CGRectGetMaxY(frames.picker) + Theme::gap;

@@ -16,10 +16,13 @@ namespace gallery {
 
 namespace {
 
-constexpr CGFloat widestContent = 640;
+// Wider cards look empty. All chosen by eye, for scale 1.
+constexpr CGFloat widestColumn = 640;
+// From here on the languages are beside the other choices.
+constexpr CGFloat twoCards = 760;
 constexpr CGFloat inset = Theme::cardPadding / 2;
-// Names of languages are short: from here on two stand side by side.
-constexpr CGFloat twoColumns = 280;
+// Names of languages are short: from here on two of them are side by side.
+constexpr CGFloat twoLanguages = 280;
 
 constexpr std::array<double, 5> textScaleSteps = {0.8, 1, 1.3, 2, 3};
 
@@ -184,20 +187,26 @@ void SettingsScreen::setShowsTitle(bool shows) {
 
 SettingsScreen::Frames SettingsScreen::framesForWidth(CGFloat width) const {
     const CGFloat margin = Theme::marginForWidth(width);
-    const CGFloat content = std::clamp(width - 2 * margin, 0.0, widestContent);
+    const CGFloat room = std::max(0.0, width - 2 * margin);
+    const bool hasTwoCards = room >= Theme::grown(twoCards);
+    const CGFloat content = std::min(hasTwoCards ? std::floor(0.5 * (room - Theme::gap)) : room, Theme::grown(widestColumn));
     const auto heightOf = [content](const UIView& view) { return std::ceil(view.sizeThatFits({content, 0}).height); };
     Frames frames;
-    CGFloat y = showsTitle_ ? margin : 12;
+    const CGFloat heading = std::max(Theme::controlHeight(), heightOf(*languageTitle_));
+    CGFloat y = showsTitle_ ? margin : Theme::gapBelowBar;
     if (showsTitle_) {
         frames.title = CGRectMake(margin, y, content, heightOf(*title_));
         y = CGRectGetMaxY(frames.title) + Theme::gap;
+    } else if (hasTwoCards) {
+        y += heading;
     }
     frames.choices = CGRectMake(margin, y, content, heightOf(*choicesCard_));
-    y = CGRectGetMaxY(frames.choices) + Theme::gap;
-    frames.languageTitle = CGRectMake(margin, y, content, std::max(Theme::controlHeight(), heightOf(*languageTitle_)));
-    y = CGRectGetMaxY(frames.languageTitle);
+    // The languages are below the choices, or beside them: then the heading is beside the title.
+    const CGFloat x = hasTwoCards ? CGRectGetMaxX(frames.choices) + Theme::gap : margin;
+    if (!hasTwoCards) y = CGRectGetMaxY(frames.choices) + Theme::gap + heading;
+    frames.languageTitle = CGRectMake(x, y - heading, content, heading);
 
-    const std::size_t columns = content >= Theme::scaled(twoColumns) ? 2 : 1;
+    const std::size_t columns = content >= Theme::scaled(twoLanguages) ? 2 : 1;
     const CGFloat column = std::max(0.0, content - 2 * inset) / static_cast<CGFloat>(columns);
     CGFloat rowY = inset;
     for (std::size_t first = 0; first < languages_.size(); first += columns) {
@@ -210,8 +219,8 @@ SettingsScreen::Frames SettingsScreen::framesForWidth(CGFloat width) const {
         }
         rowY += height;
     }
-    frames.languages = CGRectMake(margin, y, content, rowY + inset);
-    frames.height = CGRectGetMaxY(frames.languages) + margin;
+    frames.languages = CGRectMake(x, y, content, rowY + inset);
+    frames.height = std::max(CGRectGetMaxY(frames.choices), CGRectGetMaxY(frames.languages)) + margin;
     return frames;
 }
 

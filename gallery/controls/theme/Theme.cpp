@@ -77,9 +77,10 @@ Ref<UIFont> Theme::font(TextStyle style) {
 // A line grows by some 18 points for each step of 1; the room above and below it hardly needs to.
 CGFloat Theme::controlHeight() { return 40 + std::round(20 * std::max(0.0, textScale() - 1)); }
 CGFloat Theme::barHeight() { return controlHeight() + 16; }
-CGFloat Theme::sidebarWidth() { return std::round(std::max(232.0, scaled(232))); }
-CGFloat Theme::sidebarBreakpoint() { return std::max(720.0, scaled(720)); }
+CGFloat Theme::sidebarWidth() { return std::round(grown(232)); }
+CGFloat Theme::sidebarBreakpoint() { return grown(720); }
 CGFloat Theme::scaled(CGFloat length) { return length * textScale(); }
+CGFloat Theme::grown(CGFloat length) { return std::max(length, scaled(length)); }
 
 void Theme::drawOutline(UIGraphicsContext& context, CGRect rect, CGFloat cornerRadius) {
     constexpr CGFloat width = 2;

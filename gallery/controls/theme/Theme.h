@@ -53,6 +53,15 @@ public:
     static gx::CGFloat sidebarBreakpoint();
     /// A length that is chosen for scale 1.
     static gx::CGFloat scaled(gx::CGFloat length);
+    /// The same, but no less than chosen: smaller texts do not need a narrower page.
+    static gx::CGFloat grown(gx::CGFloat length);
+
+    // The rows of a wheel that is as high as its place allows
+
+    /// With fewer a wheel does not look like one.
+    static constexpr double fewestRowsOfWheel = 3;
+    /// More look like a list.
+    static constexpr double mostRowsOfWheel = 9;
 
     // Distances in points, the same at each scale, since width is what large texts lack
 
@@ -61,6 +70,8 @@ public:
     static constexpr gx::CGFloat cardRadius = 18;
     static constexpr gx::CGFloat cardPadding = 16;
     static constexpr gx::CGFloat gap = 16;
+    /// From the bar to a page whose title the bar has.
+    static constexpr gx::CGFloat gapBelowBar = 12;
     /// From the edges of a page of this width to its cards.
     static constexpr gx::CGFloat marginForWidth(gx::CGFloat width) { return width < 480 ? 16 : 32; }
 

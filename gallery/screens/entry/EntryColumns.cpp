@@ -16,7 +16,6 @@ namespace {
 constexpr CGFloat widestTable = 640;
 constexpr CGFloat widestTableBesidePicker = 480;
 constexpr CGFloat widestPane = 640;
-CGFloat grown(CGFloat widest) { return std::max(widest, Theme::scaled(widest)); }
 constexpr double tablesShareBesidePicker = 0.46;
 // Below it, table and pane are so narrow that the margins are those of a phone.
 constexpr CGFloat roomyWidth = 800;
@@ -27,16 +26,16 @@ EntryColumns EntryColumns::columnsForWidth(CGFloat width, bool isPickerBeside) {
     EntryColumns columns;
     if (!isPickerBeside) {
         const CGFloat margin = Theme::marginForWidth(width);
-        columns.header = {margin, std::clamp(width - 2 * margin, 0.0, grown(widestTable))};
+        columns.header = {margin, std::clamp(width - 2 * margin, 0.0, Theme::grown(widestTable))};
         // On a phone rows run from edge to edge.
         columns.table = width < widestTable ? Span{0, width} : columns.header;
         return columns;
     }
     const CGFloat margin = width < roomyWidth ? Theme::cardPadding : Theme::marginForWidth(width);
     const CGFloat room = std::max(0.0, width - 2 * margin - Theme::gap);
-    columns.table = {margin, std::min(std::round(tablesShareBesidePicker * room), grown(widestTableBesidePicker))};
+    columns.table = {margin, std::min(std::round(tablesShareBesidePicker * room), Theme::grown(widestTableBesidePicker))};
     const CGFloat x = margin + columns.table.width + Theme::gap;
-    columns.pane = {x, std::min(room - columns.table.width, grown(widestPane))};
+    columns.pane = {x, std::min(room - columns.table.width, Theme::grown(widestPane))};
     columns.header = {margin, x + columns.pane.width - margin};
     return columns;
 }

@@ -20,9 +20,8 @@ namespace gallery {
 
 namespace {
 
-// The rows of a wheel that are visible; in a low window at least three. Chosen by eye.
+// The rows of a wheel that are visible; in a low window they are fewer. Chosen by eye.
 constexpr double rowsOfWheel = 5;
-constexpr double fewestRowsOfWheel = 3;
 // A line of text and some space. At scale 1 they are the table's own.
 constexpr CGFloat headingFontSize = 13;
 constexpr double headingLineHeight = 1.25;
@@ -222,7 +221,7 @@ Ref<UITableViewCell> EntryList::tableView_cellForRowAtIndexPath(const Ref<UITabl
 CGFloat EntryList::pickerHeight() const {
     const double row = GXStyleSheet::globalStyleSheet()->pickerRowHeight();
     const CGSize table = table_->bounds().size;
-    const CGFloat usual = std::clamp(highestShareOfPicker * table.height, fewestRowsOfWheel * row, rowsOfWheel * row);
+    const CGFloat usual = std::clamp(highestShareOfPicker * table.height, Theme::fewestRowsOfWheel * row, rowsOfWheel * row);
     if (GXStyleSheet::globalStyleSheet()->textScale() <= 1 || !rows_.open()) return std::round(usual);
     // Two wheels that are one above the other need more, but no more than is in sight at once.
     const CGFloat needed = measurement(*rows_.open())->smallestPickerHeightForWidth(table.width);

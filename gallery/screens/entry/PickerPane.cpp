@@ -14,14 +14,12 @@ namespace gallery {
 
 namespace {
 
-// The rows of a wheel that are visible. More than nine look like a list; chosen by eye.
-constexpr double mostRowsOfWheel = 9;
-constexpr double fewestRowsOfPane = 3;
 constexpr CGFloat padding = Theme::cardPadding;
 // From the value to the wheel. Chosen by eye.
 constexpr CGFloat valueGap = 8;
 
-CGFloat rowHeight() { return GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
+CGFloat lowestWheel() { return Theme::fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
+CGFloat highestWheel() { return Theme::mostRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight(); }
 
 } // namespace
 
@@ -31,6 +29,7 @@ bool PickerPane::initWithFrame(CGRect frame) {
     card_->setBackgroundColor(GXStyleSheet::globalStyleSheet()->tableBgColor()); // As the cells.
     name_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::secondaryText());
     value_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Title, Theme::accent());
+    name_->setAccessibilityRole(UIAccessibilityRole::Heading);
     hint_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Body, Theme::secondaryText());
     for (const Ref<Paragraph>& text : {name_, value_, hint_}) {
         text->setTextAlignment(NSTextAlignmentCenter);
@@ -81,7 +80,7 @@ PickerPane::Texts PickerPane::textsForWidth(CGFloat width) const {
 }
 
 CGSize PickerPane::sizeThatFits(CGSize available) const {
-    return {available.width, textsForWidth(available.width).height + fewestRowsOfPane * rowHeight() + padding};
+    return {available.width, textsForWidth(available.width).height + lowestWheel() + padding};
 }
 
 void PickerPane::layoutSubviews() {
@@ -89,7 +88,7 @@ void PickerPane::layoutSubviews() {
     const CGSize size = bounds().size;
     const Texts texts = textsForWidth(size.width);
     const CGFloat room = size.height - texts.height - padding;
-    const CGFloat wheel = std::round(std::clamp(room, fewestRowsOfPane * rowHeight(), mostRowsOfWheel * rowHeight()));
+    const CGFloat wheel = std::round(std::clamp(room, lowestWheel(), highestWheel()));
     const CGFloat height = texts.height + wheel + padding;
     card_->setFrame(CGRectMake(0, 0, size.width, height));
     name_->setFrame(texts.name);

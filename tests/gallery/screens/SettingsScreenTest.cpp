@@ -63,3 +63,36 @@ TEST_F(SettingsScreenTest, AnotherTextSizeShowsAtOnce) {
     tapSegment(sizes(), 1);
     EXPECT_EQ(screen->scroll()->content()->frame().size.height, height);
 }
+
+TEST_F(SettingsScreenTest, InAWideWindowTheLanguagesAreBesideTheChoices) {
+    const auto placeOf = [this](const char* name) {
+        for (const Ref<UIView>& view : screen->settingsControls()->subviews()) {
+            if (view->accessibilityLabel() == name) return view->frame();
+        }
+        return CGRectNull;
+    };
+    const auto choices = [this] { return screen->settingsControls()->control("Units")->superview()->frame(); };
+    const auto languages = [this] { return screen->settingsControls()->languageButton("de")->superview()->frame(); };
+    open(1200, 800);
+    screen->showPage(MainScreen::settingsPage);
+    settle();
+    // Of 1200 - 232 points, 904 are left between margins of 32: two cards of 444 with 16 between.
+    EXPECT_EQ(choices().origin.x, 32);
+    EXPECT_EQ(choices().size.width, 444);
+    EXPECT_EQ(languages().origin, CGPointMake(32 + 444 + 16, CGRectGetMinY(choices())));
+    EXPECT_EQ(languages().size.width, 444);
+    EXPECT_LE(CGRectGetMaxY(placeOf("Language")), CGRectGetMinY(languages()));
+    EXPECT_EQ(CGRectGetMinX(placeOf("Language")), CGRectGetMinX(languages()));
+    // From 760 points between the margins.
+    open(232 + 64 + 759, 800);
+    screen->showPage(MainScreen::settingsPage);
+    settle();
+    EXPECT_EQ(choices().size.width, 640);
+    EXPECT_EQ(languages().origin.x, 32);
+    EXPECT_GT(CGRectGetMinY(placeOf("Language")), CGRectGetMaxY(choices()));
+    open(232 + 64 + 760, 800);
+    screen->showPage(MainScreen::settingsPage);
+    settle();
+    EXPECT_EQ(choices().size.width, 372);
+    EXPECT_GT(languages().origin.x, 32);
+}

@@ -66,6 +66,9 @@ TEST_F(ScreenReaderTest, TitlesOfPagesAndSectionsAreHeadings) {
     open(1200, 1200);
     EXPECT_EQ(labelsOf(Role::Heading),
               (std::vector<std::string>{"Add workout", "Workout", "Best interval", "Heart", "Conditions", "Body"}));
+    openEntry(1200, 1200);
+    tapRow("Weight"); // Its picker opens beside the table, with the name above.
+    EXPECT_EQ(labelsOf(Role::Heading).back(), "Weight");
     show("Settings", 1200, 800);
     EXPECT_EQ(labelsOf(Role::Heading), (std::vector<std::string>{"Settings", "Language"}));
     show("Speed", 1200, 800);
