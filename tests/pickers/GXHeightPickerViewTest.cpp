@@ -9,7 +9,7 @@ using namespace gx;
 
 namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 } // namespace
 
 // Construction
@@ -139,7 +139,7 @@ TEST_F(MetricHeightPicker, WithoutAHeightItShows180AndStoresNone) {
         EXPECT_EQ(rowsOf(height), (Calls{"select 60 in 0"}));
         EXPECT_EQ(picker->heightInCm(), height);
     }
-    EXPECT_EQ(rowsOf(nan), (Calls{"select 60 in 0"}));
+    EXPECT_EQ(rowsOf(notANumber), (Calls{"select 60 in 0"}));
     EXPECT_EQ(shown(0), "180");
 }
 
@@ -153,7 +153,7 @@ TEST_F(HeightPicker, Below120CentimetresItShows5Feet10InchesAndStoresWhatWasGive
         EXPECT_EQ(rowsOf(height), (Calls{"select 1 in 0", "select 10 in 1"}));
         EXPECT_EQ(picker->heightInCm(), height);
     }
-    EXPECT_EQ(rowsOf(nan), (Calls{"select 1 in 0", "select 10 in 1"}));
+    EXPECT_EQ(rowsOf(notANumber), (Calls{"select 1 in 0", "select 10 in 1"}));
     EXPECT_EQ(shown(0), "5'");
     EXPECT_EQ(shown(1), "10\"");
 }

@@ -9,7 +9,7 @@ namespace {
 constexpr NSInteger highest = std::numeric_limits<NSInteger>::max();
 constexpr NSInteger lowest = std::numeric_limits<NSInteger>::min();
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 } // namespace
 
 // The user's turns
@@ -174,7 +174,7 @@ TEST_F(HeightPicker, ADelegateMayDropTheLastReferenceToThePickerInItsNotice) {
 }
 
 TEST_F(HeightPicker, ExtremeRowsAndHeightsEndOnRowsThatThereAre) {
-    for (const double height : {-1e308, 1e308, nan, infinity, 5e-324}) {
+    for (const double height : {-1e308, 1e308, notANumber, infinity, 5e-324}) {
         for (const bool isMetric : {true, false}) {
             picker->setHeightInCm(height);
             picker->setIsMetric(isMetric);

@@ -11,7 +11,7 @@ namespace {
 constexpr NSInteger highest = std::numeric_limits<NSInteger>::max();
 constexpr NSInteger lowest = std::numeric_limits<NSInteger>::min();
 constexpr float infinity = std::numeric_limits<float>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct WeightSelection : PickerTest<GXWeightPickerView> {
     Calls callsOfSetting(NSNumber kilograms) {
@@ -282,10 +282,10 @@ TEST_F(WeightSelection, WithoutAWheelEveryOperationIsSafe) {
 
 TEST_F(WeightSelection, EmptyAndNaNNumbersReadAs0) {
     EXPECT_EQ(callsOfSetting(NSNumber()), Calls{}) << "0 is below the minimum";
-    EXPECT_EQ(callsOfSetting(boxedDouble(nan)), (Calls{"select 0 in 0", "select 0 in 2"})) << "no number is not below";
+    EXPECT_EQ(callsOfSetting(boxedDouble(notANumber)), (Calls{"select 0 in 0", "select 0 in 2"})) << "no number is not below";
     picker->setMinValue(NSNumber());
     EXPECT_EQ(callsOfSetting(NSNumber()), (Calls{"select -15 in 0", "select 0 in 2"}));
-    picker->setMinValue(boxedDouble(nan));
+    picker->setMinValue(boxedDouble(notANumber));
     EXPECT_EQ(callsOfSetting(boxed(20)), (Calls{"select 5 in 0", "select 0 in 2"}));
 }
 

@@ -68,17 +68,17 @@ TEST(NSArithmetic, AQuotientByMinusOneNegatesAndTheLowestWrapsToItself) {
 }
 
 TEST(NSArithmetic, ARemainderHasTheSignOfTheDividend) {
-    EXPECT_EQ(remainder<std::int64_t>(7, 3), 1);
-    EXPECT_EQ(remainder<std::int64_t>(-7, 3), -1);
-    EXPECT_EQ(remainder<std::int64_t>(7, -3), 1);
-    EXPECT_EQ(remainder<std::int32_t>(-6, 3), 0);
+    EXPECT_EQ(gx::remainder<std::int64_t>(7, 3), 1);
+    EXPECT_EQ(gx::remainder<std::int64_t>(-7, 3), -1);
+    EXPECT_EQ(gx::remainder<std::int64_t>(7, -3), 1);
+    EXPECT_EQ(gx::remainder<std::int32_t>(-6, 3), 0);
 }
 
 TEST(NSArithmetic, ARemainderByZeroAndByMinusOneIsZero) {
-    EXPECT_EQ(remainder<std::int64_t>(7, 0), 0);
-    EXPECT_EQ(remainder<std::int64_t>(7, -1), 0);
-    EXPECT_EQ(remainder<std::int64_t>(lowest64, -1), 0);
-    EXPECT_EQ(remainder<std::int32_t>(lowest32, -1), 0);
+    EXPECT_EQ(gx::remainder<std::int64_t>(7, 0), 0);
+    EXPECT_EQ(gx::remainder<std::int64_t>(7, -1), 0);
+    EXPECT_EQ(gx::remainder<std::int64_t>(lowest64, -1), 0);
+    EXPECT_EQ(gx::remainder<std::int32_t>(lowest32, -1), 0);
 }
 
 TEST(NSArithmetic, AFloatingNumberLosesItsFraction) {

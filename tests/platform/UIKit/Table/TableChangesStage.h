@@ -64,12 +64,12 @@ struct TableChangesStage : TableStage {
     }
     void count() { source->rows = {static_cast<gx::NSInteger>(names.size())}; }
     void insert(gx::NSInteger row, const std::string& name, bool animated = true) {
-        names.insert(names.begin() + row, name);
+        names.insert(names.begin() + static_cast<std::ptrdiff_t>(row), name);
         count();
         table->insertRowsAtIndexPaths_animated({{0, row}}, animated);
     }
     void remove(gx::NSInteger row, bool animated = true) {
-        names.erase(names.begin() + row);
+        names.erase(names.begin() + static_cast<std::ptrdiff_t>(row));
         count();
         table->deleteRowsAtIndexPaths_animated({{0, row}}, animated);
     }
