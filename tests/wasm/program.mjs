@@ -12,7 +12,13 @@ if (!program) {
 }
 const tables = path.join(path.dirname(fileURLToPath(import.meta.url)), '../reference/tables');
 const env = Object.fromEntries(Object.entries(process.env).filter(([name]) => name.startsWith('GTEST_') || name.startsWith('GX_')));
-const wasi = new WASI({ version: 'preview1', args: [path.basename(program), ...asked], env, preopens: { [tables]: tables }, returnOnExit: true });
+const wasi = new WASI({
+    version: 'preview1',
+    args: [path.basename(program), ...asked],
+    env,
+    preopens: { [tables]: tables },
+    returnOnExit: true,
+});
 const module = await WebAssembly.compile(await readFile(program));
 const instance = await WebAssembly.instantiate(module, wasi.getImportObject());
 process.exitCode = wasi.start(instance);

@@ -21,14 +21,20 @@ function run(program, shard, shards) {
     const environment = { ...process.env, GTEST_TOTAL_SHARDS: `${shards}`, GTEST_SHARD_INDEX: `${shard}` };
     const flags = ['--no-warnings', path.join(here, 'program.mjs'), path.join(programs, program)];
     return new Promise((resolve) => {
-        execFile(process.execPath, flags, { env: environment, maxBuffer: 1 << 28 }, (error, output, log) => resolve({ error, output, log }));
+        execFile(process.execPath, flags, { env: environment, maxBuffer: 1 << 28 }, (error, output, log) =>
+            resolve({ error, output, log }),
+        );
     });
 }
 
 const count = (output, pattern) => [...output.matchAll(pattern)].length;
 
 // The pickers' tests take longest, so they run in two halves side by side.
-for (const [program, shards, least] of [['platform_test', 1, 1000], ['services_test', 1, 90], ['pickers_test', 2, 900]]) {
+for (const [program, shards, least] of [
+    ['platform_test', 1, 1000],
+    ['services_test', 1, 90],
+    ['pickers_test', 2, 900],
+]) {
     test(`${program} passes as WebAssembly`, { concurrency: true }, async (context) => {
         const parts = await Promise.all(Array.from({ length: shards }, (_, shard) => run(program, shard, shards)));
         for (const { error, output, log } of parts) assert.equal(error, null, `${output.slice(-5000)}\n${log.slice(-2000)}`);
