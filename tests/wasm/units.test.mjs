@@ -11,7 +11,7 @@ import { fileURLToPath } from 'node:url';
 const here = path.dirname(fileURLToPath(import.meta.url));
 const programs = path.join(here, '../../build/wasm-tests/tests');
 const noProcess = 'a program that ends needs a process of its own';
-// Besides these, allocations_test is not built: it counts what the desktop's allocator is asked for.
+// Besides these, allocations_test is not built: it counts what the desktop's allocator gives.
 const leftOut = {
     'GXMultiValuePickerViewDeathTest.ADelegateThatNothingHoldsStopsDebugBuilds': noProcess,
     'OwnPickerCellDeathTest.OneWithoutAnIdentifierThatIsMadeForTheInheritedOneStopsDebugBuilds': noProcess,
