@@ -14,11 +14,15 @@ const { build } = tools('esbuild');
 
 export const pages = path.join(root, 'build/web/benchmark');
 
+const styles = '<link rel="stylesheet" href="page.css">';
+/** As the package's README says. */
+const preload = '<link rel="preload" href="gxuipickers.wasm" as="fetch" type="application/wasm" crossorigin>';
+
 const html = (
-    hasStyles,
+    links,
 ) => `<!doctype html><html lang="en"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width"><link rel="icon" href="data:,">
 <style>body { margin: 0; font: 22px sans-serif; } #stage { width: 330px; height: 216px; margin: 100px 30px; }</style>
-${hasStyles ? '<link rel="stylesheet" href="page.css">' : ''}<script type="module" src="page.js"></script></head><body><div id="stage"></div></body></html>
+${links}<script type="module" src="page.js"></script></head><body><div id="stage"></div></body></html>
 `;
 
 const gzipped = (file) => (existsSync(file) ? gzipSync(readFileSync(file), { level: 9 }).length : 0);
@@ -52,7 +56,10 @@ export async function buildPages(names, packages = {}) {
             },
         });
         if (elements) copyFileSync(path.join(elements, 'gxuipickers.wasm'), path.join(folder, 'gxuipickers.wasm'));
-        writeFileSync(path.join(folder, 'index.html'), html(existsSync(path.join(folder, 'page.css'))));
+        writeFileSync(
+            path.join(folder, 'index.html'),
+            html((existsSync(path.join(folder, 'page.css')) ? styles : '') + (elements ? preload : '')),
+        );
         sizes[name] = ['page.js', 'page.css', 'gxuipickers.wasm'].reduce((sum, file) => sum + gzipped(path.join(folder, file)), 0);
     }
     return sizes;

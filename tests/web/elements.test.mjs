@@ -238,6 +238,23 @@ test('a wheel of the page’s own columns counts its rows without making them', 
     await close();
 });
 
+test('the first picture is there at once, and the columns after its frame', async () => {
+    const { page, close } = await stage.open('<gx-bpm-picker></gx-bpm-picker>');
+    const seen = await page.evaluate(async () => {
+        const element = document.createElement('gx-distance-picker');
+        const count = () => ['.row', '.column'].map((name) => element.shadowRoot.querySelectorAll(name).length > 1);
+        const frame = () => new Promise((resolve) => requestAnimationFrame(() => resolve(count())));
+        document.body.append(element);
+        return [count(), await frame(), await frame()];
+    });
+    assert.deepEqual(seen, [
+        [true, false],
+        [true, false],
+        [true, true],
+    ]);
+    await close();
+});
+
 test('in steady motion no element is made or removed, and only what moves is written', async () => {
     const { page, close } = await stage.open('<gx-bpm-picker max="100000" step="1"></gx-bpm-picker>');
     await untilColumns(page, 'gx-bpm-picker');

@@ -90,8 +90,12 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         this.takeOverProperties();
         observePage(this, this);
         this.surroundings.observe();
-        if (loadedModule()) this.open();
-        else this.stopWaiting = whenLoaded(() => this.open());
+        if (loadedModule()) {
+            this.open();
+        } else {
+            this.stopWaiting = whenLoaded(() => this.open());
+            this.surroundings.measureAhead();
+        }
     }
 
     disconnectedCallback(): void {

@@ -1,4 +1,4 @@
-import { fontsOf, type Fonts } from './fonts.js';
+import { fontsOf, lineHeight, type Fonts } from './fonts.js';
 import { languageOf } from './page.js';
 import type { View } from './view.js';
 
@@ -35,6 +35,13 @@ export class Surroundings {
 
     stop(): void {
         this.sizes.disconnect();
+    }
+
+    /** What can be measured while the module is still on its way. */
+    measureAhead(): void {
+        const { row, rowSize, label, labelSize } = fontsOf(this.rowProbe, this.labelProbe);
+        lineHeight(row, rowSize);
+        lineHeight(label, labelSize);
     }
 
     /** Those that a view is opened with; only later changes are passed on. */

@@ -31,6 +31,7 @@ export class View implements Client {
     private passedRows = 0;
     private hasChanged = false;
     private areColumnsOld = true;
+    private isFirstPictureNew = false;
     private depth = 0;
     private isClosed = false;
     private traits: Traits | undefined;
@@ -174,16 +175,22 @@ export class View implements Client {
     private frame(time: number): void {
         this.request = undefined;
         const draws = this.call((calls) => calls.tick(this.number, time) === 1, false);
+        const isFirstPictureNew = this.isFirstPictureNew;
+        this.isFirstPictureNew = false;
         if (draws) {
             this.draw();
+            this.needsFrame();
+        } else if (isFirstPictureNew) {
+            // The page shows the first picture at the end of this frame: nothing may hold it up.
             this.needsFrame();
         } else if (this.areColumnsOld) {
             this.updateColumns();
         }
     }
 
-    /** Shows the first frame at once; the columns follow with the next one. */
+    /** Shows the first picture at once; the columns follow when it is on the screen. */
     showNow(): void {
+        this.isFirstPictureNew = true;
         this.call((calls) => calls.tick(this.number, clock().now()), 0);
         this.draw();
         this.changed();
