@@ -27,7 +27,7 @@ export default typescript.config(
         },
     },
     {
-        files: ['**/*.mjs'],
+        files: ['**/*.mjs', 'gallery/web/*.js'],
         languageOptions: {
             globals: Object.fromEntries(
                 [
@@ -38,6 +38,8 @@ export default typescript.config(
                     ...['requestAnimationFrame', 'dispatchEvent', 'addEventListener', 'matchMedia', 'scrollTo', 'scrollY'],
                     ...['Event', 'CustomEvent', 'WheelEvent', 'PointerEvent', 'KeyboardEvent', 'FormData', 'FontFace'],
                     ...['MutationObserver', 'WebAssembly', 'Response', 'Node', 'URLSearchParams'],
+                    // Of the gallery's page.
+                    ...['localStorage', 'Blob', 'AudioContext', 'Option'],
                 ].map((name) => [name, 'readonly']),
             ),
         },

@@ -50,7 +50,10 @@ export async function startServer({ folders, pages = {}, headers = {}, port = 0 
             response.end('not found');
         }
     });
-    await new Promise((resolve) => server.listen(port, '127.0.0.1', resolve));
+    await new Promise((resolve, reject) => {
+        server.once('error', reject); // Such as a port that is taken.
+        server.listen(port, '127.0.0.1', resolve);
+    });
     return {
         address: `http://127.0.0.1:${server.address().port}`,
         stop: () =>

@@ -1,0 +1,247 @@
+// "Add workout" on a page: the pickers of the package, and what an application does with them.
+import './gxuipickers/asset.js';
+
+const all = (selector, root = document) => [...root.querySelectorAll(selector)];
+const one = (selector, root = document) => root.querySelector(selector);
+const rightToLeft = ['ar', 'he'];
+
+// What stays when the page is left; a browser may forbid it.
+const keep = (key, value) => {
+    try {
+        localStorage.setItem(key, JSON.stringify(value));
+    } catch {
+        // Then it does not stay.
+    }
+};
+const kept = (key) => {
+    try {
+        return JSON.parse(localStorage.getItem(key)) ?? {};
+    } catch {
+        return {};
+    }
+};
+
+// Texts: the English one is the key.
+const languages = await (await fetch('texts/index.json')).json();
+let texts = {};
+const text = (english, name = '') => (texts[english] ?? english).replace('{0}', name);
+
+async function showLanguage(language) {
+    texts = await (await fetch(`texts/${language}.json`)).json();
+    document.documentElement.lang = language;
+    document.documentElement.dir = rightToLeft.includes(language) ? 'rtl' : 'ltr';
+    for (const node of all('[data-text]')) node.textContent = text(node.dataset.text);
+    for (const image of all('img')) image.alt = text((image.dataset.alt ??= image.alt));
+    for (const row of all('details')) picker(row).ariaLabel = text(one('[data-text]', row).dataset.text);
+    one('#element').ariaLabel = text('All pickers');
+    one('#file').ariaLabel = text('Open a workout');
+}
+
+// The workout: each row is a picker, which knows its value, its limits and how it is written.
+const picker = (row) => row.lastElementChild;
+const rows = all('details');
+const icons = all('gx-weather-and-temperature-picker img');
+const weathers = icons.map((icon) => icon.src.split('#')[1]);
+const format = { format: 'GXUIPickers workout', version: 1 };
+
+/** [name in a file, its element, its property] of each number. */
+const numbers = rows.flatMap((row) => {
+    const names = picker(row).dataset.file.split(' ');
+    const properties = { averageHeartRate: 'average', maximumHeartRate: 'maximum' };
+    return names.map((name) => [name, picker(row), names.length > 1 ? (properties[name] ?? name) : 'value']);
+});
+
+const workout = () =>
+    Object.fromEntries(
+        numbers.map(([name, element, property]) => [name, name === 'weather' ? weathers[element.weather] : element[property]]),
+    );
+
+/** Shows a workout whose every number is there; else says what is wrong and changes nothing. */
+function showWorkout({ format: kind, version, workout: values }) {
+    if (kind !== format.format) throw text('This file is no workout.');
+    if (!(version >= 1)) throw text('This file is damaged.');
+    if (version > format.version) throw text('This workout was saved by a newer version of this application.');
+    if (typeof values !== 'object' || values === null) throw text('This file is damaged.');
+    if (!weathers.includes(values.weather)) throw text('The file names no weather that this application knows.');
+    for (const [name] of numbers)
+        if (name !== 'weather' && typeof values[name] !== 'number') throw text('The file has no number for: {0}.', name);
+    for (const [name, element, property] of numbers)
+        element[property] = name === 'weather' ? weathers.indexOf(values.weather) : values[name];
+    showValues();
+}
+
+function showValues() {
+    for (const row of rows) one('.value', row).textContent = picker(row).valueText;
+}
+
+one('.rows').addEventListener('input', showValues);
+one('.rows').addEventListener('change', () => {
+    showValues();
+    keep('workout', { ...format, workout: workout() });
+});
+
+// In the wide layout one row is always open.
+const isWide = () => getComputedStyle(one('nav strong')).display !== 'none';
+for (const row of rows)
+    one('summary', row).addEventListener('click', (event) => {
+        if (row.open && isWide()) event.preventDefault();
+    });
+
+// Files: the same as those of the desktop's gallery.
+one('#save').addEventListener('click', () => {
+    const url = URL.createObjectURL(
+        new Blob([`${JSON.stringify({ ...format, workout: workout() }, null, 2)}\n`], { type: 'application/json' }),
+    );
+    Object.assign(document.createElement('a'), { href: url, download: 'workout.json' }).click();
+    setTimeout(() => URL.revokeObjectURL(url), 60_000);
+    one('#status').value = text('Saved: {0}', 'workout.json');
+});
+one('#open').addEventListener('click', () => one('#file').click());
+one('#file').addEventListener('change', async ({ target }) => {
+    const [file] = target.files;
+    if (!file) return;
+    try {
+        const read = await file
+            .text()
+            .then(JSON.parse)
+            .catch(() => Promise.reject(text('This file is damaged, or no workout.')));
+        showWorkout(read ?? {});
+        keep('workout', { ...format, workout: workout() });
+        one('#status').value = text('Opened: {0}', file.name);
+    } catch (reason) {
+        one('#status').value = String(reason);
+    }
+    target.value = '';
+});
+
+// Settings
+let audio;
+function click() {
+    audio ??= new AudioContext();
+    const [sound, volume] = [audio.createOscillator(), audio.createGain()];
+    sound.frequency.value = 1800;
+    volume.gain.setValueAtTime(0.06, audio.currentTime);
+    volume.gain.exponentialRampToValueAtTime(0.0001, audio.currentTime + 0.02);
+    sound.connect(volume).connect(audio.destination);
+    sound.start();
+    sound.stop(audio.currentTime + 0.02);
+}
+
+const choices = one('#choices');
+for (const code of languages) choices.language.add(new Option(new Intl.DisplayNames(code, { type: 'language' }).of(code), code));
+for (const element of rows.map(picker)) element.addEventListener('gx-tick', click);
+
+async function applySettings() {
+    const { unit, weight, look, clicks, size, language } = Object.fromEntries(new FormData(choices));
+    document.documentElement.style.colorScheme = look;
+    document.documentElement.style.fontSize = `${size}%`;
+    for (const element of rows.map(picker)) {
+        if ('unit' in element) element.unit = element.localName === 'gx-weight-picker' ? weight : unit;
+        element.toggleAttribute('ticks', clicks === 'on');
+    }
+    if (language !== document.documentElement.lang || !texts[language]) await showLanguage(language);
+    // The pickers' own texts come when they are needed.
+    for (const wait of [0, 100, 400, 1500]) setTimeout(showValues, wait);
+}
+choices.addEventListener('input', () => {
+    keep('settings', Object.fromEntries(new FormData(choices)));
+    applySettings();
+});
+
+// All pickers, with every option that the package's manifest lists.
+const { modules } = await (await fetch('gxuipickers/custom-elements.json')).json();
+const declarations = modules[0].declarations;
+const bench = one('#element');
+for (const { tagName } of declarations) bench.add(new Option(tagName));
+
+function controlOf({ type }) {
+    const words = [...type.text.matchAll(/'([^']+)'/g)].map(([, word]) => word);
+    if (words.length > 0) {
+        const select = document.createElement('select');
+        select.append(...['', ...words].map((word) => new Option(word)));
+        return select;
+    }
+    return Object.assign(document.createElement('input'), type.text === 'boolean' ? { type: 'checkbox' } : { type: 'number', step: 'any' });
+}
+
+function showElement() {
+    const { tagName, description, attributes } = declarations.find((each) => each.tagName === bench.value);
+    const shown = document.createElement(tagName);
+    shown.ariaLabel = tagName;
+    if (/icon|weather/.test(tagName)) shown.append(...icons.map((icon) => icon.cloneNode()));
+    if (tagName === 'gx-wheel')
+        shown.columns = [
+            {
+                label: 'month',
+                rows: Array.from({ length: 12 }, (_, month) =>
+                    new Date(2000, month).toLocaleString(document.documentElement.lang, { month: 'long' }),
+                ),
+            },
+            { label: 'number', rows: 1e9 },
+        ];
+    const note = (event) => {
+        const values = attributes.filter(({ name }) =>
+            ['value', 'average', 'maximum', 'distance', 'duration', 'weather', 'temperature'].includes(name),
+        );
+        const texts =
+            tagName === 'gx-wheel' ? [`rows = ${shown.rows}`] : values.map(({ fieldName }) => `${fieldName} = ${shown[fieldName]}`);
+        const line = Object.assign(document.createElement('li'), { textContent: `${event.type}: ${texts.join(', ')}` });
+        one('#log').prepend(line);
+        for (const old of all('#log li').slice(50)) old.remove();
+    };
+    for (const type of ['input', 'change', 'gx-tick']) shown.addEventListener(type, note);
+    one('#log').replaceChildren(Object.assign(document.createElement('li'), { textContent: text('Nothing yet: turn the wheel.') }));
+
+    const showMarkup = () => {
+        const shell = shown.cloneNode();
+        shell.removeAttribute('aria-label');
+        one('#markup').textContent = shell.outerHTML.replaceAll('=""', '');
+    };
+    const controls = attributes
+        .filter(({ name }) => !['name', 'lang', 'aria-label'].includes(name))
+        .map((attribute) => {
+            const line = document.createElement('label');
+            const control = controlOf(attribute);
+            control.addEventListener('input', () => {
+                if (control.type === 'checkbox') shown.toggleAttribute(attribute.name, control.checked);
+                else if (control.value === '') shown.removeAttribute(attribute.name);
+                else shown.setAttribute(attribute.name, control.value);
+                showMarkup();
+            });
+            line.append(
+                Object.assign(document.createElement('code'), { textContent: attribute.name }),
+                control,
+                Object.assign(document.createElement('small'), { textContent: attribute.description }),
+            );
+            return line;
+        });
+    one('#attributes').replaceChildren(Object.assign(document.createElement('p'), { textContent: description }), ...controls);
+    one('#place').replaceChildren(shown);
+    showMarkup();
+}
+bench.addEventListener('change', showElement);
+
+// Pages
+function showPage() {
+    const asked = one('main > section' + (location.hash || '#workout')) ?? one('#workout');
+    for (const section of all('main > section')) section.hidden = section !== asked;
+    for (const link of all('nav a')) {
+        if (link.hash === `#${asked.id}`) link.setAttribute('aria-current', 'page');
+        else link.removeAttribute('aria-current');
+    }
+    document.title = `${one('h1', asked).textContent} – GXUIPickers`;
+    if (asked.id === 'pickers' && !one('#place').firstElementChild) showElement();
+    scrollTo(0, 0);
+}
+addEventListener('hashchange', showPage);
+
+// The start: what was kept, or the browser's language.
+const wanted = navigator.languages.map((tag) => languages.find((code) => code.split('-')[0] === tag.split('-')[0]));
+for (const [name, value] of Object.entries({ language: wanted.find(Boolean) ?? 'en', ...kept('settings') })) choices[name].value = value;
+await applySettings();
+try {
+    showWorkout(kept('workout'));
+} catch {
+    // There is none yet.
+}
+showPage();
