@@ -71,8 +71,13 @@ function showWorkout({ format: kind, version, workout: values }) {
 }
 
 function showValues() {
-    for (const row of rows) one('.value', row).textContent = picker(row).valueText;
+    for (const row of rows) {
+        const value = one('.value', row);
+        if (value.textContent !== picker(row).valueText) value.textContent = picker(row).valueText;
+    }
 }
+// The module, a language and the names of icons may come late.
+setInterval(showValues, 250);
 
 one('.rows').addEventListener('input', showValues);
 one('.rows').addEventListener('change', () => {
@@ -140,8 +145,7 @@ async function applySettings() {
         element.toggleAttribute('ticks', clicks === 'on');
     }
     if (language !== document.documentElement.lang || !texts[language]) await showLanguage(language);
-    // The pickers' own texts come when they are needed.
-    for (const wait of [0, 100, 400, 1500]) setTimeout(showValues, wait);
+    showValues();
 }
 choices.addEventListener('input', () => {
     keep('settings', Object.fromEntries(new FormData(choices)));
@@ -190,7 +194,9 @@ function showElement() {
         for (const old of all('#log li').slice(50)) old.remove();
     };
     for (const type of ['input', 'change', 'gx-tick']) shown.addEventListener(type, note);
-    one('#log').replaceChildren(Object.assign(document.createElement('li'), { textContent: text('Nothing yet: turn the wheel.') }));
+    one('#log').replaceChildren(
+        Object.assign(document.createElement('li'), { textContent: text('Nothing yet: turn the wheel.'), dir: 'auto' }),
+    );
 
     const showMarkup = () => {
         const shell = shown.cloneNode();
@@ -211,11 +217,14 @@ function showElement() {
             line.append(
                 Object.assign(document.createElement('code'), { textContent: attribute.name }),
                 control,
-                Object.assign(document.createElement('small'), { textContent: attribute.description }),
+                Object.assign(document.createElement('small'), { textContent: attribute.description.replaceAll('`', '') }),
             );
             return line;
         });
-    one('#attributes').replaceChildren(Object.assign(document.createElement('p'), { textContent: description }), ...controls);
+    one('#attributes').replaceChildren(
+        Object.assign(document.createElement('p'), { textContent: description.replaceAll('`', '') }),
+        ...controls,
+    );
     one('#place').replaceChildren(shown);
     showMarkup();
 }

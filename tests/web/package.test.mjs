@@ -30,10 +30,21 @@ test('the packed package holds all that its package.json names', () => {
 
 test('source maps hold the sources', () => {
     for (const name of ['asset.js', 'gxuipickers.js']) {
-        assert.ok(readFileSync(path.join(folder, name), 'utf8').includes(`//# sourceMappingURL=${name}.map`), name);
+        const script = readFileSync(path.join(folder, name), 'utf8');
+        assert.ok(script.endsWith(`sourceMappingURL=${name}.map\n`), name);
         const { sources, sourcesContent } = JSON.parse(readFileSync(path.join(folder, `${name}.map`), 'utf8'));
         assert.ok(sources.some((source) => source.endsWith('script/element.ts')));
         assert.equal(sourcesContent.length, sources.length);
+    }
+});
+
+test('the manifest describes every part of every element', () => {
+    const isDescribed = (part, of) => assert.ok(part.description?.length > 2, `${of}: ${part.name || 'slot'} has no description`);
+    assert.equal(declarations.length, 15);
+    for (const declaration of declarations) {
+        const { tagName, attributes, members, events, slots, cssParts, cssProperties } = declaration;
+        isDescribed(declaration, tagName);
+        for (const part of [...attributes, ...members, ...events, ...slots, ...cssParts, ...cssProperties]) isDescribed(part, tagName);
     }
 });
 

@@ -48,7 +48,9 @@ abstract class PickerWithIcons extends PickerElement {
  */
 export class IconPicker extends PickerWithIcons {
     static override readonly kind = Kind.Icon;
+    /** The index of the icon. */
     declare value: number;
+    /** The index of the first icon that is shown. */
     declare min: number;
 }
 
@@ -57,10 +59,16 @@ export class IconPicker extends PickerWithIcons {
  */
 export class WeatherAndTemperaturePicker extends PickerWithIcons {
     static override readonly kind = Kind.WeatherAndTemperature;
+    /** The index of the icon. */
     declare weather: number;
+    /** In degrees Celsius. */
     declare temperature: number;
+    /** The least temperature. */
     declare min: number;
+    /** The temperature above the greatest one. */
     declare max: number;
+    /** Degrees from each row to the next. */
     declare step: number;
+    /** Degrees Celsius or Fahrenheit. */
     declare unit: UnitSystem;
 }

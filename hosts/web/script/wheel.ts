@@ -23,6 +23,7 @@ export class Wheel extends PickerElement {
         return ['columns', 'rows'];
     }
 
+    /** Its columns, from the left. */
     get columns(): readonly WheelColumn[] {
         return this.list;
     }
