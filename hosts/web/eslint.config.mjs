@@ -32,7 +32,7 @@ export default typescript.config(
             globals: Object.fromEntries(
                 [
                     // Of node.
-                    ...['process', 'console', 'URL', 'Buffer', 'setTimeout', 'clearTimeout', 'performance', 'fetch'],
+                    ...['process', 'console', 'URL', 'Buffer', 'setTimeout', 'clearTimeout', 'setInterval', 'performance', 'fetch'],
                     // Of the page, in functions that run there.
                     ...['document', 'window', 'location', 'history', 'navigator', 'customElements', 'getComputedStyle'],
                     ...['requestAnimationFrame', 'dispatchEvent', 'addEventListener', 'matchMedia', 'scrollTo', 'scrollY'],
