@@ -1,5 +1,6 @@
 # What is built, and with which flags. As a part of another project, only the library itself is.
 option(GX_BUILD_QT "Build the Qt host (needs Qt 6.4)" ${PROJECT_IS_TOP_LEVEL})
+option(GX_BUILD_QUICK "Build the QML module too, where qt6-declarative-dev is installed" ${GX_BUILD_QT})
 option(GX_BUILD_GALLERY "Build the demo application (without the Qt host, its screens alone)" ${GX_BUILD_QT})
 option(GX_GALLERY_CLICKS "Let the gallery's wheels click, where Qt Multimedia is installed" ON)
 option(GX_BUILD_WEB "Build the browser's host (with the preset web, its WebAssembly module)" OFF)

@@ -15,6 +15,7 @@ CLEAN = {
     "hosts/qt/CMakeLists.txt": "gx_add_floor(qt\n  FOLDERS .\n  PUBLIC_HEADERS Q.h\n  DEPENDS gx_platform)\n",
     "hosts/web/CMakeLists.txt": "gx_add_part(gx_web\n  FOLDERS Page\n  DEPENDS gx::platform)\n",
     "hosts/elements/CMakeLists.txt": "gx_add_part(gx_elements\n  FOLDERS .\n  DEPENDS gx::pickers)\n",
+    "hosts/quick/CMakeLists.txt": "set(ROOMS Item)\n",
     "hosts/web/elements/CMakeLists.txt": "gx_add_part(gx_web_elements\n  FOLDERS Pickers\n  DEPENDS gx_web gx::pickers)\n",
     "gallery/CMakeLists.txt": "set(ROOMS app)\n",
     "platform/Low/A.h": "#pragma once\n#include <vector>\nclass A {\npublic:\n    void one();\n\nprivate:\n    int two_ = 0;\n};\n",

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QLocale>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QQuickItem>
+
+#include "QuickStyleSheet.h"
+
+namespace gx::quick {
+
+/// The control that an item is the content of, read by the names of its properties: the class of
+/// controls has no public header.
+///
+/// Without a control it has the application's looks, is no place for keys and takes all input.
+class QuickControl {
+public:
+    QQuickItem* item() const { return control_; }
+    /// Has `receiver` follow another control: its events go through the receiver's `eventFilter`,
+    /// and changes of its looks call `slot`.
+    void set(QQuickItem* control, QObject& receiver, const QMetaMethod& slot);
+
+    QuickLooks looks() const;
+    bool isDark() const;
+    QColor highlight() const { return color("highlight"); }
+    QLocale locale() const;
+    bool isMirrored() const;
+    bool reducesMotion() const { return flag("reducedMotion", false); }
+    bool takesWheel() const { return flag("wheelEnabled", true); }
+    bool takesFocusByPress() const;
+    /// What the application calls it for screen readers; empty without a name.
+    QString accessibleName() const;
+    /// Emits the signal for the user's own changes.
+    void notifyMoved() const;
+
+private:
+    bool flag(const char* name, bool otherwise) const;
+    /// Of the palette.
+    QColor color(const char* role) const;
+    QFont font() const;
+
+    QPointer<QQuickItem> control_;
+};
+
+} // namespace gx::quick

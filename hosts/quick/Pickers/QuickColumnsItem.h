@@ -1,0 +1,79 @@
+#pragma once
+
+#include <vector>
+
+#include <QAbstractItemModel>
+#include <QVariantList>
+
+#include "QuickColumns.h"
+#include "QuickItem.h"
+
+namespace gx::quick {
+
+/// A wheel of an application's own columns: the content of `WheelPicker`.
+///
+/// A column is a number (so many rows, numbered from 0), a list of texts, or a model, of which the
+/// role `textRole` is shown. Rows are only looked at when they come into sight, so a column may
+/// have 2^53 of them. A model may change at any time.
+class QuickColumnsItem : public gx::quick::QuickItem { // Its whole name: Qt's tools find no other.
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ColumnsItem)
+    Q_PROPERTY(QVariantList columns READ columns WRITE setColumns NOTIFY columnsChanged FINAL)
+    Q_PROPERTY(QList<double> currentIndexes READ currentIndexes WRITE setCurrentIndexes NOTIFY currentIndexesChanged FINAL)
+    Q_PROPERTY(QList<double> columnWidths READ columnWidths WRITE setColumnWidths NOTIFY columnWidthsChanged FINAL)
+    Q_PROPERTY(QStringList columnLabels READ columnLabels WRITE setColumnLabels NOTIFY columnLabelsChanged FINAL)
+    Q_PROPERTY(QString textRole READ textRole WRITE setTextRole NOTIFY textRoleChanged FINAL)
+
+public:
+    ~QuickColumnsItem() override;
+
+    const QVariantList& columns() const { return columns_; }
+    void setColumns(const QVariantList& columns);
+    /// The selected row of each column. An index beyond the rows selects the last one.
+    const QList<double>& currentIndexes() const { return currentIndexes_; }
+    void setCurrentIndexes(const QList<double>& indexes);
+    /// In points; a column without one, or with 0, gets an equal share.
+    const QList<double>& columnWidths() const { return columnWidths_; }
+    void setColumnWidths(const QList<double>& widths);
+    /// What a screen reader calls the columns.
+    const QStringList& columnLabels() const { return columnLabels_; }
+    void setColumnLabels(const QStringList& labels);
+    /// Empty for a model's first role.
+    const QString& textRole() const { return textRole_; }
+    void setTextRole(const QString& role);
+
+signals:
+    void columnsChanged();
+    void currentIndexesChanged();
+    void columnWidthsChanged();
+    void columnLabelsChanged();
+    void textRoleChanged();
+
+protected:
+    void surroundingsDidChange(bool isRowHeightChanged) override;
+    void componentComplete() override;
+
+private slots:
+    void reload();
+
+private:
+    struct Column {
+        double rows = 0;
+        QStringList titles;
+        QPointer<QAbstractItemModel> model;
+    };
+    Column columnOf(const QVariant& description, qsizetype index) const;
+    std::optional<std::string> titleOf(double row, NSInteger column) const;
+    void select();
+    void userDidSelect();
+
+    QVariantList columns_;
+    QList<double> currentIndexes_;
+    QList<double> columnWidths_;
+    QStringList columnLabels_;
+    QString textRole_;
+    std::vector<Column> read_;
+    Ref<QuickColumns> wheel_;
+};
+
+} // namespace gx::quick

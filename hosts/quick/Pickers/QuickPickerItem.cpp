@@ -1,0 +1,250 @@
+#include "QuickPickerItem.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include <QQmlFile>
+#include <QtQml>
+
+#include <GXUIPickers/UIImage.h>
+
+#include "PropertyPickerFactory.h"
+
+namespace gx::quick {
+
+namespace {
+
+using Property = QuickPickerItem::Property;
+
+struct Bounds {
+    Property lower;
+    Property upper;
+};
+constexpr std::array<Bounds, 3> boundsOfAll = {
+    {{Property::Min, Property::Max}, {Property::MinDistance, Property::MaxDistance}, {Property::MinDuration, Property::MaxDuration}}};
+
+std::optional<Bounds> boundsOf(Property property) {
+    for (const Bounds& bounds : boundsOfAll) {
+        if (property == bounds.lower || property == bounds.upper) return bounds;
+    }
+    return std::nullopt;
+}
+
+bool isStep(Property property) {
+    return property == Property::Step || property == Property::HoursStep || property == Property::MinutesStep ||
+           property == Property::SecondsStep;
+}
+
+/// The highest value of an enumeration; nothing for other properties.
+std::optional<double> highestOf(Property property) {
+    if (property == Property::Metric) return 1;
+    if (property == Property::WeightUnit) return WeightUnit::Stone;
+    if (property == Property::Layout) return DurationType::MinutesSeconds;
+    return std::nullopt;
+}
+
+} // namespace
+
+const std::array<QuickPickerItem::Description, QuickPickerItem::propertyCount> QuickPickerItem::descriptions = {
+    {{"unitSystem", &QuickPickerItem::unitSystemChanged},
+     {"weightUnit", &QuickPickerItem::weightUnitChanged},
+     {"weightUnitSelectable", &QuickPickerItem::weightUnitSelectableChanged},
+     {"numberOfFractionUnits", &QuickPickerItem::numberOfFractionUnitsChanged},
+     {"type", &QuickPickerItem::typeChanged},
+     {"hoursStepSize", &QuickPickerItem::hoursStepSizeChanged},
+     {"minutesStepSize", &QuickPickerItem::minutesStepSizeChanged},
+     {"secondsStepSize", &QuickPickerItem::secondsStepSizeChanged},
+     {"shouldShowNullValue", &QuickPickerItem::shouldShowNullValueChanged},
+     {"minimumGapBetweenAvgAndMax", &QuickPickerItem::minimumGapBetweenAvgAndMaxChanged},
+     {"from", &QuickPickerItem::fromChanged},
+     {"to", &QuickPickerItem::toChanged},
+     {"stepSize", &QuickPickerItem::stepSizeChanged},
+     {"minDistance", &QuickPickerItem::minDistanceChanged},
+     {"maxDistance", &QuickPickerItem::maxDistanceChanged},
+     {"minDuration", &QuickPickerItem::minDurationChanged},
+     {"maxDuration", &QuickPickerItem::maxDurationChanged},
+     {"currentAvgHeartRate", &QuickPickerItem::currentAvgHeartRateChanged},
+     {"currentMaxHeartRate", &QuickPickerItem::currentMaxHeartRateChanged},
+     {"distance", &QuickPickerItem::distanceChanged},
+     {"duration", &QuickPickerItem::durationChanged},
+     {"weather", &QuickPickerItem::weatherChanged},
+     {"temperature", &QuickPickerItem::temperatureChanged},
+     {"value", &QuickPickerItem::valueChanged}}};
+
+QuickPickerItem::~QuickPickerItem() {
+    if (picker_) picker_->didChange = nullptr;
+}
+
+// Properties
+
+bool QuickPickerItem::isTaken(Property property, double value) const {
+    const QString name = QString::fromLatin1(descriptions[indexOf(property)].name);
+    if (!std::isfinite(value)) {
+        warn(QStringLiteral("%1 has to be a number. It stays %2.").arg(name).arg(number(property)));
+        return false;
+    }
+    const std::optional<double> highest = highestOf(property);
+    if (highest && !(value >= 0 && value <= *highest)) {
+        warn(QStringLiteral("%1 has no such value. It stays as it is.").arg(name));
+        return false;
+    }
+    if (isStep(property) && !(value > 0)) {
+        warn(QStringLiteral("%1 has to be above 0, not %2. It stays %3.").arg(name).arg(value).arg(number(property)));
+        return false;
+    }
+    return true;
+}
+
+void QuickPickerItem::setNumber(Property property, double value) {
+    if (!isTaken(property, value)) return;
+    if (isComponentComplete() && value == number(property)) return;
+    values_[indexOf(property)] = value;
+    isSet_.set(indexOf(property));
+    if (!isComponentComplete()) return;
+    const QPointer<QuickPickerItem> self(this);
+    emit(this->*descriptions[indexOf(property)].changed)();
+    if (!self) return;
+    const QuickSurroundings::Visit here = visit();
+    apply(property);
+    refresh();
+}
+
+/// Hands a value to the picker, which may take another one.
+void QuickPickerItem::apply(Property property) {
+    isApplying_ = true;
+    if (const std::optional<Bounds> bounds = boundsOf(property)) {
+        const double lower = number(bounds->lower);
+        const double upper = number(bounds->upper);
+        if (lower > upper) polish(); // Bindings may still change the other one.
+        picker_->set(bounds->lower, lower);
+        picker_->set(bounds->upper, std::max(lower, upper));
+        // What is selected may lie within the bounds again.
+    } else {
+        picker_->set(property, number(property));
+    }
+    isApplying_ = false;
+}
+
+void QuickPickerItem::updatePolish() {
+    QuickItem::updatePolish();
+    for (const Bounds& bounds : boundsOfAll) {
+        const double lower = number(bounds.lower);
+        const double upper = number(bounds.upper);
+        if (!(lower > upper)) continue;
+        warn(QStringLiteral("%1 (%2) is above %3 (%4). Only %2 can be chosen.")
+                 .arg(QLatin1String(descriptions[indexOf(bounds.lower)].name))
+                 .arg(lower)
+                 .arg(QLatin1String(descriptions[indexOf(bounds.upper)].name))
+                 .arg(upper));
+    }
+}
+
+/// Reads what the picker has now, and emits the signals of what has changed.
+void QuickPickerItem::refresh() {
+    std::bitset<propertyCount> changed;
+    for (std::size_t i = 0; i < propertyCount; ++i) {
+        const auto property = static_cast<Property>(i);
+        const std::optional<double> value = picker_->get(property);
+        const std::optional<Bounds> bounds = boundsOf(property);
+        const bool isCrossed = bounds && number(bounds->lower) > number(bounds->upper);
+        if (!value || isCrossed || *value == values_[i]) continue;
+        values_[i] = *value;
+        changed.set(i);
+    }
+    const QString text = QString::fromStdString(picker_->text());
+    const bool isTextChanged = text != text_;
+    text_ = text;
+    const QPointer<QuickPickerItem> self(this); // Handlers may drop the item.
+    for (std::size_t i = 0; i < propertyCount && self; ++i) {
+        if (changed.test(i)) emit(this->*descriptions[i].changed)();
+    }
+    if (self && isTextChanged) emit textChanged();
+}
+
+void QuickPickerItem::userDidSelect() {
+    if (isApplying_) return;
+    const QPointer<QuickPickerItem> self(this);
+    refresh();
+    if (self) notifyMoved();
+}
+
+// Icons
+
+void QuickPickerItem::setIconImages(const QStringList& images) {
+    if (images == iconImages_) return;
+    iconImages_ = images;
+    if (picker_) applyIcons();
+    emit iconImagesChanged();
+}
+
+void QuickPickerItem::setIconLabels(const QStringList& labels) {
+    if (labels == iconLabels_) return;
+    iconLabels_ = labels;
+    if (picker_) applyIcons();
+    emit iconLabelsChanged();
+}
+
+void QuickPickerItem::applyIcons() {
+    const QuickSurroundings::Visit here = visit();
+    auto images = std::make_shared<GXIconPickerView::Images>();
+    const QQmlContext* const document = control() ? qmlContext(control()) : nullptr;
+    for (qsizetype i = 0; i < iconImages_.size(); ++i) {
+        const QUrl url(iconImages_[i]);
+        const QString file = QQmlFile::urlToLocalFileOrQrc(document ? document->resolvedUrl(url) : url);
+        Ref<UIImage> image = UIImage::imageWithContentsOfFile(file.toStdString());
+        if (!image) warn(QStringLiteral("iconImages[%1]: the picture \"%2\" cannot be read. Its row is empty.").arg(i).arg(iconImages_[i]));
+        if (image && i < iconLabels_.size()) image->setAccessibilityLabel(iconLabels_[i].toStdString());
+        images->push_back(std::move(image));
+    }
+    isApplying_ = true;
+    picker_->setIcons(std::move(images));
+    isApplying_ = false;
+    refresh();
+}
+
+// The picker
+
+void QuickPickerItem::makePicker() {
+    picker_ = elements::pickerOfKind(static_cast<elements::PickerKind>(kind_));
+    if (!picker_) return;
+    picker_->didChange = [this] { userDidSelect(); };
+    const QString name = accessibleName();
+    if (!name.isEmpty()) picker_->setAccessibilityLabel(name.toStdString());
+}
+
+void QuickPickerItem::surroundingsDidChange(bool isRowHeightChanged) {
+    if (!picker_) return;
+    if (isRowHeightChanged) {
+        // Rows are as high as their fonts need from the making of a picker on.
+        finishMovements();
+        const Ref<elements::PropertyPicker> before = picker_;
+        makePicker();
+        before->copyTo(*picker_);
+        before->didChange = nullptr;
+        setRootView(picker_->view());
+    }
+    picker_->reload();
+    refresh();
+}
+
+void QuickPickerItem::componentComplete() {
+    QuickItem::componentComplete(); // The looks are known from here on.
+    const QuickSurroundings::Visit here = visit();
+    makePicker();
+    if (!picker_) return;
+    if (!isSet_.test(indexOf(Property::Metric))) values_[indexOf(Property::Metric)] = 1;
+    isSet_.set(indexOf(Property::Metric));
+    for (std::size_t i = 0; i < propertyCount; ++i) {
+        if (!isSet_.test(i)) values_[i] = picker_->get(static_cast<Property>(i)).value_or(0);
+    }
+    if (!iconImages_.isEmpty()) applyIcons();
+    for (std::size_t i = 0; i < propertyCount; ++i) {
+        if (isSet_.test(i)) apply(static_cast<Property>(i));
+    }
+    setRootView(picker_->view());
+    picker_->reload();
+    refresh();
+}
+
+} // namespace gx::quick

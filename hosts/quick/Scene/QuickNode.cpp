@@ -1,0 +1,91 @@
+#include "QuickNode.h"
+
+#include <QMatrix4x4>
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <QSGRectangleNode>
+
+namespace gx::quick {
+
+QuickNode::~QuickNode() {
+    removeNodes(0); // Before their textures.
+}
+
+void QuickNode::removeNodes(std::size_t count) {
+    while (nodes_.size() > count) {
+        QSGTransformNode* const transform = nodes_.back().transform;
+        removeChildNode(transform);
+        delete transform; // And what is below it. NOLINT(cppcoreguidelines-owning-memory)
+        nodes_.pop_back();
+    }
+}
+
+QSGTexture* QuickNode::textureOf(const QImage& image, QQuickWindow& window) {
+    Texture& entry = textures_[image.cacheKey()];
+    if (!entry.texture) entry.texture.reset(window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
+    entry.lastFrame = frame_;
+    return entry.texture.get();
+}
+
+void QuickNode::dropTextures() {
+    if (textures_.size() <= nodes_.size() + spareTextureCount) return;
+    for (auto entry = textures_.begin(); entry != textures_.end();) {
+        entry = entry->second.lastFrame == frame_ ? std::next(entry) : textures_.erase(entry);
+    }
+}
+
+void QuickNode::update(Nodes& nodes, const QuickPiece& piece, QQuickWindow& window) {
+    const bool isImage = !piece.image.isNull();
+    const bool isNew = nodes.transform == nullptr || isImage != (nodes.image != nullptr);
+    // The tree owns its nodes. NOLINTBEGIN(cppcoreguidelines-owning-memory)
+    if (nodes.transform == nullptr) {
+        nodes.transform = new QSGTransformNode;
+        nodes.opacity = new QSGOpacityNode;
+        nodes.transform->appendChildNode(nodes.opacity);
+        appendChildNode(nodes.transform);
+    }
+    if (isNew) {
+        while (QSGNode* const before = nodes.opacity->firstChild()) {
+            nodes.opacity->removeChildNode(before);
+            delete before;
+        }
+        nodes.image = isImage ? window.createImageNode() : nullptr;
+        nodes.rectangle = isImage ? nullptr : window.createRectangleNode();
+    }
+    // NOLINTEND(cppcoreguidelines-owning-memory)
+    const QuickPiece& shown = nodes.shown;
+    if (isImage) {
+        QSGTexture* const texture = textureOf(piece.image, window);
+        if (isNew || shown.image.cacheKey() != piece.image.cacheKey()) {
+            nodes.image->setTexture(texture);
+            nodes.image->setSourceRect(QRectF(QPointF(), QSizeF(piece.image.size())));
+            nodes.image->setFiltering(QSGTexture::Linear);
+            nodes.image->setOwnsTexture(false);
+        }
+        if (isNew || shown.area != piece.area) nodes.image->setRect(piece.area);
+    } else {
+        if (isNew || shown.color != piece.color) nodes.rectangle->setColor(piece.color);
+        if (isNew || shown.area != piece.area) nodes.rectangle->setRect(piece.area);
+    }
+    const bool isMoved = shown.x != piece.x || shown.y != piece.y || shown.scaleX != piece.scaleX || shown.scaleY != piece.scaleY;
+    if (isNew || isMoved) {
+        QMatrix4x4 matrix;
+        matrix.translate(static_cast<float>(piece.x), static_cast<float>(piece.y));
+        matrix.scale(static_cast<float>(piece.scaleX), static_cast<float>(piece.scaleY));
+        nodes.transform->setMatrix(matrix);
+    }
+    if (isNew || shown.alpha != piece.alpha) nodes.opacity->setOpacity(piece.alpha);
+    // Renderers look at a node at once.
+    if (isNew) nodes.opacity->appendChildNode(isImage ? static_cast<QSGNode*>(nodes.image) : nodes.rectangle);
+    nodes.shown = piece;
+}
+
+void QuickNode::show(const std::vector<QuickPiece>& pieces, QQuickWindow& window) {
+    ++frame_;
+    removeNodes(pieces.size());
+    nodes_.resize(pieces.size());
+    for (std::size_t i = 0; i < pieces.size(); ++i) update(nodes_[i], pieces[i], window);
+    dropTextures();
+}
+
+} // namespace gx::quick
