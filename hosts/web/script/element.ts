@@ -70,7 +70,7 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         this.shadow = this.attachShadow({ mode: 'open', delegatesFocus: true });
         adoptStyle(this.shadow);
         this.surface = new Surface();
-        this.surroundings = new Surroundings(this);
+        this.surroundings = new Surroundings(this, this.kind === Kind.Height);
         this.shadow.append(...this.surroundings.nodes, this.surface.root, document.createElement('slot'));
         // Labels change without notice; a screen reader that comes here reads the present one.
         this.addEventListener('focusin', () => this.labelDidChange());

@@ -17,7 +17,7 @@ const css = `
 }
 :host([hidden]) { display: none; }
 :host(:disabled) { opacity: 0.45; }
-.surface, .columns { position: absolute; inset: 0; direction: ltr; }
+.surface, .columns { position: absolute; left: 0; top: 0; width: 100%; height: 100%; transform-origin: 0 0; direction: ltr; }
 .surface { contain: strict; pointer-events: none; }
 .surface > * { position: absolute; left: 0; top: 0; transform-origin: 0 0; }
 .text { white-space: pre; font-variant-numeric: inherit; text-align: left; }
@@ -49,9 +49,11 @@ const css = `
     .indicator { border: 1px solid CanvasText; background: transparent; }
     .focus { forced-color-adjust: none; background: Highlight; }
     .outline { display: none; }
-    .row, .separator, .label { color: CanvasText; }
+    /* Without the plates behind texts, which would hide the mark. */
+    .text { forced-color-adjust: none; }
+    .row, .separator, .label { color: CanvasText !important; }
     :host(:disabled) { opacity: 1; }
-    :host(:disabled) .text { color: GrayText; }
+    :host(:disabled) .text { color: GrayText !important; }
 }
 `;
 

@@ -2,6 +2,13 @@ import { fontsOf, lineHeight, type Fonts } from './fonts.js';
 import { languageOf } from './page.js';
 import type { View } from './view.js';
 
+/** The size at which rows are as high as they are on a phone, in CSS pixels. */
+const usualRowSize = 22;
+/** Those of the style sheet in the module: below, a row is too low for a finger. */
+const scaleLimits = { least: 0.8, most: 3 };
+/** What feet, inches and units need side by side at the usual size, with margins; measured. */
+const usualWidth = 190;
+
 /**
  * What the page decides for one element by where it stands and by its style sheets: size, fonts,
  * language and direction.
@@ -13,11 +20,18 @@ export class Surroundings {
     private readonly labelProbe = probe('label');
     private readonly sizes: ResizeObserver;
     private view: View | undefined;
+    /** By the fonts, and what there is room for of it. */
+    private wantedScale = 1;
+    private scale = 1;
     private size = { width: 0, height: 0 };
     private fontsKey = '';
     private languageKey = '';
 
-    constructor(private readonly element: HTMLElement) {
+    /** `scalesWhole`: its rows have one size; in other fonts it is drawn in that and scaled. */
+    constructor(
+        private readonly element: HTMLElement,
+        private readonly scalesWhole: boolean,
+    ) {
         this.sizes = new ResizeObserver((entries) => {
             if (entries.some((entry) => entry.target === element)) this.sizeDidChange();
             if (entries.some((entry) => entry.target !== element)) this.fontsDidChange();
@@ -48,7 +62,9 @@ export class Surroundings {
     get fonts(): Fonts {
         const fonts = fontsOf(this.rowProbe, this.labelProbe);
         this.fontsKey = JSON.stringify(fonts);
-        return fonts;
+        if (!this.scalesWhole) return fonts;
+        this.wantedScale = Math.min(Math.max(fonts.rowSize / usualRowSize, scaleLimits.least), scaleLimits.most);
+        return { ...fonts, rowSize: usualRowSize, labelSize: (fonts.labelSize * usualRowSize) / fonts.rowSize };
     }
 
     get language(): { name: string; isRightToLeft: boolean } {
@@ -60,8 +76,20 @@ export class Surroundings {
     /** Passes changes on to this view from now on. */
     follow(view: View | undefined): void {
         this.view = view;
+        if (!view) return;
         this.size = { width: this.element.clientWidth, height: this.element.clientHeight };
-        view?.setSize(this.size.width, this.size.height);
+        this.applySize(view);
+    }
+
+    private applySize(view: View): void {
+        if (this.scalesWhole) {
+            this.scale = Math.min(this.wantedScale, Math.max(this.size.width / usualWidth, 1));
+            for (const node of this.element.shadowRoot?.querySelectorAll<HTMLElement>('.surface, .columns') ?? []) {
+                node.style.transform = this.scale === 1 ? '' : `scale(${this.scale})`;
+                node.style.width = node.style.height = `${100 / this.scale}%`;
+            }
+        }
+        view.setSize(this.size.width / this.scale, this.size.height / this.scale);
     }
 
     private sizeDidChange(): void {
@@ -70,13 +98,15 @@ export class Surroundings {
         this.size = size;
         // Nobody sees an element without a size: what moves arrives.
         if (size.width === 0 || size.height === 0) this.view.finish();
-        else this.view.setSize(size.width, size.height);
+        else this.applySize(this.view);
     }
 
     fontsDidChange(): void {
         const key = this.fontsKey;
         const fonts = this.fonts;
-        if (this.fontsKey !== key) this.view?.setFonts(fonts);
+        if (!this.view || this.fontsKey === key) return;
+        this.view.setFonts(fonts);
+        if (this.scalesWhole) this.applySize(this.view);
     }
 
     languageDidChange(): void {
