@@ -7,35 +7,12 @@ import path from 'node:path';
 import { readFile } from 'node:fs/promises';
 import { fileURLToPath } from 'node:url';
 import { untilStill } from './browser.mjs';
+import { everyElement, markup, table } from './every.mjs';
 import { assertQuiet, Stage, untilColumns } from './stage.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const tools = createRequire(path.join(here, '../../hosts/web/package.json'));
 const stage = new Stage();
-const table = JSON.parse(await readFile(path.join(here, 'accessibility.json'), 'utf8'));
-
-const icons = '<svg aria-label="one"></svg><svg aria-label="two"></svg>';
-const markup = {
-    'gx-number-picker': ['value="42" aria-label="Repetitions"'],
-    'gx-bpm-picker': ['value="140"'],
-    'gx-calories-picker': ['value="420"'],
-    'gx-distance-picker': ['value="5300"'],
-    'gx-distance-and-duration-picker': ['distance="5300" duration="5100000"'],
-    'gx-duration-picker': ['value="5100000"'],
-    'gx-heart-rate-picker': ['average="142" maximum="171"'],
-    'gx-height-picker': ['value="176"'],
-    'gx-icon-picker': ['value="1"', icons],
-    'gx-pace-picker': ['value="3.5087719298"'],
-    'gx-speed-picker': ['value="3.5"'],
-    'gx-temperature-picker': ['value="-5"'],
-    'gx-weather-and-temperature-picker': ['weather="1" temperature="20"', icons],
-    'gx-weight-picker': ['value="72.5" unit-selectable'],
-    'gx-wheel': [''],
-};
-const everyElement = (more = '') =>
-    Object.entries(markup)
-        .map(([name, [own, content = '']]) => `<${name} ${own} ${more}>${content}</${name}>`)
-        .join('');
 
 async function openEvery(more, settings) {
     const opened = await stage.open(`<main><h1>Workout</h1>${everyElement(more)}</main>`, settings);

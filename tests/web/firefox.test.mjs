@@ -1,0 +1,181 @@
+// The main ways once more in Firefox.
+import { after, before, test } from 'node:test';
+import assert from 'node:assert/strict';
+import path from 'node:path';
+import { fileURLToPath } from 'node:url';
+import { pageOf } from './browser.mjs';
+import { everyElement, table } from './every.mjs';
+import { Firefox, hasFirefox } from './marionette.mjs';
+import { startServer } from './server.mjs';
+
+const root = path.join(path.dirname(fileURLToPath(import.meta.url)), '../..');
+const packageFolder = process.env.GX_WEB_PACKAGE ?? path.join(root, 'build/web/package');
+const settings = hasFirefox ? {} : { skip: 'Firefox is not installed' };
+const key = { tab: '\uE004', left: '\uE012', up: '\uE013', right: '\uE014', down: '\uE015', home: '\uE011', pageDown: '\uE00F' };
+const distance = '<gx-distance-picker value="5000"></gx-distance-picker>';
+const head = `<script>
+    window.errors = [];
+    addEventListener('error', (event) => errors.push(event.message));
+    addEventListener('unhandledrejection', (event) => errors.push(String(event.reason)));
+</script>`;
+const pages = {};
+let server;
+let firefox;
+
+if (hasFirefox) {
+    before(async () => {
+        server = await startServer({ folders: { '/package/': packageFolder }, pages });
+        firefox = await Firefox.start();
+    });
+    after(async () => {
+        await firefox?.stop();
+        await server?.stop();
+    });
+}
+
+/** Opens a page and waits until all its elements can be touched. */
+async function open(body) {
+    const address = `/${Object.keys(pages).length}.html`;
+    pages[address] = pageOf(body, { head });
+    await firefox.open(server.address + address);
+    await firefox.run(async () => {
+        const wheel = document.querySelector('gx-wheel');
+        if (wheel) {
+            wheel.columns = [
+                { rows: ['red', 'green'], label: 'Colour' },
+                { rows: 100, label: 'Number' },
+            ];
+            wheel.rows = [1, 17];
+        }
+        const elements = [...document.querySelectorAll('*')].filter((node) => node.localName.startsWith('gx-'));
+        while (!elements.every((node) => node.shadowRoot?.querySelector('.column')))
+            await new Promise((resolve) => requestAnimationFrame(resolve));
+        window.noted = [];
+        for (const type of ['input', 'change']) document.addEventListener(type, (event) => window.noted.push([type, event.target.value]));
+    });
+}
+
+const place = (column = 0) =>
+    firefox.run((index) => {
+        const box = document.querySelector('gx-distance-picker').shadowRoot.querySelectorAll('.column')[index].getBoundingClientRect();
+        return { x: box.x + box.width / 2, y: box.y + box.height / 2 };
+    }, column);
+
+/** The value of the distance once it has told a change. */
+const changed = () =>
+    firefox.run(async () => {
+        const end = performance.now() + 10000;
+        const isThere = () => window.noted.some(([type]) => type === 'change');
+        while (!isThere() && performance.now() < end) await new Promise((resolve) => requestAnimationFrame(resolve));
+        const { noted } = globalThis;
+        window.noted = [];
+        return { value: document.querySelector('gx-distance-picker').value, noted };
+    });
+
+test('every element opens, with its columns for screen readers', settings, async () => {
+    await open(`<main>${everyElement()}</main>`);
+    const read = await firefox.run(() =>
+        Object.fromEntries(
+            [...document.querySelectorAll('main > *')].map((node) => [
+                node.localName,
+                [...node.shadowRoot.querySelectorAll('.column')].map((column) => [
+                    `${column.getAttribute('aria-label')}: ${column.getAttribute('aria-valuetext')}`,
+                    ['now', 'min', 'max'].map((name) => Number(column.getAttribute(`aria-value${name}`))),
+                ]),
+            ]),
+        ),
+    );
+    for (const [name, numbers] of Object.entries(table.numbers)) {
+        assert.deepEqual(
+            read[name].map(([, own]) => own),
+            numbers,
+            name,
+        );
+        const texts = table.texts.en[name];
+        if (texts) {
+            assert.deepEqual(
+                read[name].map(([text]) => text),
+                texts,
+                name,
+            );
+        }
+    }
+    assert.deepEqual(await firefox.run(() => window.errors), []);
+});
+
+test('a finger turns a column, and two fingers two', settings, async () => {
+    await open(distance);
+    await firefox.perform(Firefox.drag('touch', await place(), 86));
+    const { value, noted } = await changed();
+    assert.equal(value, 7000);
+    assert.deepEqual(noted.at(-1), ['change', 7000]);
+    assert.ok(noted.some(([type, at]) => type === 'input' && at === 6000));
+    await firefox.perform(Firefox.drag('touch', await place(0), 46), Firefox.drag('touch', await place(1), 86));
+    let last = await changed();
+    if (last.value !== 8200) last = await changed(); // Each column tells its own change.
+    assert.equal(last.value, 8200);
+    assert.deepEqual(await firefox.run(() => window.errors), []);
+});
+
+test('the mouse drags, and its wheel turns while the page stands still', settings, async () => {
+    await open(`${distance}<div style="height: 3000px"></div>`);
+    await firefox.perform(Firefox.drag('mouse', await place(), 86));
+    assert.equal((await changed()).value, 7000);
+    const { x, y } = await place();
+    await firefox.perform({
+        type: 'wheel',
+        actions: [{ type: 'scroll', x: Math.round(x), y: Math.round(y), deltaX: 0, deltaY: 120, duration: 0 }],
+    });
+    assert.ok((await changed()).value > 7000);
+    assert.equal(await firefox.run(() => scrollY), 0);
+});
+
+test('keys move rows, choose columns and type numbers', settings, async () => {
+    await open(distance);
+    await firefox.press(key.tab, key.down);
+    assert.equal((await changed()).value, 6000);
+    await firefox.press(key.right, key.down);
+    assert.equal((await changed()).value, 6100);
+    await firefox.press(key.left, key.home);
+    assert.equal((await changed()).value, 100);
+    await firefox.press('1', '2', '.', '7');
+    let last = await changed();
+    while (last.value !== 12700 && last.noted.length > 0) last = await changed();
+    assert.equal(last.value, 12700);
+});
+
+test('a form has, resets and disables it, and its label focuses it', settings, async () => {
+    await open(`<form><label for="way">Way</label><gx-distance-picker id="way" name="way" value="5300"></gx-distance-picker>
+        <fieldset><gx-bpm-picker name="rate" value="100"></gx-bpm-picker></fieldset></form>`);
+    const read = await firefox.run(() => {
+        const form = document.querySelector('form');
+        const data = () => Object.fromEntries(new FormData(form));
+        const before = data();
+        document.querySelector('#way').value = 8000;
+        const set = data();
+        form.reset();
+        const reset = data();
+        document.querySelector('fieldset').disabled = true;
+        const disabled = data();
+        document.querySelector('label').click();
+        return { before, set, reset, disabled, focus: document.activeElement.id };
+    });
+    assert.deepEqual(read, {
+        before: { way: '5300', rate: '100' },
+        set: { way: '8000', rate: '100' },
+        reset: { way: '5300', rate: '100' },
+        disabled: { way: '5300' },
+        focus: 'way',
+    });
+});
+
+test('from right to left the unit stands left of the number', settings, async () => {
+    await open(`<div dir="rtl">${distance}</div>`);
+    const [label, column] = await firefox.run(() => {
+        const shadow = document.querySelector('gx-distance-picker').shadowRoot;
+        return ['.surface .label', '.column'].map((selector) => shadow.querySelector(selector).getBoundingClientRect().left);
+    });
+    assert.ok(label < column);
+    await firefox.perform(Firefox.drag('touch', await place(), 86));
+    assert.equal((await changed()).value, 7000);
+});
