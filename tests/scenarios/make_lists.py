@@ -3,6 +3,7 @@
 
 - ways.json: each picker in each way of turning it. What the user then has picked is worked out
   here, from the rules and without the library.
+- recorded.json: the keys of a recorded session of the demo application, at their times.
 - random.json: gestures, keys and settings at random, from seeds. Nothing is expected here; both
   worlds have to agree with results.jsonl.
 
@@ -231,6 +232,30 @@ def random_scenario(kind, seed):
     return scenario(kind, f"at random, {seed}", steps + [["wait", REST], ["state"]])
 
 
+def recorded_speed():
+    """The keys of a recorded session of the demo application that go to its wheel of the speed."""
+    recording = FOLDER.parent.parent / "application" / "recordings" / "average-speed.jsonl"
+    events = [json.loads(line) for line in recording.read_text(encoding="utf-8").splitlines()]
+    keys = [event for event in events if event.get("event") == "key"]
+    # A row is opened by Return; the Tab after it goes to the wheel.
+    opened = next(i for i, event in enumerate(keys) if event["key"] == "return")
+    names = {"up": "ArrowUp", "down": "ArrowDown", "left": "ArrowLeft", "right": "ArrowRight"}
+    steps, before = [], None
+    for event in keys[opened + 1:]:
+        if event["key"] == "tab":
+            steps, before = [["focus", 0]], event["time"]
+            continue
+        steps += [["wait", event["time"] - before]]
+        before = event["time"]
+        if event["key"] == "character":
+            steps += [["type", event["text"]]]
+            before += 1 / 60  # A typed character takes a frame.
+        else:
+            steps += [["key", names[event["key"]]]]
+    kind = Kind("speed", {"min": 0, "max": 13.8888889, "value": 12.5 / 3.6}, {}, None, None, None, None)
+    return scenario(kind, "as recorded", steps + rest({"text": "14.3 km/h", "value": speed(14.3)}))
+
+
 def text_of(scenarios):
     """One line a scenario but for its steps, of which a line has some."""
     lines = []
@@ -251,6 +276,7 @@ def text_of(scenarios):
 def main():
     lists = {
         "ways.json": [found for kind in KINDS for found in ways_of(kind)],
+        "recorded.json": [recorded_speed()],
         "random.json": [random_scenario(kind, seed) for kind in KINDS for seed in range(1, 5)],
     }
     FOLDER.mkdir(exist_ok=True)

@@ -244,6 +244,14 @@ export async function playScenarios({ scenarios, script }) {
         }
     }
 
+    // An element in another language shows itself once its texts are there.
+    for (const language of new Set(scenarios.map((scenario) => scenario.language ?? 'en'))) {
+        const first = document.createElement('gx-distance-picker');
+        first.setAttribute('lang', language);
+        document.body.append(first);
+        while (!first.shadowRoot.querySelector('.isReady')) await new Promise((resolve) => requestAnimationFrame(resolve));
+        first.remove();
+    }
     const played = [];
     for (const scenario of scenarios) {
         const run = new Run(scenario);
