@@ -64,6 +64,19 @@ export async function openPage({ browser, pid, address }) {
     return { browser, pid, address, context, page, errors, client: await context.newCDPSession(page) };
 }
 
+/** Goes to a picker's page; false if its first picture took too long. */
+async function load({ page, pid, address }, name, columns, rows) {
+    try {
+        await page.goto(`${address}/${name}/index.html?columns=${columns}&rows=${rows}`, { waitUntil: 'load' });
+        await page.waitForFunction(() => performance.getEntriesByName('first-contentful-paint').length > 0, undefined, { polling: 50 });
+    } catch (error) {
+        if (error.name === 'TimeoutError') return false;
+        throw error;
+    }
+    await untilIdle(pid);
+    return true;
+}
+
 /**
  * Goes to a picker's page. Returns when its first picture was there and what the renderer has taken
  * until it rested; nothing if it took too long.
@@ -72,14 +85,7 @@ export async function start(opened, name, columns, rows) {
     const { page, pid } = opened;
     await untilIdle(pid);
     const before = processTimes(pid);
-    try {
-        await page.goto(`${opened.address}/${name}/index.html?columns=${columns}&rows=${rows}`, { waitUntil: 'load' });
-        await page.waitForFunction(() => performance.getEntriesByName('first-contentful-paint').length > 0, undefined, { polling: 50 });
-    } catch (error) {
-        if (error.name === 'TimeoutError') return undefined;
-        throw error;
-    }
-    await untilIdle(pid);
+    if (!(await load(opened, name, columns, rows))) return undefined;
     const after = processTimes(pid);
     opened.renderer = await rendererOf(opened);
     const work = taken(before, after, opened.renderer);
@@ -131,20 +137,25 @@ export async function fling(opened) {
 export async function longestTasks(opened, name, columns, rows) {
     const { browser, page, pid } = opened;
     await untilIdle(pid);
-    const longest = async (work) => {
+    const traced = async (work) => {
         await browser.startTracing(page, { categories: ['-*', 'toplevel'] });
         await work();
-        const traced = await events(browser);
-        const tasks = traced.filter(
-            (event) => event.ph === 'X' && event.pid === opened.renderer && event.tid === opened.renderer && event.name.endsWith('RunTask'),
-        );
-        return Math.max(0, ...tasks.map((event) => (event.tdur ?? event.dur) / 1000));
+        return events(browser);
     };
-    const atStart = await longest(async () => start(opened, name, columns, rows));
-    const inFling = await longest(async () => {
+    const starting = await traced(() => load(opened, name, columns, rows));
+    const flinging = await traced(async () => {
         await flickOnce(opened);
         await untilIdle(pid);
     });
+    opened.renderer = await rendererOf(opened);
+    const longest = (all) => {
+        const tasks = all.filter(
+            ({ ph, pid: owner, tid, name: what }) => ph === 'X' && owner === opened.renderer && tid === owner && what.endsWith('RunTask'),
+        );
+        return Math.max(0, ...tasks.map((event) => (event.tdur ?? event.dur) / 1000));
+    };
+    const atStart = longest(starting);
+    const inFling = longest(flinging);
     return { atStart, inFling };
 }
 
