@@ -240,3 +240,25 @@ test('a picker that is removed, hidden or left while it spins arrives and report
         await close();
     }
 });
+
+test('a value that `input` reports may be set again, as frameworks do, without ending the spin', async () => {
+    const { page, place, value, close } = await opened();
+    await page.evaluate(() => {
+        const picker = document.querySelector('gx-distance-picker');
+        globalThis.counts = { input: 0, change: 0 };
+        for (const type of ['input', 'change'])
+            picker.addEventListener(type, () => {
+                globalThis.counts[type] += 1;
+                picker.value = Number(picker.value);
+            });
+    });
+    const before = await value();
+    const finger = await touches(page);
+    await finger.drag(place, { x: place.x, y: place.y - twoRows });
+    await untilStill(page, asked);
+    assert.equal(await value(), before + 2000);
+    const { input, change } = await page.evaluate(() => globalThis.counts);
+    assert.equal(change, 1);
+    assert.ok(input >= 1 && input <= 2, `${input}`);
+    await close();
+});

@@ -127,7 +127,15 @@ export class Options {
         } else {
             const number = numberOf(option, text);
             if (number === undefined) this.warn(`${propertyName(option.attribute)} = ${text} is no number; it is ignored`);
-            else this.set(option, number);
+            else if (!this.isPassing(option, number)) this.set(option, number);
         }
+    }
+
+    /**
+     * Whether a wheel that moves is passing this value. A framework may set each value that `input`
+     * reports; that must not end the spin.
+     */
+    private isPassing(option: Option, number: number): boolean {
+        return this.view !== undefined && number === this.read(option, true) && number !== this.read(option);
     }
 }

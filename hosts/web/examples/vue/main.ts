@@ -1,0 +1,5 @@
+import { createApp } from 'vue';
+import 'gxuipickers';
+import Run from './Run.vue';
+
+createApp(Run).mount('main');
