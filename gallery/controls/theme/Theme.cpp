@@ -57,12 +57,13 @@ Ref<UIFont> Theme::font(TextStyle style) {
         double scale = 0;
         Ref<UIFont> scaledFont = nullptr;
     };
-    static std::array<Font, 6> fonts = {{{28, UIFontWeight::Bold},
+    static std::array<Font, 7> fonts = {{{28, UIFontWeight::Bold},
                                          {17, UIFontWeight::Semibold},
                                          {bodySize, UIFontWeight::Regular},
                                          {bodySize, UIFontWeight::Semibold},
                                          {13, UIFontWeight::Regular},
-                                         {13, UIFontWeight::Semibold}}};
+                                         {13, UIFontWeight::Semibold},
+                                         {13, UIFontWeight::Medium}}};
     Font& found = fonts.at(static_cast<std::size_t>(style));
     const double scale = textScale();
     if (!found.scaledFont || found.scale != scale) {

@@ -36,7 +36,7 @@ public:
 
     // Texts, which follow the text scale of the style sheet
 
-    enum class TextStyle { Title, Heading, Body, Strong, Caption, StrongCaption };
+    enum class TextStyle { Title, Heading, Body, Strong, Caption, StrongCaption, Section };
     /// The same object until the text scale changes. Larger styles grow by fewer per cent, so that
     /// their words have room on a phone: titles stay as much larger than the body as at scale 1.
     static gx::Ref<gx::UIFont> font(TextStyle style);

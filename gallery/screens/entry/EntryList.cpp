@@ -11,7 +11,6 @@
 #include "Translations.h"
 #include <GXUIPickers/GXStyleSheet.h>
 #include <GXUIPickers/UIKey.h>
-#include <GXUIPickers/UITextEngine.h>
 #include <GXUIPickers/UIWindow.h>
 
 using namespace gx;
@@ -22,8 +21,7 @@ namespace {
 
 // The rows of a wheel that are visible; in a low window they are fewer. Chosen by eye.
 constexpr double rowsOfWheel = 5;
-// A line of text and some space. At scale 1 they are the table's own.
-constexpr CGFloat headingFontSize = 13;
+// A line of text and some space. At scale 1 the height is the table's own.
 constexpr double headingLineHeight = 1.25;
 constexpr CGFloat headingPadding = 12;
 // Of the table's height, so that the row of the picker stays visible.
@@ -47,10 +45,14 @@ void EntryList::makeRows(const std::shared_ptr<Workout>& workout, const Settings
     const WeakRef<EntryList> weak = refTo(this);
     const CGPoint place = table_ ? table_->contentOffset() : CGPoint{};
     if (table_) table_->removeFromSuperview();
-
     groups_ = allMeasurements(workout, settings);
     std::vector<std::size_t> sizes;
-    for (const MeasurementGroup& group : groups_) sizes.push_back(group.measurements.size());
+    headings_.clear();
+    for (const MeasurementGroup& group : groups_) {
+        sizes.push_back(group.measurements.size());
+        headings_.push_back(Paragraph::paragraphWithStyle_color(Theme::TextStyle::Section, Theme::secondaryText()));
+        headings_.back()->setText(Translations::text(group.heading));
+    }
     rows_.setSections(std::move(sizes));
     table_ = create<UITableView>(CGRectZero);
     table_->setBackgroundColor(UIColor::clearColor());
@@ -272,26 +274,26 @@ void EntryList::placeTableAndPane() {
     const CGSize size = bounds().size;
     const EntryColumns columns = EntryColumns::columnsForWidth(size.width, showsPickerBeside_);
     table_->setFrame(ReadingDirection::frame(CGRectMake(columns.table.x, 0, columns.table.width, size.height), size.width));
-    fitHeadings();
+    const Ref<UIFont> headingFont = Theme::font(Theme::TextStyle::Section);
+    table_->setSectionHeaderFont(headingFont);
+    table_->setSectionHeaderHeight(std::round(headingLineHeight * headingFont->pointSize()) + headingPadding);
     // Its top is that of the first row.
-    const CGFloat top = table_->sectionHeaderHeight();
+    const CGFloat top = headings_.empty() ? table_->sectionHeaderHeight() : heightOfHeading(0);
     const CGFloat height = std::max(0.0, size.height - top - Theme::gap);
     paneScroll_->setFrame(ReadingDirection::frame(CGRectMake(columns.pane.x, top, columns.pane.width, height), size.width));
     paneScroll_->setNeedsLayout(); // Larger texts need more height.
 }
 
-/// The largest font up to the text size with which each heading has room in its line.
-void EntryList::fitHeadings() {
-    const CGFloat asked = std::round(headingFontSize * Theme::textScale());
-    Ref<UIFont> font = UIFont::systemFontOfSize_weight(asked, UIFontWeight::Medium);
-    const CGFloat room = std::max(1.0, table_->bounds().size.width - 2 * UITableViewCell::labelInset);
-    CGFloat widest = room;
-    for (const MeasurementGroup& group : groups_) {
-        widest = std::max(widest, UITextEngine::shared()->sizeOfText_font(Translations::text(group.heading), *font).width);
-    }
-    if (widest > room) font = UIFont::systemFontOfSize_weight(std::floor(asked * room / widest), UIFontWeight::Medium);
-    table_->setSectionHeaderFont(font);
-    table_->setSectionHeaderHeight(std::round(headingLineHeight * font->pointSize()) + headingPadding);
+CGFloat EntryList::widthOfHeadings() const { return std::max(1.0, table_->bounds().size.width - 2 * UITableViewCell::labelInset); }
+CGFloat EntryList::heightOfHeading(NSInteger section) const {
+    const Ref<Paragraph>& text = headings_[static_cast<std::size_t>(section)];
+    if (text->widthInOneLine() <= widthOfHeadings()) return table_->sectionHeaderHeight();
+    return std::ceil(text->sizeThatFits({widthOfHeadings(), 0}).height) + headingPadding;
+}
+
+Ref<UIView> EntryList::tableView_viewForHeaderInSection(const Ref<UITableView>&, NSInteger section) {
+    const Ref<Paragraph>& text = headings_[static_cast<std::size_t>(section)];
+    return text->widthInOneLine() > widthOfHeadings() ? text : nullptr;
 }
 
 } // namespace gallery

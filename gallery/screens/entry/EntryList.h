@@ -66,6 +66,11 @@ public:
     }
     gx::Ref<gx::UITableViewCell> tableView_cellForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
     gx::CGFloat tableView_heightForRowAtIndexPath(const gx::Ref<gx::UITableView>& table, gx::NSIndexPath path) override;
+    gx::CGFloat tableView_heightForHeaderInSection(const gx::Ref<gx::UITableView>&, gx::NSInteger section) override {
+        return heightOfHeading(section);
+    }
+    /// A paragraph for a heading that needs several lines.
+    gx::Ref<gx::UIView> tableView_viewForHeaderInSection(const gx::Ref<gx::UITableView>& table, gx::NSInteger section) override;
     bool tableView_shouldHighlightRowAtIndexPath(const gx::Ref<gx::UITableView>&, gx::NSIndexPath path) override {
         return !rows_.rowAt(path).isPicker;
     }
@@ -87,13 +92,15 @@ private:
     void movePicker();
     gx::Ref<gx::UIView> focusInPicker() const;
     void placeTableAndPane();
-    void fitHeadings();
+    gx::CGFloat widthOfHeadings() const;
+    gx::CGFloat heightOfHeading(gx::NSInteger section) const;
 
     std::vector<MeasurementGroup> groups_;
     EntryRows rows_;
-    std::vector<Texts> texts_;                // Of each measurement.
-    gx::Ref<gx::UITableViewCell> pickerCell_; // Of the open picker, once it was shown.
-    bool isPickerReady_ = false;              // Whether that picker shows the workout in the table.
+    std::vector<Texts> texts_;                 // Of each measurement.
+    std::vector<gx::Ref<Paragraph>> headings_; // For those of several lines.
+    gx::Ref<gx::UITableViewCell> pickerCell_;  // Of the open picker, once it was shown.
+    bool isPickerReady_ = false;               // It shows the workout in the table.
     bool showsPickerBeside_ = false;
 
     gx::Ref<gx::UITableView> table_;

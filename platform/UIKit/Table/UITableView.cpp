@@ -14,7 +14,6 @@ public:
     explicit Parts(UITableView& table) : content(table, *this, highestPassedCount), table_(table) {}
 
     UITableViewContent content;
-
     /// A height that may be left to the table.
     static CGFloat heightOr(CGFloat automatic, CGFloat height) {
         return height == automaticDimension ? automatic : UITableViewRows::clampedHeight(height);
@@ -38,7 +37,15 @@ public:
         return delegate ? heightOr(table_.rowHeight_, delegate->tableView_heightForRowAtIndexPath(table_.self(), path)) : table_.rowHeight_;
     }
     CGFloat usualRowHeight() const override { return table_.rowHeight_; }
-    CGFloat headerHeight() const override { return table_.sectionHeaderHeight_; }
+    CGFloat heightOfHeader(NSInteger section) override {
+        const auto delegate = table_.delegate_.lock();
+        const CGFloat usual = table_.sectionHeaderHeight_;
+        return delegate ? heightOr(usual, delegate->tableView_heightForHeaderInSection(table_.self(), section)) : usual;
+    }
+    Ref<UIView> headerView(NSInteger section) override {
+        const auto delegate = table_.delegate_.lock();
+        return delegate ? delegate->tableView_viewForHeaderInSection(table_.self(), section) : nullptr;
+    }
     Ref<UIFont> headerFont() const override { return table_.sectionHeaderFont_; }
     Ref<UITableViewCell> cellForRow(NSIndexPath path) override {
         const auto source = table_.dataSource_.lock();
@@ -67,9 +74,7 @@ private:
 
 UITableView::UITableView() : parts_(std::make_unique<Parts>(*this)) {}
 UITableView::~UITableView() = default;
-
 UITableViewContent& UITableView::content() const { return parts_->content; }
-
 UITableViewContent& UITableView::refreshedContent() {
     content().refresh();
     return content();
@@ -81,7 +86,6 @@ void UITableView::setHeight(CGFloat& height, CGFloat automatic, CGFloat wanted) 
     const CGFloat clamped = Parts::heightOr(automatic, wanted);
     if (clamped != std::exchange(height, clamped)) reloadData();
 }
-
 void UITableView::setRowHeight(CGFloat height) { setHeight(rowHeight_, defaultRowHeight, height); }
 void UITableView::setSectionHeaderHeight(CGFloat height) { setHeight(sectionHeaderHeight_, defaultSectionHeaderHeight, height); }
 
@@ -103,12 +107,10 @@ NSInteger UITableView::numberOfSections() {
     const Ref<UITableView> keep = self();
     return refreshedContent().rows().sectionCount();
 }
-
 NSInteger UITableView::numberOfRowsInSection(NSInteger section) {
     const Ref<UITableView> keep = self();
     return refreshedContent().rows().rowCount(section);
 }
-
 CGRect UITableView::rectForRowAtIndexPath(NSIndexPath path) {
     const Ref<UITableView> keep = self();
     return refreshedContent().rows().exists(path) ? content().rectOfRow(path) : CGRectZero;
@@ -146,13 +148,11 @@ std::optional<NSIndexPath> UITableView::indexPathForFocusedRow() {
 // Changes
 
 void UITableView::reloadData() { content().invalidate(); }
-
 void UITableView::reloadRowsAtIndexPaths(const std::vector<NSIndexPath>& paths) { content().reloadRows(paths); }
 
 void UITableView::insertRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated) {
     content().applyChange(UITableViewChange::Kind::Insertion, paths, animated);
 }
-
 void UITableView::deleteRowsAtIndexPaths_animated(const std::vector<NSIndexPath>& paths, bool animated) {
     content().applyChange(UITableViewChange::Kind::Removal, paths, animated);
 }

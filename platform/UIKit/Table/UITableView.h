@@ -55,6 +55,12 @@ public:
     /// Called once for each row and reload, insertion or removal, but not in sections of more than
     /// 100,000 rows.
     virtual CGFloat tableView_heightForRowAtIndexPath(const Ref<UITableView>& tableView, NSIndexPath indexPath);
+    /// In points, for a section that has a title. Default: `UITableView::automaticDimension`, which
+    /// is the table's `sectionHeaderHeight`. Called once for each reload, insertion or removal.
+    virtual CGFloat tableView_heightForHeaderInSection(const Ref<UITableView>& tableView, NSInteger section);
+    /// A view to show in place of a label with the title, in the label's frame. Called each time
+    /// that the header comes into sight. Default: nothing, for a label.
+    virtual Ref<UIView> tableView_viewForHeaderInSection(const Ref<UITableView>& /*tableView*/, NSInteger /*section*/) { return nullptr; }
     /// Whether a row can be tapped: called when a finger comes down on it, and when a key comes to
     /// it. Default: true.
     virtual bool tableView_shouldHighlightRowAtIndexPath(const Ref<UITableView>& /*tableView*/, NSIndexPath /*indexPath*/) { return true; }
@@ -260,6 +266,9 @@ private:
 };
 
 inline CGFloat UITableViewDelegate::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) {
+    return UITableView::automaticDimension;
+}
+inline CGFloat UITableViewDelegate::tableView_heightForHeaderInSection(const Ref<UITableView>&, NSInteger) {
     return UITableView::automaticDimension;
 }
 

@@ -141,7 +141,7 @@ bool UITableViewContent::layOut(NSInteger highestVisibleCount) {
         path = rows().nextRow(*path);
         ++count;
     }
-    headers_.show(table_, rows(), range, client_.headerFont());
+    headers_.show(table_, rows(), range, client_);
     return true;
 }
 

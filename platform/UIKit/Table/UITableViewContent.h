@@ -23,13 +23,12 @@ namespace gx {
 class UITableViewContent final : public UITableViewElement::Table, private UITableViewVisibleRows::Client {
 public:
     /// The data source and the delegate. Every call may do anything but destroy the table.
-    class Client : public UITableViewRowCache::Source, public UITableViewKeyFocus::Client {
+    class Client : public UITableViewRowCache::Source, public UITableViewKeyFocus::Client, public UITableViewHeaders::Client {
     public:
         virtual Ref<UITableViewCell> cellForRow(NSIndexPath path) = 0;
         virtual bool isPartOfRowAbove(NSIndexPath path) = 0;
         virtual void tapRow(NSIndexPath path, NSTimeInterval time) = 0;
         virtual void didEndDisplayingCell(const Ref<UITableViewCell>& cell, NSIndexPath path) = 0;
-        virtual Ref<UIFont> headerFont() const = 0;
     };
 
     UITableViewContent(UIScrollView& table, Client& client, int highestSkippedCount)

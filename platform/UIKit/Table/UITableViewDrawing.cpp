@@ -47,10 +47,10 @@ void UITableViewDrawing::drawChange(UIGraphicsContext& context, DrawView drawVie
     }
     const auto& headers = headers_.shown();
     for (std::size_t i = 0; change_ && i < headers.size(); ++i) {
-        const Ref<UILabel> label = headers[i].label;
+        const Ref<UIView> view = headers[i].view;
         context.saveState();
         context.translate(0, change_->shiftOf(rows_.spanOfHeader(headers[i].section)));
-        drawView(*label, context);
+        drawView(*view, context);
         context.restoreState();
     }
     for (std::size_t i = 0; i < table_.subviews().size(); ++i) {

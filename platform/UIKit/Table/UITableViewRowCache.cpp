@@ -17,7 +17,7 @@ UITableViewRows UITableViewRowCache::queryRows() {
     for (NSInteger section = 0; section < sections; ++section) {
         const NSInteger count = UITableViewRows::clampedRowCount(source_.rowCountOfSection(section));
         std::optional<std::string> title = source_.titleOfSection(section);
-        const CGFloat headerHeight = title ? source_.headerHeight() : 0;
+        const CGFloat headerHeight = title ? source_.heightOfHeader(section) : 0;
         if (!source_.hasHeightsOfItsOwn() || count > UITableViewRows::highestHeightCount) {
             rows.addSection(std::move(title), headerHeight, count, source_.usualRowHeight());
             continue;

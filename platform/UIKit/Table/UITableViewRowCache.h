@@ -22,10 +22,10 @@ public:
         /// Nothing for a section without a header.
         virtual std::optional<std::string> titleOfSection(NSInteger section) = 0;
         virtual bool hasHeightsOfItsOwn() const = 0;
-        /// This and the next two are clamped already.
+        /// For a section with a title. This and the next two are clamped already.
+        virtual CGFloat heightOfHeader(NSInteger section) = 0;
         virtual CGFloat heightOfRow(NSIndexPath path) = 0;
         virtual CGFloat usualRowHeight() const = 0;
-        virtual CGFloat headerHeight() const = 0;
     };
 
     /// Marks a query as open for its lifetime. Queries are not nested.

@@ -26,6 +26,7 @@ constexpr NSInteger unitRowImperial = 1;
 constexpr NSInteger metricUnitComponent = 1;
 constexpr NSInteger imperialUnitComponent = 2;
 
+// In points, at every text size. Prescribed by the product.
 constexpr CGFloat centimetreWidth = 100;
 constexpr CGFloat otherWidth = 60;
 constexpr CGFloat rowHeight = 40;

@@ -21,37 +21,45 @@ Ref<UILabel> makeHeader() {
 } // namespace
 
 std::optional<NSInteger> UITableViewHeaders::sectionOf(const Ref<UIView>& view) const {
-    const auto header = std::find_if(shown_.begin(), shown_.end(), [&view](const Header& entry) { return entry.label == view; });
+    const auto header = std::find_if(shown_.begin(), shown_.end(), [&view](const Header& entry) { return entry.view == view; });
     return header != shown_.end() ? std::optional(header->section) : std::nullopt;
 }
 
 void UITableViewHeaders::hide(std::size_t index) {
-    shown_[index].label->setHidden(true);
-    spare_.push_back(std::move(shown_[index].label));
+    Header hidden = std::move(shown_[index]);
     shown_.erase(shown_.begin() + static_cast<std::ptrdiff_t>(index));
+    if (!hidden.label) return hidden.view->removeFromSuperview();
+    hidden.label->setHidden(true);
+    spare_.push_back(std::move(hidden.label));
 }
 
 void UITableViewHeaders::hideAll() {
     while (!shown_.empty()) hide(shown_.size() - 1);
 }
 
-UITableViewHeaders::Header& UITableViewHeaders::headerOfSection(UIView& table, NSInteger section) {
+UITableViewHeaders::Header& UITableViewHeaders::headerOfSection(UIView& table, NSInteger section, Client& client) {
     const auto header = std::find_if(shown_.begin(), shown_.end(), [section](const Header& entry) { return entry.section == section; });
     if (header != shown_.end()) return *header;
+    if (Ref<UIView> view = client.headerView(section)) {
+        table.insertSubview_atIndex(view, 0);
+        shown_.push_back({section, std::move(view), nullptr});
+        return shown_.back();
+    }
     Ref<UILabel> label = spare_.empty() ? makeHeader() : std::move(spare_.back());
     if (!spare_.empty()) spare_.pop_back();
     if (!label->superview()) table.insertSubview_atIndex(label, 0);
     label->setHidden(false);
-    shown_.push_back({section, std::move(label)});
+    shown_.push_back({section, label, label});
     return shown_.back();
 }
 
-void UITableViewHeaders::show(UIView& table, const UITableViewRows& rows, UITableViewRows::Range range, const Ref<UIFont>& font) {
+void UITableViewHeaders::show(UIView& table, const UITableViewRows& rows, UITableViewRows::Range range, Client& client) {
     for (std::size_t i = shown_.size(); i-- > 0;) {
         const UITableViewRows::Span span = rows.spanOfHeader(shown_[i].section);
         if (span.height <= 0 || !range.meets(span)) hide(i);
     }
     static const Ref<UIFont> usualFont = UIFont::systemFontOfSize_weight(usualFontSize, UIFontWeight::Medium);
+    const Ref<UIFont> font = client.headerFont();
     const Ref<UIFont>& shownFont = font ? font : usualFont;
     const CGFloat width = table.bounds().size.width;
     const CGFloat inset = std::min(UITableViewCell::labelInset, 0.5 * width);
@@ -59,10 +67,12 @@ void UITableViewHeaders::show(UIView& table, const UITableViewRows& rows, UITabl
         const UITableViewRows::Span span = rows.spanOfHeader(section);
         if (span.top >= range.bottom) break;
         if (span.height <= 0 || span.bottom() <= range.top) continue;
-        const Ref<UILabel> label = headerOfSection(table, section).label;
-        if (label->font() != shownFont) label->setFont(shownFont);
-        if (label->text() != rows.title(section)) label->setText(rows.title(section));
-        label->setFrame(CGRectInset(CGRectMake(0, span.top, width, span.height), inset, 0));
+        const Header& header = headerOfSection(table, section, client);
+        if (const Ref<UILabel>& label = header.label) {
+            if (label->font() != shownFont) label->setFont(shownFont);
+            if (label->text() != rows.title(section)) label->setText(rows.title(section));
+        }
+        header.view->setFrame(CGRectInset(CGRectMake(0, span.top, width, span.height), inset, 0));
     }
 }
 

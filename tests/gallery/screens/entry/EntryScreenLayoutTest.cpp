@@ -81,16 +81,34 @@ TEST_F(EntryScreenLayoutTest, ATableOfLargeTextsMayBeWider) {
     EXPECT_EQ(table()->bounds().size.width, 1200 - 2 * 32);
 }
 
-TEST_F(EntryScreenLayoutTest, HeadingsGrowAsFarAsTheyHaveRoom) {
+TEST_F(EntryScreenLayoutTest, HeadingsGrowAndHaveAsManyLinesAsTheyNeed) {
     openAtScale(1, 320, 844);
     EXPECT_EQ(table()->sectionHeaderFont()->pointSize(), 13);
     EXPECT_EQ(table()->sectionHeaderHeight(), 28);
     openAtScale(2, 320, 844);
     EXPECT_EQ(table()->sectionHeaderFont()->pointSize(), 26);
-    // "Best interval" is 13 characters of 0.6 em, for which 288 points are enough up to 36.9.
-    openAtScale(3, 320, 844);
-    EXPECT_EQ(table()->sectionHeaderFont()->pointSize(), 36);
-    EXPECT_EQ(table()->sectionHeaderHeight(), 45 + 12);
+    const auto heightAbove = [this](NSInteger section) {
+        const CGFloat above = section == 0 ? 0 : CGRectGetMaxY(table()->rectForRowAtIndexPath({section - 1, 2}));
+        return CGRectGetMinY(table()->rectForRowAtIndexPath({section, 0})) - above;
+    };
+    openAtScale(3, 390, 1600);
+    EXPECT_EQ(table()->sectionHeaderFont()->pointSize(), 39);
+    EXPECT_EQ(heightAbove(0), 49 + 12);
+    EXPECT_EQ(heightAbove(1), 49 + 12) << "one line of 304 points in 358";
+    // "Best interval" is 13 characters of 0.6 em, which are wider than 288 points.
+    openAtScale(3, 320, 1600);
+    EXPECT_EQ(table()->sectionHeaderFont()->pointSize(), 39);
+    EXPECT_EQ(heightAbove(0), 49 + 12);
+    const auto isHeading = [](const Ref<UIView>& view) {
+        const auto paragraph = std::dynamic_pointer_cast<Paragraph>(view);
+        return paragraph && paragraph->text() == "Best interval";
+    };
+    const auto& views = table()->subviews();
+    const auto heading = std::find_if(views.begin(), views.end(), isHeading);
+    ASSERT_NE(heading, views.end());
+    EXPECT_EQ((*heading)->frame().size, CGSizeMake(288, heightAbove(1)));
+    EXPECT_GE(heightAbove(1), (*heading)->sizeThatFits({288, 0}).height + 12);
+    EXPECT_EQ(std::static_pointer_cast<Paragraph>(*heading)->linesForWidth(288).size(), 2U);
 }
 
 // The head and the bar

@@ -285,6 +285,53 @@ TEST_F(UITableViewTest, DrawsHeadersInTheirFont) {
     EXPECT_EQ(sizeOfHeader(), usual);
 }
 
+TEST_F(UITableViewTest, ADelegateMayGiveHeadersHeightsAndViewsOfTheirOwn) {
+    class Headers : public NSObject, public UITableViewDelegate {
+    public:
+        std::vector<Ref<UIView>> given;
+        CGFloat tableView_heightForHeaderInSection(const Ref<UITableView>&, NSInteger section) override {
+            return section == 1 ? 60 : UITableView::automaticDimension;
+        }
+        Ref<UIView> tableView_viewForHeaderInSection(const Ref<UITableView>&, NSInteger section) override {
+            if (section != 1) return nullptr;
+            given.push_back(create<UIView>());
+            return given.back();
+        }
+    };
+    const auto headers = create<Headers>();
+    source->rows = {2, 100};
+    source->titles = {"first", "second"};
+    table->setDelegate(headers);
+    table->reloadData();
+    table->layoutIfNeeded();
+    // Rows are 44 high: 28 + 2 * 44 = 116, and 60 more.
+    EXPECT_EQ(table->rectForRowAtIndexPath({1, 0}).origin.y, 116 + 60);
+    ASSERT_EQ(headers->given.size(), 1U);
+    const Ref<UIView> view = headers->given[0];
+    EXPECT_EQ(view->superview(), table);
+    const CGFloat inset = UITableViewCell::labelInset;
+    EXPECT_EQ(view->frame(), CGRectMake(inset, 116, 320 - 2 * inset, 60));
+    const auto isHeading = [](const auto& element) {
+        return element->role() == UIAccessibilityRole::Heading && element->label() == "second";
+    };
+    const auto elements = table->accessibilityElements();
+    EXPECT_EQ(std::count_if(elements.begin(), elements.end(), isHeading), 1) << "its title names it";
+
+    // Out of sight it is no subview any more, and it is queried again when it comes back.
+    table->setContentOffset_animated({0, 2000}, false);
+    table->layoutIfNeeded();
+    EXPECT_FALSE(view->superview());
+    table->setContentOffset_animated({0, 0}, false);
+    table->layoutIfNeeded();
+    EXPECT_EQ(headers->given.size(), 2U);
+    // So it is after a reload.
+    table->reloadData();
+    table->layoutIfNeeded();
+    ASSERT_EQ(headers->given.size(), 3U);
+    EXPECT_FALSE(headers->given[1]->superview());
+    EXPECT_EQ(headers->given[2]->superview(), table);
+}
+
 TEST_F(UITableViewTest, IsReadFromTopToBottom) {
     source->titles = {"Head"};
     table->reloadData();
