@@ -1,5 +1,6 @@
 #pragma once
 
+#include <type_traits>
 #include <vector>
 
 #include "OwnProperties.h"
@@ -16,9 +17,11 @@ public:
 
     std::optional<double> get(PickerProperty property) const override {
         const std::optional<double> own = ownProperty(*picker_, property);
-        return own ? own : rangeProperty(*picker_, property);
+        if (own || (property == PickerProperty::Value && !hasValue)) return own;
+        return rangeProperty(*picker_, property);
     }
     bool set(PickerProperty property, double value) override {
+        if (property == PickerProperty::Value && !hasValue) return false;
         const bool isOwn = setOwnProperty(*picker_, property, value);
         if (!isOwn && !setRangeProperty(*picker_, property, value)) return false;
         const bool isValue =
@@ -40,6 +43,9 @@ protected:
     const Ref<Picker>& picker() const { return picker_; }
 
 private:
+    /// Two rates are no value: the base's own, which is never chosen, would select the first row.
+    static constexpr bool hasValue = !std::is_base_of_v<GXHeartRatePickerView, Picker>;
+
     Ref<Picker> picker_ = create<Picker>(CGRectZero);
 };
 

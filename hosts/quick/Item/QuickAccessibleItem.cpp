@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include <QQuickWindow>
-
 namespace gx::quick {
 
 namespace {
@@ -25,7 +23,7 @@ public:
     bool canTakeFocus() const override { return control_->property("focusPolicy").toInt() != Qt::NoFocus; }
     void takeFocus() override {
         const QPointer<QQuickItem> control = control_;
-        if (control->window()) control->window()->requestActivate();
+        if (control->window() != nullptr) control->window()->requestActivate();
         if (control) control->forceActiveFocus(Qt::OtherFocusReason);
     }
     QRect onScreen(const QRectF& area) const override { return onScreenOf(*content_, area); }
@@ -67,11 +65,10 @@ QString QuickAccessibleItem::text(QAccessible::Text kind) const { return kind ==
 QAccessibleInterface* QuickAccessibleItem::parent() const {
     if (!control_) return nullptr;
     for (QQuickItem* item = control_->parentItem(); item != nullptr; item = item->parentItem()) {
-        const bool isRoot = control_->window() && item == control_->window()->contentItem();
-        if (isRoot) break;
+        if (control_->window() != nullptr && item == control_->window()->contentItem()) break;
         if (QAccessibleInterface* const found = QAccessible::queryAccessibleInterface(item)) return found;
     }
-    return control_->window() ? QAccessible::queryAccessibleInterface(control_->window()) : nullptr;
+    return control_->window() != nullptr ? QAccessible::queryAccessibleInterface(control_->window()) : nullptr;
 }
 
 } // namespace gx::quick

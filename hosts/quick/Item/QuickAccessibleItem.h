@@ -6,6 +6,7 @@
 #include <QAccessibleObject>
 #include <QPointer>
 #include <QQuickItem>
+#include <QQuickWindow>
 
 #include "QtAccessibility.h"
 

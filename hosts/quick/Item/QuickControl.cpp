@@ -77,7 +77,7 @@ QLocale QuickControl::locale() const {
 bool QuickControl::isMirrored() const { return flag("mirrored", locale().textDirection() == Qt::RightToLeft); }
 
 bool QuickControl::takesFocusByPress() const {
-    return control_ && (control_->property("focusPolicy").toInt() & Qt::ClickFocus) == Qt::ClickFocus;
+    return control_ != nullptr && (control_->property("focusPolicy").toInt() & Qt::ClickFocus) == Qt::ClickFocus;
 }
 
 QString QuickControl::accessibleName() const {

@@ -81,12 +81,11 @@ protected:
     void hoverMoveEvent(QHoverEvent* event) override;
     void hoverLeaveEvent(QHoverEvent* event) override;
 
-private slots:
-    void follow();
+private:
+    Q_SLOT void follow();
     void advance();
     void finish();
 
-private:
     void windowNeedsFrame() override;
     void pointerStyleDidChange(UIPointerStyle style) override;
 

@@ -53,9 +53,6 @@ protected:
     void surroundingsDidChange(bool isRowHeightChanged) override;
     void componentComplete() override;
 
-private slots:
-    void reload();
-
 private:
     struct Column {
         double rows = 0;
@@ -64,6 +61,7 @@ private:
     };
     Column columnOf(const QVariant& description, qsizetype index) const;
     std::optional<std::string> titleOf(double row, NSInteger column) const;
+    void reload();
     void select();
     void userDidSelect();
 

@@ -160,8 +160,8 @@ Control {
             compare(picker.from, 8)
             compare(picker.to, 5)
             picker.forceActiveFocus()
+            tryVerify(() => !isPolishScheduled(picker.contentItem))
             keyClick(Qt.Key_End)
-            wait(50)
             compare(picker.text, "8")
         }
 
@@ -191,6 +191,9 @@ Control {
             const picker = made(heartRates)
             compare(picker.currentAvgHeartRate, 140)
             compare(picker.currentMaxHeartRate, 180)
+            compare(picker.text, "AVG 140, MAX 180")
+            picker.font.pixelSize = 30
+            compare(picker.text, "AVG 140, MAX 180")
             picker.currentMaxHeartRate = 190
             compare(picker.currentMaxHeartRate, 190)
             compare(picker.currentAvgHeartRate, 140)

@@ -144,6 +144,15 @@ TEST_F(WebElementTest, ADragReportsOnceAtRest) {
     EXPECT_EQ(element->liveValue(PickerProperty::Value), 7000);
 }
 
+TEST_F(WebElementTest, LargerFontsKeepBothHeartRates) {
+    const auto element = opened(PickerKind::HeartRate);
+    element->picker().set(PickerProperty::Average, 142);
+    element->picker().set(PickerProperty::Maximum, 176);
+    element->setFonts({1, 33, 2, 33});
+    EXPECT_EQ(element->picker().text(), "AVG 142, MAX 176");
+    EXPECT_EQ(element->picker().get(PickerProperty::Value), std::nullopt);
+}
+
 TEST_F(WebElementTest, WhatTheProgramSetsIsNotReported) {
     const auto element = opened(PickerKind::HeartRate);
     element->picker().set(PickerProperty::Average, 140);
