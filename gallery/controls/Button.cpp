@@ -6,6 +6,7 @@
 #include "ChoiceElements.h"
 #include "ReadingDirection.h"
 #include "Theme.h"
+#include <GXUIPickers/NSLocale.h>
 #include <GXUIPickers/UIGraphicsContext.h>
 
 using namespace gx;
@@ -154,7 +155,7 @@ void Button::drawRect(UIGraphicsContext& context, CGRect rect) {
 
 std::optional<std::string> Button::accessibilityLabel() const {
     const std::string label = Control::accessibilityLabel().value_or(title_);
-    return detail_ ? label + ", " + detail_() : label;
+    return detail_ ? label + NSLocale::currentLocale()->listSeparator() + detail_() : label;
 }
 
 UIAccessibilityElements Button::accessibilityElements() {

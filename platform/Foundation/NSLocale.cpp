@@ -47,6 +47,9 @@ constexpr std::string_view oldCodes =
 // clang-format on
 // End of what the script writes.
 
+// Of the languages from right to left, those that are not usually written in Arabic script.
+constexpr std::string_view languagesOfOtherScripts = " dv he nqo rhg syr yi ";
+
 /// Whether a list of words between blanks has this one.
 bool hasWord(std::string_view words, const std::string& word) {
     return !word.empty() && words.find(" " + word + " ") != std::string_view::npos;
@@ -130,6 +133,17 @@ struct Subtags {
         return ".";
     }
 
+    bool isInArabicScript() const {
+        if (!script.empty()) return script == "Arab";
+        return hasWord(rightToLeftLanguages, language) && !hasWord(languagesOfOtherScripts, language);
+    }
+
+    std::string listSeparator() const {
+        if (language == "ja") return "、";
+        if (language == "zh") return "，";
+        return isInArabicScript() ? "، " : ", ";
+    }
+
     bool isRightToLeft() const { return script.empty() ? hasWord(rightToLeftLanguages, language) : hasWord(rightToLeftScripts, script); }
 };
 
@@ -149,6 +163,7 @@ bool NSLocale::initWithLocaleIdentifier(const std::string& identifier) {
     const Subtags subtags(identifier);
     identifier_ = identifier;
     decimalSeparator_ = subtags.decimalSeparator();
+    listSeparator_ = subtags.listSeparator();
     direction_ = subtags.isRightToLeft() ? NSLocaleLanguageDirection::RightToLeft : NSLocaleLanguageDirection::LeftToRight;
     return true;
 }

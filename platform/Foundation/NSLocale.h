@@ -43,6 +43,10 @@ public:
 
     virtual std::optional<std::string> objectForKey(NSLocaleKey key) const;
 
+    /// What stands between the items of a list, with its space if it has one: ", ", and "، " in
+    /// languages that are written in Arabic script, "、" in Japanese, "，" in Chinese.
+    const std::string& listSeparator() const { return listSeparator_; }
+
     /// For a user who deviates from the custom of the language.
     void setDecimalSeparator(std::string separator);
     NSLocaleLanguageDirection characterDirection() const { return direction_; }
@@ -52,6 +56,7 @@ public:
 private:
     std::string identifier_ = "en";
     std::string decimalSeparator_ = ".";
+    std::string listSeparator_ = ", ";
     NSLocaleLanguageDirection direction_ = NSLocaleLanguageDirection::LeftToRight;
 };
 

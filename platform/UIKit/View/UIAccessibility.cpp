@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "NSArithmetic.h"
+#include "NSLocale.h"
 
 namespace gx {
 
@@ -98,6 +99,23 @@ void UIAccessibilityElement::activateAtTime(NSTimeInterval time) const {
     root->tapView_atPoint_time(view, {CGRectGetMidX(area), CGRectGetMidY(area)}, time);
 }
 
+void UIAccessibilityElement::perform(const UIAccessibilityAction& action) {
+    using Kind = UIAccessibilityAction::Kind;
+    switch (action.kind) {
+    case Kind::Increment:
+        return increment();
+    case Kind::Decrement:
+        return decrement();
+    case Kind::SetNumber:
+        return setNumber(action.number);
+    case Kind::Focus:
+        focus();
+        return;
+    case Kind::Activate:
+        return activateAtTime(action.timestamp);
+    }
+}
+
 UIAccessibilityElements wholeAccessibilityElement(const Ref<UIViewNode>& view, UIAccessibilityRole role) {
     const std::optional<std::string> label = view ? view->accessibilityLabel() : std::nullopt;
     if (!label || label->empty()) return {};
@@ -132,11 +150,12 @@ Ref<UIAccessibilityElement> focusedAccessibilityElement(const UIAccessibilityEle
 }
 
 std::optional<std::string> joinedAccessibilityLabels(const UIAccessibilityElements& elements) {
+    const Ref<NSLocale> locale = NSLocale::currentLocale();
     std::optional<std::string> joined;
     for (const Ref<UIAccessibilityElement>& element : elements) {
         const std::optional<std::string> label = element->label();
         if (!label || label->empty()) continue;
-        joined = joined ? *joined + ", " + *label : *label;
+        joined = joined ? *joined + locale->listSeparator() + *label : *label;
     }
     return joined;
 }

@@ -50,6 +50,16 @@ private:
     std::vector<UIAccessibilityAnnouncement> waiting_;
 };
 
+/// What a screen reader does to an element, in the user's place.
+struct UIAccessibilityAction {
+    enum class Kind { Increment, Decrement, SetNumber, Focus, Activate };
+    Kind kind = Kind::Activate;
+    /// Of `SetNumber`: one that the element shows.
+    double number = 0;
+    /// In seconds on the clock of the window's ticks.
+    NSTimeInterval timestamp = 0;
+};
+
 /// One thing that a screen reader finds on the screen: a text, a button, a column of a wheel.
 ///
 /// It is a handle, which holds its view weakly and reads it again with every query. Once its view
@@ -137,6 +147,8 @@ public:
     ///
     /// A no-op without a window, if not enabled, and if out of sight or covered there.
     virtual void activateAtTime(NSTimeInterval time) const;
+    /// The one of these, or `focus`, that the action is.
+    void perform(const UIAccessibilityAction& action);
 
 private:
     WeakRef<UIViewNode> view_;
@@ -158,7 +170,8 @@ GX_EXPORT Ref<UIAccessibilityElement> sameAccessibilityElement(const UIAccessibi
 /// The one that has the focus, among these and what they hold; nothing if it is elsewhere. Lists
 /// are not searched, since they may be long.
 GX_EXPORT Ref<UIAccessibilityElement> focusedAccessibilityElement(const UIAccessibilityElements& elements);
-/// The labels of these elements, joined by ", ". Nothing if there is none.
+/// The labels of these elements, joined as the current locale joins a list. Nothing if there is
+/// none.
 GX_EXPORT std::optional<std::string> joinedAccessibilityLabels(const UIAccessibilityElements& elements);
 
 } // namespace gx

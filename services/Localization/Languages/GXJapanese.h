@@ -20,7 +20,7 @@ struct GXJapanese {
         {"ft", "ft"},       {"°C", "°C"},        {"°F", "°F"},
         {"km", "km"},       {"mi", "mi"},        {"km/h", "km/h"},
         {"mph", "mph"},     {"kcal", "kcal"},    {"h", "時間"},
-        {"min", "分"},      {", ", ", "},
+        {"min", "分"},      {", ", "、"},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -35,7 +35,7 @@ struct GXSimplifiedChinese {
         {"kcal", "千卡"},
         {"h", "小时"},
         {"min", "分钟"},
-        {", ", ", "},
+        {", ", "，"},
     };
 
     static constexpr GXAccessibilityNameText accessibilityNames[] = {

@@ -160,6 +160,18 @@ TEST_F(Locale, TheDirectionFollowsFromTheLanguage) {
     for (const char* identifier : {"en", "de_DE", "ja", "arn"}) EXPECT_FALSE(readsRightToLeft(identifier)) << identifier;
 }
 
+TEST_F(Locale, TheSeparatorOfListsFollowsFromLanguageAndScript) {
+    const auto separatorOf = [](const char* identifier) { return NSLocale::localeWithIdentifier(identifier)->listSeparator(); };
+    for (const char* identifier : {"en", "de_CH", "he_IL", "ko", "ru", "yi", "ur_Latn", "sd_IN", "ja2", ""}) {
+        EXPECT_EQ(separatorOf(identifier), ", ") << identifier;
+    }
+    for (const char* identifier : {"ar", "ar_EG", "fa_IR", "ur", "ps", "az_Arab", "uz_AF"})
+        EXPECT_EQ(separatorOf(identifier), "، ") << identifier;
+    for (const char* identifier : {"ja", "JA-jp", "ja_JP.UTF-8"}) EXPECT_EQ(separatorOf(identifier), "、") << identifier;
+    for (const char* identifier : {"zh", "zh-Hans", "zh_TW"}) EXPECT_EQ(separatorOf(identifier), "，") << identifier;
+    EXPECT_EQ(create<NSLocale>()->listSeparator(), ", ");
+}
+
 TEST_F(Locale, AUserMayDeviateFromTheCustomOfTheLanguage) {
     const Ref<NSLocale> locale = NSLocale::localeWithIdentifier("de_DE");
     locale->setDecimalSeparator(".");

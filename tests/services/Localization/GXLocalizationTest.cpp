@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "NSLocale.h"
+
 namespace gx {
 namespace {
 
@@ -227,6 +229,16 @@ TEST_F(GXLocalizationTest, LanguagesHaveADecimalSeparator) {
     EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("ja"), ".");
     EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("ar"), ".");
     EXPECT_EQ(GXLocalization::decimalSeparatorOfLanguage("he"), ".");
+}
+
+TEST_F(GXLocalizationTest, ListsAreSeparatedAsInTheLocaleOfTheLanguage) {
+    for (const std::string& language : GXLocalization::availableLanguages()) {
+        GXLocalization localization;
+        localization.setLanguage(language);
+        EXPECT_EQ(localization.localizedStringWithKey_comment(", ", "between two values"),
+                  NSLocale::localeWithIdentifier(language)->listSeparator())
+            << language;
+    }
 }
 
 TEST_F(GXLocalizationTest, APatternIsFilledInUnlessItIsLeftOut) {

@@ -66,7 +66,7 @@ public:
     void layoutSubviews() override;
     void drawRect(UIGraphicsContext& context, CGRect rect) override;
 
-    /// The texts and images in it, joined by ", ", unless a label was set.
+    /// The texts and images in it, joined as a list, unless a label was set.
     std::optional<std::string> accessibilityLabel() const override;
     /// Itself as one button, if it has a label, instead of its texts and images; then the buttons
     /// and wheels that it contains.

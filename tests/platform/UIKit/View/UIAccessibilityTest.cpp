@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "NSLocale.h"
 #include "TestWindow.h"
 #include "UIImageView.h"
 #include "UILabel.h"
@@ -281,6 +282,18 @@ TEST_F(UIAccessibilityTest, OfSeveralLabelsThoseThatSayNothingAreLeftOut) {
     std::static_pointer_cast<UILabel>(root->subviews()[2])->setText(std::nullopt);
     EXPECT_EQ(joinedAccessibilityLabels(elements), "two, four");
     EXPECT_EQ(joinedAccessibilityLabels({}), std::nullopt);
+}
+
+TEST_F(UIAccessibilityTest, LabelsAreJoinedAsTheLocaleJoinsAList) {
+    for (const char* text : {"one", "two"}) root->addSubview(labelWithText(text));
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ar"));
+    EXPECT_EQ(joinedAccessibilityLabels(root->accessibilityElements()), "one، two");
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("ja"));
+    EXPECT_EQ(joinedAccessibilityLabels(root->accessibilityElements()), "one、two");
+    NSLocale::setCurrentLocale(NSLocale::localeWithIdentifier("zh"));
+    EXPECT_EQ(joinedAccessibilityLabels(root->accessibilityElements()), "one，two");
+    NSLocale::setCurrentLocale(nullptr);
+    EXPECT_EQ(joinedAccessibilityLabels(root->accessibilityElements()), "one, two");
 }
 
 TEST_F(UIAccessibilityTest, NoViewOffersNothing) {
