@@ -3,6 +3,9 @@
 #include <fstream>
 #include <sstream>
 
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QAccessibleValueInterface>
 #include <QFile>
 #include <QShortcut>
 
@@ -81,6 +84,16 @@ protected:
         EXPECT_EQ(replayed.second, recorded.second) << "to the bit";
     }
 
+    /// The first element below one whose name begins so.
+    static QAccessibleInterface* elementNamed(QAccessibleInterface* whole, const QString& name) {
+        for (int i = 0; i < whole->childCount(); ++i) {
+            QAccessibleInterface* const child = whole->child(i);
+            if (child->text(QAccessible::Name).startsWith(name) && child->actionInterface()) return child;
+            if (QAccessibleInterface* const below = elementNamed(child, name)) return below;
+        }
+        return nullptr;
+    }
+
     std::string text;
     std::shared_ptr<EventRecorder> recorder;
 };
@@ -114,6 +127,46 @@ TEST_F(RecordingTest, MouseKeysAndWheelArePlayedToTheSameValuesAndPicture) {
     QTest::mouseMove(widget.get(), column);
     step(0.02);
     EXPECT_NE(entry()->workout(), before);
+    expectSameReplay();
+}
+
+TEST_F(RecordingTest, ActionsOfAScreenReaderArePlayedToTheSameValuesAndPicture) {
+    startRecording();
+    const Workout before = entry()->workout();
+    QAccessibleInterface* const whole = QAccessible::queryAccessibleInterface(widget.get());
+    ASSERT_TRUE(whole);
+    // As a screen reader does, it looks for changes after each step.
+    auto act = [&](QAccessibleInterface* on, const QString& action) {
+        ASSERT_TRUE(on && on->actionInterface());
+        on->actionInterface()->doAction(action);
+        QCoreApplication::processEvents(); // An activation comes after the call.
+        finish();
+    };
+    QAccessibleInterface* const weight = elementNamed(whole, "Weight,");
+    act(weight, QAccessibleActionInterface::setFocusAction());
+    act(weight, QAccessibleActionInterface::pressAction());
+    act(elementNamed(whole, "Average speed,"), QAccessibleActionInterface::pressAction());
+    ASSERT_FALSE(openWheels().empty());
+    QAccessibleInterface* const column = elementNamed(whole, "Speed");
+    ASSERT_TRUE(column && column->valueInterface());
+    column->valueInterface()->setCurrentValue(17);
+    for (int i = 0; i < 3; ++i) step(0.013);
+    // While it moves.
+    column->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    finish();
+    EXPECT_EQ(column->valueInterface()->currentValue().toDouble(), 18);
+    act(column, QAccessibleActionInterface::setFocusAction());
+    act(column, QAccessibleActionInterface::decreaseAction());
+    EXPECT_NE(entry()->workout(), before);
+    act(elementNamed(whole, "Settings"), QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(screen->pageIndex(), MainScreen::settingsPage);
+    act(elementNamed(whole, "Dark"), QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(widget->userInterfaceStyle(), UIUserInterfaceStyle::Dark);
+    act(elementNamed(whole, "Add workout"), QAccessibleActionInterface::pressAction());
+    for (const char* const action : {"setNumber", "increment", "decrement", "focus", "activate"}) {
+        EXPECT_NE(text.find("\"action\":\"" + std::string(action) + "\""), std::string::npos) << action;
+    }
+    EXPECT_EQ(text.find("\"element\":[]"), std::string::npos);
     expectSameReplay();
 }
 
@@ -175,8 +228,14 @@ TEST_F(RecordingTest, ADamagedFilePlaysNothingAndWritesNothing) {
     EXPECT_EQ(result.problem, path + ", line " + std::to_string(lines + 1) + ": this is no JSON; the line may be cut off.");
     EXPECT_EQ(result.values, "");
     EXPECT_FALSE(QFile::exists(folder.filePath("none")));
-    EXPECT_EQ(replayFile(folder.filePath("absent").toStdString(), std::nullopt).problem,
-              "The recording " + folder.filePath("absent").toStdString() + " cannot be read.");
+    const std::string absent = folder.filePath("absent").toStdString();
+    const std::string directory = folder.path().toStdString();
+    for (const std::string& unreadable : {absent, directory}) {
+        EXPECT_EQ(replayFile(unreadable, std::nullopt).problem, "The recording " + unreadable + " cannot be read.");
+    }
+    const std::string empty = folder.filePath("empty").toStdString();
+    std::ofstream(empty).flush();
+    EXPECT_EQ(replayFile(empty, std::nullopt).problem, empty + ", line 1: this is no JSON; the line may be cut off.");
 }
 
 TEST_F(RecordingTest, AWidgetRecordsItselfIntoAFile) {
@@ -187,8 +246,11 @@ TEST_F(RecordingTest, AWidgetRecordsItselfIntoAFile) {
     widget->resize(900, 640);
     widget->setRootView(screen);
     std::string error;
-    EXPECT_FALSE(QtRecording::begin(folder.filePath("no/folder").toStdString(), *widget, begin, error));
-    EXPECT_NE(error.find("cannot be written"), std::string::npos);
+    for (const QString& unwritable : {folder.filePath("no/folder"), folder.path(), QStringLiteral("/dev/full")}) {
+        error.clear();
+        EXPECT_FALSE(QtRecording::begin(unwritable.toStdString(), *widget, begin, error));
+        EXPECT_EQ(error, "The recording " + unwritable.toStdString() + " cannot be written.");
+    }
     const std::string path = folder.filePath("c.jsonl").toStdString();
     auto recording = QtRecording::begin(path, *widget, begin, error);
     ASSERT_TRUE(recording);

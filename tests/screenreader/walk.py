@@ -15,6 +15,8 @@ import sys
 import time
 from pathlib import Path
 
+from gi.repository import GLib
+
 import application
 from application import Application
 from session import Session, TimedOut, wait_until
@@ -260,6 +262,33 @@ class Walk:
                 and event.role == "notification"]
         self.expect(len(told) == 1 and told[0].startswith("broken.json: "), f"it is announced with {told}")
 
+    def check_dialogs(self, app):
+        """A press on a button that opens a dialog has a reply while the dialog is open."""
+        self.open_page(app, "Add workout")
+        for name in ("Open", "Save"):
+            self.place = f"Pressing {name}"
+            button = app.find("push button", name)
+            app.settle()
+            self.press(button)
+            try:
+                dialog = wait_until(app.dialog, "the dialog", seconds=5)
+            except TimedOut as fault:
+                self.expect(False, str(fault))
+                continue
+            app.settle()
+            self.press(button)  # The dialog is in front of it.
+            app.settle()
+            self.expect(app.dialog() == dialog, "another dialog is open")
+            app.find("push button", "Cancel", dialog).act("Press")
+            app.settle()
+            self.expect(app.dialog() is None, "the dialog stays open")
+
+    def press(self, button):
+        try:
+            button.act("Press")
+        except GLib.GError as error:
+            self.expect(False, f"no reply: {error.message}")
+
     # The settings
 
     def check_settings(self, app):
@@ -359,6 +388,7 @@ def main():
         if has_entry:
             walk.check_entry(app)
             walk.check_messages(app)
+            walk.check_dialogs(app)
             walk.check_rows_out_of_sight()
         app.end()
     print(", ".join(f"{count} {what}" for what, count in walk.counts.items()))

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "ElementPath.h"
 #include "WorkoutFile.h"
 #include <GXUIPickers/NSRunLoop.h>
 
@@ -127,6 +128,12 @@ void EventPlayer::playInput(const RecordedEvent& event) {
     case Kind::PointerLeft:
         window_->pointerLeft();
         break;
+    case Kind::Action: {
+        UIAccessibilityAction action = event.action;
+        action.timestamp = event.time;
+        window_->performAction_onElement(action, ElementPath::elementAt(*window_, event.element));
+        break;
+    }
     case Kind::Key: {
         UIKey key = event.key;
         key.timestamp = event.time;

@@ -1,5 +1,10 @@
 #include "EventRecorder.h"
 
+#include <algorithm>
+#include <cmath>
+
+#include "ElementPath.h"
+#include "LineReader.h"
 #include <GXUIPickers/NSRunLoop.h>
 
 using namespace gx;
@@ -90,6 +95,18 @@ void EventRecorder::setReceivesKeys(bool receives) {
 void EventRecorder::takeFocusAway() {
     note(Kind::FocusTaken);
     window_->takeFocusAway();
+}
+
+void EventRecorder::performAction_onElement(const UIAccessibilityAction& action, const Ref<UIAccessibilityElement>& element) {
+    RecordedEvent event;
+    event.kind = Kind::Action;
+    event.time = action.timestamp;
+    event.action = action;
+    // What lies beyond is far beyond the rows too. No number at all is a no-op and has no line.
+    event.action.number = std::clamp(action.number, -LineReader::largestNumber, LineReader::largestNumber);
+    if (element) event.element = ElementPath::ofElement(*element);
+    if (!std::isnan(action.number)) note(event);
+    window_->performAction_onElement(action, element);
 }
 
 void EventRecorder::finishAnimations() {

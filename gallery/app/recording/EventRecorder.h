@@ -11,7 +11,7 @@ namespace gallery {
 /// Stands between a host and its window: writes a line for each event and passes it on.
 ///
 /// It has to get everything that comes from outside: the host's input, the run loop's passes and
-/// the outcomes of dialogs. What a screen reader does is not recorded.
+/// the outcomes of dialogs.
 class EventRecorder : public gx::UIWindowInput {
 public:
     /// `clock` is that of the frames. `write` gets each line without its end.
@@ -27,6 +27,7 @@ public:
     bool keyDown(const gx::UIKey& key) override;
     void setReceivesKeys(bool receives) override;
     void takeFocusAway() override;
+    void performAction_onElement(const gx::UIAccessibilityAction& action, const gx::Ref<gx::UIAccessibilityElement>& element) override;
     void finishAnimations() override;
     void setFrame(gx::CGRect frame) override;
     void setUserInterfaceStyle(gx::UIUserInterfaceStyle style) override;

@@ -38,15 +38,30 @@ double LineReader::number(const char* name, double lowest, double highest) {
     return 0;
 }
 
+std::optional<std::int64_t> LineReader::integerOf(const Json& value) {
+    // Larger ones are kept as unsigned numbers.
+    const bool isWhole = value.is_number_integer() && !(value.is_number_unsigned() && value.get<std::uint64_t>() > INT64_MAX);
+    return isWhole ? std::optional(value.get<std::int64_t>()) : std::nullopt;
+}
+
 std::int64_t LineReader::integer(const char* name) {
     const Json* const value = member(name);
-    if (!value) return 0;
-    // Larger ones are kept as unsigned numbers.
-    if (value->is_number_integer() && !(value->is_number_unsigned() && value->get<std::uint64_t>() > INT64_MAX)) {
-        return value->get<std::int64_t>();
-    }
+    if (const auto number = value ? integerOf(*value) : std::nullopt) return *number;
     refuse(std::string("\"") + name + "\" is no whole number");
     return 0;
+}
+
+std::vector<std::int64_t> LineReader::integers(const char* name) {
+    std::vector<std::int64_t> numbers;
+    const Json* const value = member(name);
+    bool isGood = value && value->is_array() && value->size() <= longestList;
+    for (std::size_t i = 0; isGood && i < value->size(); ++i) {
+        const auto number = integerOf((*value)[i]);
+        isGood = number.has_value();
+        numbers.push_back(number.value_or(0));
+    }
+    if (!isGood) refuse(std::string("\"") + name + "\" is no list of whole numbers");
+    return numbers;
 }
 
 bool LineReader::flag(const char* name) {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -19,6 +20,9 @@ public:
     /// Far beyond any screen and any recording.
     static constexpr double largestNumber = 1e12;
 
+    /// Chosen: no element lies as deep in a screen.
+    static constexpr std::size_t longestList = 32;
+
     explicit LineReader(const std::string& line);
 
     bool isGood() const { return error_.empty(); }
@@ -27,11 +31,14 @@ public:
 
     double number(const char* name, double lowest = -largestNumber, double highest = largestNumber);
     std::int64_t integer(const char* name);
+    /// A list of up to `longestList` of them.
+    std::vector<std::int64_t> integers(const char* name);
     bool flag(const char* name);
     std::string text(const char* name);
 
 private:
     const nlohmann::ordered_json* member(const char* name);
+    static std::optional<std::int64_t> integerOf(const nlohmann::ordered_json& value);
 
     nlohmann::ordered_json line_;
     std::string error_;

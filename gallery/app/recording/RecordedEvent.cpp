@@ -21,7 +21,7 @@ struct Named {
     std::string_view name;
 };
 
-constexpr std::array<Named<Kind>, 20> kinds = {{{Kind::TouchBegan, "touchBegan"},
+constexpr std::array<Named<Kind>, 21> kinds = {{{Kind::TouchBegan, "touchBegan"},
                                                 {Kind::TouchMoved, "touchMoved"},
                                                 {Kind::TouchEnded, "touchEnded"},
                                                 {Kind::TouchCancelled, "touchCancelled"},
@@ -31,6 +31,7 @@ constexpr std::array<Named<Kind>, 20> kinds = {{{Kind::TouchBegan, "touchBegan"}
                                                 {Kind::Key, "key"},
                                                 {Kind::ReceivesKeys, "receivesKeys"},
                                                 {Kind::FocusTaken, "focusTaken"},
+                                                {Kind::Action, "action"},
                                                 {Kind::AnimationsFinished, "animationsFinished"},
                                                 {Kind::Size, "size"},
                                                 {Kind::Look, "look"},
@@ -41,6 +42,13 @@ constexpr std::array<Named<Kind>, 20> kinds = {{{Kind::TouchBegan, "touchBegan"}
                                                 {Kind::Pass, "pass"},
                                                 {Kind::File, "file"},
                                                 {Kind::Picture, "picture"}}};
+
+using Action = UIAccessibilityAction::Kind;
+constexpr std::array<Named<Action>, 5> actions = {{{Action::Increment, "increment"},
+                                                   {Action::Decrement, "decrement"},
+                                                   {Action::SetNumber, "setNumber"},
+                                                   {Action::Focus, "focus"},
+                                                   {Action::Activate, "activate"}}};
 
 constexpr std::array<Named<UIKey::Code>, 15> codes = {{{UIKey::Code::None, "none"},
                                                        {UIKey::Code::Character, "character"},
@@ -95,6 +103,12 @@ void readKey(LineReader& reader, UIKey& key) {
     key.isRepeat = reader.flag("isRepeat");
 }
 
+void readAction(LineReader& reader, RecordedEvent& event) {
+    event.action.kind = valueOf(actions, reader.text("action"), reader);
+    event.element = reader.integers("element");
+    if (event.action.kind == Action::SetNumber) event.action.number = reader.number("number");
+}
+
 void readFile(LineReader& reader, UserFiles::Outcome& file) {
     file.name = reader.text("name");
     file.text = reader.text("text");
@@ -132,6 +146,11 @@ std::string RecordedEvent::line() const {
         json["modifiers"] = key.modifiers;
         json["isRepeat"] = key.isRepeat;
     }
+    if (kind == Kind::Action) {
+        json["action"] = nameOf(actions, action.kind);
+        json["element"] = element;
+        if (action.kind == UIAccessibilityAction::Kind::SetNumber) json["number"] = action.number;
+    }
     if (kind == Kind::Size) {
         json["width"] = size.width;
         json["height"] = size.height;
@@ -157,6 +176,7 @@ std::optional<RecordedEvent> RecordedEvent::eventOfLine(const std::string& line,
     if (hasFlag(event.kind)) event.isOn = reader.flag("isOn");
     if (event.kind == Kind::Scroll) readScroll(reader, event.scroll);
     if (event.kind == Kind::Key) readKey(reader, event.key);
+    if (event.kind == Kind::Action) readAction(reader, event);
     if (event.kind == Kind::Size) event.size = {reader.number("width", 0, largestSide), reader.number("height", 0, largestSide)};
     if (event.kind == Kind::File) readFile(reader, event.file);
     if (event.kind == Kind::Picture) {

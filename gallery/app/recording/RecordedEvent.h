@@ -2,8 +2,10 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "UserFiles.h"
+#include <GXUIPickers/UIAccessibility.h>
 #include <GXUIPickers/UIKey.h>
 #include <GXUIPickers/UITouch.h>
 
@@ -25,6 +27,7 @@ struct RecordedEvent {
         Key,
         ReceivesKeys,
         FocusTaken,
+        Action, ///< of a screen reader
         AnimationsFinished,
         Size,
         Look,
@@ -45,8 +48,10 @@ struct RecordedEvent {
 
     std::int64_t finger = 0;
     gx::CGPoint point;
-    gx::UIScroll scroll; ///< without its time and place
-    gx::UIKey key;       ///< without its time
+    gx::UIScroll scroll;                ///< without its time and place
+    gx::UIKey key;                      ///< without its time
+    gx::UIAccessibilityAction action;   ///< without its time
+    std::vector<gx::NSInteger> element; ///< what the action is for: see `ElementPath`
     gx::CGSize size;
     /// Keys are received; the look is dark, the contrast high, motion reduced.
     bool isOn = false;

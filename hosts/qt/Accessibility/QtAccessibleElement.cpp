@@ -13,11 +13,17 @@ QtAccessibleElement::QtAccessibleElement(std::shared_ptr<QtAccessibleSurface> su
     : surface_(std::move(surface)), window_(std::move(window)), clock_(std::move(clock)), element_(std::move(element)),
       value_([this] { return text(QAccessible::Value); }) {}
 
-bool QtAccessibleElement::isValid() const {
-    const Ref<UIViewNode> view = element_->view();
-    const Ref<UIWindow> window = window_.lock();
-    return surface_->exists() && window && view && view->window() == window && element_->exists();
+namespace {
+
+/// Whether the element is there, in the window of the surface.
+bool isShownBy(const QtAccessibleSurface& surface, const Ref<UIWindow>& window, const UIAccessibilityElement& element) {
+    const Ref<UIViewNode> view = element.view();
+    return surface.exists() && window && view && view->window() == window && element.exists();
 }
+
+} // namespace
+
+bool QtAccessibleElement::isValid() const { return isShownBy(*surface_, window_.lock(), *element_); }
 
 QAccessible::Role QtAccessibleElement::role() const {
     switch (element_->role()) {
@@ -153,7 +159,7 @@ QVariant QtAccessibleElement::minimumStepSize() const { return number(&UIAccessi
 void QtAccessibleElement::setCurrentValue(const QVariant& value) {
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    if (isNumber && canAct()) Ref<UIAccessibilityElement>(element_)->setNumber(number);
+    if (isNumber && canAct()) perform(UIAccessibilityAction::Kind::SetNumber, number);
 }
 
 // Actions
@@ -177,26 +183,49 @@ QStringList QtAccessibleElement::actionNames() const {
     return names;
 }
 
-void QtAccessibleElement::doAction(const QString& name) {
-    if (!canAct() || !actionNames().contains(name)) return;
-    // The views may drop the object, and with it this interface.
-    const Ref<UIAccessibilityElement> element = element_;
-    if (name == increaseAction()) {
-        element->increment();
-    } else if (name == decreaseAction()) {
-        element->decrement();
-    } else if (name == setFocusAction()) {
-        takeFocus();
-    } else {
-        element->activateAtTime(clock_());
-    }
+namespace {
+
+void performAction(const QtAccessibleSurface& surface, const Ref<UIWindow>& window, const UIAccessibilityAction& action,
+                   const Ref<UIAccessibilityElement>& element) {
+    const Ref<UIWindowInput> input = surface.input();
+    (input ? input : window)->performAction_onElement(action, element);
 }
 
-void QtAccessibleElement::takeFocus() {
-    const Ref<UIAccessibilityElement> element = element_;
+} // namespace
+
+void QtAccessibleElement::doAction(const QString& name) {
+    using Kind = UIAccessibilityAction::Kind;
+    if (!canAct() || !actionNames().contains(name)) return;
+    if (name == increaseAction()) return perform(Kind::Increment);
+    if (name == decreaseAction()) return perform(Kind::Decrement);
+    if (name == setFocusAction()) return takeFocus();
+    activateLater();
+}
+
+void QtAccessibleElement::perform(UIAccessibilityAction::Kind kind, double number) const {
+    // The views may drop the object, and with it this interface.
     const std::shared_ptr<QtAccessibleSurface> surface = surface_;
+    const Ref<UIAccessibilityElement> element = element_;
+    performAction(*surface, window_.lock(), {kind, number, clock_()}, element);
+}
+
+void QtAccessibleElement::takeFocus() const {
+    const std::shared_ptr<QtAccessibleSurface> surface = surface_;
+    const Ref<UIAccessibilityElement> element = element_;
+    const WeakRef<UIWindow> window = window_;
+    const Clock clock = clock_;
     surface->takeFocus();
-    element->focus();
+    if (!isShownBy(*surface, window.lock(), *element)) return;
+    performAction(*surface, window.lock(), {UIAccessibilityAction::Kind::Focus, 0, clock()}, element);
+}
+
+void QtAccessibleElement::activateLater() const {
+    const auto activate = [surface = surface_, window = window_, clock = clock_, element = element_] {
+        if (!isShownBy(*surface, window.lock(), *element) || !surface->isEnabled() || surface->isBlockedByDialog()) return;
+        performAction(*surface, window.lock(), {UIAccessibilityAction::Kind::Activate, 0, clock()}, element);
+    };
+    // Not called once the object is gone.
+    QMetaObject::invokeMethod(surface_->object(), activate, Qt::QueuedConnection);
 }
 
 } // namespace gx::qt

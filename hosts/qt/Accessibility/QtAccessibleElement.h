@@ -26,6 +26,9 @@ protected:
 /// One element of the views that a surface shows.
 ///
 /// Invalid, with actions that are no-ops, while the element does not exist.
+///
+/// An activation comes after the call that asks for it: one that opens a dialog takes until that is
+/// closed, and a screen reader waits for the call. Everything else has happened when the call ends.
 class QtAccessibleElement : public QAccessibleInterface, public QAccessibleValueInterface, public QAccessibleActionInterface {
 public:
     /// Returns seconds on the clock of the window's ticks; used only while the object lives.
@@ -72,7 +75,9 @@ public:
 private:
     bool isAdjustable() const { return element_->role() == UIAccessibilityRole::Adjustable; }
     bool canAct() const { return isValid() && surface_->isEnabled(); }
-    void takeFocus();
+    void perform(UIAccessibilityAction::Kind kind, double number = 0) const;
+    void takeFocus() const;
+    void activateLater() const;
     QtAccessibleTree* tree() const;
     QVariant number(double UIAccessibilityNumbers::*part) const;
 

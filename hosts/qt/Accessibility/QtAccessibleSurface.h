@@ -4,6 +4,7 @@
 #include <QRect>
 
 #include <GXUIPickers/GXExport.h>
+#include <GXUIPickers/UIWindowInput.h>
 
 namespace gx::qt {
 
@@ -31,6 +32,10 @@ public:
     virtual QRect onScreen(const QRectF& area) const = 0;
     /// All of it on the screen.
     virtual QRect frame() const = 0;
+    /// Whether a dialog has to be closed before the user can go on here.
+    virtual bool isBlockedByDialog() const { return false; }
+    /// What the object sends to its window by; nothing for the window itself.
+    virtual Ref<UIWindowInput> input() const { return nullptr; }
 };
 
 } // namespace gx::qt

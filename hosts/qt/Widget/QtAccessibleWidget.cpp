@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include <QApplication>
 #include <QPointer>
 #include <QWidget>
 
@@ -12,7 +13,7 @@ namespace {
 
 class WidgetSurface final : public QtAccessibleSurface {
 public:
-    explicit WidgetSurface(QWidget* widget) : widget_(widget) {}
+    WidgetSurface(QWidget* widget, QtAccessibleWidget::Input input) : widget_(widget), input_(std::move(input)) {}
 
     QObject* object() const override { return widget_.data(); }
     bool isEnabled() const override { return widget_->isEnabled(); }
@@ -29,16 +30,24 @@ public:
         return {widget_->mapToGlobal(inWidget.topLeft()), inWidget.size()};
     }
     QRect frame() const override { return {widget_->mapToGlobal(QPoint()), widget_->size()}; }
+    bool isBlockedByDialog() const override {
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr || dialog == widget_->window()) return false;
+        const QWidget* const parent = dialog->parentWidget();
+        return dialog->windowModality() == Qt::ApplicationModal || (parent != nullptr && parent->window() == widget_->window());
+    }
+    Ref<UIWindowInput> input() const override { return input_(); }
 
 private:
     QPointer<QWidget> widget_;
+    QtAccessibleWidget::Input input_;
 };
 
 } // namespace
 
-QtAccessibleWidget::QtAccessibleWidget(QWidget* widget, WeakRef<UIWindow> window, Clock clock)
+QtAccessibleWidget::QtAccessibleWidget(QWidget* widget, WeakRef<UIWindow> window, Clock clock, Input input)
     : QAccessibleWidget(widget, QAccessible::Grouping),
-      QtAccessibleView(std::make_shared<WidgetSurface>(widget), std::move(window), std::move(clock)) {}
+      QtAccessibleView(std::make_shared<WidgetSurface>(widget, std::move(input)), std::move(window), std::move(clock)) {}
 
 QAccessible::State QtAccessibleWidget::state() const {
     QAccessible::State state = QAccessibleWidget::state();

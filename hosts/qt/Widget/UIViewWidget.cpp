@@ -36,7 +36,9 @@ double framePeriod(const QScreen* screen) {
 /// For `QAccessible::installFactory`: the interfaces of `UIViewWidget`s, nothing for other objects.
 QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
     auto* const widget = dynamic_cast<UIViewWidget*>(object);
-    return widget ? new QtAccessibleWidget(widget, widget->uiWindow(), [widget] { return widget->now(); }) : nullptr;
+    if (widget == nullptr) return nullptr;
+    return new QtAccessibleWidget(
+        widget, widget->uiWindow(), [widget] { return widget->now(); }, [widget] { return widget->windowInput(); });
 }
 
 } // namespace

@@ -73,6 +73,7 @@ public:
     /// What gets all that the widget would send to its window, to pass it on: a recorder. Nothing
     /// for the window itself.
     void setWindowInput(Ref<UIWindowInput> input);
+    const Ref<UIWindowInput>& windowInput() const { return windowInput_; }
     enum class FrameDriver {
         Timer, ///< ticks come by themselves
         Hand   ///< only `stepFrame` ticks

@@ -20,6 +20,7 @@
 /// - keys (`keyDown`), each with the text it types, and held ones repeatedly; Tab too, which goes
 ///   on to what lies around the window where that returns false;
 /// - whether the keys come to this window at all (`setReceivesKeys`);
+/// - what a screen reader does to an element (`performAction_onElement`);
 /// - that the window closes or is hidden, with `finishAnimations`, so that no spin is lost;
 /// - the time, with `tick`, before each frame that was asked for; and a canvas, with `draw`, when
 ///   `tick` returns true.

@@ -221,6 +221,11 @@ Ref<UIAccessibilityElement> UIWindow::focusedAccessibilityElement() {
     return focused ? sameAccessibilityElement(accessibilityElements(), focused) : nullptr;
 }
 
+void UIWindow::performAction_onElement(const UIAccessibilityAction& action, const Ref<UIAccessibilityElement>& element) {
+    const Ref<UIView> keep = refTo<UIView>(this);
+    if (const Ref<UIAccessibilityElement> present = element) present->perform(action);
+}
+
 // Time
 
 void UIWindow::finishAnimations() {

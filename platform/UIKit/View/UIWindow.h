@@ -94,6 +94,9 @@ public:
     /// Nobody has the focus any more, as when Tab comes in from around the window.
     void takeFocusAway() override { setFirstResponder(nullptr); }
 
+    /// A screen reader acts on one of the window's elements. A no-op for one that does not exist.
+    void performAction_onElement(const UIAccessibilityAction& action, const Ref<UIAccessibilityElement>& element) override;
+
     /// Ends every movement in the window at once, for a window that closes or is hidden, so that no
     /// spin is lost.
     ///

@@ -62,6 +62,11 @@ TEST(RecordedEvent, ComesBackFromItsLine) {
           R"({"time":1.0,"event":"key","key":"pageDown","text":"","modifiers":15,"isRepeat":false})",
           R"({"time":1.0,"event":"receivesKeys","isOn":true})",
           R"({"time":1.0,"event":"focusTaken"})",
+          R"({"time":1.0,"event":"action","action":"increment","element":[2,0]})",
+          R"({"time":1.0,"event":"action","action":"decrement","element":[0]})",
+          R"({"time":1.0,"event":"action","action":"setNumber","element":[2,1],"number":-12.7})",
+          R"({"time":1.0,"event":"action","action":"focus","element":[]})",
+          R"({"time":1.0,"event":"action","action":"activate","element":[9223372036854775807]})",
           R"({"time":1.0,"event":"animationsFinished"})",
           R"({"time":1.0,"event":"size","width":320.0,"height":0.0})",
           R"({"time":1.0,"event":"look","isOn":true})",
@@ -114,6 +119,22 @@ TEST(RecordedEvent, DamagedLinesAreRefusedWithTheirReason) {
               "\"modifiers\" are not known here");
     EXPECT_EQ(errorOf("{\"time\":1,\"event\":\"\xFF\"}"), "this is no JSON; the line may be cut off");
     EXPECT_EQ(errorOf(std::string(LineReader::longestLine + 1, ' ')), "the line is too long");
+}
+
+TEST(RecordedEvent, DamagedActionsAreRefusedWithTheirReason) {
+    const auto action = [](const std::string& members) { return R"({"time":1,"event":"action",)" + members + "}"; };
+    EXPECT_EQ(errorOf(action(R"("action":"explode","element":[])")), "\"explode\" is not known here");
+    EXPECT_EQ(errorOf(action(R"("element":[])")), "\"action\" is missing");
+    EXPECT_EQ(errorOf(action(R"("action":"focus")")), "\"element\" is missing");
+    for (const char* const list : {"1", "{}", "[1.5]", "[\"1\"]", "[1,null]", "[9223372036854775808]"}) {
+        EXPECT_EQ(errorOf(action(R"("action":"focus","element":)" + std::string(list))), "\"element\" is no list of whole numbers") << list;
+    }
+    std::string longest = "0";
+    for (std::size_t i = 1; i < LineReader::longestList; ++i) longest += ",0";
+    EXPECT_EQ(eventOf(action(R"("action":"focus","element":[)" + longest + "]")).element.size(), LineReader::longestList);
+    EXPECT_EQ(errorOf(action(R"("action":"focus","element":[0,)" + longest + "]")), "\"element\" is no list of whole numbers");
+    EXPECT_EQ(errorOf(action(R"("action":"setNumber","element":[])")), "\"number\" is missing");
+    EXPECT_EQ(errorOf(action(R"("action":"setNumber","element":[],"number":1e13)")), "\"number\" is no number in its range");
 }
 
 TEST(RecordedEvent, NamesOfPicturesStayInTheirFolder) {
@@ -178,6 +199,13 @@ TEST(Recording, EveryCutAndEveryChangedByteIsReadOrRefused) {
         }
     }
     EXPECT_GT(refused, whole.size());
+}
+
+TEST(RecordingStart, OffersClicksWhereTheyWereOffered) {
+    RecordingStart start;
+    EXPECT_EQ(start.makeScreen()->settings().clicks, std::nullopt);
+    start.offersClicks = true;
+    EXPECT_EQ(start.makeScreen()->settings().clicks, false);
 }
 
 TEST(RecordingStart, APageThatDoesNotExistMakesNoScreen) {

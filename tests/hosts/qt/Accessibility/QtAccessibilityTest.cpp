@@ -46,6 +46,7 @@ struct QtAccessibility : WidgetTest {
     static void act(QAccessibleInterface* on, const QString& action) {
         ASSERT_TRUE(on->actionInterface());
         on->actionInterface()->doAction(action);
+        QCoreApplication::processEvents(); // An activation comes after the call.
     }
     static const QString& increase() { return QAccessibleActionInterface::increaseAction(); }
     static const QString& decrease() { return QAccessibleActionInterface::decreaseAction(); }

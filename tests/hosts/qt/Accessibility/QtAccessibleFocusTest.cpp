@@ -91,7 +91,10 @@ struct QtAccessibleFocus : WidgetTest {
         dynamic_cast<gx::qt::QtAccessibleView*>(interface())->announceChanges(note);
         return events();
     }
-    static void act(QAccessibleInterface* on, const QString& action) { on->actionInterface()->doAction(action); }
+    static void act(QAccessibleInterface* on, const QString& action) {
+        on->actionInterface()->doAction(action);
+        QCoreApplication::processEvents(); // An activation comes after the call.
+    }
 };
 
 } // namespace

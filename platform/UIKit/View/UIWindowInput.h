@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GXExport.h"
+#include "UIAccessibility.h"
 #include "UIColor.h"
 #include "UIKey.h"
 #include "UITouch.h"
@@ -28,6 +29,7 @@ public:
     virtual bool keyDown(const UIKey& key) = 0;
     virtual void setReceivesKeys(bool receives) = 0;
     virtual void takeFocusAway() = 0;
+    virtual void performAction_onElement(const UIAccessibilityAction& action, const Ref<UIAccessibilityElement>& element) = 0;
 
     virtual void setFrame(CGRect frame) = 0;
     virtual void setUserInterfaceStyle(UIUserInterfaceStyle style) = 0;
