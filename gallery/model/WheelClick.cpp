@@ -1,51 +1,31 @@
 #include "WheelClick.h"
 
+#include <algorithm>
 #include <cmath>
-#include <cstdint>
 
 namespace gallery {
 
 namespace {
 
-constexpr std::uint32_t samplesPerSecond = 44100;
 // Chosen by ear, to be short and soft: a low tone that dies away within 8 milliseconds.
-constexpr std::uint32_t sampleCount = samplesPerSecond * 8 / 1000;
+constexpr std::size_t sampleCount = WheelClick::samplesPerSecond * 8 / 1000;
 constexpr double frequency = 1400;
 constexpr double loudness = 0.25;
 constexpr double decay = 700; // Of the amplitude, a second.
 
-void append(std::string& bytes, std::uint32_t value, int count) {
-    for (int i = 0; i < count; ++i) bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFFU));
-}
-
 } // namespace
 
-std::string WheelClick::waveFile() {
-    constexpr std::uint32_t bytesPerSample = 2;
-    constexpr std::uint32_t dataSize = sampleCount * bytesPerSample;
-    constexpr std::uint32_t headerSize = 36; // Between the size of the whole and the samples.
-    std::string file = "RIFF";
-    append(file, headerSize + dataSize, 4);
-    file += "WAVEfmt ";
-    append(file, 16, 4);
-    append(file, 1, 2); // Plain samples,
-    append(file, 1, 2); // on one channel.
-    append(file, samplesPerSecond, 4);
-    append(file, samplesPerSecond * bytesPerSample, 4);
-    append(file, bytesPerSample, 2);
-    append(file, 8 * bytesPerSample, 2);
-    file += "data";
-    append(file, dataSize, 4);
+std::vector<std::int16_t> WheelClick::samples() {
     constexpr double circle = 6.283185307179586;
     constexpr double largest = 32767;
-    for (std::uint32_t i = 0; i < sampleCount; ++i) {
+    std::vector<std::int16_t> sound;
+    for (std::size_t i = 0; i < sampleCount; ++i) {
         const double time = static_cast<double>(i) / samplesPerSecond;
         const double left = 1 - static_cast<double>(i) / (sampleCount - 1); // Ends in silence.
         const double amplitude = loudness * std::exp(-decay * time) * left;
-        const auto sample = static_cast<std::int32_t>(std::lround(largest * amplitude * std::sin(circle * frequency * time)));
-        append(file, static_cast<std::uint32_t>(sample), 2);
+        sound.push_back(static_cast<std::int16_t>(std::lround(largest * amplitude * std::sin(circle * frequency * time))));
     }
-    return file;
+    return sound;
 }
 
 bool WheelClick::isHeardAt(double time) {
@@ -53,6 +33,20 @@ bool WheelClick::isHeardAt(double time) {
     if (latest_ && time >= *latest_ && time - *latest_ < shortestPause) return false;
     latest_ = time;
     return true;
+}
+
+void WheelClick::add() { waiting_ = std::min(waiting_ + 1, highestWaiting); }
+
+void WheelClick::read(std::span<std::int16_t> stream) {
+    constexpr auto pause = static_cast<std::size_t>(samplesPerSecond * shortestPause);
+    for (std::int16_t& sample : stream) {
+        if (waiting_ > 0 && (!since_ || *since_ >= pause)) {
+            --waiting_;
+            since_ = 0;
+        }
+        sample = since_ && *since_ < sound_.size() ? sound_[*since_] : std::int16_t{0};
+        if (since_ && *since_ < pause) ++*since_;
+    }
 }
 
 } // namespace gallery

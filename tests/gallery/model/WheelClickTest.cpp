@@ -1,47 +1,63 @@
 #include "WheelClick.h"
 
-#include <cstdint>
+#include <algorithm>
 #include <cstdlib>
 
 #include <gtest/gtest.h>
 
 using namespace gallery;
 
+TEST(WheelClick, IsASoundOf8Milliseconds) {
+    EXPECT_EQ(WheelClick::samplesPerSecond, 44100);
+    EXPECT_EQ(WheelClick::samples().size(), 352U);
+}
+
+TEST(WheelClick, BeginsAndEndsInSilenceAndIsSoft) {
+    const std::vector<std::int16_t> sound = WheelClick::samples();
+    EXPECT_EQ(sound.front(), 0);
+    EXPECT_EQ(sound.back(), 0);
+    int loudest = 0;
+    for (const std::int16_t sample : sound) loudest = std::max(loudest, std::abs(int{sample}));
+    EXPECT_GT(loudest, 32767 / 16);
+    EXPECT_LT(loudest, 32767 / 4);
+}
+
 namespace {
 
-std::int32_t number(const std::string& bytes, std::size_t at, std::size_t count) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < count; ++i) value |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes.at(at + i))) << (8 * i);
-    return count == 2 ? static_cast<std::int16_t>(value) : static_cast<std::int32_t>(value);
+/// Where clicks begin in the next samples, which are read in pieces of this size.
+std::vector<std::size_t> clicksWithin(WheelClick& click, std::size_t count, std::size_t piece) {
+    const std::vector<std::int16_t> sound = WheelClick::samples();
+    std::vector<std::int16_t> stream(count, 1);
+    for (std::size_t at = 0; at < count; at += piece) click.read(std::span(stream).subspan(at, std::min(piece, count - at)));
+    std::vector<std::size_t> begins;
+    for (std::size_t at = 0; at < count;) {
+        if (at + sound.size() <= count && std::equal(sound.begin(), sound.end(), stream.begin() + static_cast<std::ptrdiff_t>(at))) {
+            begins.push_back(at);
+            at += sound.size();
+        } else {
+            EXPECT_EQ(stream[at], 0) << at;
+            ++at;
+        }
+    }
+    return begins;
 }
 
 } // namespace
 
-TEST(WheelClick, IsAWaveFileOf8Milliseconds) {
-    const std::string file = WheelClick::waveFile();
-    ASSERT_EQ(file.size(), 44U + 2 * 352); // 44100 samples a second for 0.008 s, two bytes each.
-    EXPECT_EQ(file.substr(0, 4), "RIFF");
-    EXPECT_EQ(number(file, 4, 4), 36 + 704);
-    EXPECT_EQ(file.substr(8, 8), "WAVEfmt ");
-    EXPECT_EQ(number(file, 16, 4), 16);
-    EXPECT_EQ(number(file, 20, 2), 1) << "plain samples";
-    EXPECT_EQ(number(file, 22, 2), 1) << "channels";
-    EXPECT_EQ(number(file, 24, 4), 44100);
-    EXPECT_EQ(number(file, 28, 4), 88200);
-    EXPECT_EQ(number(file, 32, 2), 2);
-    EXPECT_EQ(number(file, 34, 2), 16);
-    EXPECT_EQ(file.substr(36, 4), "data");
-    EXPECT_EQ(number(file, 40, 4), 704);
-}
-
-TEST(WheelClick, BeginsAndEndsInSilenceAndIsSoft) {
-    const std::string file = WheelClick::waveFile();
-    EXPECT_EQ(number(file, 44, 2), 0);
-    EXPECT_EQ(number(file, file.size() - 2, 2), 0);
-    int loudest = 0;
-    for (std::size_t at = 44; at < file.size(); at += 2) loudest = std::max(loudest, std::abs(number(file, at, 2)));
-    EXPECT_GT(loudest, 32767 / 16);
-    EXPECT_LT(loudest, 32767 / 4);
+TEST(WheelClick, TheStreamIsSilentButForEachClick) {
+    using Begins = std::vector<std::size_t>;
+    WheelClick click;
+    EXPECT_EQ(clicksWithin(click, 5000, 512), Begins{});
+    click.add();
+    EXPECT_EQ(clicksWithin(click, 5000, 512), Begins{0}) << "at once";
+    click.add();
+    click.add();
+    click.add();
+    // A thirtieth of a second apart.
+    EXPECT_EQ(clicksWithin(click, 5000, 100), (Begins{0, 1470, 2940}));
+    for (int i = 0; i < 100; ++i) click.add();
+    EXPECT_EQ(clicksWithin(click, 44100, 44100).size(), 6U) << "and not long after the wheel rests";
+    EXPECT_EQ(clicksWithin(click, 44100, 1), Begins{});
 }
 
 TEST(WheelClick, IsHeardAtMost30TimesASecond) {

@@ -96,3 +96,27 @@ TEST_F(SettingsScreenTest, InAWideWindowTheLanguagesAreBesideTheChoices) {
     EXPECT_EQ(choices().size.width, 372);
     EXPECT_GT(languages().origin.x, 32);
 }
+
+TEST_F(SettingsScreenTest, ClicksAreAChoiceWhereTheyCanBeHeard) {
+    for (const bool canBeHeard : {false, true}) {
+        open(390, 844);
+        Settings settings = screen->settings();
+        EXPECT_FALSE(settings.clicks) << "until the application offers them";
+        if (canBeHeard) settings.clicks = false;
+        screen->setSettings(settings);
+        screen->showPage(MainScreen::settingsPage);
+        settle();
+        const auto clicks = screen->settingsControls()->control("Wheel clicks");
+        EXPECT_EQ(clicks != nullptr, canBeHeard);
+        EXPECT_EQ(window->ref()->isFeedbackEnabled(), !canBeHeard) << "off, until the user chooses them";
+        if (!clicks) continue;
+        EXPECT_EQ(clicks->choices(), (Texts{"Off", "On"}));
+        EXPECT_EQ(clicks->chosen(), 0U);
+        tapSegment(clicks, 1);
+        EXPECT_TRUE(window->ref()->isFeedbackEnabled());
+        EXPECT_EQ(screen->settings().clicks, true);
+        tapSegment(screen->settingsControls()->control("Wheel clicks"), 0);
+        EXPECT_FALSE(window->ref()->isFeedbackEnabled());
+        EXPECT_EQ(screen->settings().clicks, false);
+    }
+}
