@@ -7,6 +7,7 @@
 #include "ReadingDirection.h"
 #include "Theme.h"
 #include "Translations.h"
+#include <GXUIPickers/NSRunLoop.h>
 #include <GXUIPickers/UIKey.h>
 #include <GXUIPickers/UIWindow.h>
 
@@ -72,6 +73,17 @@ void MainScreen::showPage(std::size_t index) {
     }
     showTitles();
     setNeedsLayout();
+    flashIndicatorLater();
+}
+
+void MainScreen::flashIndicatorLater() {
+    NSRunLoop::mainRunLoop()->performBlock([weak = WeakRef<MainScreen>(refTo(this))] {
+        const auto screen = weak.lock();
+        if (!screen || !screen->window()) return;
+        screen->layoutIfNeeded(); // How long the page is.
+        const Ref<UIScrollView> shown = screen->pageIndex() == entryPage ? Ref<UIScrollView>(screen->entry()->table()) : screen->scroll();
+        shown->flashScrollIndicators();
+    });
 }
 
 Ref<UIView> MainScreen::contentOfPage(std::size_t index) {
@@ -174,6 +186,7 @@ void MainScreen::didMoveToWindow() {
     if (!window()) return;
     showStyle();
     showEase();
+    flashIndicatorLater();
 }
 
 // Layout

@@ -80,6 +80,8 @@ private:
     gx::Ref<gx::UIView> contentOfPage(std::size_t index);
     void showTitles();
     void takeFocusFromMenu();
+    /// Shows for a moment that a page that has come into sight is longer than the window.
+    void flashIndicatorLater();
     void showStyle();
     void showEase();
 

@@ -283,3 +283,21 @@ TEST_F(MainScreenTest, ItNeedsTheHeightOfItsPageAndItsBar) {
     screen->layoutIfNeeded();
     EXPECT_EQ(screen->scroll()->maxOffset(), 0);
 }
+
+TEST_F(MainScreenTest, APageThatIsLongerThanTheWindowFlashesItsIndicatorWhenItAppears) {
+    const auto secondsUntilStill = [this](std::size_t page) {
+        screen->showPage(page);
+        NSRunLoop::mainRunLoop()->runPass();
+        return window->runUntilStill();
+    };
+    open(390, 568);
+    // It is shown for 0.6 seconds and fades within 0.3.
+    EXPECT_NEAR(secondsUntilStill(MainScreen::settingsPage), 0.9, 0.1);
+    EXPECT_NEAR(secondsUntilStill(MainScreen::entryPage), 0.9, 0.1);
+    open(390, 4000);
+    EXPECT_LT(secondsUntilStill(MainScreen::settingsPage), 0.1);
+    screen->showPage(MainScreen::entryPage);
+    screen = nullptr;
+    window = nullptr;
+    NSRunLoop::mainRunLoop()->runPass(); // For a screen that is gone.
+}
