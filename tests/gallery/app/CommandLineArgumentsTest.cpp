@@ -44,8 +44,8 @@ TEST(CommandLineArguments, HelpIsShownForBothSpellings) {
         ASSERT_TRUE(parsed);
         EXPECT_TRUE(parsed->showsHelp);
     }
-    for (const char* option :
-         {"--shots DIR", "--page NAME", "--size WxH", "--scale N", "--locale NAME", "--text-scale N", "--contrast C", "--help"}) {
+    for (const char* option : {"--shots DIR", "--page NAME", "--size WxH", "--scale N", "--locale NAME", "--text-scale N", "--contrast C",
+                               "--record FILE", "--replay FILE", "--help"}) {
         EXPECT_NE(CommandLineArguments::usage().find(option), std::string::npos) << option;
     }
 }
@@ -56,6 +56,32 @@ TEST(CommandLineArguments, AnInvalidArgumentIsNamed) {
     EXPECT_EQ(errorOf({"--shots"}), "--shots needs a value");
     EXPECT_EQ(errorOf({"--shots", ""}), "--shots needs a value");
     EXPECT_EQ(errorOf({"--help", "--page"}), "--page needs a value");
+}
+
+TEST(CommandLineArguments, ARecordingIsWrittenOrPlayed) {
+    std::string error;
+    const auto recording = CommandLineArguments::parse({"--record", "a b.jsonl", "--page", "Weight"}, error);
+    ASSERT_TRUE(recording) << error;
+    EXPECT_EQ(recording->recordingToWrite, "a b.jsonl");
+    EXPECT_FALSE(recording->recordingToPlay);
+    const auto replay = CommandLineArguments::parse({"--shots", "pictures", "--replay", "a b.jsonl"}, error);
+    ASSERT_TRUE(replay) << error;
+    EXPECT_EQ(replay->recordingToPlay, "a b.jsonl");
+    EXPECT_EQ(replay->pictureFolder, "pictures");
+    EXPECT_FALSE(replay->recordingToWrite);
+    EXPECT_FALSE(CommandLineArguments::parse({}, error)->recordingToWrite);
+    EXPECT_FALSE(CommandLineArguments::parse({}, error)->recordingToPlay);
+    for (const char* option : {"--record", "--replay"}) {
+        EXPECT_EQ(errorOf({option}), std::string(option) + " needs a value");
+        EXPECT_EQ(errorOf({option, ""}), std::string(option) + " needs a value");
+    }
+}
+
+TEST(CommandLineArguments, ARecordingNeedsAWindow) {
+    const std::string reason = "--record needs a window, and goes with neither --replay nor --shots";
+    EXPECT_EQ(errorOf({"--record", "a", "--replay", "a"}), reason);
+    EXPECT_EQ(errorOf({"--replay", "a", "--record", "b"}), reason);
+    EXPECT_EQ(errorOf({"--shots", "pictures", "--record", "a"}), reason);
 }
 
 TEST(CommandLineArguments, SizesLieBetweenASmallPhoneAndALargeScreen) {
