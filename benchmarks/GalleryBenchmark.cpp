@@ -1,6 +1,8 @@
 // The entry screen of the gallery: opening it, opening each of its pickers, and scrolling it.
 // The pickers alone show by comparison what the table and the cells cost.
 
+#include <cmath>
+
 #include <benchmark/benchmark.h>
 
 #include "EntryScreen.h"
@@ -15,6 +17,8 @@
 #include "GXWeightPickerView.h"
 #include "NSRunLoop.h"
 #include "NullCanvas.h"
+#include "UIAccessibilityChanges.h"
+#include "UIPickerView.h"
 #include "UIWindow.h"
 
 using namespace gx;
@@ -99,5 +103,36 @@ void aFrameOfScrolling(benchmark::State& state) {
     }
 }
 BENCHMARK(aFrameOfScrolling)->Unit(benchmark::kMicrosecond);
+
+Ref<UIPickerView> wheelIn(const Ref<UIView>& view) {
+    if (const auto wheel = std::dynamic_pointer_cast<UIPickerView>(view)) return wheel;
+    for (const Ref<UIView>& below : view->subviews()) {
+        if (const auto wheel = wheelIn(below)) return wheel;
+    }
+    return nullptr;
+}
+
+/// A wheel in its row, moved by a finger to and fro; without and with a screen reader, for which
+/// the host looks for changes after each frame.
+void aFrameOfASpinningWheel(benchmark::State& state) {
+    Screen screen;
+    screen.entry->openMeasurement_animated(1, false);
+    screen.tick();
+    const Ref<UIPickerView> wheel = wheelIn(screen.entry->openPickerCell());
+    const CGPoint middle = wheel->convertPoint_toView({CGRectGetMidX(wheel->bounds()) - 30, CGRectGetMidY(wheel->bounds())}, screen.window);
+    UIAccessibilityChanges changes;
+    constexpr CGFloat way = 60; // About two rows, and back.
+    CGFloat place = 0;
+    CGFloat step = 3;
+    screen.window->touchBegan_at_time(1, middle, screen.now);
+    for (auto _ : state) {
+        place += step;
+        if (std::abs(place) >= way) step = -step;
+        screen.window->touchMoved_at_time(1, {middle.x, middle.y + place}, screen.now);
+        screen.tick();
+        if (state.range(0) != 0) benchmark::DoNotOptimize(changes.takeChanges(*screen.window));
+    }
+}
+BENCHMARK(aFrameOfASpinningWheel)->ArgName("screenReader")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 } // namespace
