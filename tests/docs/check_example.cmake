@@ -1,12 +1,12 @@
 # Says whether a document shows an example as it is, and what it prints: cmake -D document=… -D
-# source=… -D program=… -P …
+# source=… -D program=… [-D arguments=…] -P …
 file(READ "${document}" text)
 file(READ "${source}" code)
 string(FIND "${text}" "```cpp\n${code}```" at)
 if(at EQUAL -1)
   message(FATAL_ERROR "${document} does not show ${source} as it is.")
 endif()
-execute_process(COMMAND "${program}" RESULT_VARIABLE result OUTPUT_VARIABLE output)
+execute_process(COMMAND "${program}" ${arguments} RESULT_VARIABLE result OUTPUT_VARIABLE output)
 if(NOT result EQUAL 0)
   message(FATAL_ERROR "The example failed (${result}):\n${output}")
 endif()

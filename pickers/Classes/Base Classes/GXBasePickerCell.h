@@ -22,7 +22,7 @@ namespace gx {
 ///
 /// To derive: override `makePicker`, and declare a `cellIdentifier` of your own. A cell without one
 /// would be registered in place of other cells without one; debug builds stop there.
-/// `docs/own-picker.md` shows both.
+/// `docs/guide/own-picker.md` shows both.
 class GX_EXPORT GXBasePickerCell : public UITableViewCell {
 public:
     /// What an application registers the class under.

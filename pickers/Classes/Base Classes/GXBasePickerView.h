@@ -49,7 +49,7 @@ public:
 /// - Give every field an initialiser: the wheel asks for rows before `didInitialize` has run.
 /// - Where you override `setDelegate`, write `using GXBasePickerView::setDelegate;` beside it.
 ///
-/// `docs/own-picker.md` shows a picker and its cell.
+/// `docs/guide/own-picker.md` shows a picker and its cell.
 class GX_EXPORT GXBasePickerView : public UIView, public UIPickerViewDataSource, public GXMultiValuePickerViewDelegate {
 public:
     /// Rows are as high as the style sheet says at this moment, for the picker's lifetime.
