@@ -7,6 +7,7 @@ option(GX_BUILD_WEB "Build the browser's host (with the preset web, its WebAssem
 option(GX_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
 option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(BUILD_SHARED_LIBS "Build shared libraries instead of static ones" OFF)
+option(GX_LANGUAGES_ON_DEMAND "Compile English alone in; other languages are added as data" OFF)
 option(GX_BARE "Build without RTTI and exceptions; code that uses the library is compiled so too" OFF)
 
 # For those who work on the library. The presets dev, sanitize, ci and fuzz turn them on; a plain

@@ -57,6 +57,14 @@ Integer truncateTo(Floating value) {
     return static_cast<Integer>(value);
 }
 
+/// 10 to a whole number from 0 to 22, all of which a double has exactly. `std::pow` would bring its
+/// tables along, 4 KiB of a browser's download.
+constexpr double powerOfTen(int exponent) {
+    double power = 1;
+    for (int i = 0; i < exponent; ++i) power *= 10;
+    return power;
+}
+
 /// The low 32 bits of an integer, as a signed number.
 constexpr std::int32_t narrowTo32Bits(std::int64_t value) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(static_cast<std::uint64_t>(value)));

@@ -16,15 +16,14 @@ constexpr GXLanguage GXLanguage::languageWithTexts() {
     static_assert(isComplete<Checks::firstProblemOfTexts(Texts::unitTexts, GXEnglish::unitTexts)>());
     static_assert(isComplete<Checks::firstProblemOfNames(Texts::accessibilityNames)>());
     static_assert(isComplete<Checks::firstProblemOfUnits(Texts::accessibilityUnits, Texts::pluralCategory)>());
-    GXLanguage language;
-    language.identifier_ = Texts::identifier;
-    language.ownName_ = Texts::ownName;
-    language.decimalSeparator_ = Texts::decimalSeparator;
-    language.pluralRule_ = Texts::pluralCategory;
-    language.unitTexts_ = Texts::unitTexts;
-    language.names_ = Texts::accessibilityNames;
-    language.units_ = Texts::accessibilityUnits;
-    return language;
+    return GXLanguage({.identifier = Texts::identifier,
+                       .ownName = Texts::ownName,
+                       .decimalSeparator = Texts::decimalSeparator,
+                       .pluralRule = Texts::pluralCategory,
+                       .pluralTable = {},
+                       .unitTexts = Texts::unitTexts,
+                       .names = Texts::accessibilityNames,
+                       .units = Texts::accessibilityUnits});
 }
 
 namespace {
@@ -34,7 +33,12 @@ constexpr std::array<GXLanguage, sizeof...(Texts)> languagesOfList(GXLanguageLis
     return {GXLanguage::languageWithTexts<Texts>()...};
 }
 
-constexpr auto languages = languagesOfList(GXLanguages{});
+constexpr auto languagesCompiledIn = languagesOfList(GXLanguagesCompiledIn{});
+
+std::vector<const GXLanguage*>& addedLanguages() {
+    static std::vector<const GXLanguage*> languages;
+    return languages;
+}
 
 constexpr char lowerCase(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
 
@@ -69,38 +73,54 @@ void replaceFirst(std::string& text, std::string_view place, std::string_view wi
 
 } // namespace
 
-std::span<const GXLanguage> GXLanguage::all() { return languages; }
+std::span<const GXLanguage> GXLanguage::compiledIn() { return languagesCompiledIn; }
+
+std::vector<const GXLanguage*> GXLanguage::all() {
+    std::vector<const GXLanguage*> all;
+    for (const GXLanguage& language : languagesCompiledIn) all.push_back(&language);
+    all.insert(all.end(), addedLanguages().begin(), addedLanguages().end());
+    return all;
+}
+
+void GXLanguage::add(const GXLanguage& language) { addedLanguages().push_back(&language); }
 
 const GXLanguage& GXLanguage::languageForIdentifier(std::string_view identifier) {
     const std::string_view tag = identifier.substr(0, identifier.find_first_of(".@"));
+    const std::vector<const GXLanguage*> languages = all();
     // The first of equals, so English if none has a part in common.
-    return *std::max_element(languages.begin(), languages.end(), [tag](const GXLanguage& a, const GXLanguage& b) {
-        return commonLeadingParts(a.identifier(), tag) < commonLeadingParts(b.identifier(), tag);
+    return **std::max_element(languages.begin(), languages.end(), [tag](const GXLanguage* a, const GXLanguage* b) {
+        return commonLeadingParts(a->identifier(), tag) < commonLeadingParts(b->identifier(), tag);
     });
 }
 
 std::optional<std::string_view> GXLanguage::textForKey(std::string_view key) const {
-    const auto entry = std::find_if(unitTexts_.begin(), unitTexts_.end(), [key](const GXText& candidate) { return candidate.key == key; });
-    if (entry == unitTexts_.end()) return std::nullopt;
+    const std::span<const GXText> texts = parts_.unitTexts;
+    const auto entry = std::find_if(texts.begin(), texts.end(), [key](const GXText& candidate) { return candidate.key == key; });
+    if (entry == texts.end()) return std::nullopt;
     return entry->text;
+}
+
+GXPluralCategory GXLanguage::pluralCategoryOfOperands(const GXPluralOperands& operands) const {
+    if (parts_.pluralRule) return parts_.pluralRule(operands);
+    return static_cast<GXPluralCategory>(parts_.pluralTable[GXPluralTable::indexOf(operands)] - '0');
 }
 
 GXPluralCategory GXLanguage::pluralCategoryOfNumber(std::string_view whole, std::string_view fraction) const {
     if (!whole.empty() && (whole.front() == '-' || whole.front() == '+')) whole.remove_prefix(1);
     if (whole.empty() || !GXPluralOperands::areDigits(whole) || !GXPluralOperands::areDigits(fraction)) return GXPluralCategory::Other;
-    return pluralRule_(GXPluralOperands::operandsOfDigits(whole, fraction));
+    return pluralCategoryOfOperands(GXPluralOperands::operandsOfDigits(whole, fraction));
 }
 
 // Names and units are in the order of the enumerations.
 
 std::string_view GXLanguage::textForName(GXAccessibilityName name) const {
     const auto index = static_cast<std::size_t>(name);
-    return index < names_.size() ? names_[index].text : std::string_view{};
+    return index < parts_.names.size() ? parts_.names[index].text : std::string_view{};
 }
 
 std::string_view GXLanguage::patternForUnit(GXAccessibilityUnit unit, GXPluralCategory category) const {
     const auto index = static_cast<std::size_t>(unit);
-    return index < units_.size() ? units_[index].forms.form(category) : std::string_view{};
+    return index < parts_.units.size() ? parts_.units[index].forms.form(category) : std::string_view{};
 }
 
 std::string GXLanguage::quantity(const GXAccessibilityNumber& number, GXAccessibilityUnit unit) const {

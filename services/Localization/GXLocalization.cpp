@@ -1,8 +1,11 @@
 #include "GXLocalization.h"
 
+#include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "GXLanguage.h"
+#include "GXLanguageData.h"
 
 namespace gx {
 
@@ -11,6 +14,12 @@ namespace {
 Ref<GXLocalization>& theLocalization() {
     static Ref<GXLocalization> localization = create<GXLocalization>();
     return localization;
+}
+
+const GXLanguage* languageNamed(std::string_view identifier) {
+    const std::vector<const GXLanguage*> all = GXLanguage::all();
+    const auto found = std::find_if(all.begin(), all.end(), [=](const GXLanguage* one) { return one->identifier() == identifier; });
+    return found == all.end() ? nullptr : *found;
 }
 
 } // namespace
@@ -53,8 +62,24 @@ std::string GXLocalization::translationLanguage() const { return std::string(tex
 
 std::vector<std::string> GXLocalization::availableLanguages() {
     std::vector<std::string> languages;
-    for (const GXLanguage& language : GXLanguage::all()) languages.emplace_back(language.identifier());
+    for (const GXLanguage* language : GXLanguage::all()) languages.emplace_back(language->identifier());
     return languages;
+}
+
+std::optional<std::string> GXLocalization::dataOfLanguage(const std::string& identifier) {
+    const GXLanguage* language = languageNamed(identifier);
+    return language ? std::optional(GXLanguageData::textOfLanguage(*language)) : std::nullopt;
+}
+
+bool GXLocalization::addLanguage(std::string data) {
+    // Localisers point to languages, so they are kept for good.
+    static std::vector<std::unique_ptr<GXLanguageData>> added;
+    std::unique_ptr<GXLanguageData> language = GXLanguageData::dataFromText(std::move(data));
+    if (!language) return false;
+    if (languageNamed(language->language().identifier())) return true;
+    GXLanguage::add(language->language());
+    added.push_back(std::move(language));
+    return true;
 }
 
 std::string GXLocalization::nameOfLanguage(const std::string& identifier) {

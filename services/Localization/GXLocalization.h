@@ -66,6 +66,15 @@ public:
 
     /// All known languages, English first.
     static std::vector<std::string> availableLanguages();
+    /// A known language as a text, its identifier in the first line. Nothing for an unknown one.
+    static std::optional<std::string> dataOfLanguage(const std::string& identifier);
+    /// Adds a language from what `dataOfLanguage` returned, perhaps in another build, or from a
+    /// translation of it. Returns whether the language is known now.
+    ///
+    /// For builds that have English alone compiled in (`GX_LANGUAGES_ON_DEMAND`), and for languages
+    /// that the library lacks. One that is known already stays as it is. Localisers whose language
+    /// was set before keep their texts until `setLanguage`.
+    static bool addLanguage(std::string data);
     /// What its speakers call the known language nearest to an identifier, such as "Deutsch".
     static std::string nameOfLanguage(const std::string& identifier);
     /// What is usual in it, such as ",". Pickers use the one of the current `NSLocale`, which also

@@ -41,6 +41,10 @@ GX_PAGE_IMPORT("drawImage")
 void gx_page_draw_image(std::int32_t image, double scaleX, double scaleY, double x, double y, double width, double height, double alpha,
                         double home);
 
+/// No memory is left for so many bytes. The page throws an exception; it does not return.
+GX_PAGE_IMPORT("outOfMemory")
+void gx_page_out_of_memory(double bytes);
+
 // Notices of an element
 
 /// Something has changed on screen: a frame is needed.

@@ -1,13 +1,14 @@
 #include "NSLayoutConstraint.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string_view>
 #include <utility>
 
 #ifndef NDEBUG
 #include <cstdio>
 #endif
+
+#include "NSArithmetic.h"
 
 namespace gx {
 
@@ -66,7 +67,7 @@ private:
             CGFloat fraction = 0;
             const int digits = readDigits(fraction);
             if (digits == 0) return std::nullopt;
-            number += fraction / std::pow(10.0, digits);
+            number += fraction / powerOfTen(digits);
         }
         return number;
     }

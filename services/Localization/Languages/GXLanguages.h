@@ -28,4 +28,12 @@ struct GXLanguageList {};
 using GXLanguages = GXLanguageList<GXEnglish, GXGerman, GXFrench, GXSpanish, GXItalian, GXPortuguese, GXDutch, GXPolish, GXRussian,
                                    GXTurkish, GXArabic, GXHebrew, GXJapanese, GXSimplifiedChinese, GXKorean>;
 
+/// Those that are compiled in. Where size matters, the others are added as data
+/// (`GXLocalization::addLanguage`).
+#if defined(GX_LANGUAGES_ON_DEMAND)
+using GXLanguagesCompiledIn = GXLanguageList<GXEnglish>;
+#else
+using GXLanguagesCompiledIn = GXLanguages;
+#endif
+
 } // namespace gx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 namespace gx {
@@ -43,6 +44,21 @@ struct GXPluralOperands {
         operands.hasFraction = !fraction.empty();
         operands.isFractionZero = fraction.find_first_not_of('0') == std::string_view::npos;
         return operands;
+    }
+};
+
+/// A plural rule as a text: a digit, the number of a `GXPluralCategory`, for each group of numbers
+/// that a rule can tell apart.
+struct GXPluralTable {
+    /// Larger integers have the category of 100 and their last two digits.
+    static constexpr int integerCount = 200;
+    static constexpr std::size_t size = 3 * static_cast<std::size_t>(integerCount);
+
+    /// Whole numbers come first, then those with a fraction of zeros, then all others.
+    static constexpr std::size_t indexOf(const GXPluralOperands& operands) {
+        const int integer = operands.integer < integerCount ? operands.integer : operands.integer % 100 + 100;
+        const int group = operands.isWhole() ? 0 : operands.isFractionZero ? 1 : 2;
+        return static_cast<std::size_t>(group * integerCount + integer);
     }
 };
 

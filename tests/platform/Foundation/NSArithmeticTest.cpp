@@ -1,5 +1,6 @@
 #include "NSArithmetic.h"
 
+#include <cmath>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -120,6 +121,17 @@ TEST(NSArithmetic, NarrowingKeepsTheLowThirtyTwoBits) {
     EXPECT_EQ(narrowTo32Bits(4294967295LL), -1);
     EXPECT_EQ(narrowTo32Bits(lowest64), 0);
     EXPECT_EQ(narrowTo32Bits(highest64), -1);
+}
+
+TEST(NSArithmetic, PowersOfTenAreExact) {
+    constexpr double powers[] = {1,    1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    int exponent = 0;
+    for (const double power : powers) {
+        EXPECT_EQ(powerOfTen(exponent), power);
+        EXPECT_EQ(powerOfTen(exponent), std::pow(10, exponent));
+        ++exponent;
+    }
 }
 
 TEST(NSArithmetic, TheIntegerOperationsCanBeUsedInConstants) {

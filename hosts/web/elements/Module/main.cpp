@@ -4,7 +4,6 @@
 
 #include <cmath>
 #include <memory>
-#include <version>
 
 #include <GXUIPickers/NSArithmetic.h>
 #include <GXUIPickers/UIKey.h>
@@ -32,14 +31,6 @@ std::string takeText(std::int32_t length) { return sharedText().substr(0, static
 
 } // namespace
 
-// What the C++ runtime does when it cannot go on: it traps. The page sees that and stops the
-// element that it called. Without the runtime's own messages, the module needs no printing.
-
-extern "C" [[noreturn]] void abort_message(const char* /*format*/, ...) { __builtin_trap(); }
-_LIBCPP_BEGIN_NAMESPACE_STD
-[[noreturn]] void __libcpp_verbose_abort(const char* /*format*/, ...) { __builtin_trap(); }
-_LIBCPP_END_NAMESPACE_STD
-
 // Texts
 
 /// Makes room for so many bytes in the shared text buffer, and returns where it lies.
@@ -65,6 +56,12 @@ std::int32_t gx_web_open(std::int32_t number, std::int32_t kind, std::int32_t ro
 
 GX_WEB_EXPORT("close") void gx_web_close(std::int32_t number) { WebRegistry::remove(number); }
 GX_WEB_EXPORT("elementCount") std::int32_t gx_web_element_count() { return WebRegistry::count(); }
+
+/// Adds a language; its data is in the text buffer. Elements use it from their next `setLanguage`
+/// on. Returns whether it is known now.
+GX_WEB_EXPORT("addLanguage") std::int32_t gx_web_add_language(std::int32_t length) {
+    return GXLocalization::addLanguage(takeText(length)) ? 1 : 0;
+}
 
 /// Fonts have come late: all texts measure differently. The page calls `reload` on its elements.
 GX_WEB_EXPORT("fontsDidLoad") void gx_web_fonts_did_load() {

@@ -89,7 +89,7 @@ std::optional<UIPickerOrderedNumbers::Entry> UIPickerOrderedNumbers::entryBetwee
 // The numbers shown
 
 double UIPickerOrderedNumbers::shownOf(const Number& number) const {
-    return static_cast<double>(number.value) / std::pow(10, first_.decimals);
+    return static_cast<double>(number.value) / powerOfTen(first_.decimals);
 }
 
 /// From the first number to the second, with its sign.
@@ -128,7 +128,7 @@ NSInteger UIPickerOrderedNumbers::rowNearestTo(double shown) const {
         const double border = shownOf(first_) - step / 2;
         if (step > 0 ? shown < border : shown > border) return 0;
     }
-    const double scaled = shown * std::pow(10, first_.decimals);
+    const double scaled = shown * powerOfTen(first_.decimals);
     const NSInteger smallestRow = isDescending_ ? lastRow() : firstRow_;
     const NSInteger largestRow = isDescending_ ? firstRow_ : lastRow();
     const auto above = entryBetween(truncateTo<NSInteger>(std::ceil(scaled)), std::numeric_limits<NSInteger>::max());
