@@ -4,6 +4,7 @@ option(GX_BUILD_QUICK "Build the QML module too, where qt6-declarative-dev is in
 option(GX_BUILD_GALLERY "Build the demo application (without the Qt host, its screens alone)" ${GX_BUILD_QT})
 option(GX_GALLERY_CLICKS "Let the gallery's wheels click, where Qt Multimedia is installed" ON)
 option(GX_BUILD_WEB "Build the browser's host (with the preset web, its WebAssembly module)" OFF)
+set(GX_WEB_PICKER "" CACHE STRING "The only kind of picker in the browser's module, such as Distance; all without it")
 option(GX_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
 option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(BUILD_SHARED_LIBS "Build shared libraries instead of static ones" OFF)

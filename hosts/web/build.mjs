@@ -1,79 +1,122 @@
-// Builds what a page loads from the compiled module: node build.mjs MODULE.wasm FOLDER
-// The folder becomes the npm package:
+// Builds what a page loads: node build.mjs FOLDER PACKAGE [ELEMENT]
+// FOLDER has the compiled gxuipickers.wasm and languages.wasm. PACKAGE becomes the npm package:
 //   gxuipickers.js               one file, the module within
 //   asset.js, gxuipickers.wasm   for bundlers
+//   languages/                   the languages but English, loaded on demand
 //   types/                       what TypeScript knows of both, and React and Vue of the elements
 //   custom-elements.json         what editors know of the elements
 //   sizes.json                   how large each is, and how large as a server would send it
+// With an ELEMENT, such as gx-distance-picker, the scripts define that one alone.
 import { build } from 'esbuild';
 import { execFileSync } from 'node:child_process';
-import { copyFileSync, cpSync, mkdirSync, readFileSync, writeFileSync } from 'node:fs';
+import { copyFileSync, cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { gzipSync } from 'node:zlib';
+import { table } from './sizes.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
-const [source, folder] = process.argv.slice(2);
+const [source, folder, onlyElement] = process.argv.slice(2);
 if (!source || !folder) {
-    console.error('usage: node build.mjs MODULE.wasm FOLDER');
+    console.error('usage: node build.mjs FOLDER PACKAGE [ELEMENT]');
     process.exit(2);
 }
-mkdirSync(folder, { recursive: true });
+rmSync(folder, { recursive: true, force: true });
+mkdirSync(path.join(folder, 'languages'), { recursive: true });
+
+// What a browser has to know. All that can load the scripts do.
+const features = ['bulk-memory', 'sign-ext', 'mutable-globals', 'nontrapping-float-to-int'];
 const wasm = path.join(folder, 'gxuipickers.wasm');
 execFileSync(
     path.join(here, 'node_modules/.bin/wasm-opt'),
-    [
-        '-Oz',
-        '--enable-bulk-memory',
-        '--enable-sign-ext',
-        '--enable-mutable-globals',
-        '--enable-nontrapping-float-to-int',
-        source,
-        '-o',
-        wasm,
-    ],
+    ['-Oz', '--converge', ...features.map((name) => `--enable-${name}`), path.join(source, 'gxuipickers.wasm'), '-o', wasm],
     { stdio: 'inherit' },
 );
 const packed = gzipSync(readFileSync(wasm), { level: 9 });
 
-const packedModule = {
-    name: 'packed module',
+/** The data of every language, in the library's order, as its own code writes it. */
+function readLanguages(file) {
+    const module = new WebAssembly.Module(readFileSync(file));
+    const imports = {};
+    for (const { module: name, name: called } of WebAssembly.Module.imports(module)) (imports[name] ??= {})[called] = () => 0;
+    const { exports } = new WebAssembly.Instance(module, imports);
+    exports._initialize();
+    return Array.from({ length: exports.count() }, (_, i) => {
+        const length = exports.read(i);
+        return new TextDecoder('utf-8', { fatal: true }).decode(new Uint8Array(exports.memory.buffer, exports.data(), length));
+    });
+}
+
+/** The files of the languages by the first part of their tags; English is in the module. */
+const files = new Map();
+for (const data of readLanguages(path.join(source, 'languages.wasm'))) {
+    const identifier = data.slice(0, data.indexOf('\n'));
+    if (identifier === 'en') continue;
+    const code = identifier.split('-')[0];
+    if (files.has(code)) throw new Error(`Two languages begin with "${code}": the script would confuse them.`);
+    files.set(code, `languages/${identifier}.js`);
+    writeFileSync(path.join(folder, `languages/${identifier}.js`), `export default ${JSON.stringify(data)};\n`);
+    writeFileSync(path.join(folder, `languages/${identifier}.d.ts`), 'declare const data: string;\nexport default data;\n');
+}
+// The old code of Hebrew, which some pages still have.
+const loaders = [...files, ['iw', files.get('he')]].map(([code, file]) => `${code}:()=>import("./${file}")`);
+
+const parts = {
+    'gxuipickers.wasm.gz': { contents: packed.toString('base64'), loader: 'text' },
+    'gxuipickers.languages': { contents: `export default {${loaders.join(',')}}`, loader: 'js', resolveDir: here },
+};
+const generated = {
+    name: 'generated parts',
     setup(plugin) {
-        plugin.onResolve({ filter: /^gxuipickers\.wasm\.gz$/ }, () => ({ path: 'gxuipickers.wasm.gz', namespace: 'packed' }));
-        plugin.onLoad({ filter: /.*/, namespace: 'packed' }, () => ({ contents: packed.toString('base64'), loader: 'text' }));
+        plugin.onResolve({ filter: /^gxuipickers\./ }, ({ path: name }) => ({ path: name, namespace: 'generated' }));
+        plugin.onLoad({ filter: /.*/, namespace: 'generated' }, ({ path: name }) => parts[name]);
+        // A file of its own, which a bundler finds beside the script.
+        plugin.onResolve({ filter: /^\.\/languages\// }, ({ path: name }) => (name.endsWith('.js') && name !== './languages.js' ? { path: name, external: true } : null));
+        if (onlyElement) {
+            plugin.onLoad({ filter: /script\/pickers\.ts$/ }, ({ path: name }) => ({ contents: onlyOne(readFileSync(name, 'utf8')), loader: 'ts' }));
+        }
     },
 };
-const common = {
-    bundle: true,
-    format: 'esm',
-    target: 'es2022',
-    minify: true,
-    sourcemap: true,
-    charset: 'utf8',
-    legalComments: 'none',
-    logLevel: 'warning',
-};
-await build({
-    ...common,
-    entryPoints: [path.join(here, 'script/inline.ts')],
-    outfile: path.join(folder, 'gxuipickers.js'),
-    plugins: [packedModule],
-});
-await build({ ...common, entryPoints: [path.join(here, 'script/asset.ts')], outfile: path.join(folder, 'asset.js') });
+
+/** The list of elements with one left. Classes that nothing names are left out by the bundler. */
+function onlyOne(script) {
+    const line = script.split('\n').find((text) => text.startsWith(`    '${onlyElement}': `) && text.endsWith(','));
+    if (!line) throw new Error(`There is no element ${onlyElement}.`);
+    return script.replace(/(export const elements = \{\n)[^}]*(\} as const;)/, `$1${line}\n$2`);
+}
+
+for (const [entry, outfile] of Object.entries({ inline: 'gxuipickers.js', asset: 'asset.js' })) {
+    await build({
+        entryPoints: [path.join(here, `script/${entry}.ts`)],
+        outfile: path.join(folder, outfile),
+        plugins: [generated],
+        bundle: true,
+        format: 'esm',
+        target: 'es2022',
+        minify: true,
+        sourcemap: true,
+        charset: 'utf8',
+        legalComments: 'none',
+        logLevel: 'warning',
+    });
+}
 execFileSync(path.join(here, 'node_modules/.bin/tsc'), ['-p', here, '--emitDeclarationOnly', '--outDir', path.join(folder, 'types')], {
     stdio: 'inherit',
 });
 cpSync(path.join(here, 'package/types'), path.join(folder, 'types'), { recursive: true });
 execFileSync(process.execPath, [path.join(here, 'package/manifest.mjs'), folder], { stdio: 'inherit' });
-for (const name of ['package/package.json', 'package/README.md', '../../LICENSE'])
-    copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
+for (const name of ['package/package.json', '../../LICENSE']) copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
 
+const names = ['gxuipickers.js', 'asset.js', 'gxuipickers.wasm', ...files.values()];
 const sizes = Object.fromEntries(
-    ['gxuipickers.wasm', 'asset.js', 'gxuipickers.js'].map((name) => {
+    names.map((name) => {
         const bytes = readFileSync(path.join(folder, name));
         return [name, { bytes: bytes.length, gzip: gzipSync(bytes, { level: 9 }).length }];
     }),
 );
 writeFileSync(path.join(folder, 'sizes.json'), JSON.stringify(sizes, null, 2) + '\n');
-for (const [name, size] of Object.entries(sizes))
-    console.log(`${name.padEnd(20)} ${String(size.bytes).padStart(8)} bytes ${String(size.gzip).padStart(8)} gzipped`);
+// The table in the package is always that of its files.
+const readme = readFileSync(path.join(here, 'package/README.md'), 'utf8');
+if (!readme.includes('<!-- sizes -->')) throw new Error('package/README.md has no place for the table of sizes.');
+writeFileSync(path.join(folder, 'README.md'), readme.replace('<!-- sizes -->', table(sizes)));
+console.log(table(sizes));

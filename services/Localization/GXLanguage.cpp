@@ -35,9 +35,12 @@ constexpr std::array<GXLanguage, sizeof...(Texts)> languagesOfList(GXLanguageLis
 
 constexpr auto languagesCompiledIn = languagesOfList(GXLanguagesCompiledIn{});
 
-std::vector<const GXLanguage*>& addedLanguages() {
-    static std::vector<const GXLanguage*> languages;
-    return languages;
+std::vector<const GXLanguage*>& allLanguages() {
+    static std::vector<const GXLanguage*> all;
+    if (all.empty()) {
+        for (const GXLanguage& language : languagesCompiledIn) all.push_back(&language);
+    }
+    return all;
 }
 
 constexpr char lowerCase(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
@@ -75,18 +78,13 @@ void replaceFirst(std::string& text, std::string_view place, std::string_view wi
 
 std::span<const GXLanguage> GXLanguage::compiledIn() { return languagesCompiledIn; }
 
-std::vector<const GXLanguage*> GXLanguage::all() {
-    std::vector<const GXLanguage*> all;
-    for (const GXLanguage& language : languagesCompiledIn) all.push_back(&language);
-    all.insert(all.end(), addedLanguages().begin(), addedLanguages().end());
-    return all;
-}
+const std::vector<const GXLanguage*>& GXLanguage::all() { return allLanguages(); }
 
-void GXLanguage::add(const GXLanguage& language) { addedLanguages().push_back(&language); }
+void GXLanguage::add(const GXLanguage& language) { allLanguages().push_back(&language); }
 
 const GXLanguage& GXLanguage::languageForIdentifier(std::string_view identifier) {
     const std::string_view tag = identifier.substr(0, identifier.find_first_of(".@"));
-    const std::vector<const GXLanguage*> languages = all();
+    const std::vector<const GXLanguage*>& languages = all();
     // The first of equals, so English if none has a part in common.
     return **std::max_element(languages.begin(), languages.end(), [tag](const GXLanguage* a, const GXLanguage* b) {
         return commonLeadingParts(a->identifier(), tag) < commonLeadingParts(b->identifier(), tag);

@@ -39,7 +39,7 @@ public:
     /// Those that are compiled in, English first.
     static std::span<const GXLanguage> compiledIn();
     /// Those that are compiled in, then those that were added.
-    static std::vector<const GXLanguage*> all();
+    static const std::vector<const GXLanguage*>& all();
     /// The language has to live as long as the program.
     static void add(const GXLanguage& language);
     /// The language that agrees with the most leading parts of `identifier`, else English.

@@ -73,7 +73,7 @@ bool GXLanguageData::read() {
     parts.ownName = lines.next();
     parts.decimalSeparator = lines.next();
     parts.pluralTable = lines.next();
-    for (const GXText& english : GXLanguage::compiledIn().front().unitTexts()) unitTexts_.emplace_back(english.key, lines.next());
+    for (std::size_t i = 0; i < unitTexts_.size(); ++i) unitTexts_[i] = {GXEnglish::unitTexts[i].key, lines.next()};
     for (std::size_t i = 0; i < names_.size(); ++i) names_[i] = {static_cast<GXAccessibilityName>(i), lines.next()};
     for (std::size_t i = 0; i < units_.size(); ++i) {
         units_[i].key = static_cast<GXAccessibilityUnit>(i);

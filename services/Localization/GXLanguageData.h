@@ -1,11 +1,12 @@
 #pragma once
 
 #include <array>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "GXEnglish.h"
 #include "GXLanguage.h"
 
 namespace gx {
@@ -24,6 +25,9 @@ public:
     /// Lives as long as the data.
     const GXLanguage& language() const { return language_; }
 
+    /// Holds other data as long as this is there.
+    void setBefore(std::unique_ptr<GXLanguageData> before) { before_ = std::move(before); }
+
     GXLanguageData(const GXLanguageData&) = delete;
     GXLanguageData& operator=(const GXLanguageData&) = delete;
 
@@ -33,10 +37,11 @@ private:
     bool read();
 
     std::string text_;
-    std::vector<GXText> unitTexts_;
+    std::array<GXText, std::size(GXEnglish::unitTexts)> unitTexts_;
     std::array<GXAccessibilityNameText, GXAccessibilityNameCount> names_{};
     std::array<GXAccessibilityUnitText, GXAccessibilityUnitCount> units_{};
     GXLanguage language_{GXLanguage::Parts{}};
+    std::unique_ptr<GXLanguageData> before_;
 };
 
 } // namespace gx

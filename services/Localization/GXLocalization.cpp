@@ -17,7 +17,7 @@ Ref<GXLocalization>& theLocalization() {
 }
 
 const GXLanguage* languageNamed(std::string_view identifier) {
-    const std::vector<const GXLanguage*> all = GXLanguage::all();
+    const std::vector<const GXLanguage*>& all = GXLanguage::all();
     const auto found = std::find_if(all.begin(), all.end(), [=](const GXLanguage* one) { return one->identifier() == identifier; });
     return found == all.end() ? nullptr : *found;
 }
@@ -72,13 +72,14 @@ std::optional<std::string> GXLocalization::dataOfLanguage(const std::string& ide
 }
 
 bool GXLocalization::addLanguage(std::string data) {
-    // Localisers point to languages, so they are kept for good.
-    static std::vector<std::unique_ptr<GXLanguageData>> added;
+    // The latest one holds those before. Localisers point to languages, so they are kept for good.
+    static std::unique_ptr<GXLanguageData> added;
     std::unique_ptr<GXLanguageData> language = GXLanguageData::dataFromText(std::move(data));
     if (!language) return false;
     if (languageNamed(language->language().identifier())) return true;
     GXLanguage::add(language->language());
-    added.push_back(std::move(language));
+    language->setBefore(std::move(added));
+    added = std::move(language);
     return true;
 }
 

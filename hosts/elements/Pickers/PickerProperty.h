@@ -24,6 +24,15 @@ enum class PickerKind : std::int32_t {
     Count
 };
 
+/// Whether a kind is in this build: all are, unless it is made for a single one (`GX_WEB_PICKER`).
+constexpr bool isBuilt([[maybe_unused]] PickerKind kind) {
+#if defined(GX_ONLY_PICKER)
+    return kind == PickerKind::GX_ONLY_PICKER;
+#else
+    return true;
+#endif
+}
+
 /// The properties of all pickers, as a page numbers them; all of them numbers, flags as 0 and 1.
 ///
 /// In the order in which they are applied to a new picker: what is shown, then the range, then

@@ -8,11 +8,27 @@ namespace gx::elements {
 
 namespace {
 
-template <class Picker>
-Ref<PropertyPicker> made() {
-    const Ref<Picker> picker = create<Picker>();
-    picker->follow();
-    return picker;
+/// Nothing for a kind that is not built: no code of it is needed then.
+template <PickerKind kind, class Picker, class Element = SinglePropertyPicker>
+Ref<PropertyPicker> single() {
+    if constexpr (!isBuilt(kind)) {
+        return nullptr;
+    } else {
+        const Ref<Element> element = create<Element>();
+        element->setRules(SinglePropertyPicker::rulesOf<Picker>());
+        return element;
+    }
+}
+
+template <PickerKind kind, class Element>
+Ref<PropertyPicker> other() {
+    if constexpr (!isBuilt(kind)) {
+        return nullptr;
+    } else {
+        const Ref<Element> element = create<Element>();
+        element->follow();
+        return element;
+    }
 }
 
 } // namespace
@@ -20,33 +36,33 @@ Ref<PropertyPicker> made() {
 Ref<PropertyPicker> pickerOfKind(PickerKind kind) {
     switch (kind) {
     case PickerKind::Number:
-        return made<SinglePropertyPicker<GXBasePickerView>>();
+        return single<PickerKind::Number, GXBasePickerView>();
     case PickerKind::Bpm:
-        return made<SinglePropertyPicker<GXBpmPickerView>>();
+        return single<PickerKind::Bpm, GXBpmPickerView>();
     case PickerKind::Calories:
-        return made<SinglePropertyPicker<GXCaloriesPickerView>>();
+        return single<PickerKind::Calories, GXCaloriesPickerView>();
     case PickerKind::Distance:
-        return made<SinglePropertyPicker<GXDistancePickerView>>();
+        return single<PickerKind::Distance, GXDistancePickerView>();
     case PickerKind::DistanceAndDuration:
-        return made<DistanceAndDurationPropertyPicker>();
+        return other<PickerKind::DistanceAndDuration, DistanceAndDurationPropertyPicker>();
     case PickerKind::Duration:
-        return made<SinglePropertyPicker<GXDurationPickerView>>();
+        return single<PickerKind::Duration, GXDurationPickerView>();
     case PickerKind::HeartRate:
-        return made<SinglePropertyPicker<GXHeartRatePickerView>>();
+        return single<PickerKind::HeartRate, GXHeartRatePickerView>();
     case PickerKind::Height:
-        return made<HeightPropertyPicker>();
+        return other<PickerKind::Height, HeightPropertyPicker>();
     case PickerKind::Icon:
-        return made<IconPropertyPicker>();
+        return single<PickerKind::Icon, GXIconPickerView, IconPropertyPicker>();
     case PickerKind::Pace:
-        return made<SinglePropertyPicker<GXPacePickerView>>();
+        return single<PickerKind::Pace, GXPacePickerView>();
     case PickerKind::Speed:
-        return made<SinglePropertyPicker<GXSpeedPickerView>>();
+        return single<PickerKind::Speed, GXSpeedPickerView>();
     case PickerKind::Temperature:
-        return made<SinglePropertyPicker<GXTemperaturePickerView>>();
+        return single<PickerKind::Temperature, GXTemperaturePickerView>();
     case PickerKind::WeatherAndTemperature:
-        return made<WeatherAndTemperaturePropertyPicker>();
+        return other<PickerKind::WeatherAndTemperature, WeatherAndTemperaturePropertyPicker>();
     case PickerKind::Weight:
-        return made<SinglePropertyPicker<GXWeightPickerView>>();
+        return single<PickerKind::Weight, GXWeightPickerView>();
     default:
         return nullptr;
     }

@@ -1,5 +1,6 @@
 // For bundlers, and for pages that serve both files: the module lies beside the script.
 import { defineElements } from './pickers.js';
+import { addLanguages, loadLanguage } from './languages.js';
 import { startModule } from './module.js';
 
 export * from './index.js';
@@ -13,6 +14,8 @@ async function compile(): Promise<WebAssembly.Module> {
 }
 
 if (typeof HTMLElement !== 'undefined') {
-    startModule(compile()).catch(() => undefined); // It has been told.
+    // The page's language comes while the module does.
+    void loadLanguage(document.documentElement.lang);
+    startModule(compile(), addLanguages).catch(() => undefined); // It has been told.
     defineElements();
 }

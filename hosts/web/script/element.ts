@@ -8,6 +8,14 @@ import { Surface } from './surface.js';
 import { Surroundings } from './surroundings.js';
 import { View } from './view.js';
 
+/**
+ * How long an element waits for its language at the start, in milliseconds. Chosen: a slow line's
+ * answer. Beyond that, numbers with English words are better than none.
+ */
+const languagePatience = 1500;
+
+const pause = (milliseconds: number): Promise<void> => new Promise((resolve) => setTimeout(resolve, milliseconds));
+
 /** In milliseconds. Chosen: short enough to be felt as a tick. */
 const tickVibration = 5;
 
@@ -63,6 +71,7 @@ export abstract class PickerElement extends FormElement implements PageObserver 
     private shownNumbers: readonly number[] = [];
     private stopWaiting: (() => void) | undefined;
     private traitsKey = '';
+    private hasAwaitedLanguage = false;
 
     constructor() {
         super();
@@ -94,6 +103,7 @@ export abstract class PickerElement extends FormElement implements PageObserver 
             this.open();
         } else {
             this.stopWaiting = whenLoaded(() => this.open());
+            void this.surroundings.loadLanguage();
             this.surroundings.measureAhead();
         }
     }
@@ -128,10 +138,19 @@ export abstract class PickerElement extends FormElement implements PageObserver 
     private open(): void {
         const module = loadedModule();
         if (!module || this.view || !this.isConnected) return;
+        const loading = this.surroundings.loadLanguage();
+        if (loading && !this.hasAwaitedLanguage) {
+            void Promise.race([loading, pause(languagePatience)]).then(() => {
+                this.hasAwaitedLanguage = true;
+                this.open();
+            });
+            return;
+        }
         const owner = {
             didPassRows: (count: number) => this.didPassRows(count),
             didChange: () => this.didChange(),
             didFail: (reason: unknown) => this.didFail(reason),
+            didLoseModule: () => this.didLoseModule(),
             rowTitle: (column: number, row: number) => this.rowTitle(column, row),
         };
         const view = new View(module, owner, this.surface, this.shadow as unknown as HTMLElement);
@@ -147,6 +166,8 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         this.surroundings.follow(view);
         this.didSet();
         view.showNow();
+        // It is in English meanwhile.
+        void loading?.then(() => this.surroundings.languageDidArrive());
     }
 
     /** For what a picker needs besides its options. */
@@ -173,6 +194,16 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         this.surface.begin();
         this.surface.end();
         console.error(`<${this.localName}> has stopped; its content is shown instead.`, reason);
+    }
+
+    /** Another element has failed, and with it the module: this one opens again as it was. */
+    private didLoseModule(): void {
+        const isFocused = this.shadow.activeElement !== null;
+        this.options.view = undefined;
+        this.surroundings.follow(undefined);
+        this.surface.root.classList.remove('isReady');
+        this.open();
+        if (isFocused) this.focus({ preventScroll: true });
     }
 
     // Options

@@ -1,5 +1,6 @@
 // One file for a page without a bundler: the module comes with the script.
 import { defineElements } from './pickers.js';
+import { addLanguages, loadLanguage } from './languages.js';
 import { startModule } from './module.js';
 import packed from 'gxuipickers.wasm.gz';
 
@@ -12,6 +13,8 @@ async function compile(): Promise<WebAssembly.Module> {
 }
 
 if (typeof HTMLElement !== 'undefined') {
-    startModule(compile()).catch(() => undefined); // It has been told.
+    // The page's language comes while the module does.
+    void loadLanguage(document.documentElement.lang);
+    startModule(compile(), addLanguages).catch(() => undefined); // It has been told.
     defineElements();
 }

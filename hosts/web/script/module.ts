@@ -18,6 +18,9 @@ interface Exports {
     ): number;
     close(element: number): void;
     elementCount(): number;
+    liveBytes(): number;
+    limitMemory(bytes: number): void;
+    addLanguage(length: number): number;
     fontsDidLoad(): void;
     setFonts(element: number, rowFont: number, rowSize: number, labelFont: number, labelSize: number): void;
     setLanguage(element: number, length: number, isRightToLeft: number): void;
@@ -92,23 +95,30 @@ export interface Client extends Drawing {
     didChange(): void;
     /** The title of a row of the page's own columns. */
     rowTitle(column: number, row: number): string | null;
+    /** Another client's call has failed. What this one had in the module is gone with it. */
+    didLoseModule(): void;
 }
 
 /** The functions of the module that need no texts. */
-export type Calls = Omit<Exports, 'memory' | '_initialize' | 'text' | 'numbers'>;
+export type Calls = Omit<Exports, 'memory' | '_initialize' | 'text' | 'numbers' | 'addLanguage' | 'limitMemory'>;
 
 const decoder = new TextDecoder();
 const encoder = new TextEncoder();
 
+/**
+ * In bytes. Chosen: more than a thousand elements need, and little enough for a small device to
+ * survive a page that makes ever more of them.
+ */
+const usualLimit = 256 * 1024 * 1024;
+
 /** Chosen: the titles of a few wheels. */
 const highestShortTextCount = 1000;
 
-/** The one WebAssembly module of the page, once it is there. */
-export class Module {
-    private readonly exports: Exports;
-    private readonly clients = new Map<number, Client>();
-    private drawing: Client | undefined;
-    private lastNumber = 0;
+/** The module at work. One that has failed is never called again. */
+class Instance {
+    readonly exports: Exports;
+    readonly clients = new Map<number, Client>();
+    drawing: Client | undefined;
     private bytes: Uint8Array;
     /** Texts of up to four letters, by their bytes. */
     private readonly shortTexts = new Map<number, string>();
@@ -141,8 +151,11 @@ export class Module {
             didPassRow: (element: number) => client(element)?.didPassRow(),
             didChange: (element: number) => client(element)?.didChange(),
             rowTitle: (element: number, column: number, row: number) => {
-                const title = client(element)?.rowTitle(column, row) ?? null;
+                const title = titleOf(client(element), column, row);
                 return title === null ? -1 : this.giveText(title);
+            },
+            outOfMemory: (bytes: number) => {
+                throw new RangeError(`There is no memory left for ${bytes} bytes.`);
             },
         };
         const instance = new WebAssembly.Instance(compiled, { page });
@@ -151,55 +164,11 @@ export class Module {
         this.exports._initialize();
     }
 
-    get calls(): Calls {
-        return this.exports;
-    }
-
-    /** How much memory the module has, in bytes. */
-    get memorySize(): number {
-        return this.exports.memory.buffer.byteLength;
-    }
-
-    /** A number for a new element. */
-    register(client: Client): number {
-        this.lastNumber += 1;
-        this.clients.set(this.lastNumber, client);
-        return this.lastNumber;
-    }
-
-    unregister(element: number): void {
-        this.exports.close(element);
-        this.clients.delete(element);
-    }
-
-    /** Draws the element's frame on what it registered. */
-    draw(element: number): void {
-        this.drawing = this.clients.get(element);
-        try {
-            this.exports.draw(element);
-        } finally {
-            this.drawing = undefined;
-        }
-    }
-
-    /** Puts a text into the shared buffer and returns its length in bytes. */
     giveText(text: string): number {
         const encoded = encoder.encode(text);
         const place = this.exports.text(encoded.length);
         this.view().set(encoded, place);
         return encoded.length;
-    }
-
-    /** The text that a call has left in the shared buffer. */
-    takeText(length: number): string | null {
-        return length < 0 ? null : this.textAt(this.exports.text(0), length);
-    }
-
-    /** Hands numbers over and returns where they lie. */
-    giveNumbers(numbers: readonly number[]): number {
-        const place = this.exports.numbers(numbers.length);
-        new Float64Array(this.exports.memory.buffer, place, numbers.length).set(numbers);
-        return place;
     }
 
     private view(): Uint8Array {
@@ -208,7 +177,7 @@ export class Module {
         return this.bytes;
     }
 
-    private textAt(place: number, length: number): string {
+    textAt(place: number, length: number): string {
         const bytes = this.view();
         if (length > 4) return decoder.decode(bytes.subarray(place, place + length));
         // Titles are a few digits nearly always, and the same ones in each frame.
@@ -225,6 +194,121 @@ export class Module {
             this.shortTexts.set(code, text);
         }
         return text;
+    }
+}
+
+/** An error of the page's own function must not unwind the module: it is reported, and no title. */
+function titleOf(client: Client | undefined, column: number, row: number): string | null {
+    try {
+        return client?.rowTitle(column, row) ?? null;
+    } catch (reason) {
+        reportError(reason);
+        return null;
+    }
+}
+
+/**
+ * The one WebAssembly module of the page, once it is there.
+ *
+ * Where a call fails, for lack of memory or by a defect, nothing in the module is unwound, so any of
+ * its state may be wrong. The client that made the call stops; the module begins again with another
+ * instance, in which all other clients open themselves once more.
+ */
+export class Module {
+    private instance: Instance;
+    private lastNumber = 0;
+    private limit = usualLimit;
+    private readonly languages: string[] = [];
+
+    constructor(private readonly compiled: WebAssembly.Module) {
+        this.instance = this.start();
+    }
+
+    private start(): Instance {
+        const instance = new Instance(this.compiled);
+        instance.exports.limitMemory(this.limit);
+        for (const data of this.languages) instance.exports.addLanguage(instance.giveText(data));
+        return instance;
+    }
+
+    /** A call of this client has failed: begins again, without it. */
+    restart(failed: number): void {
+        const { clients } = this.instance;
+        clients.delete(failed);
+        // Without memory for another instance, each client's next call fails as this one did.
+        try {
+            this.instance = this.start();
+        } catch (reason) {
+            console.error('GXUIPickers: the module cannot begin again.', reason);
+        }
+        const lost = [...clients.values()];
+        clients.clear();
+        for (const client of lost) client.didLoseModule();
+    }
+
+    private get exports(): Exports {
+        return this.instance.exports;
+    }
+
+    /** Adds a language from its data, for all elements that are told of it from now on. */
+    addLanguage(data: string): void {
+        this.languages.push(data);
+        this.exports.addLanguage(this.giveText(data));
+    }
+
+    /** What the module may take while it runs, in bytes; beyond it, an element fails. */
+    limitMemory(bytes: number): void {
+        this.limit = bytes;
+        this.exports.limitMemory(bytes);
+    }
+
+    get calls(): Calls {
+        return this.exports;
+    }
+
+    /** How much memory the module has, in bytes. */
+    get memorySize(): number {
+        return this.exports.memory.buffer.byteLength;
+    }
+
+    /** A number for a new element. */
+    register(client: Client): number {
+        this.lastNumber += 1;
+        this.instance.clients.set(this.lastNumber, client);
+        return this.lastNumber;
+    }
+
+    unregister(element: number): void {
+        this.instance.clients.delete(element);
+        this.exports.close(element);
+    }
+
+    /** Draws the element's frame on what it registered. */
+    draw(element: number): void {
+        const { instance } = this;
+        instance.drawing = instance.clients.get(element);
+        try {
+            instance.exports.draw(element);
+        } finally {
+            instance.drawing = undefined;
+        }
+    }
+
+    /** Puts a text into the shared buffer and returns its length in bytes. */
+    giveText(text: string): number {
+        return this.instance.giveText(text);
+    }
+
+    /** The text that a call has left in the shared buffer. */
+    takeText(length: number): string | null {
+        return length < 0 ? null : this.instance.textAt(this.exports.text(0), length);
+    }
+
+    /** Hands numbers over and returns where they lie. */
+    giveNumbers(numbers: readonly number[]): number {
+        const place = this.exports.numbers(numbers.length);
+        new Float64Array(this.exports.memory.buffer, place, numbers.length).set(numbers);
+        return place;
     }
 }
 
@@ -245,13 +329,15 @@ export function whenLoaded(callback: () => void): () => void {
 
 /**
  * Starts the module from what it was compiled to. The first call counts; later ones return the same
- * module.
+ * module. `didStart` is called before elements open.
  */
-export function startModule(compiled: WebAssembly.Module | Promise<WebAssembly.Module>): Promise<Module> {
-    loading ??= Promise.resolve(compiled).then(
-        (ready) => {
-            const module = new Module(ready);
+export function startModule(compiled: WebAssembly.Module | Promise<WebAssembly.Module>, didStart?: () => void): Promise<Module> {
+    loading ??= Promise.resolve(compiled)
+        .then((ready) => new Module(ready))
+        .then(
+        (module) => {
             loaded = module;
+            didStart?.();
             const callbacks = [...waiting];
             waiting.clear();
             for (const callback of callbacks) callback();

@@ -1,4 +1,5 @@
 import { fontsOf, lineHeight, type Fonts } from './fonts.js';
+import { loadLanguage } from './languages.js';
 import { languageOf } from './page.js';
 import type { View } from './view.js';
 
@@ -109,7 +110,24 @@ export class Surroundings {
         if (this.scalesWhole) this.applySize(this.view);
     }
 
+    /** When the element's language has arrived; nothing if there is nothing to wait for. */
+    loadLanguage(): Promise<void> | undefined {
+        return loadLanguage(languageOf(this.element));
+    }
+
+    /** The language was not there when the view was opened with it. */
+    languageDidArrive(): void {
+        this.languageKey = '';
+        this.languageDidChange();
+    }
+
     languageDidChange(): void {
+        const loading = this.loadLanguage();
+        if (loading) {
+            // What is shown stays until the other language is there.
+            void loading.then(() => this.languageDidChange());
+            return;
+        }
         const key = this.languageKey;
         const { name, isRightToLeft } = this.language;
         if (this.languageKey !== key) this.view?.setLanguage(name, isRightToLeft);

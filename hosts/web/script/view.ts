@@ -14,6 +14,8 @@ export interface ViewOwner {
     didChange(): void;
     /** The module has trapped; the view shows nothing any more. */
     didFail(reason: unknown): void;
+    /** Another view's call has failed; this one shows nothing any more and may be opened again. */
+    didLoseModule(): void;
     rowTitle(column: number, row: number): string | null;
 }
 
@@ -96,8 +98,8 @@ export class View implements Client {
         if (this.isClosed) return;
         this.input.cancelAll();
         this.finish();
+        this.call(() => this.module.unregister(this.number), undefined);
         this.stop();
-        this.module.unregister(this.number);
     }
 
     /**
@@ -115,7 +117,7 @@ export class View implements Client {
         } finally {
             this.depth -= 1;
         }
-        if (this.depth === 0) this.flush();
+        if (this.depth === 0 && !this.isClosed) this.flush();
         return result;
     }
 
@@ -125,9 +127,16 @@ export class View implements Client {
         this.columns.root.remove();
     }
 
+    didLoseModule(): void {
+        this.stop();
+        this.owner.didLoseModule();
+    }
+
     private fail(reason: unknown): void {
+        if (this.isClosed) return;
         this.stop();
         this.owner.didFail(reason);
+        this.module.restart(this.number);
     }
 
     private flush(): void {

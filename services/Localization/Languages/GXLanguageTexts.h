@@ -41,6 +41,7 @@ struct GXText {
     std::string_view key;
     std::string_view text;
 
+    constexpr GXText() = default;
     /// Where both are the same.
     constexpr GXText(const char* keyAndText) : key(keyAndText), text(keyAndText) {}
     constexpr GXText(std::string_view aKey, std::string_view aText) : key(aKey), text(aText) {}

@@ -25,7 +25,7 @@ WebElement::Visit::Visit(WebElement& element) { element.surroundings_.enter(); }
 WebElement::Visit::~Visit() { NSRunLoop::mainRunLoop()->runPass(); }
 
 void WebElement::makePicker() {
-    if (kind_ == elements::PickerKind::Columns) {
+    if (elements::isBuilt(elements::PickerKind::Columns) && kind_ == elements::PickerKind::Columns) {
         columns_ = create<WebColumns>();
         columns_->setNumber(window_.number());
         columns_->follow();

@@ -43,10 +43,12 @@ void* allocate(std::size_t size) {
 
 void* operator new(std::size_t size) { return allocate(size); }
 void* operator new[](std::size_t size) { return allocate(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return heap.allocate(size); }
 void operator delete(void* pointer) noexcept { heap.release(pointer); }
 void operator delete[](void* pointer) noexcept { heap.release(pointer); }
 void operator delete(void* pointer, std::size_t) noexcept { heap.release(pointer); }
 void operator delete[](void* pointer, std::size_t) noexcept { heap.release(pointer); }
+void operator delete(void* pointer, const std::nothrow_t&) noexcept { heap.release(pointer); }
 
 /// How many bytes are in use.
 GX_WEB_EXPORT("liveBytes") double gx_web_live_bytes() { return static_cast<double>(heap.liveBytes()); }
@@ -54,6 +56,11 @@ GX_WEB_EXPORT("liveBytes") double gx_web_live_bytes() { return static_cast<doubl
 GX_WEB_EXPORT("limitMemory") void gx_web_limit_memory(double bytes) { heap.setLimit(static_cast<std::size_t>(bytes)); }
 
 extern "C" {
+
+// Sine and cosine of angles beyond a million, which rows of a wheel never have: the height of an
+// element is a whole number of pixels, and a row is less than a million times as high.
+
+int __rem_pio2_large(double*, double*, int, int, int) { __builtin_trap(); }
 
 // The C library's own are loops; there is an instruction for each.
 
@@ -63,7 +70,7 @@ void* memset(void* to, int byte, std::size_t size) { return __builtin_memset(to,
 
 // Where it cannot go on it traps, without a message of its own: so the module needs no printing.
 
-[[noreturn]] void abort() { __builtin_trap(); }
+void abort() { __builtin_trap(); }
 [[noreturn]] void abort_message(const char* /*format*/, ...) { __builtin_trap(); }
 
 // Static objects live as long as the page: none is destroyed.
