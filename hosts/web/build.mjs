@@ -71,9 +71,14 @@ const generated = {
         plugin.onResolve({ filter: /^gxuipickers\./ }, ({ path: name }) => ({ path: name, namespace: 'generated' }));
         plugin.onLoad({ filter: /.*/, namespace: 'generated' }, ({ path: name }) => parts[name]);
         // A file of its own, which a bundler finds beside the script.
-        plugin.onResolve({ filter: /^\.\/languages\// }, ({ path: name }) => (name.endsWith('.js') && name !== './languages.js' ? { path: name, external: true } : null));
+        plugin.onResolve({ filter: /^\.\/languages\// }, ({ path: name }) =>
+            name.endsWith('.js') && name !== './languages.js' ? { path: name, external: true } : null,
+        );
         if (onlyElement) {
-            plugin.onLoad({ filter: /script\/pickers\.ts$/ }, ({ path: name }) => ({ contents: onlyOne(readFileSync(name, 'utf8')), loader: 'ts' }));
+            plugin.onLoad({ filter: /script\/pickers\.ts$/ }, ({ path: name }) => ({
+                contents: onlyOne(readFileSync(name, 'utf8')),
+                loader: 'ts',
+            }));
         }
     },
 };

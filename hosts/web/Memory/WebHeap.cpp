@@ -58,8 +58,8 @@ void* WebHeap::takeFresh(std::size_t sizeClass) {
 }
 
 bool WebHeap::grow(std::size_t bytes) {
-    // With room for what alignment takes off at the start; in whole pages, so that one growth goes on
-    // where the last one ended.
+    // With room for what alignment takes off at the start; in whole pages, so that one growth goes
+    // on where the last one ended.
     const std::size_t needed = (bytes + 2 * unit + pageSize - 1) / pageSize * pageSize;
     const std::size_t wanted = std::max(needed, smallestGrowth);
     for (const std::size_t step : {wanted, needed}) {

@@ -8,18 +8,17 @@ namespace gx::web {
 
 /// The memory that a module hands out, in a small fraction of the code of a general allocator.
 ///
-/// A block has one of a hundred sizes, four to a doubling, so at most a fifth of it is unused. A
-/// block that is given back waits for the next request of its size. So taking and giving back are
-/// a few steps each, and what one picker needed serves the next one; memory never goes back to the
-/// system, whose interface has no way for it.
+/// - A block has one of a hundred sizes, four to a doubling, so at most a fifth of it is unused.
+/// - A block that is given back waits for the next request of its size: a few steps.
+/// - Memory never goes back to the system, whose interface has no way for it.
 ///
 /// For one thread. For everything else take the standard library's.
 class WebHeap {
 public:
     /// The system's memory grows by such pages, of WebAssembly.
     static constexpr std::size_t pageSize = 65536;
-    /// Makes the memory larger by so many bytes, a multiple of the page size, and returns where they
-    /// begin; null if there is no more.
+    /// Makes the memory larger by so many bytes, a multiple of the page size, and returns where
+    /// they begin; null if there is no more.
     using Growth = void* (*)(std::size_t bytes);
 
     constexpr explicit WebHeap(Growth growth) : growth_(growth) {}

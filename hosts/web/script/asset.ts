@@ -1,7 +1,8 @@
 // For bundlers, and for pages that serve both files: the module lies beside the script.
 import { defineElements } from './pickers.js';
-import { addLanguages, loadLanguage } from './languages.js';
+import { addLanguages, provideLanguages } from './languages.js';
 import { startModule } from './module.js';
+import languages from 'gxuipickers.languages';
 
 export * from './index.js';
 
@@ -14,8 +15,7 @@ async function compile(): Promise<WebAssembly.Module> {
 }
 
 if (typeof HTMLElement !== 'undefined') {
-    // The page's language comes while the module does.
-    void loadLanguage(document.documentElement.lang);
+    provideLanguages(languages);
     startModule(compile(), addLanguages).catch(() => undefined); // It has been told.
     defineElements();
 }

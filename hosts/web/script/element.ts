@@ -9,8 +9,8 @@ import { Surroundings } from './surroundings.js';
 import { View } from './view.js';
 
 /**
- * How long an element waits for its language at the start, in milliseconds. Chosen: a slow line's
- * answer. Beyond that, numbers with English words are better than none.
+ * How long an element waits for its language at the start, in milliseconds. Chosen: a round
+ * trip on a slow line. Beyond that, numbers with English words are better than none.
  */
 const languagePatience = 1500;
 

@@ -1,7 +1,8 @@
 // One file for a page without a bundler: the module comes with the script.
 import { defineElements } from './pickers.js';
-import { addLanguages, loadLanguage } from './languages.js';
+import { addLanguages, provideLanguages } from './languages.js';
 import { startModule } from './module.js';
+import languages from 'gxuipickers.languages';
 import packed from 'gxuipickers.wasm.gz';
 
 export * from './index.js';
@@ -13,8 +14,7 @@ async function compile(): Promise<WebAssembly.Module> {
 }
 
 if (typeof HTMLElement !== 'undefined') {
-    // The page's language comes while the module does.
-    void loadLanguage(document.documentElement.lang);
+    provideLanguages(languages);
     startModule(compile(), addLanguages).catch(() => undefined); // It has been told.
     defineElements();
 }

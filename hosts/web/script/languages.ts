@@ -1,9 +1,18 @@
-import files from 'gxuipickers.languages';
 import { loadedModule } from './module.js';
 
+/** How each language is loaded, by the first part of its tag. */
+type Languages = Readonly<Record<string, () => Promise<{ default: string }>>>;
+
+let files: Languages = {};
 /** What is being loaded, by the first part of a language's tag; nothing for what has arrived. */
 const loading = new Map<string, Promise<void> | undefined>();
 const arrived: string[] = [];
+
+/** The page's language begins to load at once, while the module does. */
+export function provideLanguages(languages: Languages): void {
+    files = languages;
+    void loadLanguage(document.documentElement.lang);
+}
 
 /** Gives the module the languages that were there before it. */
 export function addLanguages(): void {

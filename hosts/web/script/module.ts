@@ -210,8 +210,8 @@ function titleOf(client: Client | undefined, column: number, row: number): strin
 /**
  * The one WebAssembly module of the page, once it is there.
  *
- * Where a call fails, for lack of memory or by a defect, nothing in the module is unwound, so any of
- * its state may be wrong. The client that made the call stops; the module begins again with another
+ * Where a call fails, for lack of memory or by a defect, nothing in the module is unwound, so any
+ * of its state may be wrong. The client that made the call stops; the module begins again with another
  * instance, in which all other clients open themselves once more.
  */
 export class Module {
@@ -250,7 +250,7 @@ export class Module {
         return this.instance.exports;
     }
 
-    /** Adds a language from its data, for all elements that are told of it from now on. */
+    /** Adds a language from its data, for every `setLanguage` from now on. */
     addLanguage(data: string): void {
         this.languages.push(data);
         this.exports.addLanguage(this.giveText(data));
@@ -335,18 +335,18 @@ export function startModule(compiled: WebAssembly.Module | Promise<WebAssembly.M
     loading ??= Promise.resolve(compiled)
         .then((ready) => new Module(ready))
         .then(
-        (module) => {
-            loaded = module;
-            didStart?.();
-            const callbacks = [...waiting];
-            waiting.clear();
-            for (const callback of callbacks) callback();
-            return module;
-        },
-        (reason: unknown) => {
-            console.error('GXUIPickers: the module cannot be loaded; elements show their content.', reason);
-            throw reason;
-        },
-    );
+            (module) => {
+                loaded = module;
+                didStart?.();
+                const callbacks = [...waiting];
+                waiting.clear();
+                for (const callback of callbacks) callback();
+                return module;
+            },
+            (reason: unknown) => {
+                console.error('GXUIPickers: the module cannot be loaded; elements show their content.', reason);
+                throw reason;
+            },
+        );
     return loading;
 }

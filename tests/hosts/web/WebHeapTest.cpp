@@ -145,7 +145,8 @@ TEST_F(WebHeapTest, ALargerBlockServesWhenNothingElseIsLeft) {
     heap_.setLimit(std::size_t{1} << 20U);
     void* large = heap_.allocate(500000);
     ASSERT_TRUE(large);
-    while (heap_.allocate(40)) {}
+    while (heap_.allocate(40)) {
+    }
     heap_.release(large);
     EXPECT_EQ(heap_.allocate(40), large);
     EXPECT_EQ(heap_.allocate(40), nullptr);

@@ -1,8 +1,8 @@
 // What the C++ runtime needs of its surroundings, in its smallest form: memory, and an end where it
 // cannot go on.
 //
-// Whoever calls the module sees a failure as an exception of the page's own. The state of the module
-// is undefined from then on, since nothing was unwound: the page goes on with a new instance.
+// The page sees a failure as an exception of its own. The state of the module is undefined from
+// then on, since nothing was unwound: the page goes on with a new instance.
 
 #include <cstddef>
 #include <cstdint>
