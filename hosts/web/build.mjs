@@ -12,6 +12,7 @@ import { execFileSync } from 'node:child_process';
 import { copyFileSync, cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
+import { TextDecoder } from 'node:util';
 import { gzipSync } from 'node:zlib';
 import { table } from './sizes.mjs';
 

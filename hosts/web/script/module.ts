@@ -211,8 +211,8 @@ function titleOf(client: Client | undefined, column: number, row: number): strin
  * The one WebAssembly module of the page, once it is there.
  *
  * Where a call fails, for lack of memory or by a defect, nothing in the module is unwound, so any
- * of its state may be wrong. The client that made the call stops; the module begins again with another
- * instance, in which all other clients open themselves once more.
+ * of its state may be wrong. The client that made the call stops. The module begins again with
+ * another instance, in which all other clients open themselves once more.
  */
 export class Module {
     private instance: Instance;

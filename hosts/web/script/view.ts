@@ -117,7 +117,7 @@ export class View implements Client {
         } finally {
             this.depth -= 1;
         }
-        if (this.depth === 0 && !this.isClosed) this.flush();
+        if (this.depth === 0) this.flush();
         return result;
     }
 
@@ -140,6 +140,7 @@ export class View implements Client {
     }
 
     private flush(): void {
+        if (this.isClosed) return;
         const passed = this.passedRows;
         const hasChanged = this.hasChanged;
         this.passedRows = 0;
