@@ -75,11 +75,17 @@ test('one in a shadow tree follows the language inside and around it', async () 
         const shadow = document.querySelector('#host').attachShadow({ mode: 'open' });
         shadow.innerHTML = '<p><gx-distance-picker value="5300"></gx-distance-picker></p>';
     });
-    assert.equal(await text(), '5,3 km');
+    // A language takes effect when its file has come.
+    const untilText = (wanted) =>
+        page.waitForFunction(
+            (expected) => document.querySelector('#host').shadowRoot.querySelector('gx-distance-picker').valueText === expected,
+            wanted,
+        );
+    await untilText('5,3 km');
     await page.evaluate(() => (document.querySelector('section').lang = 'en'));
     assert.equal(await text(), '5.3 km');
     await page.evaluate(() => (document.querySelector('#host').shadowRoot.querySelector('p').lang = 'fr'));
-    assert.equal(await text(), '5,3 km');
+    await untilText('5,3 km');
     await close();
 });
 
