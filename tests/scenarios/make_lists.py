@@ -83,8 +83,9 @@ KINDS = [
          both={"average": 122, "maximum": 163}),
     Kind("height", {"value": 180}, {"value": 182, "unit": "metric", "text": "182 cm"}, ("175", {"value": 175, "text": "175 cm"}),
          {"value": 120}, {"value": 220}, [["value", 150], ["unit", "imperial"], ["value", 152.4]]),
+    # 0 first: set while it passes 4, that would be taken for the echo of an input on a page.
     Kind("icon", {"icons": ICONS, "value": 1}, {"value": 3}, ("2", {"value": 1}), {"value": 0}, {"value": 4},
-         [["value", 4], ["value", 0]], back={"value": 1}),
+         [["value", 0], ["value", 4]], back={"value": 1}),
     Kind("pace", {"value": pace(300)}, {"value": pace(420)}, ("6:15", {"value": pace(375)}), None, None,
          [["value", pace(330)], ["seconds-step", 10], ["value", pace(250)], ["unit", "imperial"]], both={"value": pace(435)}),
     Kind("speed", {"value": speed(10)}, {"value": speed(12), "text": "12.0 km/h"}, ("14.3", {"value": speed(14.3), "text": "14.3 km/h"}),
