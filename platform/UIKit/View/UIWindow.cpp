@@ -223,7 +223,7 @@ Ref<UIAccessibilityElement> UIWindow::focusedAccessibilityElement() {
 
 void UIWindow::performAction_onElement(const UIAccessibilityAction& action, const Ref<UIAccessibilityElement>& element) {
     const Ref<UIView> keep = refTo<UIView>(this);
-    if (const Ref<UIAccessibilityElement> present = element) present->perform(action);
+    if (element) Ref<UIAccessibilityElement>(element)->perform(action); // The copy keeps it alive.
 }
 
 // Time
