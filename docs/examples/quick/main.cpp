@@ -1,6 +1,6 @@
 // Shows AddWorkout.qml, or with --shots FOLDER writes a picture of each open entry, light and dark.
 
-#include <cstdio>
+#include <iostream>
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -38,6 +38,6 @@ int main(int argc, char** argv) {
             isWritten = window->grabWindow().save(folder.filePath(name));
         }
     }
-    if (!isWritten) std::fprintf(stderr, "Cannot write to %s.\n", qPrintable(folder.path()));
+    if (!isWritten) std::cerr << "Cannot write to " << folder.path().toStdString() << ".\n";
     return isWritten ? 0 : 1;
 }

@@ -54,7 +54,7 @@ std::int64_t LineReader::integer(const char* name) {
 std::vector<std::int64_t> LineReader::integers(const char* name) {
     std::vector<std::int64_t> numbers;
     const Json* const value = member(name);
-    bool isGood = value && value->is_array() && value->size() <= longestList;
+    bool isGood = value != nullptr && value->is_array() && value->size() <= longestList;
     for (std::size_t i = 0; isGood && i < value->size(); ++i) {
         const auto number = integerOf((*value)[i]);
         isGood = number.has_value();

@@ -75,7 +75,8 @@ public:
     Ref<const GXIconPickerView::Images> icons() const override { return iconPicker().iconImages(); }
 
 private:
-    /// The one that its rules have made.
+    /// The one that its rules have made. There is no RTTI here.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast)
     GXIconPickerView& iconPicker() const { return static_cast<GXIconPickerView&>(picker()); }
 };
 

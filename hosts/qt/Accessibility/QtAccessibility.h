@@ -39,7 +39,7 @@ public:
 
     int elementCount() const;
     QAccessibleInterface* elementAt(int index) const;
-    int indexOfElement(const QAccessibleInterface* element) const;
+    int indexOfElement(const QAccessibleInterface* child) const;
     /// The element in sight at a place, however deep in the tree it is.
     QAccessibleInterface* elementAtPlace(int x, int y) const;
     /// The element with the focus, while the surface has the focus.

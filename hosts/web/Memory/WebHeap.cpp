@@ -8,6 +8,7 @@ namespace gx::web {
 
 // Pointers and addresses are converted all the time here, which is what an allocator does.
 // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast,performance-no-int-to-ptr)
+// NOLINTBEGIN(cppcoreguidelines-pro-bounds-pointer-arithmetic)
 
 namespace {
 
@@ -62,6 +63,7 @@ bool WebHeap::grow(std::size_t bytes) {
     // on where the last one ended.
     const std::size_t needed = (bytes + 2 * unit + pageSize - 1) / pageSize * pageSize;
     const std::size_t wanted = std::max(needed, smallestGrowth);
+    // Each try may take memory, which any_of would hide. NOLINTNEXTLINE(readability-use-anyofallof)
     for (const std::size_t step : {wanted, needed}) {
         if (step > limit_ || taken_ > limit_ - step) continue;
         const auto begin = reinterpret_cast<std::uintptr_t>(growth_(step));
@@ -84,6 +86,7 @@ void WebHeap::release(void* pointer) {
     free_[header.sizeClass] = block;
 }
 
+// NOLINTEND(cppcoreguidelines-pro-bounds-pointer-arithmetic)
 // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast,performance-no-int-to-ptr)
 
 } // namespace gx::web

@@ -56,9 +56,9 @@ struct GXPluralTable {
 
     /// Whole numbers come first, then those with a fraction of zeros, then all others.
     static constexpr std::size_t indexOf(const GXPluralOperands& operands) {
+        const std::size_t group = operands.isWhole() ? 0 : operands.isFractionZero ? 1 : 2;
         const int integer = operands.integer < integerCount ? operands.integer : operands.integer % 100 + 100;
-        const int group = operands.isWhole() ? 0 : operands.isFractionZero ? 1 : 2;
-        return static_cast<std::size_t>(group * integerCount + integer);
+        return group * static_cast<std::size_t>(integerCount) + static_cast<std::size_t>(integer);
     }
 };
 
