@@ -29,6 +29,12 @@ after(async () => {
     rmSync(folder, { recursive: true, force: true });
 });
 
+/** Waits until the page's script has run to its end; that it marks the link of its page comes last. */
+async function untilReady(page) {
+    await page.waitForSelector('nav a[aria-current]', { state: 'attached' });
+    await page.waitForFunction(() => [...document.querySelectorAll('.value')].every((node) => node.textContent !== ''));
+}
+
 /** Opens the page; what goes wrong on it is in `logs`. */
 async function open({ width = 390, height = 844, hash = '', ...context } = {}) {
     const opened = await chromium.browser.newContext({ viewport: { width, height }, hasTouch: true, locale: 'en-GB', ...context });
@@ -37,7 +43,7 @@ async function open({ width = 390, height = 844, hash = '', ...context } = {}) {
     page.on('console', (message) => ['warning', 'error'].includes(message.type()) && logs.push(message.text()));
     page.on('pageerror', (error) => logs.push(error.message));
     await page.goto(`${server.address}/${hash}`);
-    await page.waitForFunction(() => /^5[.,]3/.test(document.querySelector('.value').textContent));
+    await untilReady(page);
     return { page, logs, close: () => opened.close() };
 }
 
@@ -111,6 +117,7 @@ test('finger, mouse wheel and keys turn a wheel, and the workout stays', async (
     // What was typed is reported a second later.
     await page.waitForFunction(() => JSON.parse(localStorage.getItem('workout'))?.workout.restingPulse === 75);
     await page.reload();
+    await untilReady(page);
     await untilValue(page, 7, '75 bpm');
     assert.deepEqual(await values(page), changed);
     assert.deepEqual(logs, []);
@@ -174,6 +181,7 @@ test('units, language, look and text size change at once, and stay', async () =>
     await untilValue(page, 0, '3,2 mi, 0:27 h');
     assert.deepEqual(await look(), ['de', 'Training hinzufügen', 'rgb(14, 16, 19)', '24px']);
     await page.reload();
+    await untilReady(page);
     await untilValue(page, 0, '3,2 mi, 0:27 h');
     assert.deepEqual(await look(), ['de', 'Training hinzufügen', 'rgb(14, 16, 19)', '24px']);
     assert.equal(await page.isChecked('[name=unit][value=imperial]'), true);
