@@ -18,11 +18,13 @@ constexpr Integer wrappingAdd(Integer a, Integer b) {
     using Unsigned = std::make_unsigned_t<Integer>;
     return static_cast<Integer>(static_cast<Unsigned>(a) + static_cast<Unsigned>(b));
 }
+/// The difference, wrapped around.
 template <WrappingInteger Integer>
 constexpr Integer wrappingSubtract(Integer a, Integer b) {
     using Unsigned = std::make_unsigned_t<Integer>;
     return static_cast<Integer>(static_cast<Unsigned>(a) - static_cast<Unsigned>(b));
 }
+/// The product, wrapped around.
 template <WrappingInteger Integer>
 constexpr Integer wrappingMultiply(Integer a, Integer b) {
     using Unsigned = std::make_unsigned_t<Integer>;

@@ -22,17 +22,26 @@ namespace gx {
 /// as 0, false or nothing; numbers convert among each other as `NSNumber` does.
 class GX_EXPORT NSCoder : public NSObject {
 public:
+    /// Stores a flag, in place of any value under the key. The other four do so for their types.
     void encodeBool_forKey(bool value, std::string key);
+    /// Stores an integer.
     void encodeInteger_forKey(NSInteger value, std::string key);
+    /// Stores a floating-point number, NaN too.
     void encodeDouble_forKey(double value, std::string key);
+    /// Stores a text.
     void encodeString_forKey(std::string value, std::string key);
+    /// Stores a rectangle as it is.
     void encodeCGRect_forKey(CGRect value, std::string key);
 
     /// Virtual, so that an application can read its own format on demand.
     virtual bool containsValueForKey(std::string_view key) const;
+    /// True for any number but 0 and NaN; false if there is none.
     virtual bool decodeBoolForKey(std::string_view key) const;
+    /// A fraction is cut off, NaN reads as 0; 0 if there is no number.
     virtual NSInteger decodeIntegerForKey(std::string_view key) const;
+    /// 0 if there is no number.
     virtual double decodeDoubleForKey(std::string_view key) const;
+    /// Nothing if there is no text.
     virtual std::optional<std::string> decodeStringForKey(std::string_view key) const;
     /// The zero rectangle if there is none.
     virtual CGRect decodeCGRectForKey(std::string_view key) const;

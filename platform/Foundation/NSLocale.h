@@ -8,12 +8,16 @@
 
 namespace gx {
 
+/// What can be asked of a locale by `objectForKey`.
 enum class NSLocaleKey { Identifier, LanguageCode, DecimalSeparator };
-/// The keys of `objectForKey`.
+/// Such as "de_DE", as it was given.
 inline constexpr NSLocaleKey NSLocaleIdentifier = NSLocaleKey::Identifier;
+/// The first part of the identifier, such as "de".
 inline constexpr NSLocaleKey NSLocaleLanguageCode = NSLocaleKey::LanguageCode;
+/// Such as ",".
 inline constexpr NSLocaleKey NSLocaleDecimalSeparator = NSLocaleKey::DecimalSeparator;
 
+/// Where lines of text begin.
 enum class NSLocaleLanguageDirection { LeftToRight, RightToLeft };
 
 /// The customs of the user: language, decimal separator and writing direction.
@@ -39,8 +43,10 @@ public:
     ///   default digits are not 0 to 9. `setDecimalSeparator` is for users who prefer another one.
     /// - Mongolian in its vertical script counts as left to right.
     virtual bool initWithLocaleIdentifier(const std::string& identifier);
+    /// A locale of these customs. Never empty: any identifier is taken.
     static Ref<NSLocale> localeWithIdentifier(const std::string& identifier);
 
+    /// The text of a key; nothing for a key that does not exist.
     virtual std::optional<std::string> objectForKey(NSLocaleKey key) const;
 
     /// What stands between the items of a list, with its space if it has one: ", ", and "، " in
@@ -49,8 +55,11 @@ public:
 
     /// For a user who deviates from the custom of the language.
     void setDecimalSeparator(std::string separator);
+    /// Where lines begin. Default: as the language is written.
     NSLocaleLanguageDirection characterDirection() const { return direction_; }
+    /// Whether lines begin at the right.
     bool isRightToLeft() const { return direction_ == NSLocaleLanguageDirection::RightToLeft; }
+    /// For a user who deviates from the custom of the language.
     void setCharacterDirection(NSLocaleLanguageDirection direction) { direction_ = direction; }
 
 private:

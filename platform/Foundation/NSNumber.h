@@ -21,23 +21,31 @@ namespace gx {
 /// "not set".
 class GX_EXPORT NSNumber {
 public:
+    /// What a box was made of; `None` for an empty handle.
     enum class Type { None, Bool, Int, Integer, Float, Double };
 
     NSNumber() = default;
 
+    /// Boxes a flag, which reads as 1 or 0.
     static NSNumber numberWithBool(bool value);
     /// Boxes 32 bits.
     static NSNumber numberWithInt(std::int32_t value);
     /// Boxes 64 bits.
     static NSNumber numberWithInteger(NSInteger value);
+    /// Boxes a float, NaN and infinities too.
     static NSNumber numberWithFloat(float value);
+    /// Boxes a double, NaN and infinities too.
     static NSNumber numberWithDouble(double value);
 
     /// True for any number but 0 and NaN.
     bool boolValue() const;
+    /// 32 bits: an integer box narrows modulo 2³², a floating-point box saturates.
     std::int32_t intValue() const;
+    /// 64 bits: fractions truncate toward zero, a floating-point box saturates.
     NSInteger integerValue() const;
+    /// The nearest float; infinite beyond its range.
     float floatValue() const;
+    /// The nearest double; exact but for integers beyond 2⁵³.
     double doubleValue() const;
 
     /// The type that the box was made with; `None` for an empty handle.

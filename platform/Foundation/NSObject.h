@@ -12,7 +12,9 @@
 
 namespace gx {
 
+/// A count, an index or an identifier: 64 bits on every machine.
 using NSInteger = std::int64_t;
+/// 64 bits without a sign.
 using NSUInteger = std::uint64_t;
 /// Seconds.
 using NSTimeInterval = double;
@@ -34,9 +36,13 @@ public:
     /// What `NSRunLoop::mainRunLoop()` runs.
     static const Ref<NSBlockQueue>& mainQueue();
 
+    /// Queues a block for the next pass; an empty one is ignored.
     void performBlock(std::function<void()> block);
+    /// Runs what was queued before the call, in order.
     void runPass();
+    /// Whether a pass would do anything.
     bool hasWork() const;
+    /// Called whenever the queue stops being empty. One handler; an empty one calls nothing.
     void setWakeHandler(std::function<void()> handler);
 
 private:
@@ -51,7 +57,7 @@ private:
 /// Stands for a class in `isKindOfClass`: one for each class that may be asked about, known by its
 /// address.
 struct NSClass {
-    const char* name;
+    const char* name; ///< of the class, for debugging
 };
 
 /// The root of everything that is shared by reference.

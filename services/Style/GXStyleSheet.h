@@ -23,6 +23,7 @@ public:
     /// The limits of `setTextScale`, chosen: below them a row is too low for a finger, above them a
     /// wheel is wider than a phone.
     static constexpr double minTextScale = 0.8;
+    /// The upper limit.
     static constexpr double maxTextScale = 3;
 
     /// Never empty. The reference keeps the style sheet alive, also if a call replaces it.

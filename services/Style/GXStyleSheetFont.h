@@ -25,9 +25,13 @@ public:
 
     /// Never empty, and always the same object.
     Ref<UIFont> font() const { return font_; }
+    /// Empty for the host's own interface family.
     std::string familyName() const { return font_->familyName(); }
+    /// In points, above 0.
     CGFloat pointSize() const { return font_->pointSize(); }
+    /// How bold the text is.
     UIFontWeight weight() const { return font_->weight(); }
+    /// The colour of the text, with a value for each look.
     UIColor color() const { return color_; }
 
 private:

@@ -21,13 +21,17 @@ class GX_EXPORT GXUnitConverter {
 public:
     GXUnitConverter() = delete;
 
+    /// Kilograms to pounds, to the nearest float.
     static float kgToLb(float kilograms);
+    /// Pounds to kilograms, to the next float that is not below.
     static float lbToKg(float pounds);
     /// In decimal stones: 3.5 are three stones and seven pounds.
     static float kgToSt(float kilograms);
     /// From decimal stones.
     static float stToKg(float stones);
+    /// Celsius to Fahrenheit, to the nearest float.
     static float temperatureCtoF(float celsius);
+    /// Fahrenheit to Celsius, to the next float that is not below.
     static float temperatureFtoC(float fahrenheit);
 };
 

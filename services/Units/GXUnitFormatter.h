@@ -22,7 +22,9 @@ public:
     /// include the unit; it changes nothing in `unit`.
     virtual bool initWithStyle_isMetric_usingUnit(NSInteger style, bool isMetric, bool usingUnit);
 
+    /// As given to the initialiser; changes nothing here.
     NSInteger style() const { return style_; }
+    /// As given to the initialiser, for subclasses that write numbers.
     bool usingUnit() const { return usingUnit_; }
 
     /// As last given to `setMetric` or the initialiser. Pickers branch on it.

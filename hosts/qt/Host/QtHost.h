@@ -13,6 +13,7 @@ class QGuiApplication;
 
 namespace gx::qt {
 
+/// What an application decides itself instead of the system.
 struct QtHostOptions {
     /// Nothing for the user's own, as the system has it.
     std::optional<QLocale> locale;
@@ -41,6 +42,7 @@ struct GX_EXPORT QtFontLoading {
     /// The paths, as given, that could not be read as fonts.
     std::vector<std::string> unreadableFiles;
 
+    /// Whether a font was loaded.
     explicit operator bool() const { return !family.empty(); }
 };
 /// Loads font files, usually one family in several weights, and makes the first one's family the

@@ -44,6 +44,7 @@ class QtInput;
 /// their own times. With another clock (`setClock`) events happen at its time on their delivery.
 class GX_EXPORT UIViewWidget : public QWidget, private UIWindowHost {
 public:
+    /// Owned by `parent`, if there is one. Empty until `setRootView`.
     explicit UIViewWidget(QWidget* parent = nullptr);
     ~UIViewWidget() override;
 
@@ -74,6 +75,7 @@ public:
     /// for the window itself.
     void setWindowInput(Ref<UIWindowInput> input);
     const Ref<UIWindowInput>& windowInput() const { return windowInput_; }
+    /// What makes ticks come.
     enum class FrameDriver {
         Timer, ///< ticks come by themselves
         Hand   ///< only `stepFrame` ticks
@@ -87,6 +89,7 @@ public:
     /// Whether a tick is pending, by timer or by hand.
     bool isFrameDue() const { return isFrameDue_; }
 
+    /// The size that the root view had when it was set.
     QSize sizeHint() const override;
 
 protected:

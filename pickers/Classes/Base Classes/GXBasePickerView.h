@@ -60,6 +60,7 @@ public:
     /// What `create` calls for a subclass that overrides `initWithFrame` alone: they run that one,
     /// on the coder's view or with the given row height.
     bool initByFrameWithCoder(const Ref<NSCoder>& coder);
+    /// As above, with rows of `rowHeight` points.
     bool initByFrameWithRowHeight(CGRect frame, float rowHeight);
 
     /// The wheel. A picker without one (a composite, or after `setPickerView` with nothing) is safe
@@ -88,10 +89,11 @@ public:
     virtual bool isMetric() const { return isMetric_; }
     virtual void setIsMetric(bool isMetric) { isMetric_ = isMetric; }
 
-    /// Go before the style sheet's fonts, for the rows and for the labels beside the wheel. Setting
-    /// one reloads.
+    /// Go before the style sheet's fonts: this for the rows. Nothing, the default, leaves the style
+    /// sheet's. Setting one reloads.
     virtual const Ref<GXStyleSheetFont>& customValueFont() const { return customValueFont_; }
     virtual void setCustomValueFont(Ref<GXStyleSheetFont> font);
+    /// The same for the labels beside the wheel.
     virtual const Ref<GXStyleSheetFont>& customLabelFont() const { return customLabelFont_; }
     virtual void setCustomLabelFont(Ref<GXStyleSheetFont> font);
 
@@ -181,6 +183,7 @@ protected:
     /// Puts the texts that services give on the wheel: unit and separators. Here there are none.
     virtual void showTexts() {}
 
+    /// This picker, to keep it alive across a call. Empty while it is destroyed.
     Ref<GXBasePickerView> self() { return refTo(this); }
     /// The pickers that a composite is made of, from the left; none may be absent. Here there are
     /// none.
@@ -203,14 +206,14 @@ protected:
 
     // Of what accessibility texts are made
 
-    /// What the picker measures, and what a component stands for. Here nothing: any number, and a
-    /// single component.
+    /// What the picker measures. Here nothing: any number.
     virtual std::optional<GXAccessibilityName> accessibilityMeasurement() const { return std::nullopt; }
+    /// What a component stands for. Here nothing: a single component.
     virtual std::optional<GXAccessibilityName> accessibilityPartOfComponent(NSInteger /*component*/) { return std::nullopt; }
     /// A row that stands in for the one that its component reports.
     struct RowInComponent {
-        NSInteger row;
-        NSInteger component;
+        NSInteger row;       ///< may be out of range
+        NSInteger component; ///< whose row it replaces
     };
     /// The title of the row that a screen reader says of a component; empty for none.
     std::string reportedTitle(NSInteger component, RowInComponent instead);
@@ -270,6 +273,7 @@ template <GXMadeByFrameWithCoder Picker>
 bool initialise(Picker& picker, const Ref<NSCoder>& coder) {
     return static_cast<GXBasePickerView&>(picker).initByFrameWithCoder(coder);
 }
+/// With rows of `rowHeight` points, narrowed to a float.
 template <std::derived_from<GXBasePickerView> Picker, class Number>
 requires std::is_arithmetic_v<Number>
 bool initialise(Picker& picker, CGRect frame, Number rowHeight) {

@@ -19,6 +19,7 @@ namespace gx {
 /// - The values follow the base picker's step while the images do not, so leave that at 1.
 class GX_EXPORT GXIconPickerView : public GXBasePickerView {
 public:
+    /// The list of images; its entries may be empty.
     using Images = std::vector<Ref<UIImage>>;
 
     /// The images to pick from, shared with the application; an empty entry shows nothing. The

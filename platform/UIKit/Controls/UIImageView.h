@@ -6,6 +6,7 @@
 
 namespace gx {
 
+/// Where an image is drawn in the bounds.
 enum UIViewContentMode {
     UIViewContentModeScaleToFill = 0,     ///< stretched over the bounds
     UIViewContentModeScaleAspectFit = 1,  ///< as large as shows everything, its shape kept
@@ -17,15 +18,19 @@ enum UIViewContentMode {
 /// your own.
 class GX_EXPORT UIImageView : public UIView {
 public:
+    /// Stands for this class in `isKindOfClass`.
     static const NSClass kind;
     bool isKindOfClass(const NSClass& asked) const override { return &asked == &kind || UIView::isKindOfClass(asked); }
 
+    /// An empty view that takes no touches.
     bool initWithFrame(CGRect frame) override;
     /// Also restores "contentMode".
     bool initWithCoder(const Ref<NSCoder>& coder) override;
 
+    /// The image shown; empty for none. Held strongly.
     const Ref<UIImage>& image() const { return image_; }
     void setImage(Ref<UIImage> image);
+    /// Default: stretched over the bounds.
     UIViewContentMode contentMode() const { return contentMode_; }
     void setContentMode(UIViewContentMode mode);
 

@@ -10,6 +10,7 @@
 
 namespace gx {
 
+/// Where a line lies in its bounds.
 enum NSTextAlignment {
     NSTextAlignmentLeft = 0,
     NSTextAlignmentCenter = 1,
@@ -25,13 +26,16 @@ enum NSTextAlignment {
 /// Invariant: setting a plain text drops the attributed one, and the other way round.
 class GX_EXPORT UILabel : public UIView {
 public:
+    /// Stands for this class in `isKindOfClass`.
     static const NSClass kind;
     bool isKindOfClass(const NSClass& asked) const override { return &asked == &kind || UIView::isKindOfClass(asked); }
 
+    /// An empty label that takes no touches.
     bool initWithFrame(CGRect frame) override;
     /// Also restores "text", "textAlignment" and "fontSize".
     bool initWithCoder(const Ref<NSCoder>& coder) override;
 
+    /// The text shown, also that of an attributed one. Nothing shows none.
     const std::optional<std::string>& text() const { return text_; }
     /// Replaces an attributed text.
     void setText(std::optional<std::string> text);
@@ -44,8 +48,10 @@ public:
     const Ref<UIFont>& font() const { return font_; }
     /// An empty reference gives the system font in `UIFont::labelFontSize`.
     void setFont(Ref<UIFont> font);
+    /// Of a text that brings no colour. Default: `UIColor::labelColor`.
     const UIColor& textColor() const { return textColor_; }
     void setTextColor(const UIColor& color);
+    /// Default: left.
     NSTextAlignment textAlignment() const { return alignment_; }
     void setTextAlignment(NSTextAlignment alignment);
 

@@ -30,7 +30,9 @@ public:
     virtual bool touchBegan(const UITouch& touch);
     /// Sent to the view that the touch began on; here handed on, as are the next two.
     virtual void touchMoved(const UITouch& touch);
+    /// The finger was lifted.
     virtual void touchEnded(const UITouch& touch);
+    /// The system has taken the finger away: undo what it began.
     virtual void touchCancelled(const UITouch& touch);
 
     /// Sent to the topmost view below the pointer; here handed on. Returns whether a view used it.

@@ -25,15 +25,16 @@ struct UITouch {
 /// A step of the mouse wheel or a stroke on a trackpad. Positive deltas move toward later rows:
 /// right and down.
 struct GX_EXPORT UIScroll {
+    /// What deltas count.
     enum class Unit {
         Notches, ///< clicks of a mouse wheel, also fractions of one
         Points   ///< a trackpad's distances, in points
     };
-    Unit unit = Unit::Notches;
-    CGFloat deltaX = 0;
-    CGFloat deltaY = 0;
-    NSTimeInterval timestamp = 0;
-    CGPoint locationInWindow;
+    Unit unit = Unit::Notches;    ///< of the deltas
+    CGFloat deltaX = 0;           ///< to the right
+    CGFloat deltaY = 0;           ///< downward
+    NSTimeInterval timestamp = 0; ///< in seconds, on the clock of `UIWindow::tick`
+    CGPoint locationInWindow;     ///< of the pointer, in the window's coordinates
     /// The last one of a stroke: the fingers have left the trackpad, and its glide has ended.
     bool isFinished = false;
 

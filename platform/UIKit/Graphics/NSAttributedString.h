@@ -12,16 +12,19 @@ namespace gx {
 
 /// How text is drawn. For absent attributes a view uses its own.
 struct NSTextAttributes {
-    Ref<UIFont> font;
-    std::optional<UIColor> foregroundColor;
+    Ref<UIFont> font;                       ///< empty for the view's own
+    std::optional<UIColor> foregroundColor; ///< nothing for the view's own
 };
 
 /// One run of text with the attributes it is drawn with. Immutable.
 class GX_EXPORT NSAttributedString : public NSObject {
 public:
+    /// A run of this text. Never empty, and neither argument is checked.
     static Ref<NSAttributedString> attributedStringWithString_attributes(std::string string, NSTextAttributes attributes);
 
+    /// The text, in UTF-8.
     const std::string& string() const { return string_; }
+    /// As given.
     const NSTextAttributes& attributes() const { return attributes_; }
 
 private:

@@ -13,10 +13,10 @@ enum class UIAccessibilityContrast { Normal, High };
 
 /// A colour as it is drawn: red, green, blue and alpha from 0 to 1, sRGB, not premultiplied.
 struct UIColorComponents {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    double alpha = 0;
+    double red = 0;   ///< 0 to 1
+    double green = 0; ///< 0 to 1
+    double blue = 0;  ///< 0 to 1
+    double alpha = 0; ///< 0 (clear) to 1 (opaque)
     friend bool operator==(const UIColorComponents&, const UIColorComponents&) = default;
 };
 
@@ -33,6 +33,7 @@ public:
 
     /// Components from 0 to 1; others are clamped, and NaN becomes 0.
     static UIColor colorWithRed_green_blue_alpha(double red, double green, double blue, double alpha);
+    /// A grey from 0 (black) to 1 (white); clamped likewise.
     static UIColor colorWithWhite_alpha(double white, double alpha);
     /// `rgb` as 0xRRGGBB.
     static UIColor colorWithHex(unsigned rgb, double alpha = 1);
@@ -42,8 +43,11 @@ public:
     /// looks.
     static UIColor colorWithNormal_highContrast(const UIColor& normal, const UIColor& high);
 
+    /// Draws nothing.
     static UIColor clearColor();
+    /// Black in both looks.
     static UIColor blackColor();
+    /// White in both looks.
     static UIColor whiteColor();
 
     // At high contrast the texts and the tint have a contrast of 7 to 1 and more to what lies
@@ -53,6 +57,7 @@ public:
     /// Text: near black in the light look, near white in the dark one; black and white at high
     /// contrast.
     static UIColor labelColor();
+    /// Quieter text, such as units: a grey in either look.
     static UIColor secondaryLabelColor();
     /// The tint of a view where no view above it sets one.
     static UIColor systemBlueColor();
@@ -61,6 +66,7 @@ public:
 
     /// This colour in both looks and at either contrast with another alpha, clamped to 0 … 1.
     UIColor colorWithAlphaComponent(double alpha) const;
+    /// The components to draw with. Lives as long as this colour.
     const UIColorComponents& resolved(UIUserInterfaceStyle style, UIAccessibilityContrast contrast = UIAccessibilityContrast::Normal) const;
 
     friend bool operator==(const UIColor&, const UIColor&) = default;

@@ -29,9 +29,11 @@ public:
 
     /// Keep and restore transform, clip and alpha. Calls nest and come in pairs.
     virtual void saveState() = 0;
+    /// Restores what the last open `saveState` kept.
     virtual void restoreState() = 0;
     /// Move and scale what follows, on top of the present transform.
     virtual void translate(CGFloat x, CGFloat y) = 0;
+    /// Scales about the present origin.
     virtual void scale(CGFloat x, CGFloat y) = 0;
     /// Clips what follows to the rectangle, within the present clip.
     virtual void clipToRect(CGRect rect) = 0;
@@ -46,8 +48,11 @@ public:
     void drawImage(const UIImage& image, CGRect rect);
 
 protected:
+    /// What `fillRect` ends in. A radius of 0 means square corners.
     virtual void fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) = 0;
+    /// What `drawText` ends in: one line of UTF-8, its line box at `origin`.
     virtual void drawTextWithComponents(std::string_view text, const UIFont& font, const UIColorComponents& color, CGPoint origin) = 0;
+    /// What `drawImage` ends in: an image of pixels or of the host, never a pair.
     virtual void drawImageInRect(const UIImage& image, CGRect rect) = 0;
 
 private:

@@ -48,9 +48,13 @@ public:
     CGSize size() const { return hostHandle_ ? hostSize_ : CGSize{width_ / scale_, height_ / scale_}; }
     /// Nothing for an image of pixels.
     std::optional<std::int64_t> hostHandle() const { return hostHandle_; }
+    /// In pixels; 0 for an image of the host.
     int pixelWidth() const { return width_; }
+    /// In pixels; 0 for an image of the host.
     int pixelHeight() const { return height_; }
+    /// Pixels for a point; 1 for an image of the host.
     double scale() const { return scale_; }
+    /// Rows from the top, four bytes a pixel; empty for an image of the host.
     const std::vector<std::uint8_t>& pixels() const { return light_ ? light_->pixels_ : pixels_; }
 
     /// The accessibility text: what the picture shows.
@@ -73,10 +77,13 @@ private:
 /// Decodes picture files for `UIImage`; a host provides it.
 class GX_EXPORT UIImageLoader {
 public:
+    /// The loader in use; empty without a host.
     static Ref<UIImageLoader> shared();
+    /// Replaces the loader for all; an empty reference removes it.
     static void setShared(Ref<UIImageLoader> loader);
 
     virtual ~UIImageLoader() = default;
+    /// The picture in a file; nothing if it cannot be read.
     virtual Ref<UIImage> imageWithContentsOfFile(const std::string& path) = 0;
 };
 

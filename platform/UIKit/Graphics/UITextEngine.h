@@ -39,8 +39,10 @@ class GX_EXPORT UIFixedWidthTextEngine : public UITextEngine {
 public:
     CGSize sizeOfText_font(std::string_view text, const UIFont& font) override;
 
+    /// In points. Default 10.
     CGFloat codePointWidth() const { return codePointWidth_; }
     void setCodePointWidth(CGFloat width) { codePointWidth_ = width; }
+    /// In points. Default 20.
     CGFloat lineHeight() const { return lineHeight_; }
     void setLineHeight(CGFloat height) { lineHeight_ = height; }
 

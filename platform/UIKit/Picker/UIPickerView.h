@@ -132,8 +132,10 @@ public:
     UIPickerView();
     ~UIPickerView() override;
 
+    /// Held weakly; empty for none. A new one, also an equal one, invalidates what is cached.
     WeakRef<UIPickerViewDataSource> dataSource() const { return dataSource_; }
     virtual void setDataSource(WeakRef<UIPickerViewDataSource> dataSource);
+    /// Held weakly; empty for none. A new one, also an equal one, invalidates what is cached.
     WeakRef<UIPickerViewDelegate> delegate() const { return delegate_; }
     virtual void setDelegate(WeakRef<UIPickerViewDelegate> delegate);
 
@@ -151,6 +153,7 @@ public:
 
     // Queries
 
+    /// As cached, 0 to `highestComponentCount`; 0 without a data source.
     virtual NSInteger numberOfComponents();
     /// 0 for a component that does not exist.
     virtual NSInteger numberOfRowsInComponent(NSInteger component);
@@ -178,6 +181,7 @@ public:
 
     // Requests
 
+    /// Invalidates all counts, sizes and rows. Selected rows stay as requested.
     virtual void reloadAllComponents();
     /// Ignored for a component that does not exist.
     virtual void reloadComponent(NSInteger component);

@@ -34,9 +34,11 @@ public:
     UIScrollView();
     ~UIScrollView() override;
 
+    /// A view that clips to its bounds, without content.
     bool initWithFrame(CGRect frame) override;
     bool initWithCoder(const Ref<NSCoder>& coder) override;
 
+    /// In points. Default: the zero size.
     CGSize contentSize() const { return contentSize_; }
     /// Negative sizes count as 0. Only the height matters to scrolling.
     void setContentSize(CGSize size);
@@ -112,6 +114,7 @@ protected:
     void startMoving();
     /// Ends every movement where it is, clamped to the content, and ignores the finger from now on.
     void stop();
+    /// Whether a finger is down, moving content or not.
     bool hasFinger() const;
     /// Whether the window asks for no movement that the user does not make.
     bool reducesMotion() const;

@@ -128,11 +128,13 @@ public:
     UITableView();
     ~UITableView() override;
 
+    /// Held weakly; empty for none. Setting it reloads.
     WeakRef<UITableViewDataSource> dataSource() const { return dataSource_; }
     void setDataSource(WeakRef<UITableViewDataSource> dataSource) {
         dataSource_ = std::move(dataSource);
         reloadData();
     }
+    /// Held weakly; empty for none. Setting it reloads.
     WeakRef<UITableViewDelegate> delegate() const { return delegate_; }
     void setDelegate(WeakRef<UITableViewDelegate> delegate) {
         delegate_ = std::move(delegate);
@@ -181,6 +183,7 @@ public:
 
     // Queries
 
+    /// As cached, 0 to 10,000; 0 without a data source.
     NSInteger numberOfSections();
     /// 0 for a section that does not exist.
     NSInteger numberOfRowsInSection(NSInteger section);
@@ -193,6 +196,7 @@ public:
     Ref<UITableViewCell> cellForRowAtIndexPath(NSIndexPath path);
     /// Nothing for a cell that shows no row.
     std::optional<NSIndexPath> indexPathForCell(const Ref<UITableViewCell>& cell);
+    /// From top to bottom.
     std::vector<NSIndexPath> indexPathsForVisibleRows();
     /// The row that keys act on; nothing before the table has had the focus.
     ///

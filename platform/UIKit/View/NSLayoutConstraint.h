@@ -11,6 +11,7 @@
 
 namespace gx {
 
+/// The edge that a constraint pins.
 enum class NSLayoutAttribute { Left, Right, Top, Bottom };
 
 /// Pins one edge of a view to the same edge of its superview, at a distance inward.
@@ -23,6 +24,7 @@ class GX_EXPORT NSLayoutConstraint : public NSObject {
 public:
     /// Distances and views under the names that a format uses for them.
     using Metrics = std::map<std::string, CGFloat>;
+    /// The views by the names in the format.
     using Views = std::map<std::string, Ref<NSObject>>;
 
     /// The constraints that a format describes, such as `H:|[name]|`, `V:|-8-[name]-(12)-|` or
@@ -42,7 +44,9 @@ public:
 
     /// The view that is pinned, held weakly.
     Ref<NSObject> firstItem() const { return item_.lock(); }
+    /// The edge that is pinned.
     NSLayoutAttribute attribute() const { return attribute_; }
+    /// The distance inward from the superview's edge, in points.
     CGFloat constant() const { return constant_; }
 
 private:
@@ -53,7 +57,10 @@ private:
 
 /// All pins of one view together.
 struct GX_EXPORT NSLayoutPins {
-    std::optional<CGFloat> left, right, top, bottom;
+    std::optional<CGFloat> left;   ///< inward from the left edge, in points; nothing if it is free
+    std::optional<CGFloat> right;  ///< inward from the right edge
+    std::optional<CGFloat> top;    ///< downward from the top edge
+    std::optional<CGFloat> bottom; ///< upward from the bottom edge
     /// The view. May be gone.
     WeakRef<NSObject> item;
 

@@ -12,28 +12,29 @@ namespace gx {
 
 /// The numbers that something adjustable shows: 142 in 25 to 228, by 1.
 struct UIAccessibilityNumbers {
-    double value = 0;
-    double minimum = 0;
-    double maximum = 0;
-    double step = 1;
+    double value = 0;   ///< shown now
+    double minimum = 0; ///< the lowest it shows
+    double maximum = 0; ///< the highest it shows
+    double step = 1;    ///< from one to the next
     friend bool operator==(const UIAccessibilityNumbers&, const UIAccessibilityNumbers&) = default;
 };
 
 /// Which one of a set something is: the third of twelve has position 2 and count 12.
 struct UIAccessibilityPlace {
-    NSInteger position = 0;
-    NSInteger count = 0;
+    NSInteger position = 0; ///< from 1
+    NSInteger count = 0;    ///< of the set
     friend bool operator==(const UIAccessibilityPlace&, const UIAccessibilityPlace&) = default;
 };
 
 /// A message that a screen reader shall say, wherever the focus is.
 struct UIAccessibilityAnnouncement {
+    /// When a screen reader says it.
     enum class Priority {
         Polite,   ///< after what is being said: "Saved"
         Assertive ///< at once: an error
     };
-    std::string text;
-    Priority priority = Priority::Polite;
+    std::string text;                     ///< in the user's language
+    Priority priority = Priority::Polite; ///< polite unless set
 };
 
 /// Messages that wait to be said, in their order; of many the newest.
@@ -44,6 +45,7 @@ public:
 
     /// Returns false for one without a text, which is ignored.
     bool add(UIAccessibilityAnnouncement announcement);
+    /// Those that wait, in their order; none wait afterwards.
     std::vector<UIAccessibilityAnnouncement> take() { return std::exchange(waiting_, {}); }
 
 private:
@@ -52,8 +54,9 @@ private:
 
 /// What a screen reader does to an element, in the user's place.
 struct UIAccessibilityAction {
+    /// What is done; increment and decrement go by one row.
     enum class Kind { Increment, Decrement, SetNumber, Focus, Activate };
-    Kind kind = Kind::Activate;
+    Kind kind = Kind::Activate; ///< activate unless set
     /// Of `SetNumber`: one that the element shows.
     double number = 0;
     /// In seconds on the clock of the window's ticks.
@@ -81,7 +84,9 @@ public:
 
     /// Nothing once it is gone.
     Ref<UIViewNode> view() const { return view_.lock(); }
+    /// What a screen reader takes it for.
     virtual UIAccessibilityRole role() const { return role_; }
+    /// As given to the constructor; −1 for the whole view.
     NSInteger part() const { return part_; }
     /// The same part of the same view, be that gone or not.
     bool isSameAs(const UIAccessibilityElement& other) const;
@@ -107,6 +112,7 @@ public:
     /// The list or group that it belongs to; nothing at the top. Set by what offers the element.
     virtual Ref<UIAccessibilityElement> container() const { return container_; }
     void setContainer(Ref<UIAccessibilityElement> container) { container_ = std::move(container); }
+    /// How many it holds, those out of sight included. Here none.
     virtual NSInteger childCount() const { return 0; }
     /// Nothing for an index that does not exist.
     virtual Ref<UIAccessibilityElement> child(NSInteger /*index*/) const { return nullptr; }
@@ -129,6 +135,7 @@ public:
 
     /// The present index, from 0, and how many there are. Nothing and 0 for all others.
     virtual std::optional<NSInteger> index() const { return std::nullopt; }
+    /// How many rows an adjustable one has; 0 for all others.
     virtual NSInteger count() const { return 0; }
     /// The numbers it shows. Here the index, from 0; nothing for one without.
     virtual std::optional<UIAccessibilityNumbers> numbers() const;
@@ -136,7 +143,9 @@ public:
     // Actions. They do what the user would and are reported as such. No-ops unless adjustable and
     // enabled.
 
+    /// Goes to the next row, if there is one.
     virtual void increment() {}
+    /// Goes to the row before, if there is one.
     virtual void decrement() {}
     /// The index is clamped to those there are.
     virtual void setIndex(NSInteger /*index*/) {}
@@ -157,6 +166,7 @@ private:
     Ref<UIAccessibilityElement> container_;
 };
 
+/// Elements in reading order; none is empty.
 using UIAccessibilityElements = std::vector<Ref<UIAccessibilityElement>>;
 
 /// The whole of a view as one element, if it has a label; otherwise none. The view's own role goes

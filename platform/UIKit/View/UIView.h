@@ -29,6 +29,7 @@ public:
 
     /// Empty for a view without one.
     Ref<UIView> superview() const;
+    /// From the lowest to the topmost. Changes with the tree: copy it where callbacks may run.
     const std::vector<Ref<UIView>>& subviews() const { return subviews_; }
     /// The order of screen readers and the Tab key; here that of the list.
     virtual std::vector<Ref<UIView>> subviewsInReadingOrder() const { return subviews_; }
@@ -43,6 +44,7 @@ public:
 
     // Layout
 
+    /// Has the next layout pass lay out this view, and asks for a frame.
     void setNeedsLayout();
     /// Lays out this view and those below it, as far as their layout is invalid. Needs no window.
     ///
@@ -59,7 +61,9 @@ public:
     /// Kept for readers of the layout: constraints move a view whatever it says.
     bool translatesAutoresizingMaskIntoConstraints() const { return translatesMask_; }
     void setTranslatesAutoresizingMaskIntoConstraints(bool translates) { translatesMask_ = translates; }
+    /// For subviews of this view; kept in order, and applied in each layout of it.
     void addConstraints(const std::vector<Ref<NSLayoutConstraint>>& constraints);
+    /// Those added, in order.
     const std::vector<Ref<NSLayoutConstraint>>& constraints() const { return constraints_; }
 
     // Drawing
@@ -93,6 +97,7 @@ public:
 protected:
     /// Whether the next layout pass will lay out this view itself.
     bool isLayoutDue() const { return needsLayout_; }
+    /// Whether `layoutSubviews` of this view is running.
     bool isLayingOut() const { return isLayingOut_; }
     /// Draws the subviews, in this view's coordinates.
     virtual void drawSubviews(UIGraphicsContext& context);

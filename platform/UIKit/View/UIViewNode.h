@@ -37,6 +37,7 @@ public:
     virtual void cancelTouchesWithin(const Ref<UIViewNode>& view) = 0;
     /// Takes the focus from the view and from those below it.
     virtual void resignFirstResponderWithin(const Ref<UIViewNode>& view) = 0;
+    /// Whether the view is the first responder, keys or not.
     virtual bool isFocusedOn(const UIViewNode& view) const = 0;
     /// Whether keys come to the window, so that the focus is anywhere at all.
     virtual bool receivesKeys() const = 0;
@@ -61,6 +62,7 @@ class GX_EXPORT UIViewNode : public UIResponder {
 public:
     /// The zero rectangle as frame.
     bool init() override;
+    /// Takes the frame as it is. An override returns false to refuse construction.
     virtual bool initWithFrame(CGRect frame);
     /// Restores what the coder has; an empty coder gives the defaults.
     ///
@@ -84,6 +86,7 @@ public:
     CGRect bounds() const;
     /// A new size keeps the centre of the frame where it is.
     virtual void setBounds(CGRect bounds);
+    /// The middle of the frame, in the superview's coordinates.
     CGPoint center() const;
     /// Moves the view, through `setFrame`.
     void setCenter(CGPoint center);
@@ -91,8 +94,11 @@ public:
     /// Conversions go by way of the nearest common view; roots of separate trees count as one
     /// place. From and to an absent view, a rectangle is the zero rectangle and a point (0, 0).
     CGRect convertRect_fromView(CGRect rect, const Ref<UIViewNode>& view) const;
+    /// From this view's coordinates to those of `view`.
     CGRect convertRect_toView(CGRect rect, const Ref<UIViewNode>& view) const;
+    /// From the coordinates of `view` to this view's.
     CGPoint convertPoint_fromView(CGPoint point, const Ref<UIViewNode>& view) const;
+    /// From this view's coordinates to those of `view`.
     CGPoint convertPoint_toView(CGPoint point, const Ref<UIViewNode>& view) const;
     /// From the coordinates of the window, or of the topmost view if there is none.
     CGPoint convertPointFromWindow(CGPoint point) const;
@@ -118,14 +124,17 @@ public:
 
     // Appearance
 
+    /// Drawn over the bounds, below everything else. Default nothing.
     std::optional<UIColor> backgroundColor() const { return backgroundColor_; }
     void setBackgroundColor(std::optional<UIColor> color);
     /// Clamped to 0 … 1.
     double alpha() const { return alpha_; }
     void setAlpha(double alpha);
+    /// Whether the view itself is hidden; `isShown` includes those above it.
     bool isHidden() const { return isHidden_; }
     /// Hiding takes the focus from the view and those below, and calls `finishAnimationsInTree`.
     virtual void setHidden(bool hidden);
+    /// Whether subviews are cut at the bounds. Default false.
     bool clipsToBounds() const { return clipsToBounds_; }
     void setClipsToBounds(bool clips);
     /// The corners of the background, in points.
@@ -137,6 +146,7 @@ public:
     void setTintColor(std::optional<UIColor> color);
     /// Called when the tint in force has changed, here or above.
     virtual void tintColorDidChange();
+    /// A number for the application's own use. Default 0.
     NSInteger tag() const { return tag_; }
     void setTag(NSInteger tag) { tag_ = tag; }
     /// Requests a new frame from the window's host.
@@ -145,6 +155,7 @@ public:
     // Input and focus
 
     Ref<UIResponder> nextResponder() const override;
+    /// Whether touches and keys come to this view and those below. Default true.
     bool isUserInteractionEnabled() const { return isInteractive_; }
     void setUserInteractionEnabled(bool enabled) { isInteractive_ = enabled; }
     /// Whether neither this view nor one above it is hidden, nearly transparent or disabled.
@@ -157,6 +168,7 @@ public:
     bool becomeFirstResponder();
     /// Gives the focus up, to nobody. Returns false for a view that does not have it.
     bool resignFirstResponder();
+    /// Whether the view has the focus of its window.
     bool isFirstResponder() const;
     /// Here the view is drawn again.
     void focusDidChange() override;
@@ -196,9 +208,12 @@ public:
     void setAccessibilityExpanded(std::optional<bool> expanded);
 
 protected:
+    /// The superview, not kept alive; null without one.
     UIViewNode* nodeAbove() const { return above_; }
     void setNodeAbove(UIViewNode* above) { above_ = above; }
+    /// Whether this view is `view` or a view above it.
     bool contains(const UIViewNode& view) const;
+    /// Whether a tint was set on this view itself.
     bool hasOwnTint() const { return tintColor_.has_value(); }
     /// `takesInput` without the views above.
     bool takesInputItself() const;

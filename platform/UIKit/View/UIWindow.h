@@ -63,6 +63,7 @@ public:
     bool touchBegan_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) override;
     /// Unknown identifiers are ignored, here and in the next two.
     void touchMoved_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) override;
+    /// The finger was lifted, at this place.
     void touchEnded_at_time(std::int64_t identifier, CGPoint location, NSTimeInterval time) override;
     /// The system takes the finger away.
     void touchCancelled_at_time(std::int64_t identifier, NSTimeInterval time) override;
@@ -74,6 +75,7 @@ public:
     /// The views below it are asked what they show (`UIResponder::hoverMoved`), again before
     /// each frame until `pointerLeft`.
     void pointerMoved(CGPoint location) override;
+    /// Nothing is hovered any more.
     void pointerLeft() override;
     /// How the pointer is to look now.
     UIPointerStyle pointerStyle() const;

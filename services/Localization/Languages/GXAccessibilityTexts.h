@@ -50,6 +50,7 @@ enum class GXAccessibilityName {
     PerKilometre, ///< "{0} per kilometre": a duration
     PerMile       ///< "{0} per mile": a duration
 };
+/// How many names there are.
 inline constexpr std::size_t GXAccessibilityNameCount = 36;
 
 /// The units of the quantities that screen readers read out.
@@ -72,6 +73,7 @@ enum class GXAccessibilityUnit {
     DegreeCelsius,
     DegreeFahrenheit
 };
+/// How many units there are.
 inline constexpr std::size_t GXAccessibilityUnitCount = 17;
 
 /// A number by the digits that are shown, since plural forms depend on them: "1.0" is not "1".

@@ -36,16 +36,22 @@ public:
     /// inside composites. An empty factory, and one that returns nothing, stands for the plain
     /// wheel.
     static void setFactory(Factory factory);
+    /// A wheel of the factory, or a plain one. Never empty.
     static Ref<GXMultiValuePickerView> wheelWithFrame(CGRect frame);
 
+    /// Makes both labels, which are empty and lie nowhere until there are texts.
     bool initWithFrame(CGRect frame) override;
     bool initWithCoder(const Ref<NSCoder>& coder) override;
 
+    /// The description left of the components; nothing shows none. Default nothing.
     const std::optional<std::string>& leftLabelText() const { return leftLabelText_; }
     virtual void setLeftLabelText(std::optional<std::string> text);
+    /// The description right of the components, usually a unit. Default nothing.
     const std::optional<std::string>& rightLabelText() const { return rightLabelText_; }
     virtual void setRightLabelText(std::optional<std::string> text);
+    /// The label with the left text, for reading. Never empty once the wheel is made.
     const Ref<UILabel>& leftDescLabel() const { return leftDescLabel_; }
+    /// The label with the right text, for reading. Never empty once the wheel is made.
     const Ref<UILabel>& rightDescLabel() const { return rightDescLabel_; }
 
     /// Whether the labels change sides where one reads from right to left. Default true; false for
@@ -58,6 +64,7 @@ public:
     /// or reload, a new value font the separators; row labels are the delegate's.
     const Ref<GXStyleSheetFont>& customLabelFont() const { return customLabelFont_; }
     virtual void setCustomLabelFont(Ref<GXStyleSheetFont> font);
+    /// As the label font, for separators.
     const Ref<GXStyleSheetFont>& customValueFont() const { return customValueFont_; }
     virtual void setCustomValueFont(Ref<GXStyleSheetFont> font);
 
@@ -71,8 +78,11 @@ public:
     /// Place both labels and all separators, or one of them. Nothing happens without a data source
     /// and a delegate.
     virtual void reloadLabelFrames();
+    /// Places the left label.
     virtual void setupLeftLabelFrame();
+    /// Places the right label.
     virtual void setupRightLabelFrame();
+    /// Places the separators, each on the component behind it.
     virtual void updateSeparatorFrames();
 
     /// Held weakly. It gives titles and widths; a plain `UIPickerViewDelegate` does not compile.
@@ -91,11 +101,14 @@ public:
     }
     /// No delegate.
     void setDelegate(std::nullptr_t) { setDelegate(WeakRef<UIPickerViewDelegate>()); }
+    /// Held weakly. Also places the labels.
     void setDataSource(WeakRef<UIPickerViewDataSource> dataSource) override;
+    /// Also places the labels.
     void reloadAllComponents() override;
     void layoutSubviews() override;
 
 protected:
+    /// Makes the labels.
     virtual void initGXMultiValuePickerView();
     /// What every way to set a delegate ends in, that of a plain wheel included: a subclass may
     /// override it.

@@ -16,6 +16,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXBpmPickerView();
     }
+    /// Sets range, step, value and unit to those above.
     virtual void initGXBpmPickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::BeatsPerMinute; }

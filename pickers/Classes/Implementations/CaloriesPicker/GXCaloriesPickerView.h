@@ -25,6 +25,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXCaloriesPickerView();
     }
+    /// Sets range, step, value and unit to those above.
     virtual void initGXCaloriesPickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Calories; }

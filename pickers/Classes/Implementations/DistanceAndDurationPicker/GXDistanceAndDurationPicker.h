@@ -27,6 +27,7 @@ class GX_EXPORT GXDistanceAndDurationPicker : public GXCompositePickerView, publ
 public:
     /// The components of the notices that this picker passes on.
     static constexpr NSInteger distanceComponent = 0;
+    /// The duration, in milliseconds.
     static constexpr NSInteger durationComponent = 1;
 
     /// Made by `initWithFrame` and `initWithCoder`; one made with a row height has none until the
@@ -40,6 +41,7 @@ public:
     /// removed from this view first.
     virtual const Ref<GXDistancePickerView>& distancePicker() const { return distancePicker_; }
     virtual void setDistancePicker(Ref<GXDistancePickerView> picker);
+    /// The same for the duration, on the right or below.
     virtual const Ref<GXDurationPickerView>& durationPicker() const { return durationPicker_; }
     virtual void setDurationPicker(Ref<GXDurationPickerView> picker);
 
@@ -62,6 +64,7 @@ protected:
     /// Each picker over its half and a little more.
     CGRect frameSideBySide(Place place, CGRect bounds) const override;
     void stackingDidChange() override;
+    /// Makes the two inner pickers and adds them, this picker as their delegate.
     virtual void initGXDistanceAndDurationPicker();
 
 private:

@@ -52,6 +52,7 @@ public:
 
     /// Rounded up to the next float.
     virtual float meterToMiles(double meters) const;
+    /// International miles of 5280 feet to metres, rounded up to the next float.
     virtual float milesToMeter(double miles) const;
     /// Takes what the wheel shows, in thousandths of the whole unit (1230 is 1.23 km or 1.23 mi):
     /// converts it to metres, clamps it to the range (the minimum, should it lie above the
@@ -79,6 +80,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXDistancePickerView();
     }
+    /// Sets range, value, decimal places and texts to those above.
     virtual void initGXDistancePickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Distance; }

@@ -44,8 +44,10 @@ public:
     /// but selects nothing: the selected rows may show another value until the next selection.
     virtual std::int32_t hoursStepSize() const { return hoursStepSize_; }
     virtual void setHoursStepSize(std::int32_t step) { storeStep(hoursStepSize_, checkStepSize(step)); }
+    /// As the step of the hours, in minutes.
     virtual std::int32_t minutesStepSize() const { return minutesStepSize_; }
     virtual void setMinutesStepSize(std::int32_t step) { storeStep(minutesStepSize_, checkStepSize(step)); }
+    /// As the step of the hours, in seconds.
     virtual std::int32_t secondsStepSize() const { return secondsStepSize_; }
     virtual void setSecondsStepSize(std::int32_t step) { storeStep(secondsStepSize_, checkStepSize(step)); }
     /// The step, at least 1.
@@ -53,14 +55,19 @@ public:
 
     /// The hours, not wrapped; the minutes and seconds below 60. With the sign of the milliseconds.
     virtual std::int32_t hoursFromMilliseconds(NSInteger milliseconds) const;
+    /// The whole minutes of the last hour, -59 to 59.
     virtual std::int32_t minutesFromMilliseconds(NSInteger milliseconds) const;
+    /// The whole seconds of the last minute, -59 to 59.
     virtual std::int32_t secondsFromMilliseconds(NSInteger milliseconds) const;
 
     /// What the type shows of a duration in a component, at least 0: the component that is neither
     /// of the higher units is that of seconds.
     virtual std::int32_t value_forComponent(NSInteger milliseconds, NSInteger component) const;
+    /// The step of the unit in a component, at least 1; 1 for a component without a unit.
     virtual std::int32_t stepSizeForComponent(NSInteger component) const;
+    /// What the type shows of the minimum in a component.
     virtual std::int32_t minValueForComponent(NSInteger component) const;
+    /// What the type shows of the maximum in a component.
     virtual std::int32_t maxValueForComponent(NSInteger component) const;
 
     /// Clamps the value first: `setCurrentValue` is called with the bound.
@@ -87,6 +94,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXDurationPickerView();
     }
+    /// Sets type, steps, range, value and texts to those above.
     virtual void initGXDurationPickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Duration; }

@@ -5,8 +5,11 @@
 namespace gx {
 
 /// The layouts that `GXDurationPickerView::type` knows.
+/// Hours and minutes; layouts are what `GXDurationPickerView::type` takes.
 inline constexpr NSInteger GXDurationTypeHoursMinutes = 0;
+/// Hours, minutes and seconds.
 inline constexpr NSInteger GXDurationTypeHoursMinutesSeconds = 1;
+/// Minutes and seconds; for durations below an hour.
 inline constexpr NSInteger GXDurationTypeMinutesSeconds = 2;
 
 } // namespace gx

@@ -33,6 +33,7 @@ public:
     ///   and its row passed to the wheel as it is.
     virtual const NSNumber& currentAvgHeartRate() const { return currentAvgHeartRate_; }
     virtual void setCurrentAvgHeartRate(NSNumber rate);
+    /// The maximum, set as the average is.
     virtual const NSNumber& currentMaxHeartRate() const { return currentMaxHeartRate_; }
     virtual void setCurrentMaxHeartRate(NSNumber rate);
 
@@ -74,6 +75,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXHeartRatePickerView();
     }
+    /// Sets range, gap, rates and labels to those above.
     virtual void initGXHeartRatePickerView();
     void showTexts() override;
 

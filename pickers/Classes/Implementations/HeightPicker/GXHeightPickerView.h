@@ -39,6 +39,7 @@ public:
 /// the new components. Keys and screen readers that use the unit's component stay with it.
 class GX_EXPORT GXHeightPickerView : public UIPickerView, public UIPickerViewDataSource, public UIPickerViewDelegate {
 public:
+    /// Sets the picker up as its own data source and delegate.
     bool initWithFrame(CGRect frame) override;
     /// Sets up a picker that was loaded from an interface; one made with a coder is a bare wheel
     /// until then.

@@ -34,14 +34,15 @@ class GX_EXPORT GXPacePickerView : public GXBasePickerView {
 public:
     /// What the wheel shows of a pace: boxed 32-bit integers, the seconds 0 to 59.
     struct Components {
-        NSNumber minutes;
-        NSNumber seconds;
+        NSNumber minutes; ///< from 0
+        NSNumber seconds; ///< 0 to 59
     };
 
     /// From one row to the next. Defaults 1 and 5; a step below 1 becomes 1. A change reloads but
     /// selects nothing.
     virtual std::int32_t minutesStepSize() const { return minutesStepSize_; }
     virtual void setMinutesStepSize(std::int32_t step);
+    /// As the step of the minutes, in seconds.
     virtual std::int32_t secondsStepSize() const { return secondsStepSize_; }
     virtual void setSecondsStepSize(std::int32_t step);
     /// The step, at least 1.
@@ -85,6 +86,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXPacePickerView();
     }
+    /// Sets steps, range, value and texts to those above.
     virtual void initGXPacePickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Pace; }

@@ -8,6 +8,7 @@ namespace gx {
 /// A table cell with a `GXSpeedPickerView`.
 class GX_EXPORT GXSpeedPickerCell : public GXBasePickerCell {
 public:
+    /// What an application registers the class under. Subclasses declare one of their own.
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.

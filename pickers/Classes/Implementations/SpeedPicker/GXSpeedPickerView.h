@@ -36,8 +36,10 @@ public:
     /// overwrites them.
     virtual double minSpeedInMphOrKph() const { return minSpeedInMphOrKph_; }
     virtual void setMinSpeedInMphOrKph(double speed) { minSpeedInMphOrKph_ = speed; }
+    /// The maximum in the unit shown.
     virtual double maxSpeedInMphOrKph() const { return maxSpeedInMphOrKph_; }
     virtual void setMaxSpeedInMphOrKph(double speed) { maxSpeedInMphOrKph_ = speed; }
+    /// The current value in the unit shown.
     virtual double currentSpeedInMphOrKph() const { return currentSpeedInMphOrKph_; }
     virtual void setCurrentSpeedInMphOrKph(double speed) { currentSpeedInMphOrKph_ = speed; }
 
@@ -53,9 +55,13 @@ public:
     /// Changes what is shown, not the values. Does nothing if the flag stays.
     void setIsMetric(bool isMetric) override;
 
+    /// Metres per second to kilometres per hour.
     virtual double mpsToKph(double speed) const;
+    /// Metres per second to miles per hour.
     virtual double mpsToMph(double speed) const;
+    /// Kilometres per hour to metres per second.
     virtual double kphToMps(double speed) const;
+    /// Miles per hour to metres per second.
     virtual double mphToMps(double speed) const;
     /// Takes a speed in the unit shown: converts it, clamps it to the range (the minimum, should it
     /// lie above the maximum), sets it and informs the delegate.
@@ -82,6 +88,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXSpeedPickerView();
     }
+    /// Sets range, value and texts to those above.
     virtual void initGXSpeedPickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Speed; }

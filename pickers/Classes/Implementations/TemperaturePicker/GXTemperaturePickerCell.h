@@ -9,6 +9,7 @@ namespace gx {
 /// cell is made.
 class GX_EXPORT GXTemperaturePickerCell : public GXBasePickerCell {
 public:
+    /// What an application registers the class under. Subclasses declare one of their own.
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.

@@ -53,6 +53,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXTemperaturePickerView();
     }
+    /// Sets range, step, value and unit to those above.
     virtual void initGXTemperaturePickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Temperature; }

@@ -28,6 +28,7 @@ public:
     /// concerns it does nothing.
     virtual const Ref<GXIconPickerView>& weatherPicker() const { return weatherPicker_; }
     virtual void setWeatherPicker(Ref<GXIconPickerView> picker) { weatherPicker_ = std::move(picker); }
+    /// The temperature, on the right or below; set as the weather is.
     virtual const Ref<GXTemperaturePickerView>& temperaturePicker() const { return temperaturePicker_; }
     virtual void setTemperaturePicker(Ref<GXTemperaturePickerView> picker) { temperaturePicker_ = std::move(picker); }
 

@@ -9,6 +9,7 @@ namespace gx {
 /// next layout makes it fill that again.
 class GX_EXPORT GXWeightPickerCell : public GXBasePickerCell {
 public:
+    /// What an application registers the class under. Subclasses declare one of their own.
     static std::string cellIdentifier();
 
     /// Makes the picker and shows it.

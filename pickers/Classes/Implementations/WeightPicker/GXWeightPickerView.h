@@ -66,6 +66,7 @@ protected:
         GXBasePickerView::didInitialize();
         initGXWeightPickerView();
     }
+    /// Sets the range of the unit, which the user cannot choose.
     virtual void initGXWeightPickerView();
     void showTexts() override;
     std::optional<GXAccessibilityName> accessibilityMeasurement() const override { return GXAccessibilityName::Weight; }

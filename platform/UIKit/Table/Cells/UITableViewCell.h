@@ -10,6 +10,7 @@ namespace gx {
 
 class UILabel;
 
+/// Which labels a cell has.
 enum UITableViewCellStyle {
     /// A text at the leading edge.
     UITableViewCellStyleDefault = 0,
@@ -39,9 +40,11 @@ public:
     /// Also restores "style" and "reuseIdentifier".
     bool initWithCoder(const Ref<NSCoder>& coder) override;
 
+    /// As given to the initialiser.
     UITableViewCellStyle style() const { return style_; }
     /// Under which a table reuses the cell; nothing for a cell that is not reused.
     const std::optional<std::string>& reuseIdentifier() const { return reuseIdentifier_; }
+    /// The view for what the cell shows. Never empty once the cell is made.
     const Ref<UIView>& contentView() const { return contentView_; }
 
     /// Made on first use, so that cells with content of their own have none.

@@ -22,6 +22,7 @@ namespace gx {
 /// - Elements that come have no changes of their own. Those that go are not mentioned again.
 class GX_EXPORT UIAccessibilityChanges {
 public:
+    /// One change, and of which element.
     struct Change {
         /// In the order in which they are found.
         enum class Kind {
@@ -35,7 +36,8 @@ public:
             Focus, ///< `element` has the focus now or, without one, no element has
             Announcement
         };
-        Kind kind = Kind::Elements;
+        Kind kind = Kind::Elements; ///< what has changed
+        /// Whose change it is; empty as the kinds say, and for announcements.
         Ref<UIAccessibilityElement> element;
         /// The value before, of a `Value`.
         std::string before;
