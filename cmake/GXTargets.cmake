@@ -21,7 +21,7 @@ endfunction()
 #   gx_<name>_internal) reach it,
 #   and it is not installed.
 # - Inside floors 1 to 3, a header is included by its name alone.
-include(GNUInstallDirs)
+# - PKG_CONFIG and PKG_CONFIG_PRIVATE name the modules that its pkg-config file requires.
 set(GX_PUBLIC_INCLUDE_FOLDER "${PROJECT_BINARY_DIR}/include")
 file(REMOVE_RECURSE "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
 file(MAKE_DIRECTORY "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
@@ -30,7 +30,7 @@ add_library(gx_names INTERFACE)
 target_include_directories(gx_names INTERFACE "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers")
 
 function(gx_add_floor name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;PUBLIC_HEADERS;DEPENDS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;PUBLIC_HEADERS;DEPENDS;PKG_CONFIG;PKG_CONFIG_PRIVATE")
   set(target "gx_${name}")
   add_library(${target})
   add_library(gx::${name} ALIAS ${target})
@@ -73,7 +73,7 @@ function(gx_add_floor name)
       list(REMOVE_ITEM public_headers "${file}")
       # Public headers lie side by side, as they will be installed, so that they find each other.
       file(CREATE_LINK "${header}" "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/${file}" COPY_ON_ERROR SYMBOLIC)
-      install(FILES "${header}" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GXUIPickers)
+      gx_install_header(${name} "${header}")
     endforeach()
   endforeach()
   if(public_headers)
@@ -85,7 +85,7 @@ function(gx_add_floor name)
   target_link_libraries(${target} PUBLIC ${arg_DEPENDS} PRIVATE $<BUILD_INTERFACE:gx_flags> $<BUILD_INTERFACE:${target}_internal>)
   target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:gx_names>)
   target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${GX_PUBLIC_INCLUDE_FOLDER}>" "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
-  install(TARGETS ${target} EXPORT GXUIPickersTargets)
+  gx_install_part(${name} REQUIRES ${arg_PKG_CONFIG} REQUIRES_PRIVATE ${arg_PKG_CONFIG_PRIVATE})
 
   if(BUILD_SHARED_LIBS AND GX_BUILD_TESTS)
     # Internal classes are not exported: their tests link the same objects as a static library.
@@ -109,7 +109,7 @@ function(gx_add_umbrella_header)
   endforeach()
   file(CONFIGURE OUTPUT "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" CONTENT "${lines}")
   set_property(GLOBAL APPEND PROPERTY GX_PUBLIC_HEADERS GXUIPickers.h)
-  install(FILES "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/GXUIPickers)
+  gx_install_header(pickers "${GX_PUBLIC_INCLUDE_FOLDER}/GXUIPickers/GXUIPickers.h")
 endfunction()
 
 # gx_add_part(<name> FOLDERS <folder>… DEPENDS <target>…): a static library of all sources in the
