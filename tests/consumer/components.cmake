@@ -1,5 +1,6 @@
 # What find_package(GXUIPickers COMPONENTS …) and pkg-config find of the installed library:
 # cmake -D source=… -D build=… -D work=… -D compiler=… -D version=… -D hosts=… -P components.cmake
+cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE "${work}")
 execute_process(COMMAND "${CMAKE_COMMAND}" --install "${build}" --prefix "${work}/prefix" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
 execute_process(COMMAND "${CMAKE_COMMAND}" -S "${source}/tests/consumer/components" -B "${work}/build" -G Ninja
