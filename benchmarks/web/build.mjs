@@ -43,6 +43,8 @@ export async function buildPages(names, packages = {}) {
             alias: elements ? { gxuipickers: path.join(elements, 'asset.js') } : {},
             outdir: folder,
             bundle: true,
+            // The page is in English and loads none of them.
+            external: ['./languages/*'],
             format: 'esm',
             target: 'es2022',
             minify: true,

@@ -78,7 +78,8 @@ export function untilStill(page, selector) {
         for (let still = 0; still < 20;) {
             await new Promise((resolve) => requestAnimationFrame(resolve));
             const now = look();
-            still = now === before ? still + 1 : 0;
+            const isMoving = surface.getAnimations({ subtree: true }).length > 0;
+            still = now === before && !isMoving ? still + 1 : 0;
             before = now;
         }
     }, selector);

@@ -23,6 +23,9 @@ let current = pageClock;
 /** The clock of all elements. */
 export const clock = (): FrameClock => current;
 
+/** Whether time is the page's, by which its animations go too. */
+export const isPageClock = (): boolean => current === pageClock;
+
 /** Replaces the clock of all elements; without one, the page's own again. For tests. */
 export function setFrameClock(replacement?: FrameClock): void {
     current = replacement ?? pageClock;

@@ -152,6 +152,7 @@ export abstract class PickerElement extends FormElement implements PageObserver 
             didFail: (reason: unknown) => this.didFail(reason),
             didLoseModule: () => this.didLoseModule(),
             rowTitle: (column: number, row: number) => this.rowTitle(column, row),
+            mayRunAhead: () => this.mayRunAhead(),
         };
         const view = new View(module, owner, this.surface, this.shadow as unknown as HTMLElement);
         const { name, isRightToLeft } = this.surroundings.language;
@@ -175,6 +176,11 @@ export abstract class PickerElement extends FormElement implements PageObserver 
 
     protected rowTitle(_column: number, _row: number): string | null {
         return null;
+    }
+
+    /** Whether no function of the page's gives titles. */
+    protected mayRunAhead(): boolean {
+        return true;
     }
 
     private close(): void {

@@ -123,6 +123,10 @@ export class Input {
         this.target.touch(phase, fingerOf(event), x, y, clock().timeOf(event));
     }
 
+    get hasFingers(): boolean {
+        return this.pointers.size > 0;
+    }
+
     /** Takes all fingers away, as for an element that is disabled or removed. */
     cancelAll(): void {
         const time = clock().now();

@@ -119,7 +119,7 @@ class Instance {
     readonly exports: Exports;
     readonly clients = new Map<number, Client>();
     drawing: Client | undefined;
-    private bytes: Uint8Array;
+    private kept: Uint8Array;
     /** Texts of up to four letters, by their bytes. */
     private readonly shortTexts = new Map<number, string>();
 
@@ -160,25 +160,25 @@ class Instance {
         };
         const instance = new WebAssembly.Instance(compiled, { page });
         this.exports = instance.exports as unknown as Exports;
-        this.bytes = new Uint8Array(this.exports.memory.buffer);
+        this.kept = new Uint8Array(this.exports.memory.buffer);
         this.exports._initialize();
     }
 
     giveText(text: string): number {
         const encoded = encoder.encode(text);
         const place = this.exports.text(encoded.length);
-        this.view().set(encoded, place);
+        this.bytes().set(encoded, place);
         return encoded.length;
     }
 
-    private view(): Uint8Array {
+    bytes(): Uint8Array {
         // Memory that has grown has another buffer.
-        if (this.bytes.buffer !== this.exports.memory.buffer) this.bytes = new Uint8Array(this.exports.memory.buffer);
-        return this.bytes;
+        if (this.kept.buffer !== this.exports.memory.buffer) this.kept = new Uint8Array(this.exports.memory.buffer);
+        return this.kept;
     }
 
     textAt(place: number, length: number): string {
-        const bytes = this.view();
+        const bytes = this.bytes();
         if (length > 4) return decoder.decode(bytes.subarray(place, place + length));
         // Titles are a few digits nearly always, and the same ones in each frame.
         let code = 0;
@@ -281,6 +281,13 @@ export class Module {
     unregister(element: number): void {
         this.instance.clients.delete(element);
         this.exports.close(element);
+    }
+
+    /** What is done to the module meanwhile is undone. */
+    runAhead(work: (calls: Calls) => void): void {
+        const kept = this.instance.bytes().slice();
+        work(this.exports);
+        this.instance.bytes().set(kept);
     }
 
     /** Draws the element's frame on what it registered. */

@@ -89,7 +89,7 @@ export class Options {
         const view = this.view;
         const { property } = option;
         if (!view) return this.settings.get(property) ?? option.fallback ?? this.defaults.get(property) ?? NaN;
-        return view.call((calls) => (isLive ? calls.getLive(view.number, property) : calls.get(view.number, property)), NaN);
+        return view.read((calls) => (isLive ? calls.getLive(view.number, property) : calls.get(view.number, property)), NaN);
     }
 
     usersNumbers(): number[] {

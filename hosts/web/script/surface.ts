@@ -3,7 +3,7 @@ import type { Drawing } from './module.js';
 import { rounded, Rects, type Shape } from './rects.js';
 
 /** A text or a picture of a frame. Numbers are rounded to what the page is given. */
-interface Draw {
+export interface Draw {
     /** The text; of a picture, its size. */
     text: string;
     /** The handle of a picture; −1 for a text. */
@@ -36,6 +36,9 @@ const enum Part {
     Label = 'label',
 }
 
+export const transformOf = ({ scaleX, scaleY, x, y }: Draw): string =>
+    scaleX === 1 && scaleY === 1 ? `translate(${x}px,${y}px)` : `matrix(${scaleX},0,0,${scaleY},${x},${y})`;
+
 const nothing: Draw = { text: '', image: -1, font: -1, size: 0, isRow: false, scaleX: 1, scaleY: 1, x: NaN, y: NaN, alpha: NaN, home: 0 };
 
 /**
@@ -50,9 +53,10 @@ export class Surface implements Drawing {
     private readonly items: Item[] = [];
     private readonly rects: Rects;
     private readonly images = new Map<number, HTMLElement>();
-    private readonly draws: Draw[] = [];
+    private readonly drawn: Draw[] = [];
     private drawCount = 0;
     private frame = 0;
+    private isSketching = false;
     private readonly open: Draw[] = [];
     /** The font of labels, by which they are told from separators. */
     labelFont = -1;
@@ -78,7 +82,7 @@ export class Surface implements Drawing {
     }
 
     fillRect(shape: Shape, x: number, y: number, width: number, height: number, radius: number, alpha: number): void {
-        this.rects.fill(shape, x, y, width, height, radius, alpha);
+        if (!this.isSketching) this.rects.fill(shape, x, y, width, height, radius, alpha);
     }
 
     drawText(
@@ -123,7 +127,7 @@ export class Surface implements Drawing {
         alpha: number,
         home: number,
     ): void {
-        const draw = (this.draws[this.drawCount] ??= { ...nothing });
+        const draw = (this.drawn[this.drawCount] ??= { ...nothing });
         this.drawCount += 1;
         draw.text = text;
         draw.image = image;
@@ -144,7 +148,7 @@ export class Surface implements Drawing {
         this.open.length = 0;
         let next = 0;
         for (let i = 0; i < this.drawCount; i += 1) {
-            const draw = this.draws[i]!;
+            const draw = this.drawn[i]!;
             const place = this.placeOf(draw, next);
             if (place < 0) {
                 this.open.push(draw);
@@ -180,6 +184,35 @@ export class Surface implements Drawing {
         return -1;
     }
 
+    /** The texts and pictures of the last frame, until the next one. */
+    draws(): readonly Draw[] {
+        return this.drawn.slice(0, this.drawCount);
+    }
+
+    /** Those that `work` draws; the page stays as it is. */
+    sketch(work: () => void): readonly Draw[] {
+        this.drawCount = 0;
+        this.isSketching = true;
+        work();
+        this.isSketching = false;
+        return this.draws();
+    }
+
+    /** The element that shows this in the last frame; for a new one, a free element, unseen yet. */
+    nodeFor(draw: Draw, isNew: boolean): HTMLElement {
+        const isAlike = (item: Item): boolean =>
+            isNew
+                ? item.frame !== this.frame && item.image >= 0 === draw.image >= 0
+                : item.frame === this.frame &&
+                  item.home === draw.home &&
+                  item.font === draw.font &&
+                  item.image === draw.image &&
+                  item.text === draw.text;
+        const item = this.items.find(isAlike) ?? this.addItem(draw.image >= 0);
+        if (isNew) this.write(item, { ...draw, alpha: 0 });
+        return item.node;
+    }
+
     private write(item: Item, draw: Draw): void {
         const style = item.node.style;
         item.frame = this.frame;
@@ -199,8 +232,7 @@ export class Surface implements Drawing {
             item.y = y;
             item.scaleX = scaleX;
             item.scaleY = scaleY;
-            const isScaled = scaleX !== 1 || scaleY !== 1;
-            style.transform = isScaled ? `matrix(${scaleX},0,0,${scaleY},${x},${y})` : `translate(${x}px,${y}px)`;
+            style.transform = transformOf(draw);
         }
         if (item.alpha !== alpha) {
             item.alpha = alpha;

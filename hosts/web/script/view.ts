@@ -1,6 +1,7 @@
 import { ColumnAction, Columns, type Traits } from './accessibility.js';
 import { clock } from './clock.js';
 import type { Fonts } from './fonts.js';
+import { Glide } from './glide.js';
 import { Input } from './input.js';
 import type { Calls, Client, Module } from './module.js';
 import type { Kind } from './properties.js';
@@ -17,6 +18,8 @@ export interface ViewOwner {
     /** Another view's call has failed; this one shows nothing any more and may be opened again. */
     didLoseModule(): void;
     rowTitle(column: number, row: number): string | null;
+    /** Whether titles may be asked for ahead of their time: no function of the page's is called. */
+    mayRunAhead(): boolean;
 }
 
 /**
@@ -29,6 +32,7 @@ export class View implements Client {
     readonly number: number;
     private readonly columns: Columns;
     private readonly input: Input;
+    private readonly glide: Glide;
     private request: number | undefined;
     private passedRows = 0;
     private hasChanged = false;
@@ -36,6 +40,8 @@ export class View implements Client {
     private isFirstPictureNew = false;
     private depth = 0;
     private isClosed = false;
+    private isWaking = false;
+    private lastTick = 0;
     private traits: Traits | undefined;
 
     constructor(
@@ -52,18 +58,22 @@ export class View implements Client {
             didFocusColumn: (column) => this.didFocusColumn(column),
         });
         root.append(this.columns.root);
+        this.glide = new Glide(module, this.number, surface);
         this.input = new Input(this.columns.root, {
-            touch: (phase, finger, x, y, time) => this.call((calls) => calls.touch(this.number, phase, finger, x, y, time) === 1, false),
+            touch: (phase, finger, x, y, time) =>
+                this.call((calls) => calls.touch(this.number, phase, finger, x, y, time) === 1, false, time),
             pointer: (isInside, x, y) => this.call((calls) => calls.pointer(this.number, Number(isInside), x, y), undefined),
             scroll: (isNotches, deltaX, deltaY, x, y, time, isFinished) =>
                 this.call(
                     (calls) => calls.scroll(this.number, Number(isNotches), deltaX, deltaY, x, y, time, Number(isFinished)) === 1,
                     false,
+                    time,
                 ),
             key: (code, text, modifiers, isRepeat, time) => {
                 const isUsed = this.call(
                     (calls) => calls.key(this.number, code, module.giveText(text), modifiers, Number(isRepeat), time) === 1,
                     false,
+                    time,
                 );
                 // The row that a key moves to is told at once.
                 if (isUsed) this.updateColumns();
@@ -98,7 +108,7 @@ export class View implements Client {
         if (this.isClosed) return;
         this.input.cancelAll();
         this.finish();
-        this.call(() => this.module.unregister(this.number), undefined);
+        this.read(() => this.module.unregister(this.number), undefined);
         this.stop();
     }
 
@@ -106,7 +116,16 @@ export class View implements Client {
      * Calls the module. What it tells meanwhile is told to the element afterwards. Should it trap,
      * the view is closed and the result is `otherwise`.
      */
-    call<Result>(work: (calls: Calls) => Result, otherwise: Result): Result {
+    call<Result>(work: (calls: Calls) => Result, otherwise: Result, time = clock().now()): Result {
+        return this.read((calls) => {
+            this.glide.hold();
+            if (this.glide.isActive) this.settle(time);
+            return work(calls);
+        }, otherwise);
+    }
+
+    /** The same for what changes nothing in the module, and lets the compositor go on. */
+    read<Result>(work: (calls: Calls) => Result, otherwise: Result): Result {
         if (this.isClosed) return otherwise;
         this.depth += 1;
         let result = otherwise;
@@ -123,7 +142,8 @@ export class View implements Client {
 
     private stop(): void {
         this.isClosed = true;
-        if (this.request !== undefined) clock().cancelFrame(this.request);
+        this.cancelFrame();
+        this.glide.end();
         this.columns.root.remove();
     }
 
@@ -153,15 +173,23 @@ export class View implements Client {
     // What the module tells
 
     needsFrame(): void {
+        if (this.glide.isAhead || this.isWaking) return;
         if (this.request === undefined && !this.isClosed) this.request = clock().requestFrame((time) => this.frame(time));
     }
 
+    private cancelFrame(): void {
+        if (this.request !== undefined) clock().cancelFrame(this.request);
+        this.request = undefined;
+    }
+
     didPassRow(): void {
-        this.passedRows += 1;
+        if (this.glide.isAhead) this.glide.note();
+        else this.passedRows += 1;
     }
 
     didChange(): void {
-        this.hasChanged = true;
+        if (this.glide.isAhead) this.glide.note();
+        else this.hasChanged = true;
     }
 
     rowTitle(column: number, row: number): string | null {
@@ -184,12 +212,13 @@ export class View implements Client {
 
     private frame(time: number): void {
         this.request = undefined;
-        const draws = this.call((calls) => calls.tick(this.number, time) === 1, false);
+        const draws = this.tick(time);
         const isFirstPictureNew = this.isFirstPictureNew;
         this.isFirstPictureNew = false;
-        if (draws) {
+        if (draws || this.glide.isActive) {
             this.draw();
-            this.needsFrame();
+            if (this.beginGlide(time)) this.cancelFrame();
+            else this.needsFrame();
         } else if (isFirstPictureNew) {
             // The page shows the first picture at the end of this frame: nothing may hold it up.
             this.needsFrame();
@@ -198,17 +227,47 @@ export class View implements Client {
         }
     }
 
+    private tick(time: number): boolean {
+        this.lastTick = time;
+        return this.read((calls) => calls.tick(this.number, time) === 1, false);
+    }
+
+    private beginGlide(time: number): boolean {
+        if (this.input.hasFingers || !this.owner.mayRunAhead()) {
+            this.glide.end();
+            return false;
+        }
+        return this.read(() => this.glide.begin(time, (draws) => (draws ? this.needsFrame() : this.wake())), false);
+    }
+
+    /** A row passes that the compositor shows. */
+    private wake(): void {
+        this.read(() => {
+            this.isWaking = true;
+            this.tick(clock().now());
+            this.isWaking = false;
+        }, undefined);
+    }
+
+    /** Takes the frames back from the compositor, as they are at this time. */
+    private settle(time: number): void {
+        this.tick(Math.max(time, this.lastTick));
+        this.draw();
+        this.glide.end();
+        this.needsFrame();
+    }
+
     /** Shows the first picture at once; the columns follow when it is on the screen. */
     showNow(): void {
         this.isFirstPictureNew = true;
-        this.call((calls) => calls.tick(this.number, clock().now()), 0);
+        this.tick(clock().now());
         this.draw();
         this.changed();
     }
 
     private draw(): void {
         this.surface.begin();
-        this.call(() => this.module.draw(this.number), undefined);
+        this.read(() => this.module.draw(this.number), undefined);
         this.surface.end();
     }
 
@@ -222,7 +281,7 @@ export class View implements Client {
         const traits = this.traits;
         if (this.isClosed || !traits) return;
         this.areColumnsOld = false;
-        this.call(() => this.columns.update(traits), undefined);
+        this.read(() => this.columns.update(traits), undefined);
     }
 
     /** Ends every movement at once; what the user has turned is reported. */
@@ -296,7 +355,7 @@ export class View implements Client {
     }
 
     get valueText(): string {
-        return this.call((calls) => this.module.takeText(calls.valueText(this.number)) ?? '', '');
+        return this.read((calls) => this.module.takeText(calls.valueText(this.number)) ?? '', '');
     }
 
     private setReceivesKeys(receives: boolean): void {

@@ -52,7 +52,7 @@ export class Wheel extends PickerElement {
     private readRows(isLive: number): number[] {
         const view = this.view;
         if (!view) return this.list.map((_, i) => this.selected[i] ?? 0);
-        return this.list.map((_, i) => view.call((calls) => calls.row(view.number, i, isLive), 0));
+        return this.list.map((_, i) => view.read((calls) => calls.row(view.number, i, isLive), 0));
     }
 
     protected override usersNumbers(): number[] {
@@ -91,6 +91,10 @@ export class Wheel extends PickerElement {
             this.list.map((column) => ({ width: column.width ?? 0, label: column.label ?? '' })),
         );
         this.showRows();
+    }
+
+    protected override mayRunAhead(): boolean {
+        return this.list.every((column) => !column.title);
     }
 
     protected override rowTitle(column: number, row: number): string | null {

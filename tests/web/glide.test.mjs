@@ -1,0 +1,353 @@
+// Spins that the page's compositor shows: rows are animations, and nothing else is different.
+import { test } from 'node:test';
+import assert from 'node:assert/strict';
+import { untilStill } from './browser.mjs';
+import { assertQuiet, Stage, untilColumns } from './stage.mjs';
+
+const stage = new Stage();
+const asked = 'gx-wheel';
+const wheel = '<gx-wheel></gx-wheel>';
+const fill = () => (document.querySelector('gx-wheel').columns = [{ rows: 1000 }, { rows: 1000 }]);
+
+/** What a page needs for these tests, as `globalThis.spins`. */
+function provide() {
+    const rows = (element) => [...element.shadowRoot.querySelectorAll('.text')];
+    globalThis.spins = {
+        /** A flick of the first column by made-up pointers; the times of its events. */
+        async flick(element, distance = 120) {
+            const node = element.shadowRoot.querySelector('.column');
+            const box = node.getBoundingClientRect();
+            const times = [];
+            const send = (type, offset) => {
+                const event = new PointerEvent(type, {
+                    pointerId: 7,
+                    pointerType: 'touch',
+                    clientX: box.x + box.width / 2,
+                    clientY: box.y + box.height / 2 - offset,
+                    bubbles: true,
+                    composed: true,
+                });
+                times.push([type, offset, event.timeStamp / 1000]);
+                node.dispatchEvent(event);
+            };
+            send('pointerdown', 0);
+            for (let step = 1; step <= 6; step += 1) {
+                await new Promise((resolve) => setTimeout(resolve, 14));
+                send('pointermove', (distance * step) / 6);
+            }
+            send('pointerup', distance);
+            return times;
+        },
+        isGliding: (element) => rows(element).some((node) => node.getAnimations().length > 0),
+        /** What is written to the rows, in the order of their places. */
+        written: (element) =>
+            rows(element)
+                .filter((node) => node.style.visibility !== 'hidden')
+                .map((node) => [node.textContent, node.style.transform, node.style.opacity].join(' '))
+                .sort(),
+        async until(condition) {
+            for (let left = 600; !condition(); left -= 1) {
+                if (left === 0) throw new Error(`waited for ${condition}`);
+                await new Promise((resolve) => setTimeout(resolve, 5));
+            }
+        },
+    };
+}
+
+/** A page with an element that spins by itself, and whose rows the compositor moves. */
+async function gliding(body = wheel, selector = asked) {
+    const opened = await stage.open(body);
+    await opened.page.evaluate(fill).catch(() => undefined);
+    await untilColumns(opened.page, selector);
+    await opened.page.evaluate(provide);
+    await opened.page.evaluate(async (name) => {
+        const element = (globalThis.element = document.querySelector(name));
+        globalThis.noted = [];
+        for (const type of ['input', 'change']) element.addEventListener(type, () => globalThis.noted.push([type, element.rows?.[0]]));
+        await globalThis.spins.flick(element);
+        await globalThis.spins.until(() => globalThis.spins.isGliding(element));
+    }, selector);
+    return opened;
+}
+
+test('no frame is asked for while rows glide, every row is told of, and the end is that of any spin', async () => {
+    const { page, logs, close } = await gliding();
+    const asks = await page.evaluate(async () => {
+        const { spins, element } = globalThis;
+        const own = globalThis.requestAnimationFrame;
+        const from = element.rows[0];
+        let count = 0;
+        globalThis.requestAnimationFrame = (callback) => {
+            count += 1;
+            return own(callback);
+        };
+        await spins.until(() => element.rows[0] >= from + 3);
+        const result = { count, isGliding: spins.isGliding(element) };
+        globalThis.requestAnimationFrame = own;
+        return result;
+    });
+    assert.ok(asks.isGliding);
+    assert.ok(asks.count <= 2, `${asks.count} frames were asked for`);
+    await untilStill(page, asked);
+    const end = await page.evaluate(() => ({
+        noted: globalThis.noted,
+        rows: globalThis.element.rows,
+        isGliding: globalThis.spins.isGliding(globalThis.element),
+        now: globalThis.element.shadowRoot.querySelector('.column').getAttribute('aria-valuenow'),
+        text: globalThis.element.shadowRoot.querySelector('.column').getAttribute('aria-valuetext'),
+    }));
+    const inputs = end.noted.filter(([type]) => type === 'input').map(([, row]) => row);
+    assert.deepEqual(
+        inputs,
+        [...inputs].sort((one, other) => one - other),
+    );
+    assert.equal(inputs.at(-1), end.rows[0]);
+    assert.deepEqual(end.noted.at(-1), ['change', end.rows[0]]);
+    assert.equal(end.noted.filter(([type]) => type === 'change').length, 1);
+    assert.equal(end.isGliding, false);
+    assert.equal(end.now, String(end.rows[0]));
+    assert.equal(end.text, String(end.rows[0]));
+    assertQuiet(logs);
+    await close();
+});
+
+test('what the compositor shows is where the module has the rows at that time', async () => {
+    const { page, close } = await gliding();
+    const difference = await page.evaluate(async () => {
+        const { spins, element } = globalThis;
+        await spins.until(() => spins.isGliding(element));
+        // An even moment of the page's own time line: nothing happens between both looks.
+        const { DOMMatrix } = globalThis;
+        const read = (style) =>
+            new Map(
+                [...element.shadowRoot.querySelectorAll('.text')]
+                    .filter((node) => node.style.visibility !== 'hidden' && Number(style(node).opacity) > 0.02)
+                    .map((node) => [
+                        `${node.textContent}/${Math.round(new DOMMatrix(style(node).transform).e / 60)}`,
+                        new DOMMatrix(style(node).transform),
+                    ]),
+            );
+        const { now } = performance;
+        await new Promise((resolve) => requestAnimationFrame(resolve));
+        const time = document.timeline.currentTime;
+        performance.now = () => time;
+        const shown = read((node) => getComputedStyle(node));
+        // Whatever is set takes the rows back, where they are at this time.
+        element.setAttribute('readonly', '');
+        performance.now = now;
+        const written = read((node) => node.style);
+        const isGliding = spins.isGliding(element);
+        let most = 0;
+        for (const [row, { f, d }] of shown) {
+            const other = written.get(row);
+            most = Math.max(most, other ? Math.abs(other.f - f) + 40 * Math.abs(other.d - d) : Infinity);
+        }
+        return { most, isGliding, count: shown.size };
+    });
+    assert.ok(difference.count >= 7);
+    assert.equal(difference.isGliding, false);
+    assert.ok(difference.most < 0.5, `${difference.most} pixels apart`);
+    await close();
+});
+
+test('a finger that catches the rows has them where they were at its own time, to the bit', async () => {
+    const { page, close } = await stage.open(wheel);
+    await page.evaluate(fill);
+    await untilColumns(page, asked);
+    await page.evaluate(provide);
+    const caught = await page.evaluate(async () => {
+        const { spins } = globalThis;
+        const element = document.querySelector('gx-wheel');
+        const events = await spins.flick(element);
+        await spins.until(() => spins.isGliding(element) && element.rows[0] > 12);
+        const node = element.shadowRoot.querySelector('.column');
+        const box = node.getBoundingClientRect();
+        const event = new PointerEvent('pointerdown', {
+            pointerId: 8,
+            pointerType: 'touch',
+            clientX: box.x + box.width / 2,
+            clientY: box.y + box.height / 2,
+            bubbles: true,
+            composed: true,
+        });
+        // A busy page hands it over late.
+        const end = performance.now() + 30;
+        while (performance.now() < end);
+        const wasGliding = spins.isGliding(element);
+        node.dispatchEvent(event);
+        return {
+            events,
+            time: event.timeStamp / 1000,
+            wasGliding,
+            isGliding: spins.isGliding(element),
+            written: spins.written(element),
+        };
+    });
+    assert.ok(caught.wasGliding && !caught.isGliding);
+    // The same by frames, on a clock of its own whose last frame is at the time of the touch.
+    const expected = await page.evaluate(async ({ events, time }) => {
+        const { setFrameClock } = await import('/package/gxuipickers.js');
+        let now = events[0][2] - 1;
+        let waiting = [];
+        setFrameClock({
+            now: () => now,
+            timeOf: () => now,
+            requestFrame: (callback) => waiting.push(callback),
+            cancelFrame: (request) => (waiting[request - 1] = () => undefined),
+        });
+        const frameAt = (at) => {
+            now = at;
+            const callbacks = waiting;
+            waiting = [];
+            for (const callback of callbacks) callback(now);
+        };
+        const other = document.createElement('gx-wheel');
+        document.querySelector('gx-wheel').replaceWith(other);
+        other.columns = [{ rows: 1000 }, { rows: 1000 }];
+        for (let i = 0; i < 10; i += 1) frameAt(now + 0.01);
+        const node = other.shadowRoot.querySelector('.column');
+        const box = node.getBoundingClientRect();
+        const send = (type, offset) =>
+            node.dispatchEvent(
+                new PointerEvent(type, {
+                    pointerId: 7,
+                    pointerType: 'touch',
+                    clientX: box.x + box.width / 2,
+                    clientY: box.y + box.height / 2 - offset,
+                    bubbles: true,
+                    composed: true,
+                }),
+            );
+        for (const [type, offset, at] of events) {
+            frameAt(at);
+            send(type, offset);
+        }
+        while (now + 0.011 < time) frameAt(now + 0.011);
+        frameAt(time);
+        const written = globalThis.spins.written(other);
+        setFrameClock();
+        return written;
+    }, caught);
+    assert.ok(expected.length >= 7);
+    assert.deepEqual(caught.written, expected);
+    await close();
+});
+
+test('whatever happens to an element, its rows are its own again at once, and it is told once', async () => {
+    const ways = {
+        remove: (element) => element.remove(),
+        disable: (element) => (element.disabled = true),
+        hide: (element) => (element.hidden = true),
+        resize: (element) => (element.style.width = '250px'),
+        zoom: (element) => (element.style.fontSize = '30px'),
+        rows: (element) => (element.rows = [500, 1]),
+        columns: (element) => (element.columns = [{ rows: 5 }]),
+        leave: () => dispatchEvent(new Event('pagehide')),
+        key: (element) =>
+            element.shadowRoot
+                .querySelector('.column')
+                .dispatchEvent(new KeyboardEvent('keydown', { key: 'ArrowDown', bubbles: true, composed: true })),
+    };
+    const { page, logs, close } = await stage.open('');
+    await page.evaluate(provide);
+    for (const [name, way] of Object.entries(ways)) {
+        const result = await page.evaluate(async (text) => {
+            const { spins } = globalThis;
+            const element = document.createElement('gx-wheel');
+            element.columns = [{ rows: 1000 }, { rows: 1000 }];
+            document.body.replaceChildren(element);
+            await spins.until(() => element.shadowRoot.querySelector('.column'));
+            const changes = [];
+            element.addEventListener('change', () => changes.push(element.rows[0]));
+            await spins.flick(element);
+            await spins.until(() => spins.isGliding(element));
+            const from = element.rows[0];
+            new Function(`return ${text}`)()(element);
+            // Sizes are told with the next frame.
+            await new Promise((resolve) => requestAnimationFrame(() => setTimeout(resolve, 20)));
+            const wasTaken = !spins.isGliding(element);
+            element.remove();
+            return { from, wasTaken, changes, rows: element.rows };
+        }, way.toString());
+        const context = `${name}: ${JSON.stringify(result)}`;
+        assert.ok(result.wasTaken, context);
+        if (name === 'rows') assert.deepEqual([result.rows, result.changes], [[500, 1], []], context);
+        else if (name === 'columns') assert.deepEqual(result.rows.length, 1, context);
+        else assert.deepEqual(result.changes, [result.rows[0]], context);
+        if (!['rows', 'columns'].includes(name)) assert.ok(result.rows[0] >= result.from, context);
+    }
+    assertQuiet(logs);
+    await close();
+});
+
+test('a listener may read values while rows glide, and one that sets a value ends that', async () => {
+    const { page, close } = await gliding();
+    const result = await page.evaluate(async () => {
+        const { spins, element } = globalThis;
+        const from = element.rows[0];
+        let read = 0;
+        element.addEventListener('input', () => (read = element.rows[0] + element.valueText.length * 0));
+        await spins.until(() => read > from + 1);
+        const wasGliding = spins.isGliding(element);
+        element.addEventListener('input', () => (element.rows = [3, 0]), { once: true });
+        await spins.until(() => element.rows[0] === 3);
+        return { wasGliding, isGliding: spins.isGliding(element) };
+    });
+    assert.deepEqual(result, { wasGliding: true, isGliding: false });
+    await close();
+});
+
+test('two elements glide apart from each other', async () => {
+    const { page, close } = await stage.open(
+        '<gx-distance-picker value="5000"></gx-distance-picker><gx-bpm-picker value="60"></gx-bpm-picker>',
+    );
+    await untilColumns(page, 'gx-bpm-picker');
+    await page.evaluate(provide);
+    const result = await page.evaluate(async () => {
+        const { spins } = globalThis;
+        const [one, other] = [document.querySelector('gx-distance-picker'), document.querySelector('gx-bpm-picker')];
+        await Promise.all([spins.flick(one), spins.flick(other)]);
+        await spins.until(() => spins.isGliding(one) && spins.isGliding(other));
+        one.value = 7000;
+        const after = [spins.isGliding(one), spins.isGliding(other)];
+        await spins.until(() => !spins.isGliding(other));
+        return { after, value: one.value };
+    });
+    assert.deepEqual(result, { after: [false, true], value: 7000 });
+    await close();
+});
+
+test('titles that the page computes are asked for in their own time alone', async () => {
+    const { page, close } = await stage.open(wheel);
+    await page.evaluate(() => (document.querySelector('gx-wheel').columns = [{ rows: 1000, title: (row) => `no. ${row}` }]));
+    await untilColumns(page, asked);
+    await page.evaluate(provide);
+    const result = await page.evaluate(async () => {
+        const { spins } = globalThis;
+        const element = document.querySelector('gx-wheel');
+        let hasGlided = false;
+        element.addEventListener('input', () => (hasGlided ||= spins.isGliding(element)));
+        await spins.flick(element);
+        await new Promise((resolve) => element.addEventListener('change', resolve));
+        return { hasGlided, row: element.rows[0] };
+    });
+    assert.equal(result.hasGlided, false);
+    assert.ok(result.row > 5);
+    await close();
+});
+
+test('with reduced motion nothing glides', async () => {
+    const { page, close } = await stage.open(wheel, { context: { reducedMotion: 'reduce' } });
+    await page.evaluate(fill);
+    await untilColumns(page, asked);
+    await page.evaluate(provide);
+    const hasGlided = await page.evaluate(async () => {
+        const { spins } = globalThis;
+        const element = document.querySelector('gx-wheel');
+        const changed = new Promise((resolve) => element.addEventListener('change', () => resolve(spins.isGliding(element))));
+        await spins.flick(element);
+        return changed;
+    });
+    assert.equal(hasGlided, false);
+    await close();
+});
