@@ -16,6 +16,7 @@ option(GX_BARE "Build without RTTI and exceptions; code that uses the library is
 option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" OFF)
 option(GX_PRECOMPILE_HEADERS "Precompile what most sources include" OFF)
 option(GX_ROOMS_AS_UNITS "Compile each folder as one unit" OFF)
+option(GX_LIBRARIES_AS_UNITS "With GX_ROOMS_AS_UNITS, compile each library as one unit" OFF)
 option(GX_SANITIZE "Check addresses and undefined behaviour at run time" OFF)
 option(GX_BUILD_FUZZERS "Build everything for libFuzzer, with checks, and the fuzz targets (needs clang)" OFF)
 

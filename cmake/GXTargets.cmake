@@ -1,7 +1,14 @@
-# gx_compile_as_unit(<target> <room> <source>…): with GX_ROOMS_AS_UNITS, the sources of a room are
-# one unit.
+# gx_compile_as_unit(<target> <room> <source>…): the sources of a room are one unit, or lie in that
+# of their library.
+#
+# - GX_ROOMS_AS_UNITS: one unit for each room.
+# - GX_LIBRARIES_AS_UNITS too: one for the whole target, or for each name that a folder gives in
+#   GX_UNIT. clang-tidy reads the standard library once for each unit.
 function(gx_compile_as_unit target room)
   if(GX_ROOMS_AS_UNITS)
+    if(GX_LIBRARIES_AS_UNITS)
+      set(room "${GX_UNIT}")
+    endif()
     string(MAKE_C_IDENTIFIER "room ${room}" unit)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
     set_source_files_properties(${ARGN} PROPERTIES UNITY_GROUP ${unit})

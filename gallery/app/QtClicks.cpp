@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <span>
 
 #include <QAudioDevice>
 #include <QAudioFormat>
@@ -31,13 +32,14 @@ public:
 protected:
     qint64 readData(char* data, qint64 size) override {
         std::array<std::int16_t, 256> samples{};
+        const std::span<char> bytesWanted(data, static_cast<std::size_t>(size));
         constexpr auto sampleSize = static_cast<qint64>(sizeof(std::int16_t));
         const qint64 whole = size - size % sampleSize;
         for (qint64 done = 0; done < whole;) {
             const auto count = static_cast<std::size_t>(std::min<qint64>(samples.size(), (whole - done) / sampleSize));
             clicks_.read({samples.data(), count});
             const std::size_t bytes = count * sizeof(std::int16_t);
-            std::memcpy(data + done, samples.data(), bytes);
+            std::memcpy(bytesWanted.subspan(static_cast<std::size_t>(done)).data(), samples.data(), bytes);
             done += static_cast<qint64>(bytes);
         }
         return whole;

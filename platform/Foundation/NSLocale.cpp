@@ -65,12 +65,12 @@ std::string_view valueOfWord(std::string_view words, const std::string& word) {
 }
 
 constexpr bool isLetter(char character) { return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z'); }
-constexpr char lowerCase(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
-constexpr char upperCase(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
+constexpr char lowerCaseLetter(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter; }
+constexpr char upperCaseLetter(char letter) { return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter; }
 
 std::string lowerCased(std::string_view text) {
     std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), lowerCase);
+    std::transform(lower.begin(), lower.end(), lower.begin(), lowerCaseLetter);
     return lower;
 }
 
@@ -97,7 +97,7 @@ struct Subtags {
                 setScript(part);
             } else if (region.empty() && (part.size() == 2 || (part.size() == 3 && !isLetter(part[0])))) {
                 region = part;
-                std::transform(region.begin(), region.end(), region.begin(), upperCase);
+                std::transform(region.begin(), region.end(), region.begin(), upperCaseLetter);
             }
             isLanguage = false;
         }
@@ -109,7 +109,7 @@ struct Subtags {
 
     void setScript(std::string_view part) {
         script = lowerCased(part);
-        script[0] = upperCase(script[0]);
+        script[0] = upperCaseLetter(script[0]);
     }
 
     /// Systems with a C library name a script so, as in "uz_UZ@cyrillic".

@@ -9,7 +9,7 @@ namespace gx {
 namespace {
 
 // Chosen to look as on a wheel: the row in the tint, and an outline that is found at a glance.
-constexpr double focusFillAlpha = 0.14;
+constexpr double focusMarkAlpha = 0.14;
 constexpr CGFloat focusOutline = 2;
 
 /// Below the pointer. Chosen fainter than a highlighted cell.
@@ -80,7 +80,7 @@ void UITableViewDrawing::drawSeparators(UIGraphicsContext& context, const UIColo
 void UITableViewDrawing::drawFocus(UIGraphicsContext& context, NSIndexPath row, const UIColor& tint) const {
     const UITableViewRows::Span span = spanWhereDrawn(row);
     const CGRect mark = CGRectMake(0, span.top, width(), span.height);
-    context.fillRect(mark, tint.colorWithAlphaComponent(focusFillAlpha));
+    context.fillRect(mark, tint.colorWithAlphaComponent(focusMarkAlpha));
     for (const CGFloat y : {CGRectGetMinY(mark), CGRectGetMaxY(mark) - focusOutline}) {
         context.fillRect(CGRectMake(mark.origin.x, y, mark.size.width, focusOutline), tint);
     }

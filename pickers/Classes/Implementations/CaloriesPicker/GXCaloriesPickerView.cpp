@@ -8,7 +8,7 @@ namespace gx {
 namespace {
 
 /// The quantity that the unit beside the wheel is named for.
-constexpr std::int32_t labelledQuantity = 100;
+constexpr std::int32_t labelledCalories = 100;
 
 } // namespace
 
@@ -29,7 +29,7 @@ void GXCaloriesPickerView::initGXCaloriesPickerView() {
 void GXCaloriesPickerView::showTexts() {
     const Ref<GXBasePickerView> keep = self();
     const Ref<GXCaloriesFormatter> formatter = caloriesFormatter();
-    if (formatter) setRightLabelText(pickerView(), formatter->unit(NSNumber::numberWithInt(labelledQuantity)));
+    if (formatter) setRightLabelText(pickerView(), formatter->unit(NSNumber::numberWithInt(labelledCalories)));
 }
 
 // Accessibility texts

@@ -17,7 +17,7 @@ NSIndexPath rowOfPart(NSInteger part) { return {part / partsOfSection, part % pa
 NSInteger partOfList(NSInteger section) { return -2 - 2 * section; }
 NSInteger partOfHeading(NSInteger section) { return -3 - 2 * section; }
 
-bool canBeOperated(const Ref<UIAccessibilityElement>& element) {
+bool isControl(const Ref<UIAccessibilityElement>& element) {
     const UIAccessibilityRole role = element->role();
     return role != UIAccessibilityRole::Text && role != UIAccessibilityRole::Image;
 }
@@ -26,7 +26,7 @@ bool canBeOperated(const Ref<UIAccessibilityElement>& element) {
 UIAccessibilityElements operatedIn(const Ref<UITableViewCell>& cell) {
     UIAccessibilityElements elements;
     for (const Ref<UIAccessibilityElement>& element : cell ? cell->accessibilityElements() : elements) {
-        if (element->view() != cell && canBeOperated(element)) elements.push_back(element);
+        if (element->view() != cell && isControl(element)) elements.push_back(element);
     }
     return elements;
 }
