@@ -87,13 +87,16 @@ class Listener:
         self.log = session.folder / "orca.debug"
         self.heard = 0
 
-    def start(self):
+    def start_orca(self):
         self.log.unlink(missing_ok=True)
         self.session.start("orca", ["/usr/bin/python3", str(SCREEN_READER), "--debug-file", str(self.log)],
                            environment={"LANGUAGE": self.locale})
-        command = [str(Path(self.gallery).resolve()), "--locale", self.locale, "--size", SIZE]
         wait_until(lambda: utterances(self.text()), "Orca's first words")
         self.session.wait_until_idle()
+
+    def start(self):
+        self.start_orca()
+        command = [str(Path(self.gallery).resolve()), "--locale", self.locale, "--size", SIZE]
         for _ in range(STARTS):
             self.heard = len(utterances(self.text()))
             self.program = self.session.start("gallery", command)
@@ -113,19 +116,22 @@ class Listener:
         """What was said since the last call, when nothing happens any more."""
         self.session.wait_until_idle()
         if self.program.poll() is not None:
-            raise SystemExit("the gallery has ended:\n" + self.session.log("gallery"))
+            raise SystemExit("the program has ended; its log is in " + str(self.session.folder))
         lines = utterances(self.text())
         new = lines[self.heard:]
         self.heard = len(lines)
         return new
 
 
-def listen(arguments, steps):
+def locale_of(arguments):
+    return arguments.script.suffixes[0].lstrip(".")
+
+
+def listen(arguments, steps, make_listener):
     """What was heard at each step."""
     heard = []
-    locale = arguments.script.suffixes[0].lstrip(".")
     with Session(arguments.folder) as session:
-        listener = Listener(session, arguments.gallery, locale)
+        listener = make_listener(session, locale_of(arguments))
         listener.start()
         for step in steps:
             if step.key != START:
@@ -134,17 +140,19 @@ def listen(arguments, steps):
     return heard
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("script", type=Path, help="such as scripts/add-workout.en.txt; its name tells the language")
-    parser.add_argument("--gallery", required=True)
+def parser_of(description, script):
+    parser = argparse.ArgumentParser(description=description, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("script", type=Path, help=script)
     parser.add_argument("--folder", required=True, type=Path, help="for logs")
     parser.add_argument("--write", action="store_true", help="write what is heard into the script")
-    arguments = parser.parse_args()
+    return parser
 
+
+def compare(arguments, make_listener):
+    """Plays the script and prints how what is heard differs; the exit code."""
     text = arguments.script.read_text()
     steps, rest = steps_of(text)
-    heard = listen(arguments, steps)
+    heard = listen(arguments, steps, make_listener)
 
     result, faults = [], 0
     for step, lines in zip(steps, heard):
@@ -168,6 +176,13 @@ def main():
         return 1
     print(f"{len(steps)} steps, {sum(len(lines) for lines in heard)} lines, none silent")
     return 0
+
+
+def main():
+    parser = parser_of(__doc__, "such as scripts/add-workout.en.txt; its name tells the language")
+    parser.add_argument("--gallery", required=True)
+    arguments = parser.parse_args()
+    return compare(arguments, lambda session, locale: Listener(session, arguments.gallery, locale))
 
 
 if __name__ == "__main__":

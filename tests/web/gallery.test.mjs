@@ -29,7 +29,7 @@ after(async () => {
     rmSync(folder, { recursive: true, force: true });
 });
 
-/** Waits until the page's script has run to its end; that it marks the link of its page comes last. */
+/** Waits until the page's script has run to its end: it marks the link of its page last. */
 async function untilReady(page) {
     await page.waitForSelector('nav a[aria-current]', { state: 'attached' });
     await page.waitForFunction(() => [...document.querySelectorAll('.value')].every((node) => node.textContent !== ''));
