@@ -14,7 +14,8 @@ import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { TextDecoder } from 'node:util';
 import { gzipSync } from 'node:zlib';
-import { table } from './sizes.mjs';
+import { kindOf, manifestOfOne, optionsOfOne, scriptOfOne } from './only.mjs';
+import { readSizesOfOne, table, tableOfOne } from './sizes.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const [source, folder, onlyElement] = process.argv.slice(2);
@@ -28,11 +29,20 @@ mkdirSync(path.join(folder, 'languages'), { recursive: true });
 // What a browser has to know. All that can load the scripts do.
 const features = ['bulk-memory', 'sign-ext', 'mutable-globals', 'nontrapping-float-to-int'];
 const wasm = path.join(folder, 'gxuipickers.wasm');
-execFileSync(
-    path.join(here, 'node_modules/.bin/wasm-opt'),
-    ['-Oz', '--converge', ...features.map((name) => `--enable-${name}`), path.join(source, 'gxuipickers.wasm'), '-o', wasm],
-    { stdio: 'inherit' },
-);
+// - Traps by an access beyond the memory end the module anyway, so code may be moved across them.
+// - The first KiB of the memory is the end of the stack: no address is computed from one in it.
+// - Functions stay functions: what is inlined is less like its neighbours, and so larger packed.
+// - Zeros stay in the data: a segment for each stretch between them is larger packed.
+const optimisations = [
+    ['-Oz', '--converge'],
+    ['--ignore-implicit-traps', '--low-memory-unused'],
+    ['--one-caller-inline-max-function-size', '8'],
+    ['--skip-pass=memory-packing'],
+    features.map((name) => `--enable-${name}`),
+].flat();
+execFileSync(path.join(here, 'node_modules/.bin/wasm-opt'), [...optimisations, path.join(source, 'gxuipickers.wasm'), '-o', wasm], {
+    stdio: 'inherit',
+});
 const packed = gzipSync(readFileSync(wasm), { level: 9 });
 
 /** The data of every language, in the library's order, as its own code writes it. */
@@ -75,21 +85,15 @@ const generated = {
         plugin.onResolve({ filter: /^\.\/languages\// }, ({ path: name }) =>
             name.endsWith('.js') && name !== './languages.js' ? { path: name, external: true } : null,
         );
-        if (onlyElement) {
-            plugin.onLoad({ filter: /script\/pickers\.ts$/ }, ({ path: name }) => ({
-                contents: onlyOne(readFileSync(name, 'utf8')),
-                loader: 'ts',
-            }));
+        if (!onlyElement) return;
+        for (const [filter, reduced] of [
+            [/script\/pickers\.ts$/, (text) => scriptOfOne(text, onlyElement)],
+            [/script\/properties\.ts$/, (text) => optionsOfOne(text, kindOf(onlyElement))],
+        ]) {
+            plugin.onLoad({ filter }, ({ path: name }) => ({ contents: reduced(readFileSync(name, 'utf8')), loader: 'ts' }));
         }
     },
 };
-
-/** The list of elements with one left. Classes that nothing names are left out by the bundler. */
-function onlyOne(script) {
-    const line = script.split('\n').find((text) => text.startsWith(`    '${onlyElement}': `) && text.endsWith(','));
-    if (!line) throw new Error(`There is no element ${onlyElement}.`);
-    return script.replace(/(export const elements = \{\n)[^}]*(\} as const;)/, `$1${line}\n$2`);
-}
 
 for (const [entry, outfile] of Object.entries({ inline: 'gxuipickers.js', asset: 'asset.js' })) {
     await build({
@@ -111,6 +115,11 @@ execFileSync(path.join(here, 'node_modules/.bin/tsc'), ['-p', here, '--emitDecla
 });
 cpSync(path.join(here, 'package/types'), path.join(folder, 'types'), { recursive: true });
 execFileSync(process.execPath, [path.join(here, 'package/manifest.mjs'), folder], { stdio: 'inherit' });
+if (onlyElement) {
+    const change = (name, by) => writeFileSync(path.join(folder, name), by(readFileSync(path.join(folder, name), 'utf8')));
+    change('types/pickers.d.ts', (text) => scriptOfOne(text, onlyElement) + 'export {};\n');
+    change('custom-elements.json', (text) => JSON.stringify(manifestOfOne(JSON.parse(text), onlyElement), null, 2) + '\n');
+}
 for (const name of ['package/package.json', '../../LICENSE']) copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
 
 const names = ['gxuipickers.js', 'asset.js', 'gxuipickers.wasm', ...files.values()];
@@ -123,6 +132,10 @@ const sizes = Object.fromEntries(
 writeFileSync(path.join(folder, 'sizes.json'), JSON.stringify(sizes, null, 2) + '\n');
 // The table in the package is always that of its files.
 const readme = readFileSync(path.join(here, 'package/README.md'), 'utf8');
-if (!readme.includes('<!-- sizes -->')) throw new Error('package/README.md has no place for the table of sizes.');
-writeFileSync(path.join(folder, 'README.md'), readme.replace('<!-- sizes -->', table(sizes)));
+for (const place of ['<!-- sizes -->', '<!-- sizes of one -->'])
+    if (!readme.includes(place)) throw new Error(`package/README.md has no ${place}, where a table goes.`);
+writeFileSync(
+    path.join(folder, 'README.md'),
+    readme.replace('<!-- sizes -->', table(sizes)).replace('<!-- sizes of one -->', tableOfOne(readSizesOfOne())),
+);
 console.log(table(sizes));

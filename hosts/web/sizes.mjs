@@ -1,6 +1,9 @@
-// What a page downloads, and how much it may be: node sizes.mjs PACKAGE [all|one]
+// What a page downloads, and how much it may be:
+//   node sizes.mjs PACKAGE                  of all pickers
+//   node sizes.mjs PACKAGE ELEMENT          of one alone; also that the package's table says so
+//   node sizes.mjs PACKAGE ELEMENT --write  puts it into that table
 // Sizes are those of `gzip -9`, as a server sends files. Ends with an error beyond a budget.
-import { readFileSync } from 'node:fs';
+import { readFileSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 
@@ -36,8 +39,36 @@ export function table(sizes) {
     ].join('\n');
 }
 
+/** What was measured last of each element alone, in bytes, in the order of `downloads`. */
+const ofOneFile = fileURLToPath(new URL('package/sizes-of-one.json', import.meta.url));
+export const readSizesOfOne = () => JSON.parse(readFileSync(ofOneFile, 'utf8'));
+
+/** Compilers differ a little from one patch to the next; beyond that the table is out of date. */
+const tolerance = 512;
+
+/** The sizes of each element alone, with the largest language, as Markdown. */
+export function tableOfOne(sizesOfOne) {
+    const rows = Object.entries(sizesOfOne).map(([name, [oneFile, twoFiles]]) => `| \`${name}\` | ${kib(oneFile)} | ${kib(twoFiles)} |`);
+    return ['| One element alone, gzipped | One file | Two files |', '|---|---|---|', ...rows].join('\n');
+}
+
+/** Whether the table says what was measured; or makes it say so. */
+function compareSizesOfOne(element, measured, isWriting) {
+    const known = readSizesOfOne();
+    if (isWriting) {
+        known[element] = measured;
+        const sorted = Object.fromEntries(Object.entries(known).sort(([one], [other]) => (one < other ? -1 : 1)));
+        writeFileSync(ofOneFile, JSON.stringify(sorted, null, 4).replace(/\[\s+(\d+),\s+(\d+)\s+\]/g, '[$1, $2]') + '\n');
+        return true;
+    }
+    const isCurrent = known[element]?.every((bytes, i) => Math.abs(bytes - measured[i]) <= tolerance) ?? false;
+    if (!isCurrent) console.error(`package/sizes-of-one.json says ${known[element]} of ${element}: run scripts/web sizes.`);
+    return isCurrent;
+}
+
 if (process.argv[1] === fileURLToPath(import.meta.url)) {
-    const [folder, kind = 'all'] = process.argv.slice(2);
+    const [folder, element, option] = process.argv.slice(2);
+    const kind = element ? 'one' : 'all';
     const sizes = JSON.parse(readFileSync(path.join(folder, 'sizes.json'), 'utf8'));
     console.log(table(sizes));
     let isOver = false;
@@ -46,8 +77,7 @@ if (process.argv[1] === fileURLToPath(import.meta.url)) {
         console.log(`${row.parts.join(' + ')}: ${row.gzip} of ${budgets[kind]} bytes, ${left < 0 ? `${-left} too many` : `${left} left`}`);
         isOver ||= left < 0;
     }
-    if (isOver) {
-        console.error('The download is larger than its budget: measure what has come in, or what can be left out.');
-        process.exit(1);
-    }
+    if (isOver) console.error('The download is larger than its budget: measure what has come in, or what can be left out.');
+    const measured = downloads(sizes).map(({ gzip }) => gzip);
+    if ((element && !compareSizesOfOne(element, measured, option === '--write')) || isOver) process.exit(1);
 }

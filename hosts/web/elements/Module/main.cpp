@@ -29,6 +29,10 @@ std::int32_t give(const std::optional<std::string>& text) {
 
 std::string takeText(std::int32_t length) { return sharedText().substr(0, static_cast<std::size_t>(std::max(length, 0))); }
 
+// In a module for one picker, what others need is empty.
+constexpr bool hasIcons = elements::isBuilt(elements::PickerKind::Icon) || elements::isBuilt(elements::PickerKind::WeatherAndTemperature);
+constexpr bool hasColumns = elements::isBuilt(elements::PickerKind::Columns);
+
 } // namespace
 
 // Texts
@@ -132,6 +136,7 @@ GX_WEB_EXPORT("valueText") std::int32_t gx_web_value_text(std::int32_t number) {
 /// with a line feed after it, are in the text buffer. The numbers begin at `numbers`.
 GX_WEB_EXPORT("setIcons")
 void gx_web_set_icons(std::int32_t number, const double* numbers, std::int32_t count, std::int32_t labelsLength) {
+    if constexpr (!hasIcons) return;
     const std::string labels = takeText(labelsLength);
     auto images = std::make_shared<GXIconPickerView::Images>();
     std::size_t begin = 0;
@@ -148,6 +153,7 @@ void gx_web_set_icons(std::int32_t number, const double* numbers, std::int32_t c
 
 /// Room for so many doubles that stays until the next call.
 GX_WEB_EXPORT("numbers") double* gx_web_numbers(std::int32_t count) {
+    if constexpr (!hasIcons && !hasColumns) return nullptr;
     static std::vector<double> numbers;
     numbers.assign(static_cast<std::size_t>(std::max(count, 0)), 0);
     return numbers.data();
@@ -156,6 +162,7 @@ GX_WEB_EXPORT("numbers") double* gx_web_numbers(std::int32_t count) {
 // Columns of the page's own
 
 GX_WEB_EXPORT("setRowCounts") void gx_web_set_row_counts(std::int32_t number, const double* counts, std::int32_t count) {
+    if constexpr (!hasColumns) return;
     visit(number, [&](WebElement& element) {
         if (element.columns()) element.columns()->setRowCounts(std::vector<double>(counts, counts + count));
     });
@@ -163,6 +170,7 @@ GX_WEB_EXPORT("setRowCounts") void gx_web_set_row_counts(std::int32_t number, co
 
 /// The label is in the text buffer. A width of 0 leaves it to the wheel.
 GX_WEB_EXPORT("setColumn") void gx_web_set_column(std::int32_t number, std::int32_t column, double width, std::int32_t labelLength) {
+    if constexpr (!hasColumns) return;
     const std::string label = takeText(labelLength);
     visit(number, [&](WebElement& element) {
         if (!element.columns()) return;
@@ -172,6 +180,7 @@ GX_WEB_EXPORT("setColumn") void gx_web_set_column(std::int32_t number, std::int3
 }
 
 GX_WEB_EXPORT("row") double gx_web_row(std::int32_t number, std::int32_t column, std::int32_t isLive) {
+    if constexpr (!hasColumns) return -1;
     return visit(number, [&](WebElement& element) {
         if (!element.columns()) return -1.0;
         return isLive != 0 ? element.columns()->shownRowOfColumn(column) : element.columns()->rowOfColumn(column);
@@ -179,6 +188,7 @@ GX_WEB_EXPORT("row") double gx_web_row(std::int32_t number, std::int32_t column,
 }
 
 GX_WEB_EXPORT("setRow") void gx_web_set_row(std::int32_t number, std::int32_t column, double row) {
+    if constexpr (!hasColumns) return;
     visit(number, [&](WebElement& element) {
         if (element.columns()) element.columns()->setRow_ofColumn(row, column);
     });

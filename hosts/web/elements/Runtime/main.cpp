@@ -4,16 +4,25 @@
 // The page sees a failure as an exception of its own. The state of the module is undefined from
 // then on, since nothing was unwound: the page goes on with a new instance.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <string>
 #include <version>
 
 #include "WebHeap.h"
+#include "WebMathTables.h"
 #include "WebPage.h"
 
 // NOLINTNEXTLINE(cppcoreguidelines-macro-usage): an attribute takes no constant
 #define GX_WEB_EXPORT(name) extern "C" __attribute__((export_name(name)))
+
+// The tables of `exp` and `log`, under the C library's own names.
+extern "C" {
+gx::web::WebMathTables::Exp __exp_data;
+gx::web::WebMathTables::Log __log_data;
+}
 
 namespace {
 
@@ -37,6 +46,12 @@ void* allocate(std::size_t size) {
     return pointer;
 }
 
+/// Before any other constructor may compute something.
+__attribute__((constructor(101))) void computeTables() {
+    __exp_data.compute();
+    __log_data.compute();
+}
+
 } // namespace
 
 // Memory. No type here needs more than the usual alignment.
@@ -49,11 +64,36 @@ void operator delete[](void* pointer) noexcept { heap.release(pointer); }
 void operator delete(void* pointer, std::size_t) noexcept { heap.release(pointer); }
 void operator delete[](void* pointer, std::size_t) noexcept { heap.release(pointer); }
 void operator delete(void* pointer, const std::nothrow_t&) noexcept { heap.release(pointer); }
+// Where the alignment is known only when it runs: else the C library's allocator would come along.
+void operator delete(void* pointer, std::align_val_t) noexcept { heap.release(pointer); }
+void operator delete(void* pointer, std::size_t, std::align_val_t) noexcept { heap.release(pointer); }
 
 /// How many bytes are in use.
 GX_WEB_EXPORT("liveBytes") double gx_web_live_bytes() { return static_cast<double>(heap.liveBytes()); }
 /// How many bytes the module may take while it runs.
 GX_WEB_EXPORT("limitMemory") void gx_web_limit_memory(double bytes) { heap.setLimit(static_cast<std::size_t>(bytes)); }
+
+// Numbers as text. The linker gives these the calls to `std::to_string`, which has a table of all
+// pairs of digits and code for each length.
+
+std::string textOfLong(long long number) __asm__("__wrap__ZNSt3__29to_stringEx");
+std::string textOfInt(int number) __asm__("__wrap__ZNSt3__29to_stringEi");
+
+std::string textOfLong(long long number) {
+    // Filled from its end. NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+    std::array<char, 20> digits;
+    char* begin = digits.data() + digits.size();
+    auto left = static_cast<unsigned long long>(number);
+    if (number < 0) left = 0 - left;
+    do {
+        *--begin = static_cast<char>('0' + left % 10);
+        left /= 10;
+    } while (left != 0);
+    if (number < 0) *--begin = '-';
+    return {begin, digits.data() + digits.size()};
+}
+
+std::string textOfInt(int number) { return textOfLong(number); }
 
 extern "C" {
 
@@ -67,6 +107,22 @@ int __rem_pio2_large(double*, double*, int, int, int) { __builtin_trap(); }
 void* memcpy(void* to, const void* from, std::size_t size) { return __builtin_memcpy(to, from, size); }
 void* memmove(void* to, const void* from, std::size_t size) { return __builtin_memmove(to, from, size); }
 void* memset(void* to, int byte, std::size_t size) { return __builtin_memset(to, byte, size); }
+
+// The C library's own look at several bytes at once, which is more code; texts here are short.
+
+void* memchr(const void* text, int byte, std::size_t size) {
+    const auto* bytes = static_cast<const unsigned char*>(text);
+    for (std::size_t i = 0; i < size; ++i) {
+        if (bytes[i] == static_cast<unsigned char>(byte)) return const_cast<unsigned char*>(bytes + i);
+    }
+    return nullptr;
+}
+
+std::size_t strlen(const char* text) {
+    std::size_t length = 0;
+    while (text[length] != 0) ++length;
+    return length;
+}
 
 // Where it cannot go on it traps, without a message of its own: so the module needs no printing.
 
