@@ -19,7 +19,7 @@ from session import wait_until
 
 FIREFOX = "firefox-esr"
 LEFT_OUT = 77
-# Accessibility by the bus, and no page, question or connection of the browser's own.
+# Accessibility by the bus, and no page, dialog or connection of the browser's own.
 PREFERENCES = """
 user_pref("accessibility.force_disabled", -1);
 user_pref("app.normandy.enabled", false);

@@ -130,6 +130,19 @@ test('the mouse drags, and its wheel turns while the page stands still', setting
     assert.equal(await firefox.run(() => scrollY), 0);
 });
 
+test('in a page that the browser zooms, a finger is on the rows', settings, async () => {
+    await open(distance);
+    for (const zoom of [0.5, 2]) {
+        await firefox.zoom(zoom);
+        await firefox.run(() => (document.querySelector('gx-distance-picker').value = 5000));
+        // By its protocol, fingers are at pixels of the page.
+        await firefox.perform(Firefox.drag('touch', await place(), 86));
+        assert.equal((await changed()).value, 7000, `${zoom}`);
+        assert.equal(await firefox.run(() => Math.round(globalThis.devicePixelRatio * 100)), zoom * 100);
+    }
+    await firefox.zoom(1);
+});
+
 test('keys move rows, choose columns and type numbers', settings, async () => {
     await open(distance);
     await firefox.press(key.tab, key.down);

@@ -107,6 +107,83 @@ test('a page that is zoomed or scaled, on a fine or coarse screen, has its finge
     }
 });
 
+test('browser zoom and pinches, also while a wheel spins, leave fingers on the rows', async () => {
+    const { page, logs, close } = await stage.open('<gx-distance-picker value="5000"></gx-distance-picker>');
+    const asked = 'gx-distance-picker';
+    await untilColumns(page, asked);
+    const client = await page.context().newCDPSession(page);
+    const value = () => page.evaluate(() => document.querySelector('gx-distance-picker').value);
+    // What a browser does for its zoom: fewer and larger pixels of the page in the same window.
+    const zoom = (factor) =>
+        client.send('Emulation.setDeviceMetricsOverride', {
+            width: Math.round(800 / factor),
+            height: Math.round(700 / factor),
+            deviceScaleFactor: factor,
+            mobile: false,
+        });
+    for (const factor of [0.5, 1.1, 3]) {
+        await page.evaluate(() => (document.querySelector('gx-distance-picker').value = 5000));
+        await zoom(factor);
+        await untilStill(page, asked);
+        await dragRows(page, asked, 2, 40);
+        assert.equal(await value(), 7000, `${factor}`);
+    }
+    await page.keyboard.press('Tab');
+    await page.keyboard.press('Home');
+    await page.keyboard.press('End');
+    await zoom(1.5);
+    await untilStill(page, asked);
+    const end = await value();
+    assert.ok(end > 100_000, `${end}`);
+
+    await zoom(1);
+    await page.evaluate(() => (document.querySelector('gx-distance-picker').value = 5000));
+    await client.send('Emulation.setPageScaleFactor', { pageScaleFactor: 2 });
+    await untilStill(page, asked);
+    await dragRows(page, asked, 2, 40);
+    assert.equal(await value(), 7000, 'pinched');
+    assertQuiet(logs);
+    await close();
+});
+
+test('on paper stands the value, also of a wheel that was spinning', async () => {
+    const { page, logs, close } = await stage.open(
+        '<p>Way <gx-distance-picker value="5300"></gx-distance-picker><gx-height-picker lang="de" value="176"></gx-height-picker>' +
+            '<gx-distance-and-duration-picker distance="5300" duration="1650000"></gx-distance-and-duration-picker></p>',
+    );
+    await untilColumns(page, 'gx-distance-and-duration-picker');
+    const printed = () =>
+        page.evaluate(() =>
+            [...document.querySelectorAll('p > *')].map((node) => {
+                const columns = node.shadowRoot.querySelector('.columns');
+                return [getComputedStyle(columns, '::after').content, node.offsetHeight < 60, columns.getBoundingClientRect().width > 400];
+            }),
+        );
+    await page.emulateMedia({ media: 'print' });
+    assert.deepEqual(await printed(), [
+        ['"5.3 kilometres"', true, true],
+        ['"176 Zentimeter"', true, true],
+        ['"5.3 kilometres, 27 minutes"', true, true],
+    ]);
+    await page.emulateMedia({ media: 'screen' });
+    await untilColumns(page, 'gx-distance-picker');
+    await page.evaluate(() => {
+        globalThis.changes = [];
+        const picker = document.querySelector('gx-distance-picker');
+        picker.addEventListener('change', () => globalThis.changes.push(picker.value));
+        picker.focus();
+    });
+    await page.keyboard.press('PageDown');
+    await page.pdf();
+    const [changes, text] = await page.evaluate(() => [
+        globalThis.changes,
+        document.querySelector('gx-distance-picker').shadowRoot.querySelector('.columns').dataset.value,
+    ]);
+    assert.deepEqual([changes.length, text], [1, `${changes[0] / 1000} kilometres`]);
+    assertQuiet(logs);
+    await close();
+});
+
 test('from right to left labels stand on the other side, and fingers find their columns', async () => {
     const body = '<div dir="rtl"><gx-distance-picker value="5000" lang="ar"></gx-distance-picker></div>';
     const { page, close } = await stage.open(body);

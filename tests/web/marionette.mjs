@@ -41,10 +41,14 @@ export class Firefox {
         firefox.profile = await mkdtemp(path.join(os.tmpdir(), 'gx-firefox-'));
         const lines = Object.entries(preferences).map(([name, value]) => `user_pref(${JSON.stringify(name)}, ${JSON.stringify(value)});\n`);
         await writeFile(path.join(firefox.profile, 'user.js'), lines.join(''));
-        firefox.process = spawn(program, ['--headless', '--marionette', '--no-remote', '--profile', firefox.profile], {
-            stdio: 'ignore',
-            env: { ...process.env, HOME: firefox.profile },
-        });
+        firefox.process = spawn(
+            program,
+            ['--headless', '--marionette', '--remote-allow-system-access', '--no-remote', '--profile', firefox.profile],
+            {
+                stdio: 'ignore',
+                env: { ...process.env, HOME: firefox.profile },
+            },
+        );
         try {
             const file = path.join(firefox.profile, 'MarionetteActivePort');
             const port = await until(async () => existsSync(file) && Number(await readFile(file, 'utf8')), 'Firefox');
@@ -107,6 +111,15 @@ export class Firefox {
         const { value } = await this.send('WebDriver:ExecuteAsyncScript', { script, args: values, sandbox: null, newSandbox: true });
         if (value.thrown) throw new Error(value.thrown);
         return value.value;
+    }
+
+    /** The browser's own zoom of the page. */
+    async zoom(factor) {
+        await this.send('Marionette:SetContext', { value: 'chrome' });
+        const script = `window.gBrowser.selectedBrowser.browsingContext.fullZoom = arguments[0]`;
+        await this.send('WebDriver:ExecuteScript', { script, args: [factor] });
+        await this.send('Marionette:SetContext', { value: 'content' });
+        await this.run(() => new Promise((resolve) => requestAnimationFrame(() => requestAnimationFrame(resolve))));
     }
 
     perform(...actions) {

@@ -70,6 +70,7 @@ export class Columns {
         const { calls, number } = this.owner;
         this.count = calls.columns(number);
         let focused = -1;
+        const values: (string | null)[] = [];
         for (let i = 0; i < this.count; i += 1) {
             const node = this.nodes[i] ?? this.addNode();
             const read = (which: ColumnNumber): number => calls.columnNumber(number, i, which);
@@ -81,7 +82,10 @@ export class Columns {
             style.width = `${read(ColumnNumber.Width)}px`;
             style.height = `${read(ColumnNumber.Height)}px`;
             attribute(node, 'aria-label', text(ColumnText.Label));
-            attribute(node, 'aria-valuetext', text(ColumnText.Value));
+            const value = text(ColumnText.Value);
+            attribute(node, 'aria-valuetext', value);
+            // The columns of one wheel say the same.
+            if (value !== values[values.length - 1]) values.push(value);
             attribute(node, 'aria-valuenow', numeric(read(ColumnNumber.Value)));
             attribute(node, 'aria-valuemin', numeric(read(ColumnNumber.Minimum)));
             attribute(node, 'aria-valuemax', numeric(read(ColumnNumber.Maximum)));
@@ -94,6 +98,8 @@ export class Columns {
             if (read(ColumnNumber.IsFocused) === 1) focused = i;
         }
         for (let i = this.count; i < this.nodes.length; i += 1) this.nodes[i]!.style.display = 'none';
+        // What is printed.
+        attribute(this.root, 'data-value', values.join(', '));
         this.follow(focused);
     }
 

@@ -9,7 +9,7 @@ export interface PageObserver {
     languageDidChange(): void;
     /** Fonts have come late. */
     fontsDidLoad(): void;
-    /** Nobody sees the page any more. */
+    /** Nobody sees the page move any more. */
     pageDidHide(): void;
 }
 
@@ -47,7 +47,7 @@ function watch(): void {
     document.addEventListener('visibilitychange', () => {
         if (document.visibilityState === 'hidden') tell((observer) => observer.pageDidHide());
     });
-    addEventListener('pagehide', () => tell((observer) => observer.pageDidHide()));
+    for (const type of ['pagehide', 'beforeprint']) addEventListener(type, () => tell((observer) => observer.pageDidHide()));
 }
 
 let languages: MutationObserver | undefined;

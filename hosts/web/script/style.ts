@@ -42,6 +42,13 @@ const css = `
 :host(:disabled) .column, :host([readonly]) .column { touch-action: auto; cursor: default; }
 .probe { position: absolute; visibility: hidden; white-space: pre; pointer-events: none; left: 0; top: 0; }
 .isReady ~ slot { display: none; }
+/* On paper, the value alone: its page has another width than the screen. */
+@media print {
+    :host { height: auto; }
+    .surface, .column { display: none; }
+    .columns { position: static; width: auto !important; transform: none !important; direction: inherit; }
+    .columns::after { content: attr(data-value); }
+}
 @media (prefers-contrast: more) {
     .label { color: var(--gx-label-color, inherit); }
 }

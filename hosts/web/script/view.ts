@@ -287,6 +287,8 @@ export class View implements Client {
     /** Ends every movement at once; what the user has turned is reported. */
     finish(): void {
         this.call((calls) => calls.finish(this.number), undefined);
+        // No frame may follow, as before printing.
+        if (this.areColumnsOld) this.updateColumns();
     }
 
     // Settings
