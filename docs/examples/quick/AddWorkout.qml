@@ -59,6 +59,7 @@ ApplicationWindow {
                 implicitHeight: 52
                 Accessible.name: entry.name + ", " + entry.value
                 onClicked: entry.pressed()
+                Accessible.onPressAction: entry.pressed()
                 contentItem: RowLayout {
                     Label {
                         Layout.leftMargin: 16

@@ -33,6 +33,14 @@ QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
     return nullptr;
 }
 
+/// Lets go of an interface that was made before the control had its content, so that the next query
+/// makes the one above: Qt makes one as soon as a document sets a control's role or name.
+void forgetAccessibleInterface(QQuickItem& control) {
+    QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(&control);
+    if (known == nullptr || dynamic_cast<QuickAccessibleItem*>(known) != nullptr) return;
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
+}
+
 void installHost() {
     if (UITextEngine::shared() != qt::QtTextEngine::shared()) qt::installQtHost(*qGuiApp);
     QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
@@ -94,6 +102,7 @@ void QuickItem::itemChange(ItemChange change, const ItemChangeData& data) {
     switch (change) {
     case ItemParentHasChanged:
         control_.set(data.item, *this, staticMetaObject.method(staticMetaObject.indexOfSlot("follow()")));
+        if (control()) forgetAccessibleInterface(*control());
         follow();
         break;
     case ItemSceneChange:
