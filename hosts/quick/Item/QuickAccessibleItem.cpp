@@ -45,6 +45,12 @@ QuickAccessibleItem::QuickAccessibleItem(QQuickItem& control, std::shared_ptr<qt
     : QAccessibleObject(&control), QtAccessibleView(surface, std::move(window), std::move(clock)), control_(&control),
       surface_(std::move(surface)), name_(std::move(name)) {}
 
+void QuickAccessibleItem::forgetOthers(QQuickItem& control) {
+    QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(&control);
+    if (known == nullptr || dynamic_cast<QuickAccessibleItem*>(known) != nullptr) return;
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
+}
+
 bool QuickAccessibleItem::isValid() const { return surface_->exists(); }
 
 QAccessible::State QuickAccessibleItem::state() const {

@@ -20,6 +20,10 @@ public:
     /// queried only while the control lives.
     QuickAccessibleItem(QQuickItem& control, QQuickItem& content, WeakRef<UIWindow> window, Clock clock, std::function<QString()> name);
 
+    /// Lets go of an interface of another class, made before the control had its content, so that
+    /// the next query makes one of this: Qt makes one as soon as a document sets a role or a name.
+    static void forgetOthers(QQuickItem& control);
+
     bool isValid() const override;
     QAccessible::Role role() const override { return QAccessible::Grouping; }
     /// Focused only while none of its elements is.

@@ -19,6 +19,8 @@ namespace {
 constexpr std::array<const char*, 7> followedProperties = {"font",    "locale",       "mirrored",     "palette",
                                                            "enabled", "highContrast", "reducedMotion"};
 
+QQmlProperty nameOf(QQuickItem& control) { return {&control, QStringLiteral("Accessible.name"), qmlContext(&control)}; }
+
 double pixelSizeOf(const QFont& font) { return font.pixelSize() > 0 ? font.pixelSize() : QFontInfo(font).pixelSize(); }
 
 } // namespace
@@ -36,6 +38,7 @@ void QuickControl::set(QQuickItem* control, QObject& receiver, const QMetaMethod
         const QMetaProperty property = its.property(its.indexOfProperty(name));
         if (property.hasNotifySignal()) QObject::connect(control_, property.notifySignal(), &receiver, slot);
     }
+    nameOf(*control_).connectNotifySignal(&receiver, slot.methodIndex());
 }
 
 bool QuickControl::flag(const char* name, bool otherwise) const {
@@ -82,7 +85,7 @@ bool QuickControl::takesFocusByPress() const {
 
 QString QuickControl::accessibleName() const {
     if (!control_) return {};
-    return QQmlProperty::read(control_, QStringLiteral("Accessible.name"), qmlContext(control_)).toString();
+    return nameOf(*control_).read().toString();
 }
 
 void QuickControl::notifyMoved() const {

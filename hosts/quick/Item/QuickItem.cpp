@@ -33,14 +33,6 @@ QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
     return nullptr;
 }
 
-/// Lets go of an interface that was made before the control had its content, so that the next query
-/// makes the one above: Qt makes one as soon as a document sets a control's role or name.
-void forgetAccessibleInterface(QQuickItem& control) {
-    QAccessibleInterface* const known = QAccessible::queryAccessibleInterface(&control);
-    if (known == nullptr || dynamic_cast<QuickAccessibleItem*>(known) != nullptr) return;
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
-}
-
 void installHost() {
     if (UITextEngine::shared() != qt::QtTextEngine::shared()) qt::installQtHost(*qGuiApp);
     QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
@@ -102,7 +94,7 @@ void QuickItem::itemChange(ItemChange change, const ItemChangeData& data) {
     switch (change) {
     case ItemParentHasChanged:
         control_.set(data.item, *this, staticMetaObject.method(staticMetaObject.indexOfSlot("follow()")));
-        if (control()) forgetAccessibleInterface(*control());
+        if (control()) QuickAccessibleItem::forgetOthers(*control());
         follow();
         break;
     case ItemSceneChange:
@@ -167,7 +159,7 @@ void QuickItem::advance() {
 QSGNode* QuickItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     // The scene graph gives back what was returned last, and owns it.
     auto* const shown = node ? static_cast<QuickNode*>(node) : new QuickNode; // NOLINT
-    shown->show(canvas_.pieces(), *window());
+    shown->show(canvas_.pieces(), size(), *window());
     return shown;
 }
 

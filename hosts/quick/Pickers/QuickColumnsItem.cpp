@@ -134,7 +134,14 @@ void QuickColumnsItem::userDidSelect() {
 }
 
 void QuickColumnsItem::surroundingsDidChange(bool) {
-    if (wheel_) wheel_->reload();
+    if (!wheel_) return;
+    applyName();
+    wheel_->reload();
+}
+
+void QuickColumnsItem::applyName() {
+    const QString name = accessibleName();
+    if (!name.isEmpty()) wheel_->setAccessibilityLabel(name.toStdString());
 }
 
 void QuickColumnsItem::componentComplete() {
@@ -144,8 +151,7 @@ void QuickColumnsItem::componentComplete() {
     wheel_->follow();
     wheel_->setTitle([this](double row, NSInteger column) { return titleOf(row, column); });
     wheel_->didChange = [this] { userDidSelect(); };
-    const QString name = accessibleName();
-    if (!name.isEmpty()) wheel_->setAccessibilityLabel(name.toStdString());
+    applyName();
     reload();
     setRootView(wheel_->view());
 }

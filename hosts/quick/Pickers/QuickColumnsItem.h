@@ -64,6 +64,7 @@ private:
     void reload();
     void select();
     void userDidSelect();
+    void applyName();
 
     QVariantList columns_;
     QList<double> currentIndexes_;

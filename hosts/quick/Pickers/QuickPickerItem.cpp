@@ -209,8 +209,6 @@ void QuickPickerItem::makePicker() {
     picker_ = elements::pickerOfKind(static_cast<elements::PickerKind>(kind_));
     if (!picker_) return;
     picker_->didChange = [this] { userDidSelect(); };
-    const QString name = accessibleName();
-    if (!name.isEmpty()) picker_->setAccessibilityLabel(name.toStdString());
 }
 
 void QuickPickerItem::surroundingsDidChange(bool isRowHeightChanged) {
@@ -224,8 +222,14 @@ void QuickPickerItem::surroundingsDidChange(bool isRowHeightChanged) {
         before->didChange = nullptr;
         setRootView(picker_->view());
     }
+    applyName();
     picker_->reload();
     refresh();
+}
+
+void QuickPickerItem::applyName() {
+    const QString name = accessibleName();
+    if (!name.isEmpty()) picker_->setAccessibilityLabel(name.toStdString());
 }
 
 void QuickPickerItem::componentComplete() {
@@ -242,6 +246,7 @@ void QuickPickerItem::componentComplete() {
     for (std::size_t i = 0; i < propertyCount; ++i) {
         if (isSet_.test(i)) apply(static_cast<Property>(i));
     }
+    applyName();
     setRootView(picker_->view());
     picker_->reload();
     refresh();

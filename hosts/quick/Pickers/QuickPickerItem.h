@@ -197,6 +197,7 @@ private:
     bool isTaken(Property property, double value) const;
     void apply(Property property);
     void applyIcons();
+    void applyName();
     void makePicker();
     void refresh();
     void userDidSelect();

@@ -4,19 +4,15 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGRectangleNode>
+#include <QSGRendererInterface>
 
 namespace gx::quick {
 
 QuickNode::~QuickNode() {
-    removeNodes(0); // Before their textures.
-}
-
-void QuickNode::removeNodes(std::size_t count) {
-    while (nodes_.size() > count) {
-        QSGTransformNode* const transform = nodes_.back().transform;
-        removeChildNode(transform);
-        delete transform; // And what is below it. NOLINT(cppcoreguidelines-owning-memory)
-        nodes_.pop_back();
+    // Before their textures.
+    while (QSGNode* const child = firstChild()) {
+        removeChildNode(child);
+        delete child; // And what is below it. NOLINT(cppcoreguidelines-owning-memory)
     }
 }
 
@@ -68,7 +64,7 @@ void QuickNode::update(Nodes& nodes, const QuickPiece& piece, QQuickWindow& wind
         if (isNew || shown.area != piece.area) nodes.rectangle->setRect(piece.area);
     }
     const bool isMoved = shown.x != piece.x || shown.y != piece.y || shown.scaleX != piece.scaleX || shown.scaleY != piece.scaleY;
-    if (isNew || isMoved) {
+    if (isNew || isMoved || nodes.isHidden) {
         QMatrix4x4 matrix;
         matrix.translate(static_cast<float>(piece.x), static_cast<float>(piece.y));
         matrix.scale(static_cast<float>(piece.scaleX), static_cast<float>(piece.scaleY));
@@ -78,13 +74,40 @@ void QuickNode::update(Nodes& nodes, const QuickPiece& piece, QQuickWindow& wind
     // Renderers look at a node at once.
     if (isNew) nodes.opacity->appendChildNode(isImage ? static_cast<QSGNode*>(nodes.image) : nodes.rectangle);
     nodes.shown = piece;
+    nodes.isHidden = false;
 }
 
-void QuickNode::show(const std::vector<QuickPiece>& pieces, QQuickWindow& window) {
+/// Taking nodes out of the tree has renderers sort the whole scene again.
+void QuickNode::hide(Nodes& nodes) {
+    // It still uses its texture.
+    if (nodes.image != nullptr) textures_[nodes.shown.image.cacheKey()].lastFrame = frame_;
+    if (nodes.isHidden) return;
+    nodes.isHidden = true;
+    QMatrix4x4 matrix;
+    matrix.translate(hiddenPlace, hiddenPlace);
+    nodes.transform->setMatrix(matrix);
+}
+
+void QuickNode::cover(QQuickWindow& window, QSizeF size) {
+    if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software) return;
+    if (cover_ == nullptr) {
+        cover_ = window.createRectangleNode();
+        cover_->setColor(Qt::transparent);
+    } else {
+        removeChildNode(cover_);
+    }
+    cover_->setRect(QRectF(QPointF(), size));
+    appendChildNode(cover_);
+}
+
+void QuickNode::show(const std::vector<QuickPiece>& pieces, QSizeF size, QQuickWindow& window) {
     ++frame_;
-    removeNodes(pieces.size());
-    nodes_.resize(pieces.size());
+    const bool isLonger = pieces.size() > nodes_.size();
+    if (isLonger) nodes_.resize(pieces.size());
     for (std::size_t i = 0; i < pieces.size(); ++i) update(nodes_[i], pieces[i], window);
+    for (std::size_t i = pieces.size(); i < nodes_.size(); ++i) hide(nodes_[i]);
+    if (isLonger || (cover_ != nullptr && cover_->rect().size() != size)) cover(window, size);
+    if (cover_ != nullptr) cover_->markDirty(DirtyMaterial);
     dropTextures();
 }
 

@@ -28,7 +28,7 @@ class QuickNode final : public QSGNode {
 public:
     ~QuickNode() override;
 
-    void show(const std::vector<QuickPiece>& pieces, QQuickWindow& window);
+    void show(const std::vector<QuickPiece>& pieces, QSizeF size, QQuickWindow& window);
 
     std::size_t textureCount() const { return textures_.size(); }
 
@@ -40,6 +40,7 @@ private:
         QSGImageNode* image = nullptr;         // One of these two.
         QSGRectangleNode* rectangle = nullptr; // The other one is nothing.
         QuickPiece shown;
+        bool isHidden = false;
     };
     struct Texture {
         std::unique_ptr<QSGTexture> texture;
@@ -48,13 +49,21 @@ private:
     void update(Nodes& nodes, const QuickPiece& piece, QQuickWindow& window);
     QSGTexture* textureOf(const QImage& image, QQuickWindow& window);
     void dropTextures();
-    void removeNodes(std::size_t count);
+    void hide(Nodes& nodes);
+    /// Covers everything with a clear rectangle, for the software renderer alone.
+    ///
+    /// It adds up the rectangles of what has changed, and clips each node to the sum. With one
+    /// rectangle around all of them a frame takes three quarters of the time (measured).
+    void cover(QQuickWindow& window, QSizeF size);
 
     // Chosen: the rows that come back when a wheel is turned to and fro.
     static constexpr std::size_t spareTextureCount = 64;
+    // Chosen: beyond every window, and exact as a float.
+    static constexpr float hiddenPlace = -65536;
 
     std::vector<Nodes> nodes_;
     std::unordered_map<qint64, Texture> textures_; // By the images' cache keys.
+    QSGRectangleNode* cover_ = nullptr;            // Owned by the tree.
     std::uint64_t frame_ = 0;
 };
 

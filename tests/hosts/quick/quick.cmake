@@ -1,3 +1,23 @@
+# An application that links the module, and what the module draws with.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Test Widgets)
+set(gui gx_qt_gui)
+if(TARGET gx_qt_gui_static) # A shared library does not export what the scene draws with.
+  set(gui gx_qt_gui_static)
+endif()
+set(folder "${CMAKE_CURRENT_SOURCE_DIR}/hosts/quick")
+set(scene "${PROJECT_SOURCE_DIR}/hosts/quick/Scene")
+add_executable(quick_host_test "${folder}/QuickAccessibleItemTest.cpp" "${folder}/QuickNodeTest.cpp"
+  "${scene}/QuickCanvas.cpp" "${scene}/QuickNode.cpp" support/qt_main.cpp)
+target_include_directories(quick_host_test PRIVATE "${scene}")
+target_link_libraries(quick_host_test PRIVATE gx_test_support ${gui} gx_qt_gui_internal gx::quick Qt6::Quick Qt6::Widgets Qt6::Test)
+add_test(NAME quick_host_test COMMAND quick_host_test)
+set(environment QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "XDG_RUNTIME_DIR=${CMAKE_CURRENT_BINARY_DIR}")
+set(leaks)
+if(GX_SANITIZE) # Qt and the font library keep what they have loaded until the end.
+  set(leaks ASAN_OPTIONS=detect_leaks=0)
+endif()
+set_tests_properties(quick_host_test PROPERTIES ENVIRONMENT "${environment};${leaks}")
+
 # The QML module, in Qt's own test runner: nothing is compiled for it.
 get_target_property(qt_programs Qt6::qmake IMPORTED_LOCATION)
 cmake_path(GET qt_programs PARENT_PATH qt_programs)
@@ -8,8 +28,6 @@ if(NOT GX_QMLTESTRUNNER OR NOT GX_QMLLINT)
   return()
 endif()
 
-set(folder "${CMAKE_CURRENT_SOURCE_DIR}/hosts/quick")
-set(environment QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "XDG_RUNTIME_DIR=${CMAKE_CURRENT_BINARY_DIR}")
 if(NOT GX_SANITIZE) # The runner itself is built without the checks.
   add_test(NAME quick_test COMMAND "${GX_QMLTESTRUNNER}" -import "${PROJECT_BINARY_DIR}/qml" -input "${folder}")
   add_test(NAME quick_installed COMMAND "${CMAKE_COMMAND}" -D "build=${PROJECT_BINARY_DIR}"

@@ -1,0 +1,138 @@
+// The pickers of an application that links the module, as screen readers find them. Nothing tells
+// the engine where the module lies.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <GXUIPickers/QuickPickers.h>
+
+namespace {
+
+class LinkedModule : public testing::Test {
+protected:
+    LinkedModule() {
+        gx::quick::registerPickers();
+        window.resize(640, 480);
+        window.show();
+        window.requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    QQuickItem* made(const char* body) {
+        QQmlComponent component(&engine);
+        component.setData(QByteArray("import QtQuick\nimport GXUIPickers\n") + body, QUrl());
+        shown.reset(qobject_cast<QQuickItem*>(component.create()));
+        EXPECT_TRUE(shown) << component.errorString().toStdString();
+        if (!shown) return nullptr;
+        shown->setParentItem(window.contentItem());
+        window.grabWindow();
+        return shown.get();
+    }
+    static QAccessibleInterface* column(QAccessibleInterface* picker, int index) { return picker->child(index); }
+    static std::string nameOf(QAccessibleInterface* element) { return element->text(QAccessible::Name).toStdString(); }
+    static std::string textOf(QAccessibleInterface* element) { return element->text(QAccessible::Value).toStdString(); }
+
+    QQmlEngine engine;
+    QQuickWindow window;
+    std::unique_ptr<QQuickItem> shown;
+};
+
+constexpr const char* duration = R"(DurationPicker {
+    locale: Qt.locale("en_US")
+    reducedMotion: true
+    type: DurationType.HoursMinutes
+    value: 4500000
+    Accessible.name: "Ride"
+})";
+
+} // namespace
+
+TEST_F(LinkedModule, APickerIsAGroupOfItsColumns) {
+    QAccessibleInterface* const picker = QAccessible::queryAccessibleInterface(made(duration));
+    ASSERT_NE(picker, nullptr);
+    EXPECT_EQ(picker->role(), QAccessible::Grouping);
+    EXPECT_EQ(nameOf(picker), "Ride");
+    ASSERT_EQ(picker->childCount(), 2);
+    QAccessibleInterface* const hours = column(picker, 0);
+    EXPECT_EQ(hours->role(), QAccessible::SpinBox);
+    EXPECT_EQ(nameOf(hours), "Ride, hours");
+    EXPECT_EQ(textOf(hours), "1 hour 15 minutes");
+    EXPECT_TRUE(hours->state().focusable);
+    EXPECT_FALSE(hours->state().disabled);
+    EXPECT_EQ(hours->parent(), picker);
+    EXPECT_EQ(picker->indexOfChild(hours), 0);
+    EXPECT_TRUE(picker->rect().contains(hours->rect()));
+    QAccessibleValueInterface* const value = column(picker, 1)->valueInterface();
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->currentValue().toDouble(), 15);
+    EXPECT_EQ(value->minimumValue().toDouble(), 0);
+    EXPECT_EQ(value->maximumValue().toDouble(), 59);
+    EXPECT_EQ(value->minimumStepSize().toDouble(), 1);
+}
+
+TEST_F(LinkedModule, AColumnIsSetAndSteppedAsByTheUser) {
+    QQuickItem* const item = made(duration);
+    QSignalSpy moved(item, SIGNAL(moved()));
+    QAccessibleInterface* const minutes = column(QAccessible::queryAccessibleInterface(item), 1);
+    minutes->valueInterface()->setCurrentValue(40);
+    window.grabWindow();
+    EXPECT_EQ(item->property("value").toDouble(), 6000000);
+    EXPECT_EQ(textOf(minutes), "1 hour 40 minutes");
+    EXPECT_EQ(moved.count(), 1);
+    minutes->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    window.grabWindow();
+    EXPECT_EQ(item->property("value").toDouble(), 6060000);
+    EXPECT_EQ(moved.count(), 2);
+}
+
+TEST_F(LinkedModule, AColumnTakesTheFocus) {
+    QQuickItem* const item = made(duration);
+    QAccessibleInterface* const picker = QAccessible::queryAccessibleInterface(item);
+    QAccessibleInterface* const minutes = column(picker, 1);
+    EXPECT_EQ(picker->focusChild(), nullptr);
+    minutes->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(item->hasActiveFocus());
+    EXPECT_EQ(picker->focusChild(), minutes);
+    EXPECT_TRUE(minutes->state().focused);
+    EXPECT_FALSE(picker->state().focused);
+}
+
+TEST_F(LinkedModule, ADisabledPickerTakesNothing) {
+    QQuickItem* const item = made(duration);
+    QAccessibleInterface* const minutes = column(QAccessible::queryAccessibleInterface(item), 1);
+    item->setEnabled(false);
+    EXPECT_TRUE(minutes->state().disabled);
+    minutes->valueInterface()->setCurrentValue(40);
+    window.grabWindow();
+    EXPECT_EQ(item->property("value").toDouble(), 4500000);
+}
+
+TEST_F(LinkedModule, ANameMayChange) {
+    QQuickItem* const item = made(R"(DurationPicker {
+        property string title: "Ride"
+        locale: Qt.locale("en_US")
+        type: DurationType.HoursMinutes
+        Accessible.name: title
+    })");
+    QAccessibleInterface* const picker = QAccessible::queryAccessibleInterface(item);
+    EXPECT_EQ(nameOf(column(picker, 0)), "Ride, hours");
+    item->setProperty("title", "Walk");
+    EXPECT_EQ(nameOf(picker), "Walk");
+    EXPECT_EQ(nameOf(column(picker, 0)), "Walk, hours");
+}
+
+TEST_F(LinkedModule, ElementsOfAPickerThatIsGoneAreInvalid) {
+    const QAccessible::Id identifier = QAccessible::uniqueId(column(QAccessible::queryAccessibleInterface(made(duration)), 0));
+    shown.reset();
+    const QAccessibleInterface* const left = QAccessible::accessibleInterface(identifier);
+    EXPECT_TRUE(left == nullptr || !left->isValid());
+}
