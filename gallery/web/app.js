@@ -37,11 +37,29 @@ async function showLanguage(language) {
     one('#file').ariaLabel = text('Open a workout');
 }
 
+/** A new element with these properties, and what is in it. */
+const make = (name, properties = {}, ...content) => {
+    const element = Object.assign(document.createElement(name), properties);
+    element.append(...content);
+    return element;
+};
+const named = (english) => {
+    const span = make('span');
+    span.dataset.text = english;
+    return span;
+};
+
 // The workout: each row is a picker, which knows its value, its limits and how it is written.
 const picker = (row) => row.lastElementChild;
-const rows = all('details');
-const icons = all('gx-weather-and-temperature-picker img');
-const weathers = icons.map((icon) => icon.src.split('#')[1]);
+const rows = all('[data-row]').map((element, i) => {
+    const row = make('details', { name: 'row', open: i === 0 });
+    element.replaceWith(row);
+    row.append(make('summary', {}, named(element.dataset.row), make('span', { className: 'value' })), element);
+    return row;
+});
+const weathers = 'clear partly-cloudy cloudy overcast fog drizzle rain showers thunderstorm sleet snow wind'.split(' ');
+const icons = weathers.map((name) => make('img', { width: 48, height: 48, src: `weather.svg#${name}`, alt: name.replace('-', ' ') }));
+one('gx-weather-and-temperature-picker').append(...icons);
 const format = { format: 'GXUIPickers workout', version: 1 };
 
 /** [name in a file, its element, its property] of each number. */
@@ -67,23 +85,15 @@ function showWorkout({ format: kind, version, workout: values }) {
         if (name !== 'weather' && typeof values[name] !== 'number') throw text('The file has no number for: {0}.', name);
     for (const [name, element, property] of numbers)
         element[property] = name === 'weather' ? weathers.indexOf(values.weather) : values[name];
-    showValues();
 }
 
-function showValues() {
-    for (const row of rows) {
-        const value = one('.value', row);
-        if (value.textContent !== picker(row).valueText) value.textContent = picker(row).valueText;
-    }
+// A picker tells when its text is another: by the user, a unit, or a language that has arrived.
+for (const row of rows) {
+    const show = () => (one('.value', row).textContent = picker(row).valueText);
+    picker(row).addEventListener('gx-text', show);
+    show();
 }
-// The module, a language and the names of icons may come late.
-setInterval(showValues, 250);
-
-one('.rows').addEventListener('input', showValues);
-one('.rows').addEventListener('change', () => {
-    showValues();
-    keep('workout', { ...format, workout: workout() });
-});
+one('.rows').addEventListener('change', () => keep('workout', { ...format, workout: workout() }));
 
 // In the wide layout one row is always open.
 const isWide = () => getComputedStyle(one('nav strong')).display !== 'none';
@@ -97,7 +107,7 @@ one('#save').addEventListener('click', () => {
     const url = URL.createObjectURL(
         new Blob([`${JSON.stringify({ ...format, workout: workout() }, null, 2)}\n`], { type: 'application/json' }),
     );
-    Object.assign(document.createElement('a'), { href: url, download: 'workout.json' }).click();
+    make('a', { href: url, download: 'workout.json' }).click();
     setTimeout(() => URL.revokeObjectURL(url), 60_000);
     one('#status').value = text('Saved: {0}', 'workout.json');
 });
@@ -132,7 +142,26 @@ function click() {
     sound.stop(audio.currentTime + 0.02);
 }
 
+/** [the question, its name, its replies by their values]; the first one holds. */
+const questions = [
+    ['Units', 'unit', { metric: 'Metric', imperial: 'Imperial' }],
+    ['Weight', 'weight', { kg: 'Kilograms', lb: 'Pounds', st: 'Stones' }],
+    ['Look', 'look', { 'light dark': 'System', light: 'Light', dark: 'Dark' }],
+    ['Wheel clicks', 'clicks', { off: 'Off', on: 'On' }],
+];
 const choices = one('#choices');
+choices.prepend(
+    ...questions.map(([question, name, replies]) =>
+        make(
+            'fieldset',
+            {},
+            make('legend', {}, named(question)),
+            ...Object.entries(replies).map(([value, reply], i) =>
+                make('label', {}, make('input', { type: 'radio', name, value, checked: i === 0 }), named(reply)),
+            ),
+        ),
+    ),
+);
 for (const code of languages) choices.language.add(new Option(new Intl.DisplayNames(code, { type: 'language' }).of(code), code));
 for (const element of rows.map(picker)) element.addEventListener('gx-tick', click);
 
@@ -145,7 +174,6 @@ async function applySettings() {
         element.toggleAttribute('ticks', clicks === 'on');
     }
     if (language !== document.documentElement.lang || !texts[language]) await showLanguage(language);
-    showValues();
 }
 choices.addEventListener('input', () => {
     keep('settings', Object.fromEntries(new FormData(choices)));
@@ -160,18 +188,13 @@ for (const { tagName } of declarations) bench.add(new Option(tagName));
 
 function controlOf({ type }) {
     const words = [...type.text.matchAll(/'([^']+)'/g)].map(([, word]) => word);
-    if (words.length > 0) {
-        const select = document.createElement('select');
-        select.append(...['', ...words].map((word) => new Option(word)));
-        return select;
-    }
-    return Object.assign(document.createElement('input'), type.text === 'boolean' ? { type: 'checkbox' } : { type: 'number', step: 'any' });
+    if (words.length > 0) return make('select', {}, ...['', ...words].map((word) => new Option(word)));
+    return make('input', type.text === 'boolean' ? { type: 'checkbox' } : { type: 'number', step: 'any' });
 }
 
 function showElement() {
     const { tagName, description, attributes } = declarations.find((each) => each.tagName === bench.value);
-    const shown = document.createElement(tagName);
-    shown.ariaLabel = tagName;
+    const shown = make(tagName, { ariaLabel: tagName });
     if (/icon|weather/.test(tagName)) shown.append(...icons.map((icon) => icon.cloneNode()));
     if (tagName === 'gx-wheel')
         shown.columns = [
@@ -189,14 +212,12 @@ function showElement() {
         );
         const texts =
             tagName === 'gx-wheel' ? [`rows = ${shown.rows}`] : values.map(({ fieldName }) => `${fieldName} = ${shown[fieldName]}`);
-        const line = Object.assign(document.createElement('li'), { textContent: `${event.type}: ${texts.join(', ')}` });
+        const line = make('li', { textContent: `${event.type}: ${texts.join(', ')}` });
         one('#log').prepend(line);
         for (const old of all('#log li').slice(50)) old.remove();
     };
     for (const type of ['input', 'change', 'gx-tick']) shown.addEventListener(type, note);
-    one('#log').replaceChildren(
-        Object.assign(document.createElement('li'), { textContent: text('Nothing yet: turn the wheel.'), dir: 'auto' }),
-    );
+    one('#log').replaceChildren(make('li', { textContent: text('Nothing yet: turn the wheel.'), dir: 'auto' }));
 
     const showMarkup = () => {
         const shell = shown.cloneNode();
@@ -206,7 +227,6 @@ function showElement() {
     const controls = attributes
         .filter(({ name }) => !['name', 'lang', 'aria-label'].includes(name))
         .map((attribute) => {
-            const line = document.createElement('label');
             const control = controlOf(attribute);
             control.addEventListener('input', () => {
                 if (control.type === 'checkbox') shown.toggleAttribute(attribute.name, control.checked);
@@ -214,17 +234,10 @@ function showElement() {
                 else shown.setAttribute(attribute.name, control.value);
                 showMarkup();
             });
-            line.append(
-                Object.assign(document.createElement('code'), { textContent: attribute.name }),
-                control,
-                Object.assign(document.createElement('small'), { textContent: attribute.description.replaceAll('`', '') }),
-            );
-            return line;
+            const about = make('small', {}, attribute.description.replaceAll('`', ''));
+            return make('label', {}, make('code', {}, attribute.name), control, about);
         });
-    one('#attributes').replaceChildren(
-        Object.assign(document.createElement('p'), { textContent: description.replaceAll('`', '') }),
-        ...controls,
-    );
+    one('#attributes').replaceChildren(make('p', {}, description.replaceAll('`', '')), ...controls);
     one('#place').replaceChildren(shown);
     showMarkup();
 }

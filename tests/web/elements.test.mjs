@@ -297,3 +297,28 @@ test('in steady motion no element is made or removed, and only what moves is wri
     assert.equal(await page.evaluate(() => document.querySelector('gx-bpm-picker').value), 178);
     await close();
 });
+
+test('each new text of a value is told once, whatever it comes from', async () => {
+    const { page, logs, close } = await stage.open('<gx-distance-picker value="5300"></gx-distance-picker>');
+    await untilColumns(page, 'gx-distance-picker');
+    const texts = await page.evaluate(async () => {
+        const picker = document.querySelector('gx-distance-picker');
+        const seen = [];
+        const next = (work) =>
+            new Promise((resolve) => {
+                picker.addEventListener('gx-text', () => resolve(seen.push(picker.valueText)), { once: true });
+                work();
+            });
+        await next(() => (picker.value = 6400));
+        await next(() => (picker.unit = 'imperial'));
+        await next(() => (picker.lang = 'de'));
+        let more = 0;
+        picker.addEventListener('gx-text', () => (more += 1));
+        picker.max = 90_000;
+        await new Promise((resolve) => setTimeout(resolve, 200));
+        return [...seen, more];
+    });
+    assert.deepEqual(texts, ['6.4 km', '3.9 mi', '3,9 mi', 0]);
+    assertQuiet(logs);
+    await close();
+});

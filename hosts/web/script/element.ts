@@ -37,6 +37,7 @@ const tickVibration = 5;
  * @fires {Event} input - Rows have passed while the user turns; at most once a frame.
  * @fires {Event} change - The user has come to rest on other values.
  * @fires {CustomEvent} gx-tick - A row has passed. Needs the attribute `ticks`; does not bubble.
+ * @fires {CustomEvent} gx-text - `valueText` is another, for whatever reason; does not bubble.
  *
  * @slot - Shown while there is no picker, such as an `<input type="number">`; and icons.
  *
@@ -149,6 +150,7 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         const owner = {
             didPassRows: (count: number) => this.didPassRows(count),
             didChange: () => this.didChange(),
+            didChangeText: () => void this.dispatchEvent(new CustomEvent('gx-text')),
             didFail: (reason: unknown) => this.didFail(reason),
             didLoseModule: () => this.didLoseModule(),
             rowTitle: (column: number, row: number) => this.rowTitle(column, row),

@@ -238,5 +238,6 @@ declare global {
     }
     interface HTMLElementEventMap {
         'gx-tick': CustomEvent<null>;
+        'gx-text': CustomEvent<null>;
     }
 }

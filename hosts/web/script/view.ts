@@ -13,6 +13,8 @@ export interface ViewOwner {
     didPassRows(count: number): void;
     /** The user has selected something. */
     didChange(): void;
+    /** The value is written in another way than it was. */
+    didChangeText(): void;
     /** The module has trapped; the view shows nothing any more. */
     didFail(reason: unknown): void;
     /** Another view's call has failed; this one shows nothing any more and may be opened again. */
@@ -42,6 +44,7 @@ export class View implements Client {
     private isClosed = false;
     private isWaking = false;
     private lastTick = 0;
+    private toldText = '';
     private traits: Traits | undefined;
 
     constructor(
@@ -282,6 +285,10 @@ export class View implements Client {
         if (this.isClosed || !traits) return;
         this.areColumnsOld = false;
         this.read(() => this.columns.update(traits), undefined);
+        const text = this.valueText;
+        if (text === this.toldText) return;
+        this.toldText = text;
+        this.owner.didChangeText();
     }
 
     /** Ends every movement at once; what the user has turned is reported. */

@@ -5,7 +5,7 @@ import type { ElementName, ElementOf, ElementProps } from './props.js';
 type ElementsInReact = {
     [Name in ElementName]: ClassAttributes<ElementOf<Name>> &
         Omit<HTMLAttributes<ElementOf<Name>>, keyof ElementProps<Name>> &
-        ElementProps<Name> & { 'ongx-tick'?: (event: CustomEvent) => void };
+        ElementProps<Name> & { 'ongx-tick'?: (event: CustomEvent) => void; 'ongx-text'?: (event: CustomEvent) => void };
 };
 
 declare module 'react' {
