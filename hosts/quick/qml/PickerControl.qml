@@ -22,6 +22,8 @@ T.Control {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     contentItem: wheel
     focusPolicy: Qt.StrongFocus
+    // A wheel is turned by a wheel, unlike other controls, unless an application says otherwise.
+    wheelEnabled: true
     font.pixelSize: 22
     Accessible.role: Accessible.Grouping
 }

@@ -71,6 +71,22 @@ Rectangle {
             verify(found)
         }
 
+        function test_aDarkWindowHasALightIndicator() {
+            // Beside the texts, between the rows of the indicator and outside of it.
+            waitForRendering(picker)
+            const light = grabImage(picker)
+            const lightInside = light.red(20, 108)
+            root.color = "black"
+            picker.palette.window = "black"
+            picker.palette.windowText = "white"
+            waitForRendering(picker)
+            const dark = grabImage(picker)
+            verify(lightInside < 255, "darker than a white window")
+            verify(dark.red(20, 108) > 0, "lighter than a black window")
+            verify(dark.red(20, 108) < lightInside)
+            root.color = Qt.binding(() => root.palette.window)
+        }
+
         function test_labelsChangeSidesFromRightToLeft() {
             outer.LayoutMirroring.enabled = true
             verify(picker.mirrored)
