@@ -142,22 +142,22 @@ function click() {
     sound.stop(audio.currentTime + 0.02);
 }
 
-/** [the question, its name, its replies by their values]; the first one holds. */
-const questions = [
+/** [a setting's text, its name, the texts of its values]; the first one holds at the start. */
+const settings = [
     ['Units', 'unit', { metric: 'Metric', imperial: 'Imperial' }],
     ['Weight', 'weight', { kg: 'Kilograms', lb: 'Pounds', st: 'Stones' }],
     ['Look', 'look', { 'light dark': 'System', light: 'Light', dark: 'Dark' }],
-    ['Wheel clicks', 'clicks', { off: 'Off', on: 'On' }],
+    ['Wheel clicks', 'clicks', { on: 'On', off: 'Off' }],
 ];
 const choices = one('#choices');
 choices.prepend(
-    ...questions.map(([question, name, replies]) =>
+    ...settings.map(([title, name, values]) =>
         make(
             'fieldset',
             {},
-            make('legend', {}, named(question)),
-            ...Object.entries(replies).map(([value, reply], i) =>
-                make('label', {}, make('input', { type: 'radio', name, value, checked: i === 0 }), named(reply)),
+            make('legend', {}, named(title)),
+            ...Object.entries(values).map(([value, label], i) =>
+                make('label', {}, make('input', { type: 'radio', name, value, checked: i === 0 }), named(label)),
             ),
         ),
     ),
@@ -259,7 +259,8 @@ addEventListener('hashchange', showPage);
 
 // The start: what was kept, or the browser's language.
 const wanted = navigator.languages.map((tag) => languages.find((code) => code.split('-')[0] === tag.split('-')[0]));
-for (const [name, value] of Object.entries({ language: wanted.find(Boolean) ?? 'en', ...kept('settings') })) choices[name].value = value;
+for (const [name, value] of Object.entries({ language: wanted.find(Boolean) ?? 'en', clicks: 'off', ...kept('settings') }))
+    choices[name].value = value;
 await applySettings();
 try {
     showWorkout(kept('workout'));
