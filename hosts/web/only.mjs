@@ -2,7 +2,7 @@
 // A test: tests/web/only.test.mjs.
 
 /** A line that names an element, such as `'gx-wheel': Wheel,` or `'gx-wheel': Wheel;`. */
-const elementLine = /^ +(?:readonly )?'(gx-[\w-]+)': (?:typeof )?(\w+)[,;]$/;
+const elementLine = /^ +(?:readonly )?'(gx-(?:[\w-]+-picker|wheel))': (?:typeof )?(\w+)[,;]$/;
 
 /** The name of an element's class, by the list of `pickers.ts`. */
 function classOf(script, element) {

@@ -23,7 +23,7 @@ test('an element may be named in three ways', () => {
 
 test('one element is left in the script, and one class is exported', () => {
     const script = scriptOfOne(pickers, 'gx-pace-picker');
-    assert.deepEqual([...new Set(script.match(/(?<=')gx-[\w-]+(?=': \w+[,;]$)/gm))], ['gx-pace-picker']);
+    assert.deepEqual([...new Set(script.match(/(?<=')gx-(?:[\w-]+-picker|wheel)(?=': \w+[,;]$)/gm))], ['gx-pace-picker']);
     assert.deepEqual(script.match(/(?<=^export class )\w+/gm), ['PacePicker']);
     assert.doesNotMatch(script, /^export \{/m);
     assert.match(scriptOfOne(pickers, 'gx-wheel'), /^export \{ Wheel, /m);

@@ -1,11 +1,10 @@
-import { FormElement } from './forms.js';
 import { loadedModule, whenLoaded } from './module.js';
-import { Options } from './options.js';
 import { forgetPage, isHighContrast, observePage, reducesMotion, type PageObserver } from './page.js';
-import { Kind, optionsOf, propertyName, type Option } from './properties.js';
+import { Kind } from './properties.js';
 import { adoptStyle } from './style.js';
 import { Surface } from './surface.js';
 import { Surroundings } from './surroundings.js';
+import { ValueElement } from './values.js';
 import { View } from './view.js';
 
 /**
@@ -56,27 +55,16 @@ const tickVibration = 5;
  * @cssprop --gx-indicator-radius - How round that bar is.
  * @cssprop --gx-focus-color - The colour of the mark of the focus.
  */
-export abstract class PickerElement extends FormElement implements PageObserver {
-    static readonly kind: Kind = Kind.Number;
-
-    static get observedAttributes(): string[] {
-        const own = ['disabled', 'readonly', 'required', 'name', 'lang', 'dir', 'aria-label', 'aria-labelledby'];
-        return [...own, ...optionsOf[this.kind].map((option) => option.attribute)];
-    }
-
-    private readonly options: Options;
+export abstract class PickerElement extends ValueElement implements PageObserver {
     private readonly surface: Surface;
     private readonly shadow: ShadowRoot;
     private readonly surroundings: Surroundings;
-    /** What `change` compares with. */
-    private shownNumbers: readonly number[] = [];
     private stopWaiting: (() => void) | undefined;
     private traitsKey = '';
     private hasAwaitedLanguage = false;
 
     constructor() {
         super();
-        this.options = new Options(this, this.kind);
         this.shadow = this.attachShadow({ mode: 'open', delegatesFocus: true });
         adoptStyle(this.shadow);
         this.surface = new Surface();
@@ -86,12 +74,13 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         this.addEventListener('focusin', () => this.labelDidChange());
     }
 
-    private get kind(): Kind {
-        return (this.constructor as typeof PickerElement).kind;
+    protected override get shown(): HTMLElement {
+        return this.surface.root;
     }
 
-    protected get view(): View | undefined {
-        return this.options.view;
+    /** The value as it is shown, such as "5.3 km". */
+    get valueText(): string {
+        return this.view?.valueText ?? '';
     }
 
     // The life of an element
@@ -121,21 +110,6 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         adoptStyle(this.shadow);
     }
 
-    /** Properties that were set before the element was defined hide its accessors. */
-    private takeOverProperties(): void {
-        for (const name of ['disabled', 'readOnly', 'required', 'name', ...this.ownPropertyNames()]) {
-            if (!Object.hasOwn(this, name)) continue;
-            const self = this as unknown as Record<string, unknown>;
-            const value = self[name];
-            Reflect.deleteProperty(self, name);
-            self[name] = value;
-        }
-    }
-
-    protected ownPropertyNames(): string[] {
-        return this.options.all.map((option) => propertyName(option.attribute));
-    }
-
     private open(): void {
         const module = loadedModule();
         if (!module || this.view || !this.isConnected) return;
@@ -159,6 +133,12 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         const view = new View(module, owner, this.surface, this.shadow as unknown as HTMLElement);
         const { name, isRightToLeft } = this.surroundings.language;
         if (!view.open(this.kind, this.surroundings.fonts, name, isRightToLeft)) return;
+        this.begin(view);
+        // It is in English meanwhile.
+        void loading?.then(() => this.surroundings.languageDidArrive());
+    }
+
+    private begin(view: View): void {
         this.options.view = view;
         this.surface.root.classList.add('isReady');
         this.didOpen(view);
@@ -169,8 +149,6 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         this.surroundings.follow(view);
         this.didSet();
         view.showNow();
-        // It is in English meanwhile.
-        void loading?.then(() => this.surroundings.languageDidArrive());
     }
 
     /** For what a picker needs besides its options. */
@@ -214,88 +192,6 @@ export abstract class PickerElement extends FormElement implements PageObserver 
         if (isFocused) this.focus({ preventScroll: true });
     }
 
-    // Options
-
-    attributeChangedCallback(name: string): void {
-        switch (name) {
-            case 'lang':
-            case 'dir':
-            case 'aria-label':
-            case 'aria-labelledby':
-                this.refresh();
-                break;
-            default: {
-                const option = this.options.all.find((known) => known.attribute === name);
-                if (option) this.options.takeAttribute(option);
-                this.didSet();
-            }
-        }
-    }
-
-    /** What the accessors of a property end in. */
-    protected getOption(option: Option): number | string | boolean {
-        return this.options.getProperty(option);
-    }
-
-    protected setOption(option: Option, value: unknown): void {
-        this.options.setProperty(option, value);
-        this.didSet();
-    }
-
-    /** The page has set something: values may be others, which is no change of the user's. */
-    protected didSet(): void {
-        if (!this.view) return;
-        this.shownNumbers = this.usersNumbers();
-        this.tellForm();
-        this.view.changed();
-    }
-
-    /** The value as it is shown, such as "5.3 km". */
-    get valueText(): string {
-        return this.view?.valueText ?? '';
-    }
-
-    // What the user has chosen
-
-    /** Everything that the user can change, in its order. */
-    protected usersNumbers(): number[] {
-        return this.options.usersNumbers();
-    }
-
-    protected setUsersNumbers(numbers: readonly unknown[]): void {
-        this.options.setUsersNumbers(numbers);
-    }
-
-    protected keepChoice(): void {
-        this.options.keepChoice();
-    }
-
-    /** The entries in a form's data, each with what follows the name. */
-    protected formEntries(): (readonly [string, number])[] {
-        const { values } = this.options;
-        return values.map((option) => [values.length > 1 ? `-${option.attribute}` : '', this.options.read(option)] as const);
-    }
-
-    private tellForm(): void {
-        this.setForm(this.formEntries(), JSON.stringify(this.usersNumbers()));
-        const isMissing =
-            this.required && this.kind === Kind.HeartRate && this.options.values.some((option) => this.options.read(option) === 0);
-        this.setMissing(isMissing, this.surface.root);
-        this.traitsDidChange();
-    }
-
-    formResetCallback(): void {
-        for (const option of this.options.users) this.options.takeAttribute(option);
-        this.didSet();
-    }
-
-    formStateRestoreCallback(state: string | File | FormData | null): void {
-        if (typeof state !== 'string') return;
-        const numbers: unknown = JSON.parse(state);
-        if (Array.isArray(numbers)) this.setUsersNumbers(numbers);
-        this.didSet();
-    }
-
     // Events
 
     private didPassRows(count: number): void {
@@ -307,11 +203,7 @@ export abstract class PickerElement extends FormElement implements PageObserver 
     }
 
     private didChange(): void {
-        const before = this.shownNumbers;
-        this.keepChoice();
-        this.didSet();
-        if (this.shownNumbers.length === before.length && this.shownNumbers.every((number, i) => Object.is(number, before[i]))) return;
-        this.dispatchEvent(new Event('change', { bubbles: true }));
+        if (this.takeUsersChange()) this.dispatchEvent(new Event('change', { bubbles: true }));
     }
 
     override focus(options?: FocusOptions): void {
