@@ -1,0 +1,64 @@
+#!/usr/bin/env python3
+"""Every block of code in the guide and the README is one that a test compiles or runs: check_blocks.py
+
+- In a chapter with an example: the example and what it prints, which `check_example.cmake` compares.
+- In the guide's overview: the CMake project, which `check_cmake.cmake` configures.
+- In the README: its program and what that prints, which the consumer's tests build; commands, each of
+  which is a script that CI runs; and the page's element, which the tests in the browser have.
+
+Prints each block that is none of these and exits with 1 if there is one.
+"""
+
+import os
+import re
+import sys
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+COMMANDS = {"./run", "./test"}
+
+
+def read(name):
+    with open(os.path.join(ROOT, name), encoding="utf-8") as file:
+        return file.read()
+
+
+def blocks_of(text):
+    return re.findall(r"^```(\w*)\n(.*?)^```$", text, re.M | re.S)
+
+
+def examples():
+    """The source of each chapter's example."""
+    found = re.findall(r"gx_add_example\((\w+) ([\w-]+)", read("tests/docs/CMakeLists.txt"))
+    return {chapter: read(f"docs/examples/{name}.cpp") for name, chapter in found}
+
+
+def is_known(name, language, block, example, first_of):
+    if name == "README.md":
+        if language == "" and "└─►" in block:
+            return True  # A drawing of the folders.
+        if language == "sh":
+            return all(line.split()[0] in COMMANDS for line in block.splitlines() if line.strip())
+        return language in ("cpp", "text", "html") and first_of[language]
+    if name == "docs/guide/README.md":
+        return language == "cmake" and first_of[language]
+    return example is not None and ((language == "cpp" and block == example) or (language == "text" and first_of[language]))
+
+
+def main():
+    known = examples()
+    findings = []
+    chapters = sorted(name for name in os.listdir(os.path.join(ROOT, "docs/guide")) if name.endswith(".md"))
+    for name in ["README.md"] + [f"docs/guide/{chapter}" for chapter in chapters]:
+        example = known.get(os.path.basename(name)[:-len(".md")])
+        first_of = {}
+        for language, block in blocks_of(read(name)):
+            first_of[language] = language not in first_of
+            if not is_known(name, language, block, example, first_of):
+                findings.append(f"{name}: no test knows this block of {language or 'text'}: {block.strip().splitlines()[0]}")
+    for finding in findings:
+        print(finding)
+    if not known or findings:
+        sys.exit(f"{len(findings)} findings, {len(known)} examples")
+
+
+main()
