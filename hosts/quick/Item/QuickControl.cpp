@@ -19,8 +19,6 @@ namespace {
 constexpr std::array<const char*, 7> followedProperties = {"font",    "locale",       "mirrored",     "palette",
                                                            "enabled", "highContrast", "reducedMotion"};
 
-QQmlProperty nameOf(QQuickItem& control) { return {&control, QStringLiteral("Accessible.name"), qmlContext(&control)}; }
-
 double pixelSizeOf(const QFont& font) { return font.pixelSize() > 0 ? font.pixelSize() : QFontInfo(font).pixelSize(); }
 
 } // namespace
@@ -31,6 +29,7 @@ void QuickControl::set(QQuickItem* control, QObject& receiver, const QMetaMethod
         control_->removeEventFilter(&receiver);
     }
     control_ = control;
+    name_ = QQmlProperty();
     if (!control_) return;
     control_->installEventFilter(&receiver);
     const QMetaObject& its = *control_->metaObject();
@@ -38,7 +37,8 @@ void QuickControl::set(QQuickItem* control, QObject& receiver, const QMetaMethod
         const QMetaProperty property = its.property(its.indexOfProperty(name));
         if (property.hasNotifySignal()) QObject::connect(control_, property.notifySignal(), &receiver, slot);
     }
-    nameOf(*control_).connectNotifySignal(&receiver, slot.methodIndex());
+    name_ = QQmlProperty(control_, QStringLiteral("Accessible.name"), qmlContext(control_));
+    name_.connectNotifySignal(&receiver, slot.methodIndex());
 }
 
 bool QuickControl::flag(const char* name, bool otherwise) const {
@@ -83,10 +83,7 @@ bool QuickControl::takesFocusByPress() const {
     return control_ != nullptr && (control_->property("focusPolicy").toInt() & Qt::ClickFocus) == Qt::ClickFocus;
 }
 
-QString QuickControl::accessibleName() const {
-    if (!control_) return {};
-    return nameOf(*control_).read().toString();
-}
+QString QuickControl::accessibleName() const { return control_ ? name_.read().toString() : QString(); }
 
 void QuickControl::notifyMoved() const {
     if (control_) QMetaObject::invokeMethod(control_, "moved", Qt::DirectConnection);

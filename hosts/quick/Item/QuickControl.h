@@ -5,6 +5,7 @@
 #include <QLocale>
 #include <QMetaMethod>
 #include <QPointer>
+#include <QQmlProperty>
 #include <QQuickItem>
 
 #include "QuickStyleSheet.h"
@@ -42,6 +43,8 @@ private:
     QFont font() const;
 
     QPointer<QQuickItem> control_;
+    // Looked up once: while a document is taken down, its names cannot be resolved any more.
+    QQmlProperty name_;
 };
 
 } // namespace gx::quick

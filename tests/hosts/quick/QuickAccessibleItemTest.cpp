@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <QAccessible>
+#include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -135,4 +136,15 @@ TEST_F(LinkedModule, ElementsOfAPickerThatIsGoneAreInvalid) {
     shown.reset();
     const QAccessibleInterface* const left = QAccessible::accessibleInterface(identifier);
     EXPECT_TRUE(left == nullptr || !left->isValid());
+}
+
+// Its controls change their looks while they are taken down.
+TEST(LinkedExample, IsTakenDownWithItsEngine) {
+    gx::quick::registerPickers();
+    const auto engine = std::make_unique<QQmlApplicationEngine>();
+    engine->load(QUrl::fromLocalFile(QStringLiteral(GX_EXAMPLE_FOLDER "/AddWorkout.qml")));
+    ASSERT_EQ(engine->rootObjects().size(), 1);
+    auto* const window = qobject_cast<QQuickWindow*>(engine->rootObjects().constFirst());
+    ASSERT_NE(window, nullptr);
+    EXPECT_FALSE(window->grabWindow().isNull());
 }

@@ -9,6 +9,7 @@ set(scene "${PROJECT_SOURCE_DIR}/hosts/quick/Scene")
 add_executable(quick_host_test "${folder}/QuickAccessibleItemTest.cpp" "${folder}/QuickNodeTest.cpp"
   "${scene}/QuickCanvas.cpp" "${scene}/QuickNode.cpp" support/qt_main.cpp)
 target_include_directories(quick_host_test PRIVATE "${scene}")
+target_compile_definitions(quick_host_test PRIVATE GX_EXAMPLE_FOLDER="${PROJECT_SOURCE_DIR}/docs/examples/quick")
 target_link_libraries(quick_host_test PRIVATE gx_test_support ${gui} gx_qt_gui_internal gx::quick Qt6::Quick Qt6::Widgets Qt6::Test)
 add_test(NAME quick_host_test COMMAND quick_host_test)
 set(environment QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "XDG_RUNTIME_DIR=${CMAKE_CURRENT_BINARY_DIR}")
