@@ -3,7 +3,7 @@
 #
 # - Each part has a file of targets of its own, so that packages may hold some of them.
 # - Install components group parts that lie in one package: runtime and development (floors 1 to 3),
-#   qt and qt_development, quick and quick_development, gallery.
+#   qt and qt_development, quick and quick_development, qml, gallery.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 

@@ -9,6 +9,7 @@ option(GX_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVE
 option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(BUILD_SHARED_LIBS "Build shared libraries instead of static ones" OFF)
 option(GX_LANGUAGES_ON_DEMAND "Compile English alone in; other languages are added as data" OFF)
+option(GX_PACKAGES "Make packages of this build by cpack, the gallery among them" OFF)
 option(GX_BARE "Build without RTTI and exceptions; code that uses the library is compiled so too" OFF)
 
 # For those who work on the library. The presets dev, sanitize, ci and fuzz turn them on; a plain
@@ -17,6 +18,7 @@ option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" OFF)
 option(GX_PRECOMPILE_HEADERS "Precompile what most sources include" OFF)
 option(GX_ROOMS_AS_UNITS "Compile each folder as one unit" OFF)
 option(GX_LIBRARIES_AS_UNITS "With GX_ROOMS_AS_UNITS, compile each library as one unit" OFF)
+option(GX_DESCRIBE_TYPES "Describe the types of libraries for scripts/abi" OFF)
 option(GX_SANITIZE "Check addresses and undefined behaviour at run time" OFF)
 option(GX_BUILD_FUZZERS "Build everything for libFuzzer, with checks, and the fuzz targets (needs clang)" OFF)
 

@@ -106,6 +106,7 @@ int main(int argc, char** argv) {
     }
 
     QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName("org.gxuipickers.Gallery"); // Names the icon.
     qt::installQtHost(application);
     if (!loadFonts()) return CannotStart;
     if (arguments->recordingToPlay) return replay(*arguments);

@@ -3,6 +3,8 @@
 
 - In a chapter with an example: the example and what it prints, which `check_example.cmake` compares.
 - In the guide's overview: the CMake project, which `check_cmake.cmake` configures.
+- In the chapter about installing: project and commands, which `check_installing.cmake` runs, and the
+  packages, which `scripts/packages try` installs.
 - In the README: its program and what that prints, which the consumer's tests build; commands, each of
   which is a script that CI runs; and the page's element, which the tests in the browser have.
 
@@ -15,6 +17,7 @@ import sys
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 COMMANDS = {"./run", "./test"}
+INSTALLING = ("scripts/packages build", "cmake -S . -B build/install ", "c++ -std=c++20 main.cpp ")
 
 
 def read(name):
@@ -41,6 +44,8 @@ def is_known(name, language, block, example, first_of):
         return language in ("cpp", "text", "html") and first_of[language]
     if name == "docs/guide/README.md":
         return language == "cmake" and first_of[language]
+    if name == "docs/guide/installing.md":
+        return language == "cmake" and first_of[language] or language == "sh" and block.startswith(INSTALLING)
     return example is not None and ((language == "cpp" and block == example) or (language == "text" and first_of[language]))
 
 

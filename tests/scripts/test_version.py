@@ -41,7 +41,7 @@ class Version(unittest.TestCase):
     def test_documents_name_no_other(self):
         names = [ROOT / "README.md", *sorted((ROOT / "docs").rglob("*.md"))]
         for name in names:
-            for found in re.findall(r"(?:gxuipickers[\w.-]*_|GXUIPickers )(\d+\.\d+(?:\.\d+)?)", name.read_text()):
+            for found in re.findall(r"(?:libgxuipickers(?:-\w+)?|GXUIPickers )(\d+\.\d+(?:\.\d+)?)", name.read_text()):
                 self.assertTrue(VERSION == found or VERSION.startswith(found + "."), f"{name} names {found}")
 
 
