@@ -8,9 +8,9 @@ import { transformOf, type Draw, type Surface } from './surface.js';
  */
 const frameTimes = { fast: 1 / 60, slow: 1 / 30 };
 /** Chosen: fewer are not worth it, and more make a long task. */
-const frameCounts = { least: 16, most: 66 };
+const frameCounts = { least: 16, most: 36 };
 /** Chosen for the same reason; half of it are in sight at the start. */
-const mostTracks = 48;
+const mostTracks = 40;
 /** In frames: how long before the end of its last frame the compositor gets more. */
 const reserve = 6;
 /** In seconds. Chosen: longer than between two events of a hand that moves. */
