@@ -113,6 +113,28 @@ void QtAccessibleView::announceChanges(Sender send) {
     if (object && !isFocusAnnounced) announceFocus(send);
 }
 
+void QtAccessibleView::announceChangesOfFrame(bool draws, std::uint64_t stepCount) {
+    hasNewFrame_ |= draws;
+    if (!hasNewFrame_) return;
+    const QPointer<QObject> object = surface_->object();
+    const std::shared_ptr<UIAccessibilityChanges> changes = changes_;
+    const double time = clock_();
+    const double waited = time - lastLook_; // Negative after a change of the clock.
+    const bool isNeeded = !draws || isLookRequested_ || stepCount != stepCount_ || waited < 0 || waited >= longestWait;
+    const bool hasColumnChanged = !isNeeded && changes->hasColumnChanged();
+    if (!object || (!isNeeded && !hasColumnChanged)) return; // A view may have dropped this.
+    hasNewFrame_ = false;
+    isLookRequested_ = false;
+    stepCount_ = stepCount;
+    lastLook_ = time;
+    announceChanges(hasFrameSender() ? frameSender() : &QAccessible::updateAccessibility);
+}
+
+QtAccessibleView::Sender& QtAccessibleView::frameSender() {
+    static Sender sender = nullptr;
+    return sender;
+}
+
 void QtAccessibleView::announce(const UIAccessibilityChanges::Change& change, Sender send) {
     using Kind = UIAccessibilityChanges::Change::Kind;
     const QPointer<QObject> object = surface_->object();
@@ -173,6 +195,7 @@ void QtAccessibleView::announceFocus(Sender send) {
 
 void QtAccessibleView::forgetFocus() {
     focused_ = nullptr;
+    lookAfterNextFrame();
     if (const Ref<UIWindow> window = window_.lock()) window->requestFrame();
 }
 
@@ -180,7 +203,8 @@ namespace {
 
 /// Nothing for other objects, and while no screen reader runs.
 QtAccessibleView* activeViewOf(QObject& object) {
-    return QAccessible::isActive() ? dynamic_cast<QtAccessibleView*>(QAccessible::queryAccessibleInterface(&object)) : nullptr;
+    const bool isActive = QAccessible::isActive() || QtAccessibleView::hasFrameSender();
+    return isActive ? dynamic_cast<QtAccessibleView*>(QAccessible::queryAccessibleInterface(&object)) : nullptr;
 }
 
 } // namespace
@@ -189,8 +213,8 @@ void announceAccessibilityFocus(QObject& object) {
     if (QtAccessibleView* const view = activeViewOf(object)) view->forgetFocus();
 }
 
-void announceAccessibilityChanges(QObject& object) {
-    if (QtAccessibleView* const view = activeViewOf(object)) view->announceChanges();
+void announceAccessibilityChanges(QObject& object, bool draws, std::uint64_t stepCount) {
+    if (QtAccessibleView* const view = activeViewOf(object)) view->announceChangesOfFrame(draws, stepCount);
 }
 
 } // namespace gx::qt

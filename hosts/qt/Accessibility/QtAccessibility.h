@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -54,8 +55,22 @@ public:
     /// Qt passes events on only while a screen reader runs, so tests take them themselves.
     using Sender = void (*)(QAccessibleEvent* event);
     void announceChanges(Sender send = &QAccessible::updateAccessibility);
+    /// After a tick of the window: announces changes if something may have changed that a user
+    /// waits for, since looking for them takes longer than a frame.
+    ///
+    /// - At once after a key, a press, a release or an action of a screen reader; when a column has
+    ///   another row, so that it rests or a key has moved it; and after the last frame.
+    /// - Else, while something moves, every `longestWait` seconds.
+    ///
+    /// `draws` is what the tick returned, `stepCount` that of the surface's `QtInput`.
+    void announceChangesOfFrame(bool draws, std::uint64_t stepCount);
+    /// For tests: where the changes of frames go, also while no screen reader runs. Nothing
+    /// restores Qt's own way.
+    static void setFrameSender(Sender send) { frameSender() = send; }
+    static bool hasFrameSender() { return frameSender() != nullptr; }
     /// The next `announceChanges` reports the focus, also where it was before.
     void forgetFocus();
+    void lookAfterNextFrame() override { isLookRequested_ = true; }
 
 protected:
     ~QtAccessibleView();
@@ -63,11 +78,14 @@ protected:
 private:
     /// Chosen: lists with more children do not report new ones.
     static constexpr int highestReorderedCount = 1000;
+    /// Chosen: too short to be noticed, and long enough that looking takes little of the time.
+    static constexpr double longestWait = 0.1;
 
     struct Known {
         Ref<UIAccessibilityElement> element;
         QAccessible::Id identifier;
     };
+    static Sender& frameSender();
     UIAccessibilityElements elements() const;
     UIAccessibilityElements top() const { return outermostAccessibilityElements(elements()); }
     Ref<UIAccessibilityElement> focused() const;
@@ -83,13 +101,17 @@ private:
     std::shared_ptr<UIAccessibilityChanges> changes_ = std::make_shared<UIAccessibilityChanges>();
     QtAccessibleAnnouncements announcements_;
     Ref<UIAccessibilityElement> focused_; // As announced last.
+    bool hasNewFrame_ = false;            // One that no look has followed.
+    bool isLookRequested_ = true;
+    std::uint64_t stepCount_ = 0; // At the last look of a frame, as the next.
+    double lastLook_ = 0;
 };
 
 /// To be called when a surface gets the focus: Qt has told screen readers of its object then, and
 /// they have to know which of its elements it is.
 GX_EXPORT void announceAccessibilityFocus(QObject& object);
-/// Has the object's `QtAccessibleView` announce changes while a screen reader runs; a no-op for
-/// objects without one.
-GX_EXPORT void announceAccessibilityChanges(QObject& object);
+/// Has the object's `QtAccessibleView` announce changes after a tick of its window, while a screen
+/// reader runs (`QtAccessibleView::announceChangesOfFrame`); a no-op for objects without one.
+GX_EXPORT void announceAccessibilityChanges(QObject& object, bool draws, std::uint64_t stepCount);
 
 } // namespace gx::qt

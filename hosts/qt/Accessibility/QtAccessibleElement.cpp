@@ -187,6 +187,8 @@ namespace {
 
 void performAction(const QtAccessibleSurface& surface, const Ref<UIWindow>& window, const UIAccessibilityAction& action,
                    const Ref<UIAccessibilityElement>& element) {
+    QAccessibleInterface* const root = surface.exists() ? QAccessible::queryAccessibleInterface(surface.object()) : nullptr;
+    if (auto* const tree = dynamic_cast<QtAccessibleTree*>(root)) tree->lookAfterNextFrame();
     const Ref<UIWindowInput> input = surface.input();
     (input ? input : window)->performAction_onElement(action, element);
 }

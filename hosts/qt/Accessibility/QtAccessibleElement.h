@@ -18,6 +18,8 @@ public:
     /// The same for the same element, as long as its view lives. Nothing for none, and once the
     /// surface has no object.
     virtual QAccessibleInterface* interfaceOf(const Ref<UIAccessibilityElement>& element) const = 0;
+    /// The next frame announces changes, however long ago the last ones were.
+    virtual void lookAfterNextFrame() = 0;
 
 protected:
     ~QtAccessibleTree() = default;

@@ -89,6 +89,7 @@ UIKey keyOf(const QKeyEvent& event, NSTimeInterval time) {
 bool QtInput::isDown(std::int64_t finger) const { return std::find(down_.begin(), down_.end(), finger) != down_.end(); }
 
 bool QtInput::begin(std::int64_t finger, QPointF place, NSTimeInterval time) {
+    ++stepCount_;
     // Noted before the call, in which views may hide the widget, which cancels what is down.
     if (!isDown(finger)) down_.push_back(finger);
     if (window()->touchBegan_at_time(finger, pointOf(place), time)) return true;
@@ -106,6 +107,7 @@ bool QtInput::move(std::int64_t finger, QPointF place, NSTimeInterval time) {
 
 bool QtInput::end(std::int64_t finger, QPointF place, NSTimeInterval time) {
     if (!isDown(finger)) return false;
+    ++stepCount_;
     std::erase(down_, finger);
     window()->touchEnded_at_time(finger, pointOf(place), time);
     return true;
@@ -184,10 +186,12 @@ bool QtInput::keyPress(const QKeyEvent& event, NSTimeInterval time) {
     // Qt calls `focusNextPrevChild` for Tab before it sends the key, and sends it if that returns
     // false.
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) return false;
+    ++stepCount_;
     return window()->keyDown(keyOf(event, time));
 }
 
 bool QtInput::moveFocus(bool isForward, NSTimeInterval time) {
+    ++stepCount_;
     UIKey key;
     key.code = isForward ? UIKey::Code::Tab : UIKey::Code::BackTab;
     key.timestamp = time;

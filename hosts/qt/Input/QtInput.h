@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include <QPointF>
@@ -46,6 +47,9 @@ public:
     /// Takes away all fingers, and the mouse.
     void cancelAll(NSTimeInterval time);
 
+    /// How many keys went down, and fingers came down or went, so far. Movements are not counted.
+    std::uint64_t stepCount() const { return stepCount_; }
+
 private:
     static constexpr std::int64_t mouseFinger = UITouch::pointerIdentifier;
 
@@ -58,6 +62,7 @@ private:
 
     Ref<UIWindowInput> window_;
     std::vector<std::int64_t> down_;
+    std::uint64_t stepCount_ = 0;
 };
 
 } // namespace gx::qt

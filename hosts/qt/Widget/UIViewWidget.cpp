@@ -154,10 +154,11 @@ bool UIViewWidget::stepFrame() {
     if (draws) {
         update();
         scheduleTick();
-        announceAccessibilityChanges(*this); // Callbacks may drop the widget.
     } else {
         frameTimer_.stop();
     }
+    // Callbacks may drop the widget.
+    announceAccessibilityChanges(*this, draws, input_->stepCount());
     return draws;
 }
 

@@ -148,12 +148,13 @@ void QuickItem::advance() {
     const bool draws = window->tick(now());
     if (!self) return;
     isFrameNeeded_ = draws;
-    if (!draws) return;
-    canvas_.begin(shownIn_ ? shownIn_->effectiveDevicePixelRatio() : 1);
-    window->draw(canvas_);
-    update();
-    if (shownIn_) shownIn_->update();
-    if (control()) qt::announceAccessibilityChanges(*control());
+    if (draws) {
+        canvas_.begin(shownIn_ ? shownIn_->effectiveDevicePixelRatio() : 1);
+        window->draw(canvas_);
+        update();
+        if (shownIn_) shownIn_->update();
+    }
+    if (control()) qt::announceAccessibilityChanges(*control(), draws, input_->stepCount());
 }
 
 QSGNode* QuickItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {

@@ -100,4 +100,13 @@ std::vector<Change> UIAccessibilityChanges::takeChanges(UIWindow& window) {
     return changes;
 }
 
+bool UIAccessibilityChanges::hasColumnChanged() {
+    if (isLooking_) return false;
+    isLooking_ = true; // Queries may look, which would replace what is known.
+    const bool hasChanged =
+        std::any_of(known_.begin(), known_.end(), [](const Known& known) { return known.index && known.element->index() != known.index; });
+    isLooking_ = false;
+    return hasChanged;
+}
+
 } // namespace gx

@@ -12,8 +12,9 @@ namespace gx {
 /// Finds what has changed for a screen reader since the last look: for hosts, which tell the
 /// system. Each change is found once.
 ///
-/// A host that has a screen reader looks after each frame: whatever changes asks for one. Without
-/// a screen reader nothing needs to look, and nothing is queried.
+/// A host that has a screen reader looks after frames: whatever changes asks for one. While views
+/// move it may leave looks out, as long as `hasColumnChanged` returns false and the last frame is
+/// followed by one. Without a screen reader nothing needs to look, and nothing is queried.
 ///
 /// - A column that a key moves has its new value with the next look, and none when it lands. One
 ///   that a finger or a mouse wheel spins has it once it rests.
@@ -48,6 +49,9 @@ public:
     /// The views may do anything meanwhile but drop this object. A look within a look finds
     /// nothing.
     std::vector<Change> takeChanges(UIWindow& window);
+    /// Whether a column has another row than at the last look, as when it has come to rest or a key
+    /// has moved it. Queries nothing else, so it costs little in each frame.
+    bool hasColumnChanged();
 
 private:
     struct Known {

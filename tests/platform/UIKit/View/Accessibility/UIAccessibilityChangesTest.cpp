@@ -201,3 +201,18 @@ TEST_F(UIAccessibilityChangesTest, ALookWithinALookFindsNothing) {
     EXPECT_EQ(take(), (Texts{"number 31", "value 30 > 31", "focus Number 0"}));
     EXPECT_GT(looks, 0);
 }
+
+TEST_F(UIAccessibilityChangesTest, AColumnHasChangedOnceItReportsAnotherRow) {
+    EXPECT_FALSE(changes.hasColumnChanged());
+    wheel->selectRow_inComponent_animated(11, 1, true);
+    EXPECT_TRUE(changes.hasColumnChanged());
+    EXPECT_TRUE(changes.hasColumnChanged()) << "until the next look";
+    EXPECT_EQ(take(), (Texts{"number 31", "value 30 > 31"}));
+    EXPECT_FALSE(changes.hasColumnChanged());
+    window.press(UIKey::Code::Tab);
+    window.press(UIKey::Code::Down);
+    EXPECT_TRUE(changes.hasColumnChanged()) << "a key's row counts at once";
+    wheel->removeFromSuperview();
+    take();
+    EXPECT_FALSE(changes.hasColumnChanged());
+}
