@@ -39,6 +39,10 @@ double resolutionFor(double scale, double baseScale) {
     return baseScale * std::exp2(std::ceil(std::log2(scale / baseScale) - rounding));
 }
 
+/// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps its
+/// transform, and its units count as device pixels.
+bool isPlain(const QTransform& device) { return device.type() <= QTransform::TxScale && device.isInvertible(); }
+
 bool isWhole(double scale) { return std::fabs(scale - 1) < 1e-9; }
 
 } // namespace
@@ -46,37 +50,66 @@ bool isWhole(double scale) { return std::fabs(scale - 1) < 1e-9; }
 QtCanvas::QtCanvas(Ref<QtTextEngine> engine, std::shared_ptr<QtTextImageCache> texts, std::shared_ptr<QtImageCache> pictures)
     : engine_(std::move(engine)), texts_(std::move(texts)), pictures_(std::move(pictures)) {}
 
+QtCanvas::~QtCanvas() { texts_->setBytesInSight(this, 0); }
+
 void QtCanvas::begin(QPainter& painter) {
-    painter_ = &painter;
+    const bool isClipped = painter.hasClipping();
+    QRectF clip = isClipped ? painter.clipBoundingRect() : QRectF();
+    const QTransform device = painter.deviceTransform();
+    takePainter(painter);
+    beginState(device);
+    if (isPlain(device)) clip = device.mapRect(clip);
+    state_.clip = isClipped ? snapped(clip) : everywhere;
+    paintedClip_ = state_.clip;
+}
+
+void QtCanvas::begin(QtFrame& frame, const QTransform& device) {
+    frame_ = &frame;
+    frame.begin(device);
+    beginState(device);
+    state_.clip = everywhere;
+    if (!isPlain(device)) frame.markIncomplete();
+}
+
+void QtCanvas::beginState(const QTransform& device) {
     saved_.clear();
     state_ = {};
     baseScale_ = 1;
+    textBytes_ = 0;
+    if (!isPlain(device)) return;
+    state_.scaleX = device.m11();
+    state_.scaleY = device.m22();
+    state_.x = device.dx();
+    state_.y = device.dy();
+    baseScale_ = std::max(std::fabs(device.m11()), std::fabs(device.m22()));
+}
+
+/// From here on the painter's units are device pixels, in which it copies images fastest.
+void QtCanvas::takePainter(QPainter& painter) {
+    painter_ = &painter;
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QTransform device = painter.deviceTransform();
-    const bool isClipped = painter.hasClipping();
-    QRectF clip = isClipped ? painter.clipBoundingRect() : QRectF();
-    // A painter that is rotated or sheared keeps its transform, and its units count as device
-    // pixels.
-    if (device.type() <= QTransform::TxScale && device.isInvertible()) {
-        state_.scaleX = device.m11();
-        state_.scaleY = device.m22();
-        state_.x = device.dx();
-        state_.y = device.dy();
-        baseScale_ = std::max(std::fabs(device.m11()), std::fabs(device.m22()));
-        clip = device.mapRect(clip);
-        // From here on the painter's units are device pixels, in which it copies images fastest.
-        painter.setWorldTransform(device.inverted() * painter.worldTransform());
-    }
-    state_.clip = isClipped ? snapped(clip) : everywhere;
-    paintedClip_ = state_.clip;
+    if (isPlain(device)) painter.setWorldTransform(device.inverted() * painter.worldTransform());
     painter.setOpacity(1);
     paintedAlpha_ = 1;
 }
 
 void QtCanvas::end() {
-    if (!painter_) return;
-    painter_->restore();
+    if (!painter_ && !frame_) return;
+    if (painter_) painter_->restore();
+    painter_ = nullptr;
+    frame_ = nullptr;
+    texts_->setBytesInSight(this, textBytes_);
+}
+
+void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area) {
+    takePainter(painter);
+    paintedClip_ = everywhere;
+    for (const QtPiece& piece : frame.pieces()) {
+        if (piece.visibleArea().intersects(area)) paint(piece);
+    }
+    painter.restore();
     painter_ = nullptr;
 }
 
@@ -113,57 +146,81 @@ QRectF QtCanvas::mapped(CGRect rect) const {
     return QRectF(x, y, rect.size.width * state_.scaleX, rect.size.height * state_.scaleY).normalized();
 }
 
-/// Returns whether anything of the area is visible, and prepares the painter's clip.
-bool QtCanvas::prepareClip(const QRectF& area) {
+/// Returns whether anything of the area is visible.
+bool QtCanvas::isSeen(const QRectF& area) const {
     // Written so that NaN is never visible.
-    const bool isSeen = painter_ != nullptr && state_.alpha > 0 && !state_.clip.isEmpty() && area.left() < state_.clip.right() + 1 &&
-                        area.right() > state_.clip.left() && area.top() < state_.clip.bottom() + 1 && area.bottom() > state_.clip.top();
-    if (!isSeen) return false;
-    if (state_.clip != paintedClip_) {
-        if (state_.clip == everywhere) {
-            painter_->setClipping(false);
-        } else {
-            painter_->setClipRect(state_.clip, Qt::ReplaceClip);
-        }
-        paintedClip_ = state_.clip;
-    }
-    return true;
+    return (painter_ != nullptr || frame_ != nullptr) && state_.alpha > 0 && !state_.clip.isEmpty() &&
+           area.left() < state_.clip.right() + 1 && area.right() > state_.clip.left() && area.top() < state_.clip.bottom() + 1 &&
+           area.bottom() > state_.clip.top();
 }
 
-void QtCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) {
-    const QRect area = snapped(mapped(rect));
-    if (!prepareClip(area)) return;
-    if (paintedAlpha_ != 1) painter_->setOpacity(paintedAlpha_ = 1); // The colour has it.
-    const QColor filling = colorOf(color, state_.alpha);
-    const double radiusX = std::min(cornerRadius * std::fabs(state_.scaleX), 0.5 * area.width());
-    const double radiusY = std::min(cornerRadius * std::fabs(state_.scaleY), 0.5 * area.height());
-    if (!(radiusX > 0) || !(radiusY > 0)) {
-        painter_->fillRect(area.intersected(state_.clip), filling);
+void QtCanvas::prepareClip(const QRect& clip) {
+    if (clip == paintedClip_) return;
+    if (clip == everywhere) {
+        painter_->setClipping(false);
+    } else {
+        painter_->setClipRect(clip, Qt::ReplaceClip);
+    }
+    paintedClip_ = clip;
+}
+
+void QtCanvas::draw(QtPiece piece) {
+    piece.clip = state_.clip;
+    if (frame_) {
+        frame_->add(std::move(piece));
+    } else {
+        paint(piece);
+    }
+}
+
+void QtCanvas::paint(const QtPiece& piece) {
+    prepareClip(piece.clip);
+    if (paintedAlpha_ != piece.alpha) painter_->setOpacity(paintedAlpha_ = piece.alpha);
+    if (!piece.image.isNull()) {
+        if (piece.isScaled()) {
+            painter_->drawImage(piece.area, piece.image);
+        } else {
+            painter_->drawImage(QPoint(pixel(piece.area.left()), pixel(piece.area.top())), piece.image);
+        }
+        return;
+    }
+    const QRect area = piece.area.toRect();
+    if (!(piece.radiusX > 0) || !(piece.radiusY > 0)) {
+        painter_->fillRect(area.intersected(piece.clip), piece.color);
         return;
     }
     painter_->setRenderHint(QPainter::Antialiasing);
     painter_->setPen(Qt::NoPen);
-    painter_->setBrush(filling);
-    painter_->drawRoundedRect(area, radiusX, radiusY);
+    painter_->setBrush(piece.color);
+    painter_->drawRoundedRect(area, piece.radiusX, piece.radiusY);
     painter_->setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) {
+    const QRect area = snapped(mapped(rect));
+    if (!isSeen(area)) return;
+    QtPiece piece;
+    piece.area = area;
+    piece.color = colorOf(color, state_.alpha); // The colour has the alpha.
+    piece.radiusX = std::min(cornerRadius * std::fabs(state_.scaleX), 0.5 * area.width());
+    piece.radiusY = std::min(cornerRadius * std::fabs(state_.scaleY), 0.5 * area.height());
+    draw(std::move(piece));
 }
 
 /// The image fills the area, both in device pixels.
 void QtCanvas::drawMapped(const QImage& image, const QRectF& area) {
-    if (!prepareClip(area)) return;
-    if (paintedAlpha_ != state_.alpha) painter_->setOpacity(paintedAlpha_ = state_.alpha);
+    if (image.isNull() || !isSeen(area)) return;
     const bool isMirrored = state_.scaleX < 0 || state_.scaleY < 0;
-    const QImage& drawn = isMirrored ? image.mirrored(state_.scaleX < 0, state_.scaleY < 0) : image;
-    if (area.width() == image.width() && area.height() == image.height()) {
-        painter_->drawImage(QPoint(pixel(area.left()), pixel(area.top())), drawn);
-    } else {
-        painter_->drawImage(area, drawn);
-    }
+    QtPiece piece;
+    piece.image = isMirrored ? image.mirrored(state_.scaleX < 0, state_.scaleY < 0) : image;
+    piece.area = area;
+    piece.alpha = state_.alpha;
+    draw(std::move(piece));
 }
 
 void QtCanvas::drawTextWithComponents(std::string_view text, const UIFont& font, const UIColorComponents& color, CGPoint origin) {
     const double scale = std::max(std::fabs(state_.scaleX), std::fabs(state_.scaleY));
-    const bool isShown = painter_ != nullptr && state_.alpha > 0 && std::isfinite(scale) && scale > 0;
+    const bool isShown = (painter_ != nullptr || frame_ != nullptr) && state_.alpha > 0 && std::isfinite(scale) && scale > 0;
     if (!isShown) return;
     const double resolution = resolutionFor(scale, baseScale_);
     const QtTextEngine::Face& face = engine_->faceOfFont(font);
@@ -174,6 +231,7 @@ void QtCanvas::drawTextWithComponents(std::string_view text, const UIFont& font,
         return;
     }
     if (drawn->image.isNull()) return;
+    textBytes_ += static_cast<std::size_t>(drawn->image.sizeInBytes());
     // From the pixels of the image to those of the device.
     const double shareX = state_.scaleX / resolution;
     const double shareY = state_.scaleY / resolution;
@@ -189,7 +247,9 @@ void QtCanvas::drawTextWithComponents(std::string_view text, const UIFont& font,
 /// For text that is too large for an image.
 void QtCanvas::drawTextDirectly(std::string_view text, const QtTextEngine::Face& face, double size, QRgb color, CGPoint origin) {
     // What it covers is not worth measuring: the painter leaves out what is outside the clip.
-    if (!prepareClip(QRectF(everywhere))) return;
+    if (!isSeen(QRectF(everywhere))) return;
+    if (frame_) return frame_->markIncomplete();
+    prepareClip(state_.clip);
     if (paintedAlpha_ != state_.alpha) painter_->setOpacity(paintedAlpha_ = state_.alpha);
     const QTransform before = painter_->worldTransform();
     const double em = size / QtTextEngine::facePixelSize;
@@ -205,7 +265,7 @@ void QtCanvas::drawTextDirectly(std::string_view text, const QtTextEngine::Face&
 
 void QtCanvas::drawImageInRect(const UIImage& image, CGRect rect) {
     QRectF area = mapped(rect);
-    if (!prepareClip(area)) return;
+    if (!isSeen(area)) return;
     const QImage picture = pictures_->imageOfSize(image, area.width(), area.height());
     // Pixel by pixel where the sizes agree but for what adding up fractions leaves.
     constexpr double tolerance = 1e-6;

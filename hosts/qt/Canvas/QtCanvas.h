@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QTransform>
 
+#include "QtFrame.h"
 #include "QtImageCache.h"
 #include "QtTextImageCache.h"
 #include <GXUIPickers/GXExport.h>
@@ -35,12 +36,19 @@ public:
     explicit QtCanvas(Ref<QtTextEngine> engine = QtTextEngine::shared(),
                       std::shared_ptr<QtTextImageCache> texts = QtTextImageCache::shared(),
                       std::shared_ptr<QtImageCache> pictures = QtImageCache::shared());
+    ~QtCanvas() override;
+    Q_DISABLE_COPY_MOVE(QtCanvas)
 
     /// Starts a frame with the painter's transform and the bounding rectangle of its clip. The
     /// painter must live until `end`, and nothing else may draw with it meanwhile.
     void begin(QPainter& painter);
-    /// Gives the painter back as it was.
+    /// Starts a frame that is recorded, for a device with this transform, and not painted.
+    void begin(QtFrame& frame, const QTransform& device);
+    /// Gives the painter back as it was, or ends the recording.
     void end();
+    /// Paints what a frame shows in an area of device pixels. The painter's transform on the device
+    /// must be the frame's.
+    void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area);
 
     void saveState() override;
     void restoreState() override;
@@ -65,9 +73,14 @@ private:
         QRect clip;
     };
 
+    void beginState(const QTransform& device);
+    void takePainter(QPainter& painter);
     QRectF mapped(CGRect rect) const;
-    bool prepareClip(const QRectF& area);
+    bool isSeen(const QRectF& area) const;
+    void prepareClip(const QRect& clip);
     void drawMapped(const QImage& image, const QRectF& area);
+    void draw(QtPiece piece);
+    void paint(const QtPiece& piece);
     void drawTextDirectly(std::string_view text, const QtTextEngine::Face& face, double size, QRgb color, CGPoint origin);
 
     Ref<QtTextEngine> engine_;
@@ -75,11 +88,13 @@ private:
     std::shared_ptr<QtImageCache> pictures_;
 
     QPainter* painter_ = nullptr;
-    double baseScale_ = 1; // Device pixels for a point at the frame's start.
+    QtFrame* frame_ = nullptr; // In place of the painter.
+    double baseScale_ = 1;     // Device pixels for a point at the frame's start.
     State state_;
     std::vector<State> saved_;
     QRect paintedClip_;       // What the painter clips to now.
     double paintedAlpha_ = 1; // The painter's opacity now.
+    std::size_t textBytes_ = 0;
 };
 
 } // namespace gx::qt

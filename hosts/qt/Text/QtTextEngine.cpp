@@ -52,8 +52,8 @@ const QtTextEngine::Face& QtTextEngine::faceOfFont(const UIFont& font) {
     const QFontMetricsF metrics(opened);
     const CGFloat ascent = metrics.ascent() / facePixelSize;
     const CGFloat lineHeight = ascent + metrics.descent() / facePixelSize;
-    faces_.push_back(
-        std::make_unique<NamedFace>(NamedFace{family, font.weight(), {nextIdentifier_++, opened, metrics, ascent, lineHeight}}));
+    faces_.push_back(std::make_unique<NamedFace>(
+        NamedFace{family, font.weight(), {nextIdentifier_++, opened, metrics, ascent, lineHeight, std::make_shared<QtDigits>(opened)}}));
     return faces_.back()->face;
 }
 
@@ -65,8 +65,9 @@ CGSize QtTextEngine::sizeOfText_font(std::string_view text, const UIFont& font) 
     const double* advance = advances_.find(key);
     if (!advance) {
         ++measureCount_;
-        const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-        advance = &advances_.insert(key, face.metrics.horizontalAdvance(string) / facePixelSize, 1);
+        const QtDigits::Places* const places = face.digits->placesOf(text);
+        const QString string = places ? QString() : QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        advance = &advances_.insert(key, (places ? places->advance : face.metrics.horizontalAdvance(string)) / facePixelSize, 1);
     }
     return {*advance * font.pointSize(), height};
 }

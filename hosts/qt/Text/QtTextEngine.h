@@ -8,6 +8,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 
+#include "QtDigits.h"
 #include "QtTextCache.h"
 #include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UITextEngine.h>
@@ -38,6 +39,7 @@ public:
         QFontMetricsF metrics;
         CGFloat ascent;
         CGFloat lineHeight;
+        std::shared_ptr<QtDigits> digits; // Never empty.
     };
 
     /// The one that `installQtHost` gives to the library and that canvases draw with; never empty.

@@ -1,7 +1,7 @@
 #include "QtTextImageCache.h"
 
+#include <algorithm>
 #include <cmath>
-#include <optional>
 
 #include <QGlyphRun>
 #include <QPainter>
@@ -18,33 +18,13 @@ constexpr double margin = 2;
 // Estimated for an entry, in bytes beside its pixels.
 constexpr std::size_t overhead = 256;
 
-/// What the glyphs cover, seen from the left end of the baseline.
-///
-/// `QFontMetricsF::tightBoundingRect` leaves out parts of a text that needs several fonts: the
-/// tails of an Arabic word behind a number.
-QRectF inkOfText(const QString& text, const QFont& font) {
-    constexpr double unlimitedWidth = 1e6;
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(unlimitedWidth);
-    layout.endLayout();
-    QRectF ink;
-    for (const QGlyphRun& run : layout.glyphRuns()) {
-        const QRawFont glyphs = run.rawFont();
-        const QList<quint32> indexes = run.glyphIndexes();
-        const QList<QPointF> positions = run.positions();
-        for (qsizetype i = 0; i < indexes.size(); ++i) ink |= glyphs.boundingRect(indexes[i]).translated(positions[i]);
-    }
-    return ink.translated(0, -line.ascent());
-}
+// Qt fills the outlines of larger text, and places it at any part of a pixel.
+constexpr double highestGlyphSize = 64;
+// Qt draws smaller text at quarters of a pixel.
+constexpr int phaseCount = 4;
 
-std::optional<QtTextImage> drawnText(const QString& text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {
-    const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
-    const QRectF ink = inkOfText(text, face.font);
+/// An image for ink at a scale, still empty; nothing if it would be too large.
+std::optional<QtTextImage> imageForInk(const QRectF& ink, double scale) {
     if (ink.isEmpty()) return QtTextImage{};
     const double left = std::floor(ink.left() * scale - margin);
     const double top = std::floor(ink.top() * scale - margin);
@@ -52,24 +32,167 @@ std::optional<QtTextImage> drawnText(const QString& text, const QtTextEngine::Fa
     const double height = std::ceil(ink.bottom() * scale + margin) - top;
     const bool fits = width <= QtTextImageCache::largestSide && height <= QtTextImageCache::largestSide;
     if (!fits) return std::nullopt;
-    QtTextImage drawn = {QImage(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied),
-                         static_cast<int>(-left), static_cast<int>(-top)};
-    drawn.image.fill(Qt::transparent);
-    QPainter painter(&drawn.image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.translate(drawn.penX, drawn.baseline);
-    painter.scale(scale, scale);
-    painter.setFont(face.font);
-    painter.setPen(QColor::fromRgba(color));
-    painter.drawText(QPointF(0, 0), text);
+    QtTextImage made = {QImage(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied),
+                        static_cast<int>(-left), static_cast<int>(-top)};
+    made.image.fill(Qt::transparent);
+    return made;
+}
+
+/// A painter on the image whose units are pixels of the face, with its origin on the baseline.
+class TextPainter : public QPainter {
+public:
+    TextPainter(QtTextImage& onto, const QtTextEngine::Face& face, double scale, QRgb color, double shift = 0) : QPainter(&onto.image) {
+        setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+        translate(onto.penX + shift, onto.baseline);
+        QPainter::scale(scale, scale);
+        setFont(face.font);
+        setPen(QColor::fromRgba(color));
+    }
+};
+
+/// A text that is shaped once, to be measured and drawn.
+class ShapedText {
+public:
+    ShapedText(const QString& text, const QFont& font) : layout_(text, font) {
+        constexpr double unlimitedWidth = 1e6;
+        QTextOption option;
+        option.setWrapMode(QTextOption::NoWrap);
+        layout_.setTextOption(option);
+        layout_.beginLayout();
+        line_ = layout_.createLine();
+        line_.setLineWidth(unlimitedWidth);
+        layout_.endLayout();
+    }
+    /// What the glyphs cover, seen from the left end of the baseline.
+    ///
+    /// `QFontMetricsF::tightBoundingRect` leaves out parts of a text that needs several fonts: the
+    /// tails of an Arabic word behind a number.
+    QRectF ink() const {
+        QRectF ink;
+        for (const QGlyphRun& run : layout_.glyphRuns()) {
+            const QRawFont glyphs = run.rawFont();
+            const QList<quint32> indexes = run.glyphIndexes();
+            const QList<QPointF> positions = run.positions();
+            for (qsizetype i = 0; i < indexes.size(); ++i) ink |= glyphs.boundingRect(indexes[i]).translated(positions[i]);
+        }
+        return ink.translated(0, -line_.ascent());
+    }
+    /// Its baseline begins at the painter's origin.
+    void draw(QPainter& painter) const { line_.draw(&painter, {0, -line_.ascent()}); }
+
+private:
+    QTextLayout layout_;
+    QTextLine line_;
+};
+
+std::optional<QtTextImage> drawnText(std::string_view text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {
+    const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
+    const ShapedText shaped(string, face.font);
+    std::optional<QtTextImage> drawn = imageForInk(shaped.ink(), scale);
+    if (!drawn || drawn->image.isNull()) return drawn;
+    TextPainter painter(*drawn, face, scale, color);
+    shaped.draw(painter);
     return drawn;
+}
+
+/// Puts a glyph over what the image shows, where the image is.
+void addGlyph(QImage& image, const QImage& glyph, int left, int top) {
+    const int first = std::max(0, -left);
+    const int last = std::min(glyph.width(), image.width() - left);
+    for (int y = std::max(0, -top); y < std::min(glyph.height(), image.height() - top); ++y) {
+        // Rows of pixels begin at whole ones.
+        const auto* const from =
+            reinterpret_cast<const QRgb*>(glyph.constScanLine(y));         // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+        auto* const to = reinterpret_cast<QRgb*>(image.scanLine(top + y)); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+        for (int x = first; x < last; ++x) {
+            const QRgb above = from[x];
+            QRgb& pixel = to[left + x];
+            if (above == 0) continue;
+            if (pixel == 0) {
+                pixel = above;
+                continue;
+            }
+            constexpr QRgb opaque = 255;
+            const QRgb rest = opaque - static_cast<QRgb>(qAlpha(above));
+            const auto part = [rest, pixel](unsigned shift) {
+                const QRgb value = ((pixel >> shift) & opaque) * rest;
+                return ((value + (value >> 8U) + 128) >> 8U) << shift; // Divided by 255, rounded.
+            };
+            pixel = above + part(0) + part(8) + part(16) + part(24);
+        }
+    }
 }
 
 } // namespace
 
+const QImage* QtTextImageCache::imageOfDigit(char digit, int phase, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color,
+                                             QPoint& pen) {
+    const char name[] = {digit, static_cast<char>('a' + phase)};
+    const QtTextKey key = {{name, sizeof name}, face.identifier, color, pixelsPerEm};
+    const QtTextImage* known = digits_.find(key);
+    if (!known) {
+        // Within the phase, so that no rounding leads to another one.
+        const double shift = static_cast<double>(phase) / phaseCount + 0.5 / (phaseCount * 16);
+        const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
+        std::optional<QtTextImage> drawn = imageForInk(face.digits->inkOf(digit), scale);
+        if (drawn && !drawn->image.isNull())
+            TextPainter(*drawn, face, scale, color, shift).drawGlyphRun(QPointF(0, 0), face.digits->glyphOf(digit));
+        if (!drawn) return nullptr;
+        const std::size_t cost = static_cast<std::size_t>(drawn->image.sizeInBytes()) + overhead;
+        known = &digits_.insert(key, std::move(*drawn), cost);
+    }
+    pen = {known->penX, known->baseline};
+    return &known->image;
+}
+
+/// A number as `drawnText` draws it, of the images of its digits. Nothing for other texts, and
+/// where Qt draws numbers otherwise.
+std::optional<QtTextImage> QtTextImageCache::composedText(std::string_view text, const QtTextEngine::Face& face, double pixelsPerEm,
+                                                          QRgb color) {
+    if (pixelsPerEm >= highestGlyphSize || !face.digits->canCompose()) return std::nullopt;
+    const QtDigits::Places* const places = face.digits->placesOf(text);
+    if (!places) return std::nullopt;
+    const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
+    QRectF ink;
+    for (std::size_t i = 0; i < places->count; ++i) ink |= face.digits->inkOf(text[i]).translated(places->x[i], 0);
+    std::optional<QtTextImage> made = imageForInk(ink, scale);
+    if (!made || made->image.isNull()) return std::nullopt;
+    for (std::size_t i = 0; i < places->count; ++i) {
+        // As Qt rounds a place: to sixty-fourths downward, and from the last one of a phase upward.
+        const auto sixtyFourths = static_cast<int>(std::floor(places->x[i] * scale * 64)) + 1;
+        const int quarters = sixtyFourths / (64 / phaseCount);
+        QPoint pen;
+        const QImage* const glyph = imageOfDigit(text[i], quarters % phaseCount, face, pixelsPerEm, color, pen);
+        if (!glyph) return std::nullopt;
+        addGlyph(made->image, *glyph, made->penX + quarters / phaseCount - pen.x(), made->baseline - pen.y());
+    }
+    return made;
+}
+
 const std::shared_ptr<QtTextImageCache>& QtTextImageCache::shared() {
     static const auto cache = std::make_shared<QtTextImageCache>();
     return cache;
+}
+
+void QtTextImageCache::setBytesInSight(const void* canvas, std::size_t bytes) {
+    const auto known = std::find_if(canvases_.begin(), canvases_.end(), [canvas](const Canvas& entry) { return entry.canvas == canvas; });
+    if (known != canvases_.end() && known->bytes == bytes) return;
+    if (known == canvases_.end()) {
+        if (bytes == 0) return;
+        canvases_.push_back({canvas, bytes});
+    } else if (bytes == 0) {
+        canvases_.erase(known);
+    } else {
+        known->bytes = bytes;
+    }
+    bound();
+}
+
+void QtTextImageCache::bound() {
+    std::size_t inSight = 0;
+    for (const Canvas& canvas : canvases_) inSight += canvas.bytes;
+    cache_.setCapacity(std::min(highestBound_, std::max(smallestBound, keptScreens * inSight)));
 }
 
 const QtTextImage* QtTextImageCache::imageOfText(std::string_view text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color) {
@@ -79,8 +202,12 @@ const QtTextImage* QtTextImageCache::imageOfText(std::string_view text, const Qt
         return known;
     }
     ++missCount_;
-    const QString string = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    std::optional<QtTextImage> drawn = drawnText(string, face, pixelsPerEm, color);
+    std::optional<QtTextImage> drawn = composedText(text, face, pixelsPerEm, color);
+    if (!drawn || face.digits->takeImageCheck()) {
+        std::optional<QtTextImage> whole = drawnText(text, face, pixelsPerEm, color);
+        if (drawn && whole && drawn->image != whole->image) face.digits->forbidComposing();
+        drawn = std::move(whole);
+    }
     if (!drawn) return nullptr;
     const std::size_t cost = static_cast<std::size_t>(drawn->image.sizeInBytes()) + text.size() + overhead;
     return &cache_.insert(key, std::move(*drawn), cost);

@@ -8,6 +8,7 @@
 #include <QInputEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
@@ -15,10 +16,10 @@
 #include <QWheelEvent>
 
 #include "QtAccessibleWidget.h"
-#include "QtCanvas.h"
 #include "QtEventClock.h"
 #include "QtInput.h"
 #include "QtLooks.h"
+#include "QtRepaint.h"
 
 namespace gx::qt {
 
@@ -45,7 +46,7 @@ QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
 
 UIViewWidget::UIViewWidget(QWidget* parent)
     : QWidget(parent), window_(gx::create<UIWindow>(CGRectMake(0, 0, width(), height()))), windowInput_(window_),
-      input_(std::make_shared<QtInput>(window_)), canvas_(std::make_unique<QtCanvas>()), eventClock_(std::make_unique<QtEventClock>()) {
+      input_(std::make_shared<QtInput>(window_)), repaint_(std::make_unique<QtRepaint>()), eventClock_(std::make_unique<QtEventClock>()) {
     steadyClock_.start();
     frameTimer_.setSingleShot(true);
     frameTimer_.setTimerType(Qt::PreciseTimer);
@@ -100,12 +101,10 @@ void UIViewWidget::changeEvent(QEvent* event) {
     input->pointerLeft();
 }
 
-void UIViewWidget::paintEvent(QPaintEvent*) {
+void UIViewWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    canvas_->begin(painter);
     const Ref<UIWindowInput> window = windowInput_;
-    window->draw(*canvas_);
-    canvas_->end();
+    repaint_->paint(*this, painter, event->rect(), *window);
 }
 
 // Time
@@ -130,6 +129,7 @@ void UIViewWidget::setWindowInput(Ref<UIWindowInput> input) {
 }
 
 void UIViewWidget::windowNeedsFrame() {
+    repaint_->viewsDidChange();
     if (isFrameDue_) return;
     isFrameDue_ = true;
     scheduleTick();
@@ -152,7 +152,7 @@ bool UIViewWidget::stepFrame() {
     if (!self) return draws;
     isFrameDue_ = draws;
     if (draws) {
-        update();
+        repaint_->frameDidChange(*this, *window);
         scheduleTick();
     } else {
         frameTimer_.stop();

@@ -15,9 +15,9 @@ class QInputEvent;
 
 namespace gx::qt {
 
-class QtCanvas;
 class QtEventClock;
 class QtInput;
+class QtRepaint;
 
 /// Shows any view in a Qt application. Call `installQtHost` once before the first view is made.
 ///
@@ -37,8 +37,8 @@ class QtInput;
 /// of the rows on which these land.
 ///
 /// **Frames.** Nothing runs while nothing changes. A change starts ticks at the screen's refresh
-/// rate; each tick moves the views and has the widget painted, until one finds nothing to draw.
-/// Ticks do not depend on the widget being visible.
+/// rate; each tick moves the views, until one finds nothing to draw, and has painted what looks
+/// different then. Ticks do not depend on the widget being visible.
 ///
 /// **Time.** Frames are on a steady clock that starts with the widget, and so are input events, by
 /// their own times. With another clock (`setClock`) events happen at its time on their delivery.
@@ -122,7 +122,7 @@ private:
     Ref<UIWindowInput> windowInput_; // The window, or what stands before it.
     Ref<UIView> rootView_;
     std::shared_ptr<QtInput> input_;
-    std::unique_ptr<QtCanvas> canvas_;
+    std::unique_ptr<QtRepaint> repaint_;
     std::unique_ptr<QtEventClock> eventClock_;
     std::optional<UIUserInterfaceStyle> fixedStyle_;
     std::function<void()> wheelTickHandler_;

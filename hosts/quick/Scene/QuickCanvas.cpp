@@ -26,6 +26,8 @@ void QuickCanvas::begin(double pixelsPerPoint) {
     state_ = {};
     saved_.clear();
     pieces_.clear();
+    texts_->setBytesInSight(this, textBytes_); // Of the frame before.
+    textBytes_ = 0;
 }
 
 void QuickCanvas::restoreState() {
@@ -97,6 +99,7 @@ void QuickCanvas::drawTextWithComponents(std::string_view text, const UIFont& fo
     const qt::QtTextEngine::Face& face = engine_->faceOfFont(font);
     const qt::QtTextImage* const drawn = texts_->imageOfText(text, face, font.pointSize() * pixelsPerPoint_, colorOf(color).rgba());
     if (drawn == nullptr || drawn->image.isNull()) return;
+    textBytes_ += static_cast<std::size_t>(drawn->image.sizeInBytes());
     const double points = 1 / pixelsPerPoint_;
     const QRectF area(-drawn->penX * points, -drawn->baseline * points, drawn->image.width() * points, drawn->image.height() * points);
     add(drawn->image, area, {origin.x, origin.y + face.ascent * font.pointSize()});

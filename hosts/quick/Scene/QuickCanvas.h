@@ -37,6 +37,10 @@ struct QuickPiece {
 /// from the item's corner. Noting a frame allocates nothing once there was a larger one.
 class QuickCanvas final : public UIGraphicsContext {
 public:
+    QuickCanvas() = default;
+    ~QuickCanvas() override { texts_->setBytesInSight(this, 0); }
+    Q_DISABLE_COPY_MOVE(QuickCanvas)
+
     /// Starts a frame at this many device pixels for a point.
     void begin(double pixelsPerPoint);
     const std::vector<QuickPiece>& pieces() const { return pieces_; }
@@ -79,6 +83,7 @@ private:
     std::shared_ptr<qt::QtTextImageCache> texts_ = qt::QtTextImageCache::shared();
     std::shared_ptr<qt::QtImageCache> pictures_ = qt::QtImageCache::shared();
     double pixelsPerPoint_ = 1;
+    std::size_t textBytes_ = 0; // Of the images that the frame shows.
     State state_;
     std::vector<State> saved_;
     std::vector<QuickPiece> pieces_;

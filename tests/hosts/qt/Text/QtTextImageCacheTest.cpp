@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "Pixels.h"
+#include "QtCanvas.h"
 #include "QtTextImageCache.h"
 
 namespace {
@@ -83,6 +84,96 @@ TEST_F(QtTextImageCacheTest, TextOfSeveralFontsIsNotCut) {
         EXPECT_EQ(inkOf(drawnText->image).size(), inkOf(whole).size()) << text;
         EXPECT_EQ(inkOf(drawnText->image).bottom() - drawnText->baseline, inkOf(whole).bottom() - 200) << text;
     }
+}
+
+/// The same text as one `drawText`, at the place that it has in an image.
+QImage drawnByQt(const char* text, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color, const QtTextImage& place) {
+    QImage image(place.image.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.translate(place.penX, place.baseline);
+    painter.scale(pixelsPerEm / QtTextEngine::facePixelSize, pixelsPerEm / QtTextEngine::facePixelSize);
+    painter.setFont(face.font);
+    painter.setPen(QColor::fromRgba(color));
+    painter.drawText(QPointF(0, 0), text);
+    return image;
+}
+
+/// Numbers are made of their digits from the second one on, other texts are drawn as a whole: at
+/// one, one and a half and two pixels a point, and at sizes at which Qt fills outlines.
+TEST_F(QtTextImageCacheTest, AnImageIsPixelForPixelWhatQtDraws) {
+    for (const auto weight : {UIFontWeight::Regular, UIFontWeight::Semibold}) {
+        const QtTextEngine::Face& opened = QtTextEngine::shared()->faceOfFont(*UIFont::systemFontOfSize_weight(22, weight));
+        for (const double size : {15.0, 17.6, 22.0, 23.5, 33.0, 35.25, 44.0, 47.0, 63.9, 64.0, 66.0}) {
+            for (int i = 0; i < 60; ++i) {
+                const std::string number = std::to_string((i * 7919 + 3) % (i % 2 == 0 ? 100 : 1000000));
+                const QtTextImage* made = cache.imageOfText(number, opened, size, 0xff3366cc);
+                ASSERT_NE(made, nullptr);
+                ASSERT_EQ(made->image, drawnByQt(number.c_str(), opened, size, 0xff3366cc, *made)) << number << " at " << size;
+            }
+            for (const char* text : {"1", "00", "11:07", "5.25", "1234…", "km/h", "420 سعرة", "12.5 كم/س", "5 רגלן", "Åg|fi"}) {
+                const QtTextImage* made = cache.imageOfText(text, opened, size, black);
+                ASSERT_NE(made, nullptr);
+                ASSERT_EQ(made->image, drawnByQt(text, opened, size, black, *made)) << text << " at " << size;
+            }
+        }
+        EXPECT_TRUE(opened.digits->canCompose());
+    }
+}
+
+TEST_F(QtTextImageCacheTest, ATranslucentNumberIsWhatQtDraws) {
+    for (int number = 10; number < 100; ++number) {
+        const std::string text = std::to_string(number);
+        const QtTextImage* made = cache.imageOfText(text, face(), 44, 0x803366cc);
+        ASSERT_NE(made, nullptr);
+        ASSERT_EQ(made->image, drawnByQt(text.c_str(), face(), 44, 0x803366cc, *made)) << text;
+    }
+}
+
+TEST_F(QtTextImageCacheTest, IsBoundedByWhatIsInSight) {
+    const int one = 0;
+    const int other = 0;
+    const auto fill = [this] {
+        for (int number = 0; number < 1000; ++number) cache.imageOfText(std::to_string(number), face(), 44, black);
+    };
+    EXPECT_EQ(cache.byteBound(), QtTextImageCache::smallestBound);
+    fill();
+    EXPECT_LE(cache.byteCount(), QtTextImageCache::smallestBound);
+    cache.setBytesInSight(&one, 100 << 10U);
+    cache.setBytesInSight(&other, 50 << 10U);
+    EXPECT_EQ(cache.byteBound(), QtTextImageCache::keptScreens * (150 << 10U));
+    fill();
+    EXPECT_GT(cache.byteCount(), QtTextImageCache::smallestBound);
+    EXPECT_LE(cache.byteCount(), cache.byteBound());
+    cache.setBytesInSight(&one, 0);
+    EXPECT_EQ(cache.byteBound(), QtTextImageCache::smallestBound);
+    EXPECT_LE(cache.byteCount(), QtTextImageCache::smallestBound);
+    cache.setBytesInSight(&other, 100 << 20U);
+    EXPECT_EQ(cache.byteBound(), QtTextImageCache::defaultCapacity);
+    cache.setBytesInSight(&other, 0);
+    cache.setByteCapacity(1000);
+    EXPECT_EQ(cache.byteBound(), 1000U);
+}
+
+TEST_F(QtTextImageCacheTest, ACanvasThatIsGoneHasNothingInSight) {
+    const auto shared = std::make_shared<QtTextImageCache>();
+    {
+        gx::qt::QtCanvas canvas(QtTextEngine::shared(), shared);
+        QImage image(2000, 2000, QImage::Format_ARGB32_Premultiplied);
+        QPainter painter(&image);
+        canvas.begin(painter);
+        canvas.drawText("88", *UIFont::systemFontOfSize_weight(600), UIColor::labelColor(), {0, 0});
+        canvas.end();
+        EXPECT_GT(shared->byteBound(), QtTextImageCache::smallestBound);
+        canvas.begin(painter);
+        canvas.end();
+        EXPECT_EQ(shared->byteBound(), QtTextImageCache::smallestBound);
+        canvas.begin(painter);
+        canvas.drawText("88", *UIFont::systemFontOfSize_weight(600), UIColor::labelColor(), {0, 0});
+        canvas.end();
+    }
+    EXPECT_EQ(shared->byteBound(), QtTextImageCache::smallestBound);
 }
 
 TEST_F(QtTextImageCacheTest, DigitsEndAtTheBaseline) {

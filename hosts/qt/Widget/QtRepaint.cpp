@@ -1,0 +1,49 @@
+#include "QtRepaint.h"
+
+#include <utility>
+
+#include <QBackingStore>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QWidget>
+
+namespace gx::qt {
+
+void QtRepaint::frameDidChange(QWidget& widget, UIWindowInput& window) {
+    const bool wasComparable = std::exchange(isComparable_, false);
+    isPresent_ = false;
+    if (!widget.isVisible() || !device_) return widget.update();
+    isPresent_ = true; // Unless the views change something while they draw.
+    canvas_.begin(next_, *device_);
+    window.draw(canvas_);
+    canvas_.end();
+    std::swap(shown_, next_);
+    isPresent_ = isPresent_ && shown_.isComplete();
+    isComparable_ = isPresent_;
+    if (!wasComparable || !isPresent_ || shown_.transform() != next_.transform()) return widget.update();
+    const QRect changed = shown_.areaChangedSince(next_);
+    if (!changed.isEmpty()) widget.update(pointsOf(changed));
+}
+
+void QtRepaint::paint(QWidget& widget, QPainter& painter, const QRect& area, UIWindowInput& window) {
+    const QTransform device = painter.deviceTransform();
+    const bool isOnScreen = widget.backingStore() && painter.paintEngine()->paintDevice() == widget.backingStore()->paintDevice();
+    if (isOnScreen && isPresent_ && device == shown_.transform()) {
+        canvas_.paintFrame(painter, shown_, device.mapRect(QRectF(area)).toAlignedRect());
+        return;
+    }
+    if (isOnScreen) {
+        isComparable_ = false;
+        device_ = device;
+    }
+    canvas_.begin(painter);
+    window.draw(canvas_);
+    canvas_.end();
+}
+
+QRect QtRepaint::pointsOf(const QRect& pixels) const {
+    // Points may begin within pixels.
+    return shown_.transform().inverted().mapRect(QRectF(pixels)).toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
+} // namespace gx::qt
