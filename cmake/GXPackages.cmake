@@ -90,14 +90,17 @@ gx_add_package(qt_development NAME libgxuipickers-qt-dev SECTION libdevel
   SUMMARY "wheel pickers for fitness applications - development files for Qt"
   DESCRIPTION "${what}\n\nThis package holds the headers, the CMake components and the files for\npkg-config of the host for Qt widgets."
   DEPENDS "${runtime_qt} (= ${full_version})" "libgxuipickers-dev (= ${full_version})" qt6-base-dev)
+# Those of Qt only recommend each other, and an import needs all of them.
+set(qml_modules qml6-module-qtquick qml6-module-qtquick-templates qml6-module-qtqml qml6-module-qtqml-models
+  qml6-module-qtqml-workerscript)
 gx_add_package(quick LIBRARY NAME ${runtime_quick} SECTION libs
   SUMMARY "wheel pickers for fitness applications - Qt Quick"
   DESCRIPTION "${what}\n\nThis package holds the library behind the QML module."
-  DEPENDS "${runtime_qt} (= ${full_version})" qml6-module-qtquick qml6-module-qtquick-templates)
+  DEPENDS "${runtime_qt} (= ${full_version})" ${qml_modules})
 gx_add_package(qml NAME qml6-module-gxuipickers SECTION libs
   SUMMARY "wheel pickers for fitness applications - QML module"
   DESCRIPTION "${what}\n\nThis package holds the QML module: import GXUIPickers."
-  DEPENDS "${runtime_quick} (= ${full_version})" qml6-module-qtquick qml6-module-qtquick-templates)
+  DEPENDS "${runtime_quick} (= ${full_version})" ${qml_modules})
 gx_add_package(quick_development NAME libgxuipickers-quick-dev SECTION libdevel
   SUMMARY "wheel pickers for fitness applications - development files for Qt Quick"
   DESCRIPTION "${what}\n\nThis package holds the CMake component and the file for pkg-config with which\nC++ applications link the QML module."
