@@ -19,6 +19,7 @@ option(GX_PRECOMPILE_HEADERS "Precompile what most sources include" OFF)
 option(GX_ROOMS_AS_UNITS "Compile each folder as one unit" OFF)
 option(GX_LIBRARIES_AS_UNITS "With GX_ROOMS_AS_UNITS, compile each library as one unit" OFF)
 option(GX_DESCRIBE_TYPES "Describe the types of libraries for scripts/abi" OFF)
+option(GX_TESTS_AS_UNITS "Compile several tests as one unit" OFF)
 option(GX_SANITIZE "Check addresses and undefined behaviour at run time" OFF)
 option(GX_BUILD_FUZZERS "Build everything for libFuzzer, with checks, and the fuzz targets (needs clang)" OFF)
 
