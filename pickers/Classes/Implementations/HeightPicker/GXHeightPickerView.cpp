@@ -29,7 +29,7 @@ constexpr NSInteger imperialUnitComponent = 2;
 // In points, at every text size. Prescribed by the product.
 constexpr CGFloat centimetreWidth = 100;
 constexpr CGFloat otherWidth = 60;
-constexpr CGFloat rowHeight = 40;
+constexpr CGFloat standardRowHeight = 40;
 
 // What is shown without a height: 180 cm, or 5 feet 10 inches.
 constexpr NSInteger defaultCentimetreRow = 60;
@@ -175,7 +175,7 @@ Ref<UIFont> GXHeightPickerView::scaledTitleFont(double scale) {
         for (NSInteger row = 0; row < pickerView_numberOfRowsInComponent(nullptr, component); ++row) {
             const std::optional<std::string> title = titleOfRow(row, shownIn(component));
             const CGSize size = title ? engine->sizeOfText_font(*title, *font) : CGSize{};
-            if (size.width > 0 && size.height > 0) fitting = std::min({fitting, width / size.width, rowHeight / size.height});
+            if (size.width > 0 && size.height > 0) fitting = std::min({fitting, width / size.width, standardRowHeight / size.height});
         }
     }
     return UIFont::systemFontOfSize_weight(std::floor(fitting * font->pointSize()), font->weight());
@@ -234,7 +234,7 @@ CGFloat GXHeightPickerView::pickerView_widthForComponent(const Ref<UIPickerView>
     return shownIn(component) == Shown::Centimetres ? centimetreWidth : otherWidth;
 }
 
-CGFloat GXHeightPickerView::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) { return rowHeight; }
+CGFloat GXHeightPickerView::pickerView_rowHeightForComponent(const Ref<UIPickerView>&, NSInteger) { return standardRowHeight; }
 
 Ref<NSAttributedString> GXHeightPickerView::pickerView_attributedTitleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                           NSInteger component) {
