@@ -119,7 +119,12 @@ export class Firefox {
         const script = `window.gBrowser.selectedBrowser.browsingContext.fullZoom = arguments[0]`;
         await this.send('WebDriver:ExecuteScript', { script, args: [factor] });
         await this.send('Marionette:SetContext', { value: 'content' });
-        await this.run(() => new Promise((resolve) => requestAnimationFrame(() => requestAnimationFrame(resolve))));
+        // The page gets it later, and lays itself out in the frames after that.
+        await this.run(async (ratio) => {
+            const frame = () => new Promise((resolve) => requestAnimationFrame(resolve));
+            while (Math.abs(globalThis.devicePixelRatio - ratio) > 0.01) await frame();
+            for (let frames = 0; frames < 10; frames += 1) await frame();
+        }, factor);
     }
 
     perform(...actions) {
