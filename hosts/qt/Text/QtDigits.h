@@ -79,7 +79,7 @@ private:
 
     template <std::size_t count>
     static std::array<double, count> filled() {
-        std::array<double, count> values;
+        std::array<double, count> values{};
         values.fill(unknown);
         return values;
     }
