@@ -188,17 +188,23 @@ test('a finger that catches the rows has them where they were at its own time, t
     const expected = await page.evaluate(async ({ events, time }) => {
         const { setFrameClock } = await import('/package/gxuipickers.js');
         let now = events[0][2] - 1;
-        let waiting = [];
+        // By strings: the element that goes takes back a frame of the page's clock.
+        const waiting = new Map();
+        let asks = 0;
         setFrameClock({
             now: () => now,
             timeOf: () => now,
-            requestFrame: (callback) => waiting.push(callback),
-            cancelFrame: (request) => (waiting[request - 1] = () => undefined),
+            requestFrame: (callback) => {
+                asks += 1;
+                waiting.set(`${asks}`, callback);
+                return `${asks}`;
+            },
+            cancelFrame: (request) => waiting.delete(request),
         });
         const frameAt = (at) => {
             now = at;
-            const callbacks = waiting;
-            waiting = [];
+            const callbacks = [...waiting.values()];
+            waiting.clear();
             for (const callback of callbacks) callback(now);
         };
         const other = document.createElement('gx-wheel');
