@@ -1,7 +1,9 @@
 #include "QtTextImageCache.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 
 #include <QGlyphRun>
 #include <QPainter>
@@ -102,12 +104,14 @@ void addGlyph(QImage& image, const QImage& glyph, int left, int top) {
     const int last = std::min(glyph.width(), image.width() - left);
     for (int y = std::max(0, -top); y < std::min(glyph.height(), image.height() - top); ++y) {
         // Rows of pixels begin at whole ones.
-        const auto* const from =
-            reinterpret_cast<const QRgb*>(glyph.constScanLine(y));         // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
-        auto* const to = reinterpret_cast<QRgb*>(image.scanLine(top + y)); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+        // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
+        const std::span from(reinterpret_cast<const QRgb*>(glyph.constScanLine(y)), static_cast<std::size_t>(glyph.width()));
+        const std::span to(reinterpret_cast<QRgb*>(image.scanLine(top + y)), static_cast<std::size_t>(image.width()));
+        // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
         for (int x = first; x < last; ++x) {
-            const QRgb above = from[x];
-            QRgb& pixel = to[left + x];
+            const QRgb above = from[static_cast<std::size_t>(x)];
+            const int column = left + x;
+            QRgb& pixel = to[static_cast<std::size_t>(column)];
             if (above == 0) continue;
             if (pixel == 0) {
                 pixel = above;
@@ -128,8 +132,8 @@ void addGlyph(QImage& image, const QImage& glyph, int left, int top) {
 
 const QImage* QtTextImageCache::imageOfDigit(char digit, int phase, const QtTextEngine::Face& face, double pixelsPerEm, QRgb color,
                                              QPoint& pen) {
-    const char name[] = {digit, static_cast<char>('a' + phase)};
-    const QtTextKey key = {{name, sizeof name}, face.identifier, color, pixelsPerEm};
+    const std::array name = {digit, static_cast<char>('a' + phase)};
+    const QtTextKey key = {{name.data(), name.size()}, face.identifier, color, pixelsPerEm};
     const QtTextImage* known = digits_.find(key);
     if (!known) {
         // Within the phase, so that no rounding leads to another one.

@@ -27,7 +27,8 @@ void QtRepaint::frameDidChange(QWidget& widget, UIWindowInput& window) {
 
 void QtRepaint::paint(QWidget& widget, QPainter& painter, const QRect& area, UIWindowInput& window) {
     const QTransform device = painter.deviceTransform();
-    const bool isOnScreen = widget.backingStore() && painter.paintEngine()->paintDevice() == widget.backingStore()->paintDevice();
+    const bool isOnScreen =
+        widget.backingStore() != nullptr && painter.paintEngine()->paintDevice() == widget.backingStore()->paintDevice();
     if (isOnScreen && isPresent_ && device == shown_.transform()) {
         canvas_.paintFrame(painter, shown_, device.mapRect(QRectF(area)).toAlignedRect());
         return;

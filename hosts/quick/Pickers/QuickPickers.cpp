@@ -5,6 +5,10 @@ extern void qml_register_types_GXUIPickers();
 
 namespace gx::quick {
 
-void registerPickers() { [[maybe_unused]] static void (*volatile const registration)() = &qml_register_types_GXUIPickers; }
+void registerPickers() {
+    // Functions are never const.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+    [[maybe_unused]] static void (*volatile const registration)() = &qml_register_types_GXUIPickers;
+}
 
 } // namespace gx::quick

@@ -1,23 +1,28 @@
-# An application that links the module, and what the module draws with.
+# An application that links the module, and apart from it what the module draws with: a process has
+# one of these only, the module's or the test's.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test Widgets)
+set(folder "${CMAKE_CURRENT_SOURCE_DIR}/hosts/quick")
+set(scene "${PROJECT_SOURCE_DIR}/hosts/quick/Scene")
 set(gui gx_qt_gui)
 if(TARGET gx_qt_gui_static) # A shared library does not export what the scene draws with.
   set(gui gx_qt_gui_static)
 endif()
-set(folder "${CMAKE_CURRENT_SOURCE_DIR}/hosts/quick")
-set(scene "${PROJECT_SOURCE_DIR}/hosts/quick/Scene")
-add_executable(quick_host_test "${folder}/QuickAccessibleItemTest.cpp" "${folder}/QuickNodeTest.cpp"
-  "${scene}/QuickCanvas.cpp" "${scene}/QuickNode.cpp" support/qt_main.cpp)
-target_include_directories(quick_host_test PRIVATE "${scene}")
+add_executable(quick_host_test "${folder}/QuickAccessibleItemTest.cpp" support/qt_main.cpp)
 target_compile_definitions(quick_host_test PRIVATE GX_EXAMPLE_FOLDER="${PROJECT_SOURCE_DIR}/docs/examples/quick")
-target_link_libraries(quick_host_test PRIVATE gx_test_support ${gui} gx_qt_gui_internal gx::quick Qt6::Quick Qt6::Widgets Qt6::Test)
-add_test(NAME quick_host_test COMMAND quick_host_test)
+target_link_libraries(quick_host_test PRIVATE gx::quick gx_qt_gui)
+add_executable(quick_scene_test "${folder}/QuickNodeTest.cpp" "${scene}/QuickCanvas.cpp" "${scene}/QuickNode.cpp" support/qt_main.cpp)
+target_include_directories(quick_scene_test PRIVATE "${scene}")
+target_link_libraries(quick_scene_test PRIVATE ${gui} gx_qt_gui_internal)
 set(environment QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "XDG_RUNTIME_DIR=${CMAKE_CURRENT_BINARY_DIR}")
 set(leaks)
 if(GX_SANITIZE) # Qt and the font library keep what they have loaded until the end.
   set(leaks ASAN_OPTIONS=detect_leaks=0)
 endif()
-set_tests_properties(quick_host_test PROPERTIES ENVIRONMENT "${environment};${leaks}")
+foreach(name quick_host_test quick_scene_test)
+  target_link_libraries(${name} PRIVATE gx_test_support Qt6::Quick Qt6::Widgets Qt6::Test)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment};${leaks}")
+endforeach()
 
 # The QML module, in Qt's own test runner: nothing is compiled for it.
 get_target_property(qt_programs Qt6::qmake IMPORTED_LOCATION)
