@@ -50,19 +50,25 @@ export async function touches(page) {
         start: (points, time) => send('touchStart', points, time),
         move: (points, time) => send('touchMove', points, time),
         end: (points = [], time = undefined) => send('touchEnd', points, time),
-        /** Down, an even way, up; slow enough to have no speed at the end if `rest` is given. */
+        /**
+         * Down, an even way, up; slow enough to have no speed at the end if `rest` is given.
+         *
+         * Without, events have times of their own: a flick is as fast on a busy machine.
+         */
         async drag(from, to, { steps = 10, rest = 150 } = {}) {
-            await send('touchStart', [from]);
+            const began = Date.now() / 1000;
+            const time = (step) => (rest > 0 ? undefined : began + step * 0.008);
+            await send('touchStart', [from], time(0));
             for (let i = 1; i <= steps; i += 1) {
                 const share = i / steps;
-                await send('touchMove', [{ x: from.x + (to.x - from.x) * share, y: from.y + (to.y - from.y) * share }]);
+                await send('touchMove', [{ x: from.x + (to.x - from.x) * share, y: from.y + (to.y - from.y) * share }], time(i));
                 await new Promise((resolve) => setTimeout(resolve, 8));
             }
             if (rest > 0) {
                 await new Promise((resolve) => setTimeout(resolve, rest));
                 await send('touchMove', [{ x: to.x, y: to.y }]);
             }
-            await send('touchEnd', []);
+            await send('touchEnd', [], time(steps));
         },
     };
 }
