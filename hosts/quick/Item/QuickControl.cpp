@@ -41,6 +41,13 @@ void QuickControl::set(QQuickItem* control, QObject& receiver, const QMetaMethod
     name_.connectNotifySignal(&receiver, slot.methodIndex());
 }
 
+const QObject& QuickControl::owner(const QObject& item) const {
+    if (control_) return *control_;
+    const QQmlContext* const document = qmlContext(&item);
+    const QObject* const root = document ? document->contextObject() : nullptr;
+    return root != nullptr && root->inherits("QQuickControl") ? *root : item;
+}
+
 bool QuickControl::flag(const char* name, bool otherwise) const {
     const QVariant value = control_ ? control_->property(name) : QVariant();
     return value.isValid() ? value.toBool() : otherwise;

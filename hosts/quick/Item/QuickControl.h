@@ -19,6 +19,9 @@ namespace gx::quick {
 class QuickControl {
 public:
     QQuickItem* item() const { return control_; }
+    /// What the application knows of `item`: its control, also while that is made and has not got
+    /// it yet, and else itself.
+    const QObject& owner(const QObject& item) const;
     /// Has `receiver` follow another control: its events go through the receiver's `eventFilter`,
     /// and changes of its looks call `slot`.
     void set(QQuickItem* control, QObject& receiver, const QMetaMethod& slot);

@@ -64,7 +64,7 @@ void QuickItem::setRootView(const Ref<UIView>& view) {
     rootView_->setFrame(window_->bounds());
 }
 
-void QuickItem::warn(const QString& text) const { qmlWarning(control() ? static_cast<const QObject*>(control()) : this) << text; }
+void QuickItem::warn(const QString& text) const { qmlWarning(&owner()) << text; }
 
 // The control and the window
 

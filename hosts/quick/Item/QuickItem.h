@@ -59,6 +59,8 @@ protected:
     /// Looks, language, direction or size have changed. Called in the item's surroundings; rows
     /// keep their height unless `isRowHeightChanged`.
     virtual void surroundingsDidChange(bool isRowHeightChanged) = 0;
+    /// The control, also before it has the item; else the item.
+    const QObject& owner() const { return control_.owner(*this); }
     /// A warning with the file and the line where the control is made.
     void warn(const QString& text) const;
     /// Ends all movements at once, on the rows that they were heading for.

@@ -18,10 +18,17 @@ namespace gx::quick {
 class QuickColumnsItem : public gx::quick::QuickItem { // Its whole name: Qt's tools find no other.
     Q_OBJECT
     QML_NAMED_ELEMENT(ColumnsItem)
+    /// The columns from the left: each a number of rows, which are numbered from 0, a list of
+    /// texts, or a model. Anything else gives a warning, and a column without rows.
     Q_PROPERTY(QVariantList columns READ columns WRITE setColumns NOTIFY columnsChanged FINAL)
+    /// The selected row of each column, from 0. An index beyond the rows selects the last one. A
+    /// list with NaN or a negative number is ignored with a warning.
     Q_PROPERTY(QList<double> currentIndexes READ currentIndexes WRITE setCurrentIndexes NOTIFY currentIndexesChanged FINAL)
+    /// In points; a column without one, or with 0, gets an equal share.
     Q_PROPERTY(QList<double> columnWidths READ columnWidths WRITE setColumnWidths NOTIFY columnWidthsChanged FINAL)
+    /// What a screen reader calls the columns.
     Q_PROPERTY(QStringList columnLabels READ columnLabels WRITE setColumnLabels NOTIFY columnLabelsChanged FINAL)
+    /// The role of a model that is shown; empty for its first one.
     Q_PROPERTY(QString textRole READ textRole WRITE setTextRole NOTIFY textRoleChanged FINAL)
 
 public:
@@ -29,16 +36,12 @@ public:
 
     const QVariantList& columns() const { return columns_; }
     void setColumns(const QVariantList& columns);
-    /// The selected row of each column. An index beyond the rows selects the last one.
     const QList<double>& currentIndexes() const { return currentIndexes_; }
     void setCurrentIndexes(const QList<double>& indexes);
-    /// In points; a column without one, or with 0, gets an equal share.
     const QList<double>& columnWidths() const { return columnWidths_; }
     void setColumnWidths(const QList<double>& widths);
-    /// What a screen reader calls the columns.
     const QStringList& columnLabels() const { return columnLabels_; }
     void setColumnLabels(const QStringList& labels);
-    /// Empty for a model's first role.
     const QString& textRole() const { return textRole_; }
     void setTextRole(const QString& role);
 

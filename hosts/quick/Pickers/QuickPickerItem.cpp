@@ -80,8 +80,10 @@ QuickPickerItem::~QuickPickerItem() {
 
 bool QuickPickerItem::isTaken(Property property, double value) const {
     const QString name = QString::fromLatin1(descriptions[indexOf(property)].name);
+    // In a document, defaults are not known yet.
+    const QString rest = isComponentComplete() ? QStringLiteral("It stays %1.").arg(number(property)) : QStringLiteral("It is ignored.");
     if (!std::isfinite(value)) {
-        warn(QStringLiteral("%1 has to be a number. It stays %2.").arg(name).arg(number(property)));
+        warn(QStringLiteral("%1 has to be a number. %2").arg(name, rest));
         return false;
     }
     const std::optional<double> highest = highestOf(property);
@@ -90,7 +92,7 @@ bool QuickPickerItem::isTaken(Property property, double value) const {
         return false;
     }
     if (isStep(property) && !(value > 0)) {
-        warn(QStringLiteral("%1 has to be above 0, not %2. It stays %3.").arg(name).arg(value).arg(number(property)));
+        warn(QStringLiteral("%1 has to be above 0, not %2. %3").arg(name).arg(value).arg(rest));
         return false;
     }
     return true;
@@ -110,15 +112,20 @@ void QuickPickerItem::setNumber(Property property, double value) {
     refresh();
 }
 
+bool QuickPickerItem::areCrossed(double lower, double upper) const {
+    // A pace begins with the fastest, which is the largest speed.
+    return kind_ == Pace ? lower < upper : lower > upper;
+}
+
 /// Hands a value to the picker, which may take another one.
 void QuickPickerItem::apply(Property property) {
     isApplying_ = true;
     if (const std::optional<Bounds> bounds = boundsOf(property)) {
         const double lower = number(bounds->lower);
         const double upper = number(bounds->upper);
-        if (lower > upper) polish(); // Bindings may still change the other one.
+        if (areCrossed(lower, upper)) polish(); // Bindings may still change the other one.
         picker_->set(bounds->lower, lower);
-        picker_->set(bounds->upper, std::max(lower, upper));
+        picker_->set(bounds->upper, areCrossed(lower, upper) ? lower : upper);
         // What is selected may lie within the bounds again.
     } else {
         picker_->set(property, number(property));
@@ -131,12 +138,13 @@ void QuickPickerItem::updatePolish() {
     for (const Bounds& bounds : boundsOfAll) {
         const double lower = number(bounds.lower);
         const double upper = number(bounds.upper);
-        if (!(lower > upper)) continue;
-        warn(QStringLiteral("%1 (%2) is above %3 (%4). Only %2 can be chosen.")
+        if (!areCrossed(lower, upper)) continue;
+        warn(QStringLiteral("%1 (%2) is %5 %3 (%4). Only %2 can be chosen.")
                  .arg(QLatin1String(descriptions[indexOf(bounds.lower)].name))
                  .arg(lower)
                  .arg(QLatin1String(descriptions[indexOf(bounds.upper)].name))
-                 .arg(upper));
+                 .arg(upper)
+                 .arg(QLatin1String(lower > upper ? "above" : "below")));
     }
 }
 
@@ -147,7 +155,7 @@ void QuickPickerItem::refresh() {
         const auto property = static_cast<Property>(i);
         const std::optional<double> value = picker_->get(property);
         const std::optional<Bounds> bounds = boundsOf(property);
-        const bool isCrossed = bounds && number(bounds->lower) > number(bounds->upper);
+        const bool isCrossed = bounds && areCrossed(number(bounds->lower), number(bounds->upper));
         if (!value || isCrossed || *value == values_[i]) continue;
         values_[i] = *value;
         changed.set(i);
@@ -188,7 +196,7 @@ void QuickPickerItem::setIconLabels(const QStringList& labels) {
 void QuickPickerItem::applyIcons() {
     const QuickSurroundings::Visit here = visit();
     auto images = std::make_shared<GXIconPickerView::Images>();
-    const QQmlContext* const document = control() ? qmlContext(control()) : nullptr;
+    const QQmlContext* const document = qmlContext(&owner());
     for (qsizetype i = 0; i < iconImages_.size(); ++i) {
         const QUrl url(iconImages_[i]);
         const QString file = QQmlFile::urlToLocalFileOrQrc(document ? document->resolvedUrl(url) : url);
@@ -242,10 +250,10 @@ void QuickPickerItem::componentComplete() {
     for (std::size_t i = 0; i < propertyCount; ++i) {
         if (!isSet_.test(i)) values_[i] = picker_->get(static_cast<Property>(i)).value_or(0);
     }
-    if (!iconImages_.isEmpty()) applyIcons();
     for (std::size_t i = 0; i < propertyCount; ++i) {
         if (isSet_.test(i)) apply(static_cast<Property>(i));
     }
+    if (!iconImages_.isEmpty()) applyIcons(); // Selects again, and reads what was applied.
     applyName();
     setRootView(picker_->view());
     picker_->reload();

@@ -15,42 +15,80 @@ namespace gx::quick {
 /// - What is set before the item is complete is applied then, in the order in which a picker takes
 ///   it, so the order in a document does not matter.
 /// - A number that is none, and one that the property does not take, is ignored with a warning.
-/// - An upper bound below the lower one counts as the lower one. It is warned of before the next
-///   frame, once all bindings of a change have run.
+/// - An upper bound below the lower one counts as the lower one; of a pace, one above it. It is
+///   warned of before the next frame, once all bindings of a change have run.
 /// - After the user has selected something the values change, and then the control's `moved` is
 ///   emitted. Nothing else emits it.
 class QuickPickerItem : public gx::quick::QuickItem { // Its whole name: Qt's tools find no other.
     Q_OBJECT
     QML_NAMED_ELEMENT(PickerItem)
+    /// Which picker it is, set once, before the item is complete. The types of the module do so.
     Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged REQUIRED FINAL)
+    /// The units that are shown. Values stay as they are. A number that is no `UnitSystem` is
+    /// ignored with a warning.
     Q_PROPERTY(gx::quick::UnitSystem::Value unitSystem READ unitSystem WRITE setUnitSystem NOTIFY unitSystemChanged FINAL)
+    /// The unit that is shown. The value stays in kilograms. A number that is no `WeightUnit` is
+    /// ignored with a warning.
     Q_PROPERTY(gx::quick::WeightUnit::Value weightUnit READ weightUnit WRITE setWeightUnit NOTIFY weightUnitChanged FINAL)
+    /// Whether the unit has a column, in which the user chooses it.
     Q_PROPERTY(bool weightUnitSelectable READ weightUnitSelectable WRITE setWeightUnitSelectable NOTIFY weightUnitSelectableChanged FINAL)
+    /// Decimal places of a distance, 1 or 2. Another number is ignored.
     Q_PROPERTY(
         int numberOfFractionUnits READ numberOfFractionUnits WRITE setNumberOfFractionUnits NOTIFY numberOfFractionUnitsChanged FINAL)
+    /// The columns of a duration. A number that is no `DurationType` is ignored with a warning.
     Q_PROPERTY(gx::quick::DurationType::Value type READ type WRITE setType NOTIFY typeChanged FINAL)
+    /// From one row of hours to the next. Only 1 and above; else ignored with a warning.
     Q_PROPERTY(int hoursStepSize READ hoursStepSize WRITE setHoursStepSize NOTIFY hoursStepSizeChanged FINAL)
+    /// From one row of minutes to the next. Only 1 and above; else ignored with a warning.
     Q_PROPERTY(int minutesStepSize READ minutesStepSize WRITE setMinutesStepSize NOTIFY minutesStepSizeChanged FINAL)
+    /// From one row of seconds to the next. Only 1 and above; else ignored with a warning.
     Q_PROPERTY(int secondsStepSize READ secondsStepSize WRITE setSecondsStepSize NOTIFY secondsStepSizeChanged FINAL)
+    /// Whether the first row is "-", which stands for no value and is 0.
     Q_PROPERTY(bool shouldShowNullValue READ shouldShowNullValue WRITE setShouldShowNullValue NOTIFY shouldShowNullValueChanged FINAL)
+    /// How far apart the two rates are at least, in beats per minute, once the user has selected
+    /// one.
     Q_PROPERTY(int minimumGapBetweenAvgAndMax READ minimumGapBetweenAvgAndMax WRITE setMinimumGapBetweenAvgAndMax NOTIFY
                    minimumGapBetweenAvgAndMaxChanged FINAL)
+    /// Where the wheel begins. With a `to` beyond it, only `from` can be chosen, and a warning says
+    /// so.
     Q_PROPERTY(double from READ from WRITE setFrom NOTIFY fromChanged FINAL)
+    /// Where the wheel ends. NaN and infinite numbers are ignored with a warning.
     Q_PROPERTY(double to READ to WRITE setTo NOTIFY toChanged FINAL)
+    /// From one row to the next. What is not above 0 is ignored with a warning.
     Q_PROPERTY(double stepSize READ stepSize WRITE setStepSize NOTIFY stepSizeChanged FINAL)
+    /// Where the wheels of the distance begin, in metres.
     Q_PROPERTY(double minDistance READ minDistance WRITE setMinDistance NOTIFY minDistanceChanged FINAL)
+    /// Where they end, in metres. Below `minDistance`, only that can be chosen, and a warning says
+    /// so.
     Q_PROPERTY(double maxDistance READ maxDistance WRITE setMaxDistance NOTIFY maxDistanceChanged FINAL)
+    /// Where the wheels of the duration begin, in milliseconds.
     Q_PROPERTY(double minDuration READ minDuration WRITE setMinDuration NOTIFY minDurationChanged FINAL)
+    /// Where they end, in milliseconds. Below `minDuration`, only that can be chosen, and a warning
+    /// says so.
     Q_PROPERTY(double maxDuration READ maxDuration WRITE setMaxDuration NOTIFY maxDurationChanged FINAL)
+    /// The average in beats per minute; 0 is no value. NaN and infinite numbers are ignored with a
+    /// warning.
     Q_PROPERTY(double currentAvgHeartRate READ currentAvgHeartRate WRITE setCurrentAvgHeartRate NOTIFY currentAvgHeartRateChanged FINAL)
+    /// The maximum in beats per minute; 0 is no value. NaN and infinite numbers are ignored with a
+    /// warning.
     Q_PROPERTY(double currentMaxHeartRate READ currentMaxHeartRate WRITE setCurrentMaxHeartRate NOTIFY currentMaxHeartRateChanged FINAL)
+    /// The distance in metres. NaN and infinite numbers are ignored with a warning.
     Q_PROPERTY(double distance READ distance WRITE setDistance NOTIFY distanceChanged FINAL)
+    /// The duration in milliseconds. NaN and infinite numbers are ignored with a warning.
     Q_PROPERTY(double duration READ duration WRITE setDuration NOTIFY durationChanged FINAL)
+    /// The index of the chosen picture. NaN and infinite numbers are ignored with a warning.
     Q_PROPERTY(double weather READ weather WRITE setWeather NOTIFY weatherChanged FINAL)
+    /// The temperature in degrees Celsius. NaN and infinite numbers are ignored with a warning.
     Q_PROPERTY(double temperature READ temperature WRITE setTemperature NOTIFY temperatureChanged FINAL)
+    /// What the user picks, in one unit whatever is shown. NaN and infinite numbers are ignored
+    /// with a warning.
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged FINAL)
+    /// Files of the pictures, as addresses relative to the document that makes the picker. One that
+    /// cannot be read gives a warning, and a row without a picture.
     Q_PROPERTY(QStringList iconImages READ iconImages WRITE setIconImages NOTIFY iconImagesChanged FINAL)
+    /// What a screen reader calls the pictures, in their order.
     Q_PROPERTY(QStringList iconLabels READ iconLabels WRITE setIconLabels NOTIFY iconLabelsChanged FINAL)
+    /// The value as it is shown, with its unit.
     Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
 
 public:
@@ -87,13 +125,10 @@ public:
     double number(Property property) const { return values_[indexOf(property)]; }
     void setNumber(Property property, double value);
 
-    /// Files of pictures, relative to the document that makes the control, and what a screen reader
-    /// calls them.
     const QStringList& iconImages() const { return iconImages_; }
     void setIconImages(const QStringList& images);
     const QStringList& iconLabels() const { return iconLabels_; }
     void setIconLabels(const QStringList& labels);
-    /// The value as it is shown, with its unit.
     const QString& text() const { return text_; }
 
     UnitSystem::Value unitSystem() const { return number(Property::Metric) != 0 ? UnitSystem::Metric : UnitSystem::Imperial; }
@@ -195,6 +230,7 @@ private:
     static constexpr std::size_t indexOf(Property property) { return static_cast<std::size_t>(property); }
 
     bool isTaken(Property property, double value) const;
+    bool areCrossed(double lower, double upper) const;
     void apply(Property property);
     void applyIcons();
     void applyName();

@@ -1,10 +1,11 @@
 import GXUIPickers
 
-/// Picks the height of a person. Its value is in centimetres.
+/// Picks the height of a person in centimetres, or feet and inches.
 PickerControl {
+    /// Centimetres, from 120 to 220. With 0, which is none, the wheel shows 180 cm. Default: 0.
     property alias value: item.value
+    /// Default: UnitSystem.Metric.
     property alias unitSystem: item.unitSystem
-    /// The value as it is shown, with its unit.
     readonly property alias text: item.text
 
     wheel: PickerItem {

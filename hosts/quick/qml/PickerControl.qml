@@ -1,21 +1,24 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// What all pickers of this module have in common.
+/// A picker is a `Control` of Qt Quick: it has `font`, `palette`, `locale`, `mirrored`,
+/// `focusPolicy`, `wheelEnabled`, `hovered` and implicit sizes, with those of the controls around it.
 ///
-/// It has the font, locale, palette and direction of the controls around it. Rows are as high as
-/// the font's pixel size needs, from 18 to 66 pixels.
+/// - Each property has a signal for its changes, such as `onValueChanged`.
+/// - A value that is set is shown at once, and never calls `moved`.
+/// - Rows are as high as the font's pixel size needs, from 18 to 66 pixels.
 T.Control {
     id: control
 
     /// What shows the columns; a type sets it once.
     required property Item wheel
-    /// Nothing moves by itself, for users who get dizzy by motion.
+    /// Nothing moves by itself, for users who get dizzy by motion. Default: false.
     property bool reducedMotion: false
-    /// Stronger colours, and an outline of the selection indicator.
+    /// Stronger colours, and an outline of the selection indicator. Default: false.
     property bool highContrast: false
 
-    /// The user has selected something. Never emitted for a change by a binding or by the program.
+    /// The user has selected something, and the wheel is at rest. Never emitted for a change by a
+    /// binding or by the program.
     signal moved
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding

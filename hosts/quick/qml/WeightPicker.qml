@@ -1,14 +1,19 @@
 import GXUIPickers
 
-/// Picks a body weight. Its value is in kilograms.
+/// Picks a body weight in kilograms, pounds or stones.
 PickerControl {
+    /// Kilograms. A value below `from` selects nothing, so set one. Default: 0.
     property alias value: item.value
+    /// Kilograms. Default: 15.
     property alias from: item.from
+    /// Kilograms. Has no effect: rows end where the unit says, at 349.9 kg. Default: 350.
     property alias to: item.to
+    /// Has no effect: rows are a tenth apart. Default: 1.
     property alias stepSize: item.stepSize
+    /// Default: WeightUnit.Kilogram.
     property alias weightUnit: item.weightUnit
+    /// Default: false.
     property alias weightUnitSelectable: item.weightUnitSelectable
-    /// The value as it is shown, with its unit.
     readonly property alias text: item.text
 
     wheel: PickerItem {

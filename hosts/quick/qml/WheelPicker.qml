@@ -1,8 +1,7 @@
 import GXUIPickers
 
-/// A wheel with columns of the application's own.
-///
-/// A column is a number of rows, a list of texts, or a model.
+/// A wheel with columns of an application's own. A model may change at any time, and a column may
+/// have 2^53 rows.
 PickerControl {
     property alias columns: item.columns
     property alias currentIndexes: item.currentIndexes

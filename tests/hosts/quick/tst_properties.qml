@@ -68,6 +68,30 @@ Control {
         }
     }
     Component {
+        id: stepless
+
+        IntegerPicker {
+            stepSize: -2
+        }
+    }
+    Component {
+        id: paces
+
+        PacePicker {
+            from: 8
+            to: 1
+            value: 3
+        }
+    }
+    Component {
+        id: crossedPaces
+
+        PacePicker {
+            from: 1
+            to: 8
+        }
+    }
+    Component {
         id: heartRates
 
         HeartRatePicker {
@@ -136,6 +160,11 @@ Control {
             compare(picker.stepSize, 1)
         }
 
+        function test_aBadValueInADocumentIsWarnedOfWithTheLine() {
+            ignoreWarning(/tst_properties.qml:\d+:\d+: QML IntegerPicker: stepSize has to be above 0, not -2. It is ignored/)
+            compare(made(stepless).stepSize, 1)
+        }
+
         function test_aTextIsNotTaken() {
             const picker = made(integers)
             let message = ""
@@ -163,6 +192,21 @@ Control {
             tryVerify(() => !isPolishScheduled(picker.contentItem))
             keyClick(Qt.Key_End)
             compare(picker.text, "8")
+        }
+
+        function test_aPaceBeginsWithTheLargestSpeed() {
+            failOnWarning(/./)
+            const picker = made(paces)
+            waitForRendering(picker)
+            compare([picker.from, picker.to, picker.value], [8, 1, 3])
+            compare(picker.text, "5:30 min/km")
+        }
+
+        function test_crossedPacesAreWarnedOf() {
+            ignoreWarning(/tst_properties.qml:\d+:\d+: QML PacePicker: from \(1\) is below to \(8\). Only 1 can be chosen/)
+            const picker = made(crossedPaces)
+            compare([picker.from, picker.to, picker.value], [1, 8, 1])
+            tryVerify(() => !isPolishScheduled(picker.contentItem))
         }
 
         function test_boundsMayCrossForAMoment() {
