@@ -55,9 +55,9 @@ class Abi(unittest.TestCase):
                         "-I", str(folder / "include"), str(folder / "wheel.cpp"), "-o", str(folder / "libgx_wheel.so")], check=True)
 
     @classmethod
-    def abi(cls, what, name):
+    def abi(cls, what, name, *more):
         return subprocess.run([sys.executable, str(ROOT / "scripts/abi"), what, str(cls.work / name), "--folder", str(cls.work / "abi"),
-                               "--headers", str(cls.work / name / "include"), "--library", "wheel"], capture_output=True, text=True)
+                               "--headers", str(cls.work / name / "include"), "--library", "wheel", *more], capture_output=True, text=True)
 
     def expect(self, expected, text, **change):
         self.build("after", **change)
@@ -83,6 +83,21 @@ class Abi(unittest.TestCase):
     def test_removed_library_breaks(self):
         (self.work / "empty").mkdir()
         self.assertEqual(self.abi("check", "empty").returncode, 1)
+
+    def test_new_library_fits_if_the_version_is_new(self):
+        # As a library that the version before did not have: others are described with its SONAME.
+        self.build("after", soname="libgx_wheel.so.0.3")
+        # A library that is not there is a fault as ever.
+        self.assertEqual(self.abi("check", "after", "--library", "table").returncode, 1)
+        shutil.copy(self.work / "after/libgx_wheel.so", self.work / "after/libgx_table.so")
+        result = self.abi("check", "after", "--library", "table")
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        self.assertIn("table: libgx_wheel.so.0.3 is new", result.stdout)
+        self.build("after")
+        shutil.copy(self.work / "after/libgx_wheel.so", self.work / "after/libgx_table.so")
+        result = self.abi("check", "after", "--library", "table")
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("table: there is no description of it", result.stdout)
 
     def test_changed_argument_breaks(self):
         self.expect(1, "BROKEN", argument="long")
