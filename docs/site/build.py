@@ -21,6 +21,7 @@ sys.path.insert(0, HERE)
 import documents  # noqa: E402
 import links  # noqa: E402
 import page as pages  # noqa: E402
+import qml  # noqa: E402
 import reference  # noqa: E402
 import reference_pages  # noqa: E402
 
@@ -73,7 +74,10 @@ def write(folder, arguments):
     os.makedirs(folder)
 
     api = reference.Reference(ROOT, work)
-    findings = api.findings + links.check_markdown(ROOT, names, tracked)
+    module = qml.QmlReference(ROOT)
+    for type_ in module.types + module.enums:
+        api.put(None, type_.page, type_.name)
+    findings = api.findings + module.findings + links.check_markdown(ROOT, names, tracked)
 
     drawn = {}  # Pictures made now, by name.
     if arguments.pictures:
@@ -83,9 +87,10 @@ def write(folder, arguments):
         pair = [f"{picture}-light.png", f"{picture}-dark.png"]
         if all(side in drawn for side in pair):
             of_class[name] = ["images/" + side for side in pair]
+            of_class[re.sub(r"^GX|View$", "", name)] = of_class[name]  # The type of Qt Quick.
 
     docs = documents.Documents(ROOT, names, tracked)
-    api_pages = reference_pages.ReferencePages(api, of_class)
+    api_pages = reference_pages.ReferencePages(api, module, of_class)
     written = docs.pages()
     for page in written:
         page.body = api.link_codes(page.body, page.path)
@@ -121,7 +126,7 @@ def write(folder, arguments):
     old = sorted(name for name in wanted if drawn and name.endswith(".png") and name not in drawn)
     for name in old:
         print(f"not drawn by this run, the repository's own is shown: {name}")
-    print(f"{len(written)} pages, {len(api.classes)} classes, {len(wanted)} pictures of documents, {len(of_class)} pickers with pictures")
+    print(f"{len(written)} pages, {len(api.classes)} classes, {len(module.types)} types of QML, {len(wanted)} pictures of documents, {len(of_class)} classes and types with pictures")
     return findings
 
 

@@ -9,7 +9,7 @@ import os
 import re
 import subprocess
 
-FLOORS = ["platform", "services", "pickers", "hosts/qt"]
+FLOORS = ["platform", "services", "pickers", "hosts/qt", "hosts/quick"]
 
 # Declarations that mean the same in every class.
 STANDARD_COMMENTS = [

@@ -1,5 +1,6 @@
 """What all pages share: the frame around them, links between them, and code in colours."""
 
+import functools
 import html
 import os
 import re
@@ -25,10 +26,15 @@ class Page:
         self.entries = []  # For the search: (name, anchor, summary).
 
 
+@functools.cache
+def path_from(folder, path):
+    return os.path.relpath(path, folder or ".")
+
+
 def relative(target, page):
     """The link from a page to a path of the site, which may end in an anchor."""
     path, mark, anchor = target.partition("#")
-    link = os.path.relpath(path, os.path.dirname(page) or ".") if path != page else ""
+    link = path_from(os.path.dirname(page), path) if path != page else ""
     return (link + mark + anchor) or os.path.basename(page)
 
 

@@ -19,21 +19,21 @@ FLOORS = [("platform", "Platform"), ("services", "Services"), ("pickers", "Picke
 EXAMPLES = "docs/examples/reference"
 
 
-def read_examples(root):
-    """For each class the text of its pitfalls, its code, and the file that has them."""
+def examples_in(root, ending):
+    """For each name between marks: the text of its pitfalls, its code, and the file that has them."""
     found = {}
     for name in sorted(os.listdir(os.path.join(root, EXAMPLES))):
+        if not name.endswith(ending):
+            continue
         with open(os.path.join(root, EXAMPLES, name), encoding="utf-8") as file:
             text = file.read()
         for match in re.finditer(r"^ *// \[([\w: ]+)\]\n(.*?)^ *// \[\1\]$", text, re.M | re.S):
             block = textwrap.dedent(match.group(2))
             pitfalls = re.match(r"(?:///.*\n)*", block).group()
             for key in match.group(1).split():
-                entry = found.setdefault("gx::" + key, {"pitfalls": "", "code": [], "file": f"{EXAMPLES}/{name}"})
-                entry["pitfalls"] += re.sub(r"^///? ?", "", pitfalls.replace("///", "//"), flags=re.M)
+                entry = found.setdefault(key, {"pitfalls": "", "code": [], "file": f"{EXAMPLES}/{name}"})
+                entry["pitfalls"] += re.sub(r"^/// ?", "", pitfalls, flags=re.M)
                 entry["code"].append(block[len(pitfalls):].strip("\n"))
-    for entry in found.values():
-        entry["pitfalls"] = re.sub(r"^/ ?", "", entry["pitfalls"], flags=re.M)
     return found
 
 
@@ -51,7 +51,7 @@ class Reference:
                     self.namespaces.append(compound)
                 elif compound.get("prot") in ("public", "protected", None):
                     self.compounds[compound.get("id")] = compound
-        self.examples = read_examples(root)
+        self.examples = {"gx::" + key: example for key, example in examples_in(root, ".cpp").items()}
         self.classes = {key: c for key, c in self.compounds.items() if c.get("kind") in ("class", "struct")}
         self.places = {}  # Of each thing that Doxygen knows: its page and anchor.
         self.by_name = {}  # The same by its name, such as "UIWindow::tick".
@@ -98,7 +98,7 @@ class Reference:
 
     @staticmethod
     def short(name):
-        return re.sub(r"^gx::(qt::)?", "", name)
+        return re.sub(r"^gx::((?:qt|quick)::)?", "", name)
 
     def members_of(self, compound):
         """Its public and protected members in the order of the header."""
@@ -148,7 +148,7 @@ class Reference:
     def linked_code(self, text, path, own=""):
         """`code` with a link, if it names something here."""
         name = re.sub(r"\(.*\)$", "", text.strip())
-        name = re.sub(r"^(gx::)?(qt::)?", "", re.sub(r"^<GXUIPickers/(\w+)\.h>$", r"\1", name))
+        name = re.sub(r"^(gx::)?((?:qt|quick)::)?", "", re.sub(r"^<GXUIPickers/(\w+)\.h>$", r"\1", name))
         for key in ([own + "::" + name] if own else []) + [name, re.sub(r"^.*?(\w+)\(\)->(\w+)$", r"\1::\2", name)]:
             place = self.by_name.get(key)
             if place and place.partition("#")[0] + "#" + place.partition("#")[2] != path + "#":

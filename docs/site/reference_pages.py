@@ -6,6 +6,7 @@ import re
 
 import documents
 import page as pages
+import qml as qml_pages
 from reference import FLOORS
 
 # Of a class, in this order.
@@ -44,8 +45,9 @@ def declaration(member):
 
 
 class ReferencePages:
-    def __init__(self, reference, pictures):
+    def __init__(self, reference, qml, pictures):
         self.reference = reference
+        self.qml = qml_pages.QmlPages(qml, reference.link_codes, self.pictures_of)
         self.pictures = pictures  # Of a class: its pictures, light and dark.
 
     def navigation(self):
@@ -53,7 +55,7 @@ class ReferencePages:
         for folder, title in FLOORS:
             entries = [(name, path) for name, path, header in self.classes_in_order() if header.startswith(folder + "/")]
             result.append((title, entries))
-        return result
+        return result + [("Qt Quick", self.qml.navigation())]
 
     def classes_in_order(self):
         r = self.reference
@@ -61,7 +63,8 @@ class ReferencePages:
         return sorted(rows, key=lambda row: row[0].lower())
 
     def pages(self):
-        return [self.index()] + [self.page_of_class(c) for c in self.reference.classes.values()] + [self.page_of_functions()]
+        classes = [self.page_of_class(c) for c in self.reference.classes.values()]
+        return [self.index()] + classes + [self.page_of_functions()] + self.qml.pages()
 
     def index(self):
         r = self.reference
@@ -74,6 +77,10 @@ class ReferencePages:
                 if header.startswith(folder + "/"):
                     body += f'<dt><a href="{pages.relative(path, "reference/index.html")}">{html.escape(name)}</a></dt><dd>{html.escape(briefs[path])}</dd>'
             body += "</dl>"
+        body += '<h2 id="qt-quick">Qt Quick</h2><p>The types of <code>import GXUIPickers</code>.</p><dl class="classes">'
+        for name, path, brief in self.qml.briefs():
+            body += f'<dt><a href="{pages.relative(path, "reference/index.html")}">{name}</a></dt><dd>{html.escape(brief)}</dd>'
+        body += "</dl>"
         return pages.Page("reference/index.html", "Reference", "reference", body)
 
     def page_of_class(self, compound):
