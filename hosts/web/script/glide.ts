@@ -1,41 +1,57 @@
 import { clock, isPageClock } from './clock.js';
 import type { Module } from './module.js';
-import { transformOf, type Draw, type Surface } from './surface.js';
+import type { Draw, Surface } from './surface.js';
 
 /**
- * In seconds, while a spin is fast and afterwards. Chosen: between two of them, a row leaves its
- * curve by a fifth of a pixel at most.
+ * In pixels, from frame to frame. Chosen: a row leaves its curve by a quarter of a pixel at most,
+ * while it moves seven of them or more in each of the screen's frames.
  */
-const frameTimes = { fast: 1 / 60, slow: 1 / 30 };
-/** Chosen: fewer are not worth it, and more make a long task. */
-const frameCounts = { least: 16, most: 36 };
+const mostDistance = 14;
+/** In seconds, from frame to frame. Chosen for the same reason, where rows turn round. */
+const frameTimes = { least: 1 / 120, most: 1 / 30 };
+/** Chosen: more make a long task. */
+const mostFrames = 50;
 /** Chosen for the same reason; half of it are in sight at the start. */
 const mostTracks = 40;
+/** In seconds. Chosen: what is shorter is not worth it. */
+const leastTime = 0.25;
 /** In frames: how long before the end of its last frame the compositor gets more. */
 const reserve = 6;
+/**
+ * In seconds: how long the last frame stays. Chosen: longer than a timer is late, since animations
+ * that end wake the page.
+ */
+const rest = 0.1;
 /** In seconds. Chosen: longer than between two events of a hand that moves. */
 const pause = 0.1;
 /** In bytes. Chosen: copied in less than a millisecond. */
 const mostMemory = 4 * 1024 * 1024;
 
+/** Where a text or a picture is in one frame. */
+type Place = Pick<Draw, 'x' | 'y' | 'scaleX' | 'scaleY' | 'alpha'>;
+
 /** One text or picture in the frames to come. */
 interface Track {
     readonly draw: Draw;
     readonly first: number;
-    readonly frames: Draw[];
+    readonly places: Place[];
     isMoving: boolean;
 }
 
-/** What the frames after a time draw, and when rows pass. */
+/** What the frames at these times draw, the first of them now, and when rows pass. */
 interface Ahead {
     readonly tracks: readonly Track[];
-    readonly count: number;
-    readonly frameTime: number;
     readonly times: readonly number[];
+    readonly wakes: readonly number[];
 }
 
-const isSame = (one: Draw, other: Draw): boolean =>
+const isSame = (one: Place, other: Place): boolean =>
     one.y === other.y && one.x === other.x && one.alpha === other.alpha && one.scaleY === other.scaleY && one.scaleX === other.scaleX;
+
+const placeOf = ({ x, y, scaleX, scaleY, alpha }: Place): Place => ({ x, y, scaleX, scaleY, alpha });
+
+/** Where it goes on to from `one`, as far as it is from the other. */
+const beyond = (one: Place, other = one): Place => ({ ...one, y: 2 * one.y - other.y, scaleY: 2 * one.scaleY - other.scaleY });
 
 /**
  * Hands the frames to come to the page's compositor, as animations of the rows. Script then runs
@@ -66,6 +82,11 @@ export class Glide {
         this.heldUntil = clock().now() + pause;
     }
 
+    /** What has happened is over. */
+    release(): void {
+        this.heldUntil = 0;
+    }
+
     /** The module has called back, for a time to come. */
     note(): void {
         this.notes += 1;
@@ -77,13 +98,13 @@ export class Glide {
      */
     begin(time: number, wake: (draws: boolean) => void): boolean {
         const isWanted = isPageClock() && time >= this.heldUntil && this.module.memorySize <= mostMemory;
-        const ahead = isWanted ? this.look(time, this.isActive ? frameTimes.slow : frameTimes.fast) : undefined;
+        const ahead = isWanted ? this.look(time) : undefined;
         const before = this.animations;
         this.animations = [];
         clearTimeout(this.timer);
-        if (ahead && ahead.count >= frameCounts.least) {
-            this.animate(ahead, time);
-            this.wait(ahead.times, wake);
+        if (ahead && ahead.times[ahead.times.length - 1]! - time >= leastTime) {
+            this.animate(ahead);
+            this.wait(ahead.wakes, wake);
         } else if (isWanted) {
             // It stays so until something happens.
             this.heldUntil = Infinity;
@@ -98,66 +119,92 @@ export class Glide {
         this.animations = [];
     }
 
-    private look(time: number, frameTime: number): Ahead | undefined {
+    private look(time: number): Ahead | undefined {
         const { module, number, surface } = this;
         const tracks: Track[] = [];
         const last = new Map<string, Track>();
-        const times: number[] = [];
-        let count = 0;
+        const times = [time];
+        const wakes: number[] = [];
+        let distance = 0;
         let isOver = false as boolean;
         let isClear = true as boolean;
         const add = (draw: Draw): void => {
             const key = `${draw.home}/${draw.font}/${draw.image}/${draw.text}`;
-            let track = last.get(key);
-            const length = track ? track.first + track.frames.length : -1;
+            const count = times.length - 1;
+            const track = last.get(key);
+            const length = track ? track.first + track.places.length : -1;
             // Two alike cannot be told apart in the next frame.
             if (length > count) isClear = false;
             if (track && length === count) {
-                const before = track.frames[track.frames.length - 1]!;
-                const isStill = isSame(before, draw);
-                track.isMoving ||= !isStill;
-                track.frames.push(isStill ? before : { ...draw });
+                const before = track.places[count - track.first - 1]!;
+                if (isSame(before, draw)) {
+                    track.places.push(before);
+                    return;
+                }
+                distance = Math.max(distance, Math.abs(draw.y - before.y));
+                track.isMoving = true;
+                track.places.push(placeOf(draw));
             } else {
-                const copy = { ...draw };
-                track = { draw: copy, first: count, frames: [copy], isMoving: count > 0 };
-                last.set(key, track);
-                tracks.push(track);
+                const added = { draw: { ...draw }, first: count, places: [placeOf(draw)], isMoving: count > 0 };
+                last.set(key, added);
+                tracks.push(added);
             }
         };
         surface.draws().forEach(add);
         this.isAhead = true;
         module.runAhead((calls) => {
-            for (count = 1; isClear && count < frameCounts.most && tracks.length < mostTracks; count += 1) {
-                const next = time + count * frameTime;
+            let { least: step } = frameTimes;
+            while (isClear && times.length < mostFrames && tracks.length < mostTracks) {
+                const next = times[times.length - 1]! + step;
                 const before = this.notes;
                 isOver = calls.tick(number, next) === 0;
-                if (isOver || this.notes > before) times.push(next);
+                if (isOver || this.notes > before) wakes.push(next);
                 if (isOver) break;
+                times.push(next);
+                distance = 0;
                 surface.sketch(() => module.draw(number)).forEach(add);
+                step = Math.min(Math.max((step * mostDistance) / distance, frameTimes.least), frameTimes.most);
             }
         });
         this.isAhead = false;
         if (!isClear) return undefined;
-        const end = time + (count - reserve) * frameTime;
-        return { tracks, count, frameTime, times: isOver ? times : [...times.filter((row) => row < end), end] };
+        if (isOver || times.length <= reserve) return { tracks, times, wakes };
+        const end = times[times.length - reserve]!;
+        return { tracks, times, wakes: [...wakes.filter((row) => row < end), end] };
     }
 
-    private animate({ tracks, count, frameTime }: Ahead, time: number): void {
-        const end = count - 1;
-        const moving = tracks.filter(({ isMoving, frames }) => isMoving || frames.length < count);
+    private animate({ tracks, times }: Ahead): void {
+        const count = times.length;
+        const begin = times[0]!;
+        const end = times[count - 1]! + rest;
+        const duration = end - begin;
+        const moving = tracks.filter(({ isMoving, places }) => isMoving || places.length < count);
         // All writing first: an animation may look at the page's styles.
         const nodes = moving.map(({ draw, first }) => this.surface.nodeFor(draw, first > 0));
-        moving.forEach(({ draw, first, frames }, i) => {
-            const length = first + frames.length;
-            const keys: Keyframe[] = [];
-            const add = (place: number, frame: Draw, opacity = frame.alpha): void => {
-                keys.push({ offset: Math.min(place / end, 1), transform: transformOf(frame), opacity });
+        moving.forEach(({ first, places }, i) => {
+            // By property, which the page reads in half the time that keyframes take.
+            const offset: number[] = [];
+            const transform: string[] = [];
+            const opacity: number[] = [];
+            const add = (time: number, { x, y, scaleX, scaleY, alpha }: Place, seen = alpha): void => {
+                offset.push((time - begin) / duration);
+                // All of one form, so that the page mixes them number by number.
+                transform.push(`translate(${x}px,${y}px) scale(${scaleX},${scaleY})`);
+                opacity.push(seen);
             };
-            if (first > 0) for (const place of [0, first - 1]) add(place, draw, 0);
-            frames.forEach((frame, k) => add(first + k, frame));
-            if (length < count) for (const place of [length, end]) add(place, frames[frames.length - 1]!, 0);
-            const animation = nodes[i]!.animate(keys, { duration: end * frameTime * 1000, fill: 'both' });
-            animation.startTime = time * 1000;
+            const length = first + places.length;
+            const last = places[places.length - 1]!;
+            // Between two frames it comes into sight, or goes out of it, on its way.
+            if (first > 0) {
+                const before = beyond(places[0]!, places[1]);
+                add(begin, before, 0);
+                add(times[first - 1]!, before, 0);
+            }
+            places.forEach((place, k) => add(times[first + k]!, place));
+            if (length < count) add(times[length]!, beyond(last, places[places.length - 2]), 0);
+            add(end, last, length < count ? 0 : last.alpha);
+            const animation = nodes[i]!.animate({ offset, transform, opacity }, { duration: duration * 1000, fill: 'both' });
+            animation.startTime = begin * 1000;
             this.animations.push(animation);
         });
     }

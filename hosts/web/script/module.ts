@@ -89,7 +89,8 @@ export interface Drawing {
 }
 
 /** What the module tells an element, while it is being called. */
-export interface Client extends Drawing {
+export interface Client {
+    readonly surface: Drawing;
     needsFrame(): void;
     didPassRow(): void;
     didChange(): void;
@@ -118,7 +119,7 @@ const highestShortTextCount = 1000;
 class Instance {
     readonly exports: Exports;
     readonly clients = new Map<number, Client>();
-    drawing: Client | undefined;
+    drawing: Drawing | undefined;
     private kept: Uint8Array;
     /** Texts of up to four letters, by their bytes. */
     private readonly shortTexts = new Map<number, string>();
@@ -293,7 +294,7 @@ export class Module {
     /** Draws the element's frame on what it registered. */
     draw(element: number): void {
         const { instance } = this;
-        instance.drawing = instance.clients.get(element);
+        instance.drawing = instance.clients.get(element)?.surface;
         try {
             instance.exports.draw(element);
         } finally {

@@ -1,7 +1,7 @@
 import { ColumnAction, Columns, type Traits } from './accessibility.js';
 import { clock } from './clock.js';
 import type { Fonts } from './fonts.js';
-import { Glide } from './glide.js';
+import { Frames } from './frames.js';
 import { Input } from './input.js';
 import type { Calls, Client, Module } from './module.js';
 import type { Kind } from './properties.js';
@@ -34,16 +34,12 @@ export class View implements Client {
     readonly number: number;
     private readonly columns: Columns;
     private readonly input: Input;
-    private readonly glide: Glide;
-    private request: number | undefined;
+    private readonly frames: Frames;
     private passedRows = 0;
     private hasChanged = false;
     private areColumnsOld = true;
-    private isFirstPictureNew = false;
     private depth = 0;
     private isClosed = false;
-    private isWaking = false;
-    private lastTick = 0;
     private toldText = '';
     private traits: Traits | undefined;
 
@@ -61,10 +57,20 @@ export class View implements Client {
             didFocusColumn: (column) => this.didFocusColumn(column),
         });
         root.append(this.columns.root);
-        this.glide = new Glide(module, this.number, surface);
+        this.frames = new Frames(module, this.number, surface, {
+            read: (work, otherwise) => this.read(work, otherwise),
+            mayGlide: () => !this.input.hasFingers && owner.mayRunAhead(),
+            didRest: () => {
+                if (this.areColumnsOld) this.updateColumns();
+            },
+        });
         this.input = new Input(this.columns.root, {
-            touch: (phase, finger, x, y, time) =>
-                this.call((calls) => calls.touch(this.number, phase, finger, x, y, time) === 1, false, time),
+            touch: (phase, finger, x, y, time) => {
+                const isTaken = this.call((calls) => calls.touch(this.number, phase, finger, x, y, time) === 1, false, time);
+                // Nothing follows the last finger.
+                if (!this.input.hasFingers) this.frames.glide.release();
+                return isTaken;
+            },
             pointer: (isInside, x, y) => this.call((calls) => calls.pointer(this.number, Number(isInside), x, y), undefined),
             scroll: (isNotches, deltaX, deltaY, x, y, time, isFinished) =>
                 this.call(
@@ -89,21 +95,13 @@ export class View implements Client {
     }
 
     open(kind: Kind, fonts: Fonts, language: string, isRightToLeft: boolean): boolean {
-        this.surface.labelFont = fonts.label;
-        return this.call(
-            (calls) =>
-                calls.open(
-                    this.number,
-                    kind,
-                    fonts.row,
-                    fonts.rowSize,
-                    fonts.label,
-                    fonts.labelSize,
-                    this.module.giveText(language),
-                    Number(isRightToLeft),
-                ) === 1,
-            false,
-        );
+        const { row, rowSize, label, labelSize } = fonts;
+        const fromRight = Number(isRightToLeft);
+        this.surface.labelFont = label;
+        return this.call((calls) => {
+            const length = this.module.giveText(language);
+            return calls.open(this.number, kind, row, rowSize, label, labelSize, length, fromRight) === 1;
+        }, false);
     }
 
     /** Ends what moves first, so that it is reported. */
@@ -121,8 +119,8 @@ export class View implements Client {
      */
     call<Result>(work: (calls: Calls) => Result, otherwise: Result, time = clock().now()): Result {
         return this.read((calls) => {
-            this.glide.hold();
-            if (this.glide.isActive) this.settle(time);
+            this.frames.glide.hold();
+            this.frames.settle(time);
             return work(calls);
         }, otherwise);
     }
@@ -145,8 +143,7 @@ export class View implements Client {
 
     private stop(): void {
         this.isClosed = true;
-        this.cancelFrame();
-        this.glide.end();
+        this.frames.stop();
         this.columns.root.remove();
     }
 
@@ -176,22 +173,16 @@ export class View implements Client {
     // What the module tells
 
     needsFrame(): void {
-        if (this.glide.isAhead || this.isWaking) return;
-        if (this.request === undefined && !this.isClosed) this.request = clock().requestFrame((time) => this.frame(time));
-    }
-
-    private cancelFrame(): void {
-        if (this.request !== undefined) clock().cancelFrame(this.request);
-        this.request = undefined;
+        this.frames.need();
     }
 
     didPassRow(): void {
-        if (this.glide.isAhead) this.glide.note();
+        if (this.frames.glide.isAhead) this.frames.glide.note();
         else this.passedRows += 1;
     }
 
     didChange(): void {
-        if (this.glide.isAhead) this.glide.note();
+        if (this.frames.glide.isAhead) this.frames.glide.note();
         else this.hasChanged = true;
     }
 
@@ -199,79 +190,10 @@ export class View implements Client {
         return this.owner.rowTitle(column, row);
     }
 
-    fillRect(...call: Parameters<Surface['fillRect']>): void {
-        this.surface.fillRect(...call);
-    }
-
-    drawText(...call: Parameters<Surface['drawText']>): void {
-        this.surface.drawText(...call);
-    }
-
-    drawImage(...call: Parameters<Surface['drawImage']>): void {
-        this.surface.drawImage(...call);
-    }
-
-    // Frames
-
-    private frame(time: number): void {
-        this.request = undefined;
-        const draws = this.tick(time);
-        const isFirstPictureNew = this.isFirstPictureNew;
-        this.isFirstPictureNew = false;
-        if (draws || this.glide.isActive) {
-            this.draw();
-            if (this.beginGlide(time)) this.cancelFrame();
-            else this.needsFrame();
-        } else if (isFirstPictureNew) {
-            // The page shows the first picture at the end of this frame: nothing may hold it up.
-            this.needsFrame();
-        } else if (this.areColumnsOld) {
-            this.updateColumns();
-        }
-    }
-
-    private tick(time: number): boolean {
-        this.lastTick = time;
-        return this.read((calls) => calls.tick(this.number, time) === 1, false);
-    }
-
-    private beginGlide(time: number): boolean {
-        if (this.input.hasFingers || !this.owner.mayRunAhead()) {
-            this.glide.end();
-            return false;
-        }
-        return this.read(() => this.glide.begin(time, (draws) => (draws ? this.needsFrame() : this.wake())), false);
-    }
-
-    /** A row passes that the compositor shows. */
-    private wake(): void {
-        this.read(() => {
-            this.isWaking = true;
-            this.tick(clock().now());
-            this.isWaking = false;
-        }, undefined);
-    }
-
-    /** Takes the frames back from the compositor, as they are at this time. */
-    private settle(time: number): void {
-        this.tick(Math.max(time, this.lastTick));
-        this.draw();
-        this.glide.end();
-        this.needsFrame();
-    }
-
     /** Shows the first picture at once; the columns follow when it is on the screen. */
     showNow(): void {
-        this.isFirstPictureNew = true;
-        this.tick(clock().now());
-        this.draw();
+        this.frames.showNow();
         this.changed();
-    }
-
-    private draw(): void {
-        this.surface.begin();
-        this.read(() => this.module.draw(this.number), undefined);
-        this.surface.end();
     }
 
     /** Something is to be shown and told again. */
@@ -300,67 +222,58 @@ export class View implements Client {
 
     // Settings
 
+    private set(work: (calls: Calls) => void): void {
+        this.call(work, undefined);
+        this.changed();
+    }
+
     setTraits(traits: Traits): void {
         this.traits = traits;
         const takesInput = !traits.isDisabled && !traits.isReadOnly;
         if (!takesInput) this.input.cancelAll();
-        this.call(
-            (calls) =>
-                calls.setTraits(
-                    this.number,
-                    Number(traits.isHighContrast) | (Number(traits.reducesMotion) << 1) | (Number(takesInput) << 2),
-                ),
-            undefined,
-        );
-        this.changed();
+        const bits = Number(traits.isHighContrast) | (Number(traits.reducesMotion) << 1) | (Number(takesInput) << 2);
+        this.set((calls) => calls.setTraits(this.number, bits));
     }
 
     setFonts(fonts: Fonts): void {
         this.surface.labelFont = fonts.label;
         this.surface.forgetFonts();
-        this.call((calls) => calls.setFonts(this.number, fonts.row, fonts.rowSize, fonts.label, fonts.labelSize), undefined);
-        this.changed();
+        this.set((calls) => calls.setFonts(this.number, fonts.row, fonts.rowSize, fonts.label, fonts.labelSize));
     }
 
     setLanguage(language: string, isRightToLeft: boolean): void {
-        this.call((calls) => calls.setLanguage(this.number, this.module.giveText(language), Number(isRightToLeft)), undefined);
-        this.changed();
+        this.set((calls) => calls.setLanguage(this.number, this.module.giveText(language), Number(isRightToLeft)));
     }
 
     setLabel(label: string | null): void {
-        this.call((calls) => calls.setLabel(this.number, label === null ? -1 : this.module.giveText(label)), undefined);
-        this.changed();
+        this.set((calls) => calls.setLabel(this.number, label === null ? -1 : this.module.giveText(label)));
     }
 
     setSize(width: number, height: number): void {
-        this.call((calls) => calls.setSize(this.number, width, height), undefined);
-        this.changed();
+        this.set((calls) => calls.setSize(this.number, width, height));
     }
 
     reload(): void {
         this.surface.forgetFonts();
-        this.call((calls) => calls.reload(this.number), undefined);
-        this.changed();
+        this.set((calls) => calls.reload(this.number));
     }
 
     /** The pictures of an icon picker, each with what it shows. */
     setIcons(images: readonly { node: HTMLElement; width: number; height: number; label: string }[]): void {
         this.surface.setImages(images.map((image) => image.node));
         const numbers = images.flatMap((image, handle) => [handle, image.width, image.height]);
-        this.call((calls) => {
+        this.set((calls) => {
             const length = this.module.giveText(images.map((image) => `${image.label.replaceAll('\n', ' ')}\n`).join(''));
             calls.setIcons(this.number, this.module.giveNumbers(numbers), images.length, length);
-        }, undefined);
-        this.changed();
+        });
     }
 
     /** The columns of a wheel of the page's own. */
     setColumns(counts: readonly number[], columns: readonly { width: number; label: string }[]): void {
-        this.call((calls) => {
+        this.set((calls) => {
             calls.setRowCounts(this.number, this.module.giveNumbers(counts), counts.length);
             columns.forEach((column, i) => calls.setColumn(this.number, i, column.width, this.module.giveText(column.label)));
-        }, undefined);
-        this.changed();
+        });
     }
 
     get valueText(): string {
