@@ -5,6 +5,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+from pathlib import Path
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
@@ -200,7 +201,8 @@ class CommentsTest(CheckTest):
     def test_finds_a_comment_of_a_page_s_script_beyond_100_columns(self):
         self.expect({"hosts/web/script/s.ts": "/** " + "x" * 96 + "\n */\n"})
         self.expect({"hosts/web/script/s.ts": "/** " + "x" * 97 + "\n */\n"}, "hosts/web/script/s.ts:1: 101 columns, at most 100")
-        self.expect({"tests/web/t.mjs": "// " + "x" * 98 + "\n"}, "tests/web/t.mjs:1: 101 columns")
+        for name in ("tests/web/t.mjs", "gallery/web/t.js", "hosts/quick/qml/T.qml"):
+            self.expect({name: "// " + "x" * 98 + "\n"}, f"{name}:1: 101 columns")
 
     def test_finds_a_document_beyond_100_columns(self):
         self.expect({"README.md": "x" * 101 + "\n"}, "README.md:1: 101 columns")
@@ -218,6 +220,23 @@ class CommentsTest(CheckTest):
         self.expect({"README.md": "It is held\nto the range.\n"}, 'README.md:1: "held to": say clamped to')
         self.expect({"README.md": "The rubber band, `band`, a `whoever()` call.\n"})
         self.expect({"tests/ATest.cpp": "TEST(A, AnswersOnce) {}\n"}, 'tests/ATest.cpp:1: "answers" in the name of a test: say returns')
+
+
+class ContributingTest(unittest.TestCase):
+    """The table of CONTRIBUTING.md that says where things are."""
+
+    def test_names_what_exists(self):
+        with open(os.path.join(ROOT, "CONTRIBUTING.md"), encoding="utf-8") as file:
+            table = file.read().split("## Where is what?")[1].split("\n## ")[0]
+        names = re.findall(r"`([^`]+)`", table)
+        operations = [name for name in names if "::" in name]
+        paths = [name for name in names if "/" in name]
+        self.assertTrue(operations and paths)
+        for path in paths:
+            self.assertTrue(os.path.exists(os.path.join(ROOT, path)), path)
+        code = "".join(path.read_text(encoding="utf-8") for floor in ("platform", "pickers") for path in Path(ROOT, floor).rglob("*.cpp"))
+        for operation in operations:
+            self.assertTrue(f"{operation}(" in code, operation)
 
 
 if __name__ == "__main__":

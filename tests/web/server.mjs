@@ -1,5 +1,5 @@
-// Serves folders on the loopback address, for tests and for trying things: startServer({ '/':
-// FOLDER }).
+// Serves folders on the loopback address, for tests and for trying things:
+// startServer({ folders: { '/': FOLDER } }).
 import { createServer } from 'node:http';
 import { readFile } from 'node:fs/promises';
 import path from 'node:path';

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 /// A picker is a `Control` of Qt Quick: it has `font`, `palette`, `locale`, `mirrored`,
-/// `focusPolicy`, `wheelEnabled`, `hovered` and implicit sizes, with those of the controls around it.
+/// `focusPolicy`, `wheelEnabled`, `hovered` and implicit sizes, with those of the controls around
+/// it.
 ///
 /// - Each property has a signal for its changes, such as `onValueChanged`.
 /// - A value that is set is shown at once, and never calls `moved`.

@@ -49,7 +49,8 @@ Item {
                 count += 1
                 const expected = said[1] in test.enumerations ? test.enumerations[said[1]] : Number(said[1])
                 if (typeof expected === "boolean") compare(picker[name], expected, name)
-                else fuzzyCompare(picker[name], expected, 0.005, name) // Comments have two decimal places.
+                // Comments have two decimal places.
+                else fuzzyCompare(picker[name], expected, 0.005, name)
             }
             compare(count > 1, data.tag !== "WheelPicker") // Lists and texts begin empty.
         }
