@@ -9,6 +9,8 @@ import type { Draw, Surface } from './surface.js';
 const mostDistance = 14;
 /** In seconds, from frame to frame. Chosen for the same reason, where rows turn round. */
 const frameTimes = { least: 1 / 120, most: 1 / 30 };
+/** In seconds, to the second frame, which tells how fast rows are. Chosen: they hardly move. */
+const firstStep = 1 / 1000;
 /** Chosen: more make a long task. */
 const mostFrames = 50;
 /** Chosen for the same reason; half of it are in sight at the start. */
@@ -49,9 +51,6 @@ const isSame = (one: Place, other: Place): boolean =>
     one.y === other.y && one.x === other.x && one.alpha === other.alpha && one.scaleY === other.scaleY && one.scaleX === other.scaleX;
 
 const placeOf = ({ x, y, scaleX, scaleY, alpha }: Place): Place => ({ x, y, scaleX, scaleY, alpha });
-
-/** Where it goes on to from `one`, as far as it is from the other. */
-const beyond = (one: Place, other = one): Place => ({ ...one, y: 2 * one.y - other.y, scaleY: 2 * one.scaleY - other.scaleY });
 
 /**
  * Hands the frames to come to the page's compositor, as animations of the rows. Script then runs
@@ -153,7 +152,7 @@ export class Glide {
         surface.draws().forEach(add);
         this.isAhead = true;
         module.runAhead((calls) => {
-            let { least: step } = frameTimes;
+            let step = firstStep;
             while (isClear && times.length < mostFrames && tracks.length < mostTracks) {
                 const next = times[times.length - 1]! + step;
                 const before = this.notes;
@@ -192,16 +191,23 @@ export class Glide {
                 transform.push(`translate(${x}px,${y}px) scale(${scaleX},${scaleY})`);
                 opacity.push(seen);
             };
+            const goOn = (frame: number, near: number, far: number): Place => {
+                const one = places[near - first]!;
+                const other = places[far - first];
+                if (!other) return one;
+                const share = (times[frame]! - times[near]!) / (times[near]! - times[far]!);
+                return { ...one, y: one.y + (one.y - other.y) * share, scaleY: one.scaleY + (one.scaleY - other.scaleY) * share };
+            };
             const length = first + places.length;
             const last = places[places.length - 1]!;
             // Between two frames it comes into sight, or goes out of it, on its way.
             if (first > 0) {
-                const before = beyond(places[0]!, places[1]);
+                const before = goOn(first - 1, first, first + 1);
                 add(begin, before, 0);
                 add(times[first - 1]!, before, 0);
             }
             places.forEach((place, k) => add(times[first + k]!, place));
-            if (length < count) add(times[length]!, beyond(last, places[places.length - 2]), 0);
+            if (length < count) add(times[length]!, goOn(length, length - 1, length - 2), 0);
             add(end, last, length < count ? 0 : last.alpha);
             const animation = nodes[i]!.animate({ offset, transform, opacity }, { duration: duration * 1000, fill: 'both' });
             animation.startTime = begin * 1000;
