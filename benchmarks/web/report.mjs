@@ -1,4 +1,13 @@
-// Tables in Markdown of what was measured.
+// Tables in Markdown of what was measured:
+//
+//   node benchmarks/web/report.mjs FILE [--write DOCUMENT]
+//
+// FILE is what run.mjs has kept by --json. --write replaces what stands in DOCUMENT between the
+// lines <!-- measured --> and <!-- /measured -->.
+import { readFileSync, writeFileSync } from 'node:fs';
+import path from 'node:path';
+import { fileURLToPath } from 'node:url';
+import { parseArgs } from 'node:util';
 
 export const median = (numbers) => {
     const sorted = numbers.filter((number) => number !== undefined && Number.isFinite(number)).sort((one, other) => one - other);
@@ -35,6 +44,15 @@ const table = (head, rows) =>
 /** All numbers of a visit's part, such as the frames of its fling. */
 const all = (visits, read) => visits.map(read).filter((number) => number !== undefined);
 const aFrame = (visits, which) => all(visits, ({ fling }) => (fling && fling.frames > 0 ? fling[which] / fling.frames : undefined));
+
+/** Ours are 1: medians of what each round has beside ours in it. */
+function ofOurs(visits, ours, read) {
+    const rounds = new Map(ours.map((visit) => [visit.round, read(visit)]).filter(([, value]) => value > 0));
+    const shares = visits.filter(({ round }) => rounds.has(round)).map((visit) => read(visit) / rounds.get(visit.round));
+    return shown(median(shares), 2);
+}
+const rendererAFrame = ({ fling }) => (fling && fling.frames > 0 ? fling.renderer / fling.frames : undefined);
+
 const landed = (visits) => {
     const rows = all(visits, ({ fling }) => fling?.row);
     const kinds = [...new Set(rows)].sort((one, other) => one - other);
@@ -79,6 +97,7 @@ function flingTable(visits) {
             called[name],
             spread(aFrame(list, 'main'), 2),
             spread(aFrame(list, 'renderer'), 2),
+            ofOurs(list, visits.elements, rendererAFrame),
             spread(aFrame(list, 'gpu'), 2),
             shown(median(all(list, ({ fling }) => fling?.frames)), 0),
             shown(median(all(list, ({ longest }) => longest?.inFling)), 1),
@@ -89,6 +108,7 @@ function flingTable(visits) {
             'fling',
             'main thread, ms a frame',
             'renderer, ms a frame',
+            'of ours',
             'GPU process, ms a frame',
             'frames',
             'longest task, ms',
@@ -113,14 +133,16 @@ function footprintTable(visits, blank, downloads) {
     return table(['size', ...(downloads ? ['download, KiB gzipped'] : []), 'elements', 'JavaScript heap, MiB', 'process, MiB'], rows);
 }
 
-export function tables({ version, loads, rounds, downloads, visits }) {
-    const blank = Object.values(visits)[0].blank;
+export function tables({ version, loads, rounds, downloads, failures, visits }) {
+    const { blank } = Object.values(visits)[0];
+    const paints = spread(
+        all(blank, ({ paint }) => paint),
+        0,
+    );
     const parts = [
-        `Chromium ${version}, ${rounds} rounds, load of the machine ${loads.map((load) => load.toFixed(1)).join(', ')}. A blank page: first paint after ${spread(
-            all(blank, ({ paint }) => paint),
-            0,
-        )} ms.`,
+        `Chromium ${version}, rounds: ${rounds}, load of the machine before and after each: ${loads.map((load) => load.toFixed(1)).join(', ')}. A blank page has its first paint after ${paints} ms.`,
     ];
+    if (failures.length > 0) parts.push(`Visits that failed and were made once more: ${failures.length}.`);
     Object.entries(visits).forEach(([title, list], index) => {
         parts.push(
             `### ${title}`,
@@ -130,4 +152,18 @@ export function tables({ version, loads, rounds, downloads, visits }) {
         );
     });
     return parts.join('\n\n');
+}
+
+/** The document with these tables in their place. */
+export function written(text, measured) {
+    const parts = /(<!-- measured -->\n)[^]*(\n<!-- \/measured -->)/;
+    if (!parts.test(text)) throw new Error('the document has no lines <!-- measured --> and <!-- /measured -->');
+    return text.replace(parts, (_, begin, end) => `${begin}\n${measured}\n${end}`);
+}
+
+if (process.argv[1] && path.resolve(process.argv[1]) === fileURLToPath(import.meta.url)) {
+    const { values, positionals } = parseArgs({ allowPositionals: true, options: { write: { type: 'string' } } });
+    const measured = tables(JSON.parse(readFileSync(positionals[0], 'utf8')));
+    if (values.write) writeFileSync(values.write, written(readFileSync(values.write, 'utf8'), measured));
+    else console.log(measured);
 }

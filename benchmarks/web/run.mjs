@@ -1,12 +1,13 @@
 // Measures our elements beside other wheel pickers, in Chromium:
 //
-//   node benchmarks/web/run.mjs [--quick] [--rounds N] [--only NAME,NAME] [--json FILE]
-//                                   [--before FOLDER]
+//   node benchmarks/web/run.mjs [--quick] [--rounds N] [--minutes N] [--only NAME,NAME]
+//                                   [--json FILE] [--before FOLDER]
 //
 // Needs `scripts/web build` and `npm ci` in this folder before. Prints tables in Markdown. All
 // pickers are visited in turns, several rounds in one run; the numbers are medians, with the
 // smallest and the largest beside them; --json's file has all. --quick makes one round, for trying.
-// --before is another build of our package, to compare two in one run.
+// --minutes begins no round that would end later. --before is another build of our package, to
+// compare two in one run. `node benchmarks/web/report.mjs FILE` makes tables of a kept --json.
 import { writeFileSync } from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
@@ -22,12 +23,14 @@ const { values: asked } = parseArgs({
     options: {
         quick: { type: 'boolean' },
         rounds: { type: 'string' },
+        minutes: { type: 'string' },
         only: { type: 'string' },
         json: { type: 'string' },
         before: { type: 'string' },
     },
 });
 const rounds = Number(asked.rounds ?? (asked.quick ? 1 : 4));
+const patience = Number(asked.minutes ?? Infinity) * 60;
 /** How often a page starts in a round: one start is shorter than a fling by far. */
 const starts = asked.quick ? 1 : 2;
 
@@ -58,26 +61,39 @@ const isTooSlow = (title, name) => visits[title][name].some((visit) => visit.pai
 /** Thousands of rows take the others seconds: two rounds, one start in each. */
 const isLeftOut = ({ title, columns, rows }, name, round, time) =>
     isTooSlow(title, name) || (columns * rows >= 10_000 && !(name in packages) && (time > 0 || round > 1));
-const save = () =>
-    asked.json && writeFileSync(asked.json, JSON.stringify({ version: browser.version(), loads, rounds, downloads, visits }, null, 1));
+/** What went wrong, in visits that have been made once more. */
+const failures = [];
+let done = 0;
+const version = browser.version();
+const measured = () => ({ version, loads, rounds: done, downloads, failures, visits });
+const save = () => asked.json && writeFileSync(asked.json, JSON.stringify(measured(), null, 1));
 
-async function visit({ title, columns, rows }, name, round, isWhole) {
+async function visitOnce({ columns, rows }, name, round, isWhole) {
     const opened = await openPage({ browser, pid, address: server.address });
     try {
-        const started = await start(opened, name, columns, rows);
-        const result = { ...started };
-        visits[title][name].push(result);
-        if (!started || !isWhole || name === 'blank') {
-            if (name === 'blank' && isWhole) result.footprint = await footprint(opened);
-            return;
-        }
+        const result = { round, ...(await start(opened, name, columns, rows)) };
+        if (result.paint === undefined || !isWhole) return result;
         result.footprint = await footprint(opened);
+        if (name === 'blank') return result;
         result.fling = await fling(opened);
         // Tracing every task costs time: a visit of its own.
         if (round === 0 && columns * rows <= 10_000) result.longest = await longestTasks(opened, name, columns, rows);
-        if (opened.errors.length > 0) throw new Error(`${name}: ${opened.errors.join('; ')}`);
+        if (opened.errors.length > 0) throw new Error(opened.errors.join('; '));
+        return result;
     } finally {
         await opened.context.close();
+    }
+}
+
+async function visit(size, name, round, isWhole) {
+    const list = visits[size.title][name];
+    try {
+        list.push(await visitOnce(size, name, round, isWhole));
+    } catch (error) {
+        // One visit that fails must not cost the others.
+        failures.push(`${size.title}, ${name}: ${error.message}`);
+        process.stderr.write(`once more, since it failed: ${failures.at(-1)}\n`);
+        list.push(await visitOnce(size, name, round, isWhole));
     }
 }
 
@@ -94,10 +110,12 @@ for (let round = 0; round < rounds; round += 1) {
         }
     }
     loads.push(os.loadavg()[0]);
+    done = round + 1;
     save();
-    process.stderr.write(`round ${round + 1} of ${rounds}: ${Math.round((Date.now() - began) / 1000)} s\n`);
+    const seconds = (Date.now() - began) / 1000;
+    process.stderr.write(`round ${done} of ${rounds}: ${Math.round(seconds)} s\n`);
+    if (seconds + seconds / done > patience) break;
 }
-const version = browser.version();
 await stop();
 await server.stop();
-console.log(tables({ version, loads, rounds, downloads, visits }));
+console.log(tables(measured()));

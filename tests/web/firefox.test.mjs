@@ -16,6 +16,7 @@ const distance = '<gx-distance-picker value="5000"></gx-distance-picker>';
 const head = `<script>
     window.errors = [];
     addEventListener('error', (event) => errors.push(event.message));
+    window.elements = new Promise((resolve) => addEventListener('load', () => resolve(import('/package/gxuipickers.js'))));
     addEventListener('unhandledrejection', (event) => errors.push(String(event.reason)));
 </script>`;
 const pages = {};
@@ -114,6 +115,85 @@ test('a finger turns a column, and two fingers two', settings, async () => {
     let last = await changed();
     if (last.value !== 8200) last = await changed(); // Each column tells its own change.
     assert.equal(last.value, 8200);
+    assert.deepEqual(await firefox.run(() => window.errors), []);
+});
+
+test('a flick glides by animations, and lands where the same one by frames does', settings, async () => {
+    await open('<gx-wheel></gx-wheel>');
+    const { glided, frames, row, expected } = await firefox.run(async () => {
+        const { setFrameClock } = await window.elements;
+        const wait = (milliseconds) => new Promise((resolve) => setTimeout(resolve, milliseconds));
+        /** Made-up touches of the second column; `next` is awaited before each. */
+        const flick = async (element, next) => {
+            const node = element.shadowRoot.querySelectorAll('.column')[1];
+            const box = node.getBoundingClientRect();
+            const times = [];
+            for (let step = 0; step <= 7; step += 1) {
+                await next(step);
+                const event = new PointerEvent(step === 0 ? 'pointerdown' : step === 7 ? 'pointerup' : 'pointermove', {
+                    pointerId: 7,
+                    pointerType: 'touch',
+                    clientX: box.x + box.width / 2,
+                    clientY: box.y + box.height / 2 - Math.min(step, 6) * 20,
+                    bubbles: true,
+                    composed: true,
+                });
+                times.push(event.timeStamp / 1000);
+                node.dispatchEvent(event);
+            }
+            return times;
+        };
+        const texts = (element) => [...element.shadowRoot.querySelectorAll('.text')];
+        const isGliding = (element) => texts(element).some((node) => node.getAnimations().length > 0);
+
+        const element = document.querySelector('gx-wheel');
+        let hasChanged = false;
+        element.addEventListener('change', () => (hasChanged = true));
+        const times = await flick(element, () => wait(14));
+        const end = performance.now() + 20000;
+        const own = globalThis.requestAnimationFrame;
+        const found = { glided: false, frames: 0 };
+        while (!isGliding(element) && !hasChanged && performance.now() < end) await wait(5);
+        found.glided = isGliding(element);
+        globalThis.requestAnimationFrame = (callback) => {
+            if (isGliding(element)) found.frames += 1;
+            return own(callback);
+        };
+        while (!hasChanged && performance.now() < end) await wait(20);
+        globalThis.requestAnimationFrame = own;
+        found.row = element.rows[1];
+
+        // The same events once more, by a clock that goes from frame to frame.
+        let now = times[0] - 1;
+        const waiting = new Map();
+        let asks = 0;
+        setFrameClock({
+            now: () => now,
+            timeOf: () => now,
+            requestFrame: (callback) => waiting.set(`${(asks += 1)}`, callback) && `${asks}`,
+            cancelFrame: (request) => waiting.delete(request),
+        });
+        const frameAt = (time) => {
+            now = time;
+            const callbacks = [...waiting.values()];
+            waiting.clear();
+            for (const callback of callbacks) callback(now);
+        };
+        const other = document.createElement('gx-wheel');
+        other.columns = element.columns;
+        other.rows = [1, 17];
+        element.replaceWith(other);
+        for (let i = 0; i < 10; i += 1) frameAt(now + 0.01);
+        await flick(other, (step) => frameAt(times[step]));
+        for (let i = 0; i < 1200 && waiting.size > 0; i += 1) frameAt(now + 1 / 60);
+        found.expected = other.rows[1];
+        setFrameClock();
+        return found;
+    });
+    assert.ok(glided);
+    assert.ok(frames <= 4, `${frames} frames were asked for`);
+    assert.ok(row > 20);
+    assert.equal(row, expected);
     assert.deepEqual(await firefox.run(() => window.errors), []);
 });
 

@@ -1,12 +1,19 @@
 /** The style sheet of every element's shadow tree, made once a document. */
 const sheets = new WeakMap<Document, CSSStyleSheet>();
 
+/**
+ * Without comments, since a page loads it as it stands:
+ *
+ * - The font is that of rows: 22 px where the root has 16. Rows are 40 high then, and five are in
+ *   sight.
+ * - On paper the value is shown alone, since a page has another width there than on the screen.
+ * - In forced colours, texts have no plates behind them, which would hide the mark of the focus.
+ */
 const css = `
 :host {
     display: block;
     position: relative;
     box-sizing: border-box;
-    /* The rows' font: 22 px where the root has 16. Rows are 40 high then, and five are in sight. */
     font-size: 1.375rem;
     height: calc(216em / 22);
     min-width: 0;
@@ -42,7 +49,6 @@ const css = `
 :host(:disabled) .column, :host([readonly]) .column { touch-action: auto; cursor: default; }
 .probe { position: absolute; visibility: hidden; white-space: pre; pointer-events: none; left: 0; top: 0; }
 .isReady ~ slot { display: none; }
-/* On paper, the value alone: its page has another width than the screen. */
 @media print {
     :host { height: auto; }
     .surface, .column { display: none; }
@@ -56,7 +62,6 @@ const css = `
     .indicator { border: 1px solid CanvasText; background: transparent; }
     .focus { forced-color-adjust: none; background: Highlight; }
     .outline { display: none; }
-    /* Without the plates behind texts, which would hide the mark. */
     .text { forced-color-adjust: none; }
     .row, .separator, .label { color: CanvasText !important; }
     :host(:disabled) { opacity: 1; }
