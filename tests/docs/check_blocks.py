@@ -3,6 +3,8 @@
 
 - In a chapter with an example: the example and what it prints, which `check_example.cmake` compares.
 - In the guide's overview: the CMake project, which `check_cmake.cmake` configures.
+- In the chapter about Qt widgets: the project of the chapter about installing, with `gx::qt`. The
+  component is one that `components.cmake` finds, and `scripts/packages try` builds all.
 - In the chapter about Qt Quick: the files of its program, which `installed.cmake` builds and runs.
 - In the chapter about installing: project and commands, which `check_installing.cmake` runs, and the
   packages, which `scripts/packages try` installs.
@@ -48,6 +50,9 @@ def is_known(name, language, block, example, first_of):
     if name == "docs/guide/qt-quick.md":
         source = {"cmake": "CMakeLists.txt", "cpp": "main.cpp", "qml": "Main.qml"}.get(language)
         return source is not None and block == read(f"docs/examples/qt_quick/{source}") or language == "text" and first_of[language]
+    if name == "docs/guide/qt-widgets.md" and language == "cmake":
+        project = dict(reversed(blocks_of(read("docs/guide/installing.md"))))["cmake"]
+        return block == project.replace("COMPONENTS pickers", "COMPONENTS qt pickers").replace("PRIVATE gx::pickers", "PRIVATE gx::qt gx::pickers")
     if name == "docs/guide/installing.md":
         return language == "cmake" and first_of[language] or language == "sh" and block.startswith(INSTALLING)
     return example is not None and ((language == "cpp" and block == example) or (language == "text" and first_of[language]))

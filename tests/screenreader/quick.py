@@ -71,11 +71,7 @@ def main():
         app = Application(session, arguments.gallery)
         walk.check(app)
         app.end()
-    print(", ".join(f"{count} {what}" for what, count in walk.counts.items()))
-    if walk.faults:
-        print(f"{len(walk.faults)} faults")
-        return 1
-    return 0
+    return walk.report()
 
 
 if __name__ == "__main__":

@@ -44,6 +44,14 @@ class Walk:
         self.place = ""
         self.changed = None
 
+    def report(self):
+        """Says what was looked at and found; returns the program's exit code."""
+        print(", ".join(f"{count} {what}" for what, count in self.counts.items()))
+        if self.faults:
+            print(f"{len(self.faults)} faults")
+            return 1
+        return 0
+
     def expect(self, holds, message):
         if not holds:
             self.faults.append(f"{self.place}: {message}")
@@ -391,11 +399,7 @@ def main():
             walk.check_dialogs(app)
             walk.check_rows_out_of_sight()
         app.end()
-    print(", ".join(f"{count} {what}" for what, count in walk.counts.items()))
-    if walk.faults:
-        print(f"{len(walk.faults)} faults")
-        return 1
-    return 0
+    return walk.report()
 
 
 if __name__ == "__main__":
