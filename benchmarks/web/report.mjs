@@ -140,7 +140,7 @@ export function tables({ version, loads, rounds, downloads, failures, visits }) 
         0,
     );
     const parts = [
-        `Chromium ${version}, rounds: ${rounds}, load of the machine before and after each: ${loads.map((load) => load.toFixed(1)).join(', ')}. A blank page has its first paint after ${paints} ms.`,
+        `Chromium ${version}, rounds: ${rounds}, load of the machine before and after each: ${loads.map((load) => load.toFixed(1)).join(', ')}.\nA blank page has its first paint after ${paints} ms.`,
     ];
     if (failures.length > 0) parts.push(`Visits that failed and were made once more: ${failures.length}.`);
     Object.entries(visits).forEach(([title, list], index) => {
@@ -156,9 +156,9 @@ export function tables({ version, loads, rounds, downloads, failures, visits }) 
 
 /** The document with these tables in their place. */
 export function written(text, measured) {
-    const parts = /(<!-- measured -->\n)[^]*(\n<!-- \/measured -->)/;
+    const parts = /(<!-- measured -->\n)[^]*(<!-- \/measured -->)/;
     if (!parts.test(text)) throw new Error('the document has no lines <!-- measured --> and <!-- /measured -->');
-    return text.replace(parts, (_, begin, end) => `${begin}\n${measured}\n${end}`);
+    return text.replace(parts, (_, begin, end) => `${begin}\n${measured}\n\n${end}`);
 }
 
 if (process.argv[1] && path.resolve(process.argv[1]) === fileURLToPath(import.meta.url)) {

@@ -5,9 +5,11 @@
 //
 // Needs `scripts/web build` and `npm ci` in this folder before. Prints tables in Markdown. All
 // pickers are visited in turns, several rounds in one run; the numbers are medians, with the
-// smallest and the largest beside them; --json's file has all. --quick makes one round, for trying.
-// --minutes begins no round that would end later. --before is another build of our package, to
-// compare two in one run. `node benchmarks/web/report.mjs FILE` makes tables of a kept --json.
+// smallest and the largest beside them.
+//
+// - --quick makes one round, for trying; --minutes begins no round that would end later.
+// - --json keeps all that was measured; `node benchmarks/web/report.mjs FILE` makes tables of it.
+// - --before is another build of our package, to compare two in one run.
 import { writeFileSync } from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
