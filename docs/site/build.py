@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Writes the documents, the reference, pictures and the demo as pages: build.py FOLDER [--pictures DIR] [--demo DIR]
 
-Exits with 1, after a line for each finding, if Doxygen warns, a class has no example or no pitfalls, or a link is broken.
+Exits with 1, after a line for each finding, if Doxygen warns, a class has no example or no pitfalls, a QML property has no comment
+or no default, or a link is broken.
 """
 
 import argparse
