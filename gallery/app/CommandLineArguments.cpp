@@ -25,7 +25,7 @@ std::optional<int> wholeNumber(const std::string& text) {
     return value;
 }
 
-std::optional<CGSize> size(const std::string& text) {
+std::optional<CGSize> parsedSize(const std::string& text) {
     // The screens are made for these widths and heights, in points.
     constexpr int smallest = 320;
     constexpr int largest = 4096;
@@ -37,7 +37,7 @@ std::optional<CGSize> size(const std::string& text) {
     return CGSizeMake(*width, *height);
 }
 
-std::optional<double> scale(const std::string& text) {
+std::optional<double> parsedScale(const std::string& text) {
     constexpr int largest = 4;
     const auto value = wholeNumber(text);
     if (!value || *value < 1 || *value > largest) return std::nullopt;
@@ -45,7 +45,7 @@ std::optional<double> scale(const std::string& text) {
 }
 
 /// A number with up to one digit after the point, within the style sheet's limits.
-std::optional<double> textScale(const std::string& text) {
+std::optional<double> parsedTextScale(const std::string& text) {
     const std::size_t point = text.find('.');
     const auto whole = wholeNumber(text.substr(0, point));
     const auto tenths = point == std::string::npos ? 0 : wholeNumber(text.substr(point + 1));
@@ -85,12 +85,12 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
         if (option == "--page") parsed.page = value;
         if (option == "--record") parsed.recordingToWrite = value;
         if (option == "--replay") parsed.recordingToPlay = value;
-        if (option == "--size" && !(parsed.size = gallery::size(value))) {
+        if (option == "--size" && !(parsed.size = parsedSize(value))) {
             error = "--size is a width and a height of 320 to 4096 points, such as 900x640, and not " + value;
             return std::nullopt;
         }
         if (option == "--scale") {
-            const auto pixels = gallery::scale(value);
+            const auto pixels = parsedScale(value);
             if (!pixels) {
                 error = "--scale is 1, 2, 3 or 4, and not " + value;
                 return std::nullopt;
@@ -98,7 +98,7 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
             parsed.scale = *pixels;
         }
         if (option == "--text-scale") {
-            const auto textScale = gallery::textScale(value);
+            const auto textScale = parsedTextScale(value);
             if (!textScale) {
                 error = "--text-scale is 0.8 to 3, such as 1.3, and not " + value;
                 return std::nullopt;

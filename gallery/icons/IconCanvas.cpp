@@ -27,9 +27,9 @@ void IconCanvas::blend(const SmoothShape& shape, const Pixel& paint) {
     const CGRect bounds = shape.bounds();
     if (CGRectIsEmpty(bounds)) return;
     // An edge is smoothed over half a pixel to either side.
-    const auto held = [this](CGFloat pixel) { return static_cast<int>(std::clamp<CGFloat>(pixel, 0, pixelSide_)); };
-    const auto first = [this, held](CGFloat edge) { return held(std::floor(edge * scale_ - 0.5)); };
-    const auto last = [this, held](CGFloat edge) { return held(std::ceil(edge * scale_ + 0.5)); };
+    const auto clamped = [this](CGFloat pixel) { return static_cast<int>(std::clamp<CGFloat>(pixel, 0, pixelSide_)); };
+    const auto first = [this, clamped](CGFloat edge) { return clamped(std::floor(edge * scale_ - 0.5)); };
+    const auto last = [this, clamped](CGFloat edge) { return clamped(std::ceil(edge * scale_ + 0.5)); };
     const int right = last(CGRectGetMaxX(bounds));
     const int bottom = last(CGRectGetMaxY(bounds));
     for (int y = first(CGRectGetMinY(bounds)); y < bottom; ++y) {

@@ -21,8 +21,8 @@ std::vector<std::int16_t> WheelClick::samples() {
     std::vector<std::int16_t> sound;
     for (std::size_t i = 0; i < sampleCount; ++i) {
         const double time = static_cast<double>(i) / samplesPerSecond;
-        const double left = 1 - static_cast<double>(i) / (sampleCount - 1); // Ends in silence.
-        const double amplitude = loudness * std::exp(-decay * time) * left;
+        const double fade = 1 - static_cast<double>(i) / (sampleCount - 1); // Ends in silence.
+        const double amplitude = loudness * std::exp(-decay * time) * fade;
         sound.push_back(static_cast<std::int16_t>(std::lround(largest * amplitude * std::sin(circle * frequency * time))));
     }
     return sound;

@@ -6,7 +6,8 @@
 
 namespace gallery {
 
-/// The pages of all pickers, in the order in which the gallery lists them.
+/// A page for each picker but icons and the composites, which the entry screen shows. In the order
+/// in which the gallery lists them.
 std::vector<PickerPageDescription> allPickerPages();
 
 } // namespace gallery

@@ -147,7 +147,7 @@ void MainScreen::setSettings(const Settings& settings) {
     entry_->setSettings(settings);
     if (settingsPage_) settingsPage_->setSettings(settings);
     if (settings.style != before.style) showStyle();
-    showEase();
+    applyToWindow();
     if (settings.textScale != before.textScale || settings.language != before.language ||
         settings.decimalSeparator != before.decimalSeparator) {
         for (const Ref<PickerPage>& page : pages_) {
@@ -173,7 +173,7 @@ void MainScreen::showStyle() {
     if (styleAction_) styleAction_(settings_.style);
 }
 
-void MainScreen::showEase() {
+void MainScreen::applyToWindow() {
     const Ref<UIWindow> shownIn = window();
     if (!shownIn) return;
     shownIn->setAccessibilityContrast(settings_.contrast);
@@ -185,7 +185,7 @@ void MainScreen::didMoveToWindow() {
     UIView::didMoveToWindow();
     if (!window()) return;
     showStyle();
-    showEase();
+    applyToWindow();
     flashIndicatorLater();
 }
 

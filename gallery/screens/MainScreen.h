@@ -83,7 +83,8 @@ private:
     /// Shows for a moment that a page that has come into sight is longer than the window.
     void flashIndicatorLater();
     void showStyle();
-    void showEase();
+    /// Contrast, motion and clicks.
+    void applyToWindow();
 
     std::vector<PickerPageDescription> descriptions_;
     std::vector<std::string> names_;

@@ -15,13 +15,12 @@ namespace gallery {
 namespace {
 
 constexpr CGFloat usualWheelHeight = 176;
-// At least so many rows are visible as a whole.
-constexpr double fewestWholeRows = 3;
 // The least width for three columns with a unit beside them. Chosen by eye.
 constexpr CGFloat narrowestCard = 272;
 constexpr CGFloat headingGap = 4; // Above the heading.
+constexpr CGFloat wheelGap = 12;  // Below the wheel.
 
-CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestWholeRows * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
+CGFloat wheelHeight() { return std::max(usualWheelHeight, Theme::fewestRowsOfWheel * GXStyleSheet::globalStyleSheet()->pickerRowHeight()); }
 
 } // namespace
 
@@ -29,7 +28,7 @@ CGFloat wheelHeight() { return std::max(usualWheelHeight, fewestWholeRows * GXSt
 struct OverviewScreen::Grid {
     Grid(CGFloat width, const std::vector<Card>& cards) : margin(Theme::marginForWidth(width)) {
         const CGFloat content = std::max(0.0, width - 2 * margin);
-        const CGFloat narrowest = std::max(narrowestCard, Theme::scaled(narrowestCard));
+        const CGFloat narrowest = Theme::grown(narrowestCard);
         columns = std::max<std::size_t>(1, static_cast<std::size_t>((content + Theme::gap) / (narrowest + Theme::gap)));
         const auto count = static_cast<CGFloat>(columns);
         cardWidth = std::floor((content - (count - 1) * Theme::gap) / count);
@@ -37,7 +36,7 @@ struct OverviewScreen::Grid {
         for (const Card& card : cards) headingHeight = std::max(headingHeight, card.heading->sizeThatFits({room, 0}).height);
     }
     CGFloat headingWidth() const { return std::max(0.0, cardWidth - 2 * Theme::cardPadding); }
-    CGFloat cardHeight() const { return headingGap + headingHeight + wheelHeight() + 12; }
+    CGFloat cardHeight() const { return headingGap + headingHeight + wheelHeight() + wheelGap; }
     CGRect frameOfCard(std::size_t index) const {
         const auto column = static_cast<CGFloat>(index % columns);
         const std::size_t above = index / columns;

@@ -16,16 +16,16 @@ std::string twoDigits(std::int64_t value) { return (value < 10 ? "0" : "") + std
 std::string decimalWithSeparator(double value, int digits, const std::string& separator) {
     // Below this every whole number is a double, so that nothing is lost on the way to an integer.
     constexpr double tooLarge = 9e15;
-    const int held = std::clamp(digits, 0, 6);
+    const int decimals = std::clamp(digits, 0, 6);
     std::int64_t scale = 1;
-    for (int i = 0; i < held; ++i) scale *= 10;
+    for (int i = 0; i < decimals; ++i) scale *= 10;
     const double scaled = std::round(value * static_cast<double>(scale));
     if (!(std::fabs(scaled) < tooLarge)) return "–";
     const auto whole = static_cast<std::int64_t>(std::fabs(scaled));
     std::string text = std::to_string(whole / scale);
-    if (held > 0) {
+    if (decimals > 0) {
         const std::string fraction = std::to_string(whole % scale);
-        text += separator + std::string(static_cast<std::size_t>(held) - fraction.size(), '0') + fraction;
+        text += separator + std::string(static_cast<std::size_t>(decimals) - fraction.size(), '0') + fraction;
     }
     return scaled < 0 ? "−" + text : text;
 }

@@ -1,4 +1,4 @@
-"""A screen of its own, a session bus, an accessibility bus, a window manager, and the gallery.
+"""A screen of its own, a session bus, an accessibility bus, a window manager, and programs on them.
 
 Nothing of it is shared with the user's session or with another run: the display's number is chosen by
 the server, and home and runtime folders are temporary. All programs end with the session.

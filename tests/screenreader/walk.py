@@ -58,13 +58,20 @@ class Walk:
             print("  FAULT", self.faults[-1], flush=True)
         return holds
 
+    def report(self):
+        """Prints what was checked; the exit code."""
+        print(", ".join(f"{count} {what}" for what, count in self.counts.items()))
+        if self.faults:
+            print(f"{len(self.faults)} faults")
+        return 1 if self.faults else 0
+
     def start(self, size, *options):
         return Application(self.session, self.gallery, "--locale", "en", "--size", size, *options)
 
     # Every element of a page
 
     def check_elements(self, app):
-        x, y, width, height = app.window.place
+        x, _, width, _ = app.window.place
         for element in app.elements():
             self.counts["elements"] += 1
             states = element.states
@@ -79,7 +86,6 @@ class Walk:
                 self.expect("focusable" in states, f"{element} cannot take the focus")
                 self.expect(element.actions, f"{element} has no action")
             self.expect(element.parent.children.count(element) == 1, f"{element} is not among the children of its parent")
-        del y, height
 
     def check_focus(self, app):
         """Grabbing the focus moves it, shows the element and says so once."""
@@ -203,7 +209,6 @@ class Walk:
         self.check_focus(app)
         self.check_wheels(app)
         print(f"{name}: {time.monotonic() - started:.1f} s", flush=True)
-
 
     # The entry screen
 
