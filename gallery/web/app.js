@@ -24,10 +24,17 @@ const kept = (key) => {
 // Texts: the English one is the key.
 const languages = await (await fetch('texts/index.json')).json();
 let texts = {};
+/** The language that was chosen last, and the one that is shown, which follows it. */
+let chosenLanguage, shownLanguage;
 const text = (english, name = '') => (texts[english] ?? english).replace('{0}', name);
 
 async function showLanguage(language) {
-    texts = await (await fetch(`texts/${language}.json`)).json();
+    chosenLanguage = language;
+    if (language === shownLanguage) return;
+    const loaded = await (await fetch(`texts/${language}.json`)).json();
+    if (language !== chosenLanguage) return; // Another one was chosen meanwhile.
+    texts = loaded;
+    shownLanguage = language;
     document.documentElement.lang = language;
     document.documentElement.dir = rightToLeft.includes(language) ? 'rtl' : 'ltr';
     for (const node of all('[data-text]')) node.textContent = text(node.dataset.text);
@@ -173,7 +180,7 @@ async function applySettings() {
         if ('unit' in element) element.unit = element.localName === 'gx-weight-picker' ? weight : unit;
         element.toggleAttribute('ticks', clicks === 'on');
     }
-    if (language !== document.documentElement.lang || !texts[language]) await showLanguage(language);
+    await showLanguage(language);
 }
 choices.addEventListener('input', () => {
     keep('settings', Object.fromEntries(new FormData(choices)));

@@ -1,11 +1,7 @@
 // Chromium for the tests, and what they do in it.
-import { createRequire } from 'node:module';
-import { mkdtemp, rm } from 'node:fs/promises';
-import os from 'node:os';
-import path from 'node:path';
-import { fileURLToPath } from 'node:url';
+import { readFile } from 'node:fs/promises';
+import { tools } from './places.mjs';
 
-const tools = createRequire(path.join(path.dirname(fileURLToPath(import.meta.url)), '../../hosts/web/package.json'));
 const { chromium } = tools('playwright-core');
 
 const flags = [
@@ -19,20 +15,13 @@ const flags = [
     '--font-render-hinting=none',
 ];
 
-/** A browser with a profile of its own. */
+/** A browser with a profile of its own, which goes with it. */
 export async function startBrowser() {
-    const profile = await mkdtemp(path.join(os.tmpdir(), 'gx-web-'));
     const browser = await chromium.launch({ executablePath: '/usr/bin/chromium', headless: true, args: flags });
-    return {
-        browser,
-        stop: async () => {
-            await browser.close();
-            await rm(profile, { recursive: true, force: true });
-        },
-    };
+    return { browser, stop: () => browser.close() };
 }
 
-/** A page with this body and the elements' script, its errors and warnings noted. */
+/** The text of a page with this body and the elements' script. */
 export function pageOf(body, { head = '', lang = 'en', script = '/package/gxuipickers.js' } = {}) {
     return `<!doctype html><html lang="${lang}"><head><meta charset="utf-8"><meta name="viewport" content="width=device-width">${head}<script type="module" src="${script}"></script></head><body>${body}</body></html>`;
 }
@@ -71,6 +60,20 @@ export async function touches(page) {
             await send('touchEnd', [], time(steps));
         },
     };
+}
+
+/** What a checker of accessibility finds on the page, and how many of its rules have passed. */
+export async function checkAccessibility(page) {
+    await page.evaluate(await readFile(tools.resolve('axe-core/axe.min.js'), 'utf8'));
+    return page.evaluate(async () => {
+        const { violations, passes } = await globalThis.axe.run();
+        return {
+            violations: violations.map(
+                ({ id, nodes }) => `${id}: ${nodes.map((node) => `${node.target} ${node.failureSummary}`).join(' ')}`,
+            ),
+            passed: passes.length,
+        };
+    });
 }
 
 /**

@@ -6,14 +6,12 @@ import { execFile } from 'node:child_process';
 import { cp, mkdtemp, readdir, rm, writeFile } from 'node:fs/promises';
 import os from 'node:os';
 import path from 'node:path';
-import { fileURLToPath } from 'node:url';
 import { promisify } from 'node:util';
 import { startBrowser, touches, untilStill } from './browser.mjs';
+import { packageFolder, root } from './places.mjs';
 import { startServer } from './server.mjs';
 import { columnPlace, untilColumns } from './stage.mjs';
 
-const root = path.join(path.dirname(fileURLToPath(import.meta.url)), '../..');
-const packed = process.env.GX_WEB_PACKAGE ?? path.join(root, 'build/web/package');
 const examples = path.join(root, 'hosts/web/examples');
 const noNetwork = /ENOTFOUND|EAI_AGAIN|ECONNREFUSED|ECONNRESET|ENETUNREACH|EHOSTUNREACH|ETIMEDOUT|ERR_SOCKET_TIMEOUT/;
 
@@ -67,7 +65,7 @@ async function npm(cwd, ...parameters) {
 
 before(async () => {
     folder = await mkdtemp(path.join(os.tmpdir(), 'gx-examples-'));
-    await npm(packed, 'pack', '--silent', '--ignore-scripts', '--pack-destination', folder);
+    await npm(packageFolder, 'pack', '--silent', '--ignore-scripts', '--pack-destination', folder);
     const [tarball] = (await readdir(folder)).filter((name) => name.endsWith('.tgz'));
     await cp(examples, folder, { recursive: true, filter: (source) => !/node_modules|dist$/.test(path.relative(examples, source)) });
     const quietly = ['--prefer-offline', '--ignore-scripts', '--no-audit', '--no-fund', '--fetch-retries=1'];

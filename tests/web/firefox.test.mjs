@@ -1,15 +1,12 @@
 // The main ways once more in Firefox.
 import { after, before, test } from 'node:test';
 import assert from 'node:assert/strict';
-import path from 'node:path';
-import { fileURLToPath } from 'node:url';
 import { pageOf } from './browser.mjs';
 import { everyElement, table } from './every.mjs';
 import { Firefox, hasFirefox } from './marionette.mjs';
+import { packageFolder } from './places.mjs';
 import { startServer } from './server.mjs';
 
-const root = path.join(path.dirname(fileURLToPath(import.meta.url)), '../..');
-const packageFolder = process.env.GX_WEB_PACKAGE ?? path.join(root, 'build/web/package');
 const settings = hasFirefox ? {} : { skip: 'Firefox is not installed' };
 const key = { tab: '\uE004', left: '\uE012', up: '\uE013', right: '\uE014', down: '\uE015', home: '\uE011', pageDown: '\uE00F' };
 const distance = '<gx-distance-picker value="5000"></gx-distance-picker>';

@@ -1,25 +1,21 @@
 // The gallery's page as its users use it, on a phone and on a desktop.
 import { after, before, test } from 'node:test';
 import assert from 'node:assert/strict';
-import { createRequire } from 'node:module';
 import path from 'node:path';
 import { readFile, writeFile } from 'node:fs/promises';
 import { execFileSync } from 'node:child_process';
 import { mkdtempSync, rmSync } from 'node:fs';
 import os from 'node:os';
-import { fileURLToPath } from 'node:url';
-import { startBrowser, touches, untilStill } from './browser.mjs';
+import { checkAccessibility, startBrowser, touches, untilStill } from './browser.mjs';
+import { packageFolder, root } from './places.mjs';
 import { startServer } from './server.mjs';
 import { columnPlace, untilColumns } from './stage.mjs';
 
-const root = path.join(path.dirname(fileURLToPath(import.meta.url)), '../..');
-const tools = createRequire(path.join(root, 'hosts/web/package.json'));
-const packed = process.env.GX_WEB_PACKAGE ?? path.join(root, 'build/web/package');
 const folder = mkdtempSync(path.join(os.tmpdir(), 'gx-gallery-'));
 let server, chromium;
 
 before(async () => {
-    execFileSync(process.execPath, [path.join(root, 'gallery/web/build.mjs'), packed, path.join(folder, 'page')]);
+    execFileSync(process.execPath, [path.join(root, 'gallery/web/build.mjs'), packageFolder, path.join(folder, 'page')]);
     server = await startServer({ folders: { '/': path.join(folder, 'page') } });
     chromium = await startBrowser();
 });
@@ -66,13 +62,6 @@ const shown = [
 /** Waits until a row says what its picker has. */
 const untilValue = (page, index, text) =>
     page.waitForFunction(([i, expected]) => document.querySelectorAll('.value')[i].textContent === expected, [index, text]);
-
-async function violations(page) {
-    await page.evaluate(await readFile(tools.resolve('axe-core/axe.min.js'), 'utf8'));
-    return page.evaluate(async () =>
-        (await globalThis.axe.run()).violations.map(({ id, nodes }) => `${id}: ${nodes.map((node) => node.html).join(' ')}`),
-    );
-}
 
 test('each row opens its picker, one at a time', async () => {
     const { page, logs, close } = await open();
@@ -185,6 +174,13 @@ test('units, language, look and text size change at once, and stay', async () =>
     await untilValue(page, 0, '3,2 mi, 0:27 h');
     assert.deepEqual(await look(), ['de', 'Training hinzufügen', 'rgb(14, 16, 19)', '24px']);
     assert.equal(await page.isChecked('[name=unit][value=imperial]'), true);
+
+    const loaded = [];
+    page.on('request', (request) => loaded.push(request.url()));
+    await page.check('[name=unit][value=metric]');
+    await page.fill('[name=size]', '120');
+    await untilValue(page, 0, '5,3 km, 0:27 h');
+    assert.deepEqual(loaded, [], 'a language is loaded only when it changes');
     assert.deepEqual(logs, []);
     await close();
 });
@@ -221,7 +217,7 @@ test('nothing is wider than the window, and tools for accessibility find nothing
             await page.waitForFunction((to) => !document.querySelector(to).hidden, hash);
             await untilColumns(page, hash === '#pickers' ? '#place > *' : 'gx-distance-and-duration-picker');
             assert.equal(await page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth), 0, `${width} ${hash}`);
-            assert.deepEqual(await violations(page), [], `${width} ${colorScheme} ${language} ${hash}`);
+            assert.deepEqual((await checkAccessibility(page)).violations, [], `${width} ${colorScheme} ${language} ${hash}`);
         }
         assert.deepEqual(logs, []);
         await close();

@@ -178,6 +178,13 @@ test('listeners may do anything: remove the element, set its value, disable it',
         disable: (event) => (event.target.disabled = true),
         other: (event) => (event.target.unit = 'imperial'),
     };
+    /** What each has done to the element. */
+    const outcomes = {
+        remove: (element) => !element.isConnected,
+        set: (element) => element.value === 2000,
+        disable: (element) => element.disabled,
+        other: (element) => element.unit === 'imperial' && element.valueText.endsWith(' mi'),
+    };
     for (const type of ['input', 'change']) {
         for (const [name, way] of Object.entries(ways)) {
             const { page, logs, close } = await stage.open(distance);
@@ -186,8 +193,9 @@ test('listeners may do anything: remove the element, set its value, disable it',
             await page.evaluate(
                 ([kind, text]) => {
                     const listener = new Function(`return ${text}`)();
-                    document.querySelector('gx-distance-picker').addEventListener(kind, listener, { once: true });
-                    document.querySelector('gx-distance-picker').focus();
+                    globalThis.picker = document.querySelector('gx-distance-picker');
+                    globalThis.picker.addEventListener(kind, listener, { once: true });
+                    globalThis.picker.focus();
                 },
                 [type, way.toString()],
             );
@@ -196,6 +204,8 @@ test('listeners may do anything: remove the element, set its value, disable it',
             await page.evaluate(() => new Promise((resolve) => setTimeout(resolve, 100)));
             const noted = await events();
             assert.ok(noted.filter(([kind]) => kind === 'change').length <= 1, `${type} ${name}: ${JSON.stringify(noted)}`);
+            const outcome = await page.evaluate((text) => new Function(`return ${text}`)()(globalThis.picker), outcomes[name].toString());
+            assert.ok(outcome, `${type} ${name}`);
             assertQuiet(logs);
             await close();
         }

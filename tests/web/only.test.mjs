@@ -4,13 +4,12 @@ import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import { existsSync, readdirSync, readFileSync } from 'node:fs';
 import path from 'node:path';
-import { fileURLToPath } from 'node:url';
 import { elementNamed, kindOf, manifestOfOne, optionsOfOne, scriptOfOne } from '../../hosts/web/only.mjs';
 import { tableOfOne } from '../../hosts/web/sizes.mjs';
 import { startBrowser } from './browser.mjs';
+import { root } from './places.mjs';
 import { startServer } from './server.mjs';
 
-const root = path.join(path.dirname(fileURLToPath(import.meta.url)), '../..');
 const read = (name) => readFileSync(path.join(root, name), 'utf8');
 const pickers = read('hosts/web/script/pickers.ts');
 

@@ -4,20 +4,18 @@ import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
 import path from 'node:path';
-import { fileURLToPath } from 'node:url';
+import { packageFolder } from './places.mjs';
 import { assertQuiet, Stage, untilColumns } from './stage.mjs';
 
-const root = path.join(path.dirname(fileURLToPath(import.meta.url)), '../..');
-const folder = process.env.GX_WEB_PACKAGE ?? path.join(root, 'build/web/package');
-const manifest = JSON.parse(readFileSync(path.join(folder, 'custom-elements.json'), 'utf8'));
+const manifest = JSON.parse(readFileSync(path.join(packageFolder, 'custom-elements.json'), 'utf8'));
 const declarations = manifest.modules[0].declarations;
 const stage = new Stage();
 
 test('the packed package holds all that its package.json names', () => {
-    const list = execFileSync('npm', ['pack', '--dry-run', '--json', '--ignore-scripts'], { cwd: folder, encoding: 'utf8' });
+    const list = execFileSync('npm', ['pack', '--dry-run', '--json', '--ignore-scripts'], { cwd: packageFolder, encoding: 'utf8' });
     const packed = JSON.parse(list);
     const files = new Set((Array.isArray(packed) ? packed : Object.values(packed))[0].files.map((file) => file.path));
-    const { exports, customElements, sideEffects } = JSON.parse(readFileSync(path.join(folder, 'package.json'), 'utf8'));
+    const { exports, customElements, sideEffects } = JSON.parse(readFileSync(path.join(packageFolder, 'package.json'), 'utf8'));
     const named = [
         Object.values(exports).flatMap((entry) => (typeof entry === 'string' ? entry : Object.values(entry))),
         customElements,
@@ -30,9 +28,9 @@ test('the packed package holds all that its package.json names', () => {
 
 test('source maps hold the sources', () => {
     for (const name of ['asset.js', 'gxuipickers.js']) {
-        const script = readFileSync(path.join(folder, name), 'utf8');
+        const script = readFileSync(path.join(packageFolder, name), 'utf8');
         assert.ok(script.endsWith(`sourceMappingURL=${name}.map\n`), name);
-        const { sources, sourcesContent } = JSON.parse(readFileSync(path.join(folder, `${name}.map`), 'utf8'));
+        const { sources, sourcesContent } = JSON.parse(readFileSync(path.join(packageFolder, `${name}.map`), 'utf8'));
         assert.ok(sources.some((source) => source.endsWith('script/element.ts')));
         assert.equal(sourcesContent.length, sources.length);
     }
