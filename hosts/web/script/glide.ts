@@ -12,11 +12,11 @@ const frameTimes = { least: 1 / 120, most: 1 / 30 };
 /** In seconds, to the second frame, which tells how fast rows are. Chosen: they hardly move. */
 const firstStep = 1 / 1000;
 /** Chosen: more make a long task. */
-const mostFrames = 50;
+const mostFrames = 60;
 /** Chosen for the same reason; half of it are in sight at the start. */
 const mostTracks = 40;
 /** In seconds. Chosen: what is shorter is not worth it. */
-const leastTime = 0.25;
+const leastTime = 0.1;
 /** In frames: how long before the end of its last frame the compositor gets more. */
 const reserve = 6;
 /**
