@@ -76,12 +76,15 @@ test('the manifest says what the elements have', async () => {
 });
 
 test('the manifest names the parts and properties that a page’s style sheet reaches', async () => {
-    const { page, close } = await stage.open('<gx-distance-picker></gx-distance-picker>');
-    await untilColumns(page, 'gx-distance-picker');
+    const icons = '<gx-icon-picker><svg aria-label="one"></svg><svg aria-label="two"></svg></gx-icon-picker>';
+    const { page, close } = await stage.open(`<gx-distance-picker></gx-distance-picker>${icons}`);
+    await untilColumns(page, 'gx-icon-picker');
     const { parts, sheet } = await page.evaluate(() => {
         const shadow = document.querySelector('gx-distance-picker').shadowRoot;
+        const others = document.querySelector('gx-icon-picker').shadowRoot;
+        const nodes = [shadow, others].flatMap((root) => [...root.querySelectorAll('[part]')]);
         return {
-            parts: [...new Set([...shadow.querySelectorAll('[part]')].flatMap((node) => [...node.part]))],
+            parts: [...new Set(nodes.flatMap((node) => [...node.part]))],
             sheet: [...shadow.adoptedStyleSheets].flatMap((one) => [...one.cssRules].map((rule) => rule.cssText)).join('\n'),
         };
     });

@@ -41,6 +41,7 @@ const tickVibration = 5;
  * @slot - Shown while there is no picker, such as an `<input type="number">`; and icons.
  *
  * @csspart row - The text of a row.
+ * @csspart image - The picture of a row.
  * @csspart separator - The text between two columns.
  * @csspart label - The text beside the columns, such as a unit.
  *
