@@ -129,6 +129,16 @@ TEST_F(MetricPacePicker, AStepReloadsButSelectsNothingAndBelow1Becomes1) {
     EXPECT_EQ(picker->minutesStepSize(), 1);
 }
 
+TEST_F(PacePicker, AStepOf0FromASubclassOffersNoSeconds) {
+    struct Stepless : GXPacePickerView {
+        std::int32_t secondsStepSize() const override { return 0; }
+    };
+    const Ref<Stepless> stepless = create<Stepless>(CGRectMake(0, 0, 320, 216));
+    stepless->setIsMetric(true);
+    stepless->setCurrentValue(MetricPacePicker::pace(5, 0));
+    EXPECT_EQ(stepless->pickerView_numberOfRowsInComponent(stepless->pickerView(), 2), 0);
+}
+
 // Pace and speed
 
 TEST_F(PacePicker, APacePerMileIs1609Point344TimesThatPerMetre) {

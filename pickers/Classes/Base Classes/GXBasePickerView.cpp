@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "GXAccessibilityText.h"
 #include "GXFontFitting.h"
+#include "GXPickerAccessibility.h"
 #include "GXStyleSheet.h"
 #include "GXValueText.h"
 #include "GXWheelCalls.h"
@@ -154,14 +154,14 @@ void GXBasePickerView::selectCurrentValue() {
 
 void GXBasePickerView::informDelegateOfValueChange() {
     const Ref<GXBasePickerView> keep = self();
-    if (const Ref<GXBasePickerViewDelegate> told = delegate().lock()) {
+    if (const Ref<GXBasePickerViewDelegate> receiver = delegate().lock()) {
         // The delegate may set another one while it reads this.
         const NSNumber value = currentValue();
-        told->pickerView_didChangeCurrentValue_forComponent(keep, value, 0);
+        receiver->pickerView_didChangeCurrentValue_forComponent(keep, value, 0);
     }
 }
 
-// The present value as a text, and fonts with which the wheel shows all of it
+// The current value as a text, and fonts with which the wheel shows all of it
 
 std::string GXBasePickerView::currentValueText() {
     const Ref<GXBasePickerView> keep = self();
@@ -200,7 +200,7 @@ void GXBasePickerView::sizeFontsToFit() {
 
 CGFloat GXBasePickerView::smallestHeightForWidth(CGFloat) { return fewestRows * CGFloat{rowHeight_}; }
 
-// What the wheel asks
+// What the wheel queries
 
 NSInteger GXBasePickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }
 

@@ -36,7 +36,7 @@ std::string GXIconPickerView::currentValueText() {
     return pickerView_accessibilityValueForRow_forComponent(pickerView(), row, 0).value_or(std::string());
 }
 
-// What the wheel asks
+// What the wheel queries
 
 NSInteger GXIconPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 1; }
 

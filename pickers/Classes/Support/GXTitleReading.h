@@ -7,9 +7,9 @@
 
 namespace gx {
 
-/// How pickers read the number back that a row shows. Both take any text and never look at the C
-/// locale: blanks before the number and anything after it are passed over, and no title, or one
-/// that does not begin with a number, reads as 0.
+// How pickers read the number back that a row shows. Both take any text and do not depend on the C
+// locale. Blanks before the number and anything after it are skipped; no title, or one that does
+// not begin with a number, reads as 0.
 
 /// The whole number, with a sign if there is one; beyond 64 bits it is the nearest number there is.
 NSInteger integerValueOfTitle(const std::optional<std::string>& title);

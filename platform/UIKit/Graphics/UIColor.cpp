@@ -3,14 +3,14 @@
 namespace gx {
 
 namespace {
-double heldToUnit(double value) {
+double clampedToUnit(double value) {
     if (!(value > 0)) return 0; // also NaN
     return value < 1 ? value : 1;
 }
 } // namespace
 
 UIColor UIColor::colorWithRed_green_blue_alpha(double red, double green, double blue, double alpha) {
-    return UIColor({heldToUnit(red), heldToUnit(green), heldToUnit(blue), heldToUnit(alpha)});
+    return UIColor({clampedToUnit(red), clampedToUnit(green), clampedToUnit(blue), clampedToUnit(alpha)});
 }
 
 UIColor UIColor::colorWithWhite_alpha(double white, double alpha) { return colorWithRed_green_blue_alpha(white, white, white, alpha); }
@@ -57,8 +57,8 @@ UIColor UIColor::tertiarySystemFillColor() {
 
 UIColor UIColor::colorWithAlphaComponent(double alpha) const {
     UIColor color = *this;
-    color.normal_.light.alpha = color.normal_.dark.alpha = heldToUnit(alpha);
-    color.high_.light.alpha = color.high_.dark.alpha = heldToUnit(alpha);
+    color.normal_.light.alpha = color.normal_.dark.alpha = clampedToUnit(alpha);
+    color.high_.light.alpha = color.high_.dark.alpha = clampedToUnit(alpha);
     return color;
 }
 

@@ -262,8 +262,8 @@ void UIPickerController::finish() {
         components_.at(i).axis.finish();
         components_.scrollColumn(i);
     }
-    // For rows that have come into sight: the end of a request is not reported, which would lay
-    // out.
+    // Binds the rows that have come into sight. The end of a request is not reported, so no report
+    // causes this layout.
     view_.setNeedsLayout();
     reportLandings();
 }

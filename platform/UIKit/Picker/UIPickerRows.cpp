@@ -9,6 +9,7 @@ namespace {
 // A moving column has one row more in sight at some moments than at others; one view waits for it
 // on either side.
 constexpr std::size_t poolSize = 2;
+
 Ref<UILabel> makeTitleLabel() {
     auto label = create<UILabel>(CGRectNull);
     label->setTextAlignment(NSTextAlignmentCenter);

@@ -62,7 +62,7 @@ inline constexpr UIScrollFeel UIScrollFeel::scrollView = {
 /// A position along one axis, and what fingers, the program and time do to it.
 ///
 /// The wheel's columns (positions are rows) and scroll views (positions are points) both use it. It
-/// knows no views and calls nobody. docs/motion.md shows its states as a table.
+/// knows no views and has no callbacks. docs/motion.md shows its states as a table.
 ///
 /// Invariant: the position lies between the ends of the range, but while a finger pulls beyond one
 /// or a movement springs back.

@@ -99,8 +99,8 @@ UIScrollMotion UIScrollMotion::fling(double from, double velocity, double to, do
     UIScrollMotion motion = ease(from, to, 0, start);
     motion.velocity_ = velocity;
     const double travel = travelOfVelocity(velocity);
-    // An end that is met at a crawl is reached as any other row: nobody would see it bounce, only
-    // wait for the report.
+    // An end that is met slowly is reached as any other row: the bounce would be invisible, and
+    // only delay the report.
     const bool hitsEnd = to == end && std::fabs(travel) > std::fabs(distance) && std::fabs(velocity - drag * distance) >= restSpeed;
     if (hitsEnd) {
         motion.curve_ = Curve::Bounce;

@@ -181,7 +181,7 @@ void UITableViewContent::applyChange(UITableViewChange::Kind kind, std::vector<N
         const UITableViewRowCache::OpenQuery query(cache_);
         after = cache_.queryRows();
     }
-    if (!cache_.isValid()) return; // A callback has asked for a reload.
+    if (!cache_.isValid()) return; // A callback has requested a reload.
     std::optional<UITableViewChange> change = UITableViewChange::change(kind, std::move(paths), rows(), after);
     if (!change) {
         invalidate();

@@ -138,7 +138,7 @@ void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::
     if (!label) {
         const auto created = createLabel<SeparatorLabel>(valueFont());
         created->setWheel_component(refTo<UIPickerView>(this), component);
-        // A style sheet that is asked for the font may have set one meanwhile.
+        // The style sheet's getter of the font may have set one meanwhile.
         const auto [entry, isNew] = separators_.try_emplace(component, created);
         label = entry->second;
         if (isNew) addSubview(label);

@@ -6,7 +6,7 @@
 
 namespace gx {
 
-/// How pickers write their present value as one text, such as "5.3 km".
+// How pickers write their current value as one text, such as "5.3 km".
 
 /// The titles of the selected rows with the wheel's separators between them, such as "00:27:30".
 ///

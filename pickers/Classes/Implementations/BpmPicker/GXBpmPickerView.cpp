@@ -1,7 +1,7 @@
 #include "GXBpmPickerView.h"
 
-#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerAccessibility.h"
 #include "GXWheelCalls.h"
 
 namespace gx {

@@ -1,6 +1,6 @@
 #include "GXCaloriesPickerView.h"
 
-#include "GXAccessibilityText.h"
+#include "GXPickerAccessibility.h"
 #include "GXWheelCalls.h"
 
 namespace gx {

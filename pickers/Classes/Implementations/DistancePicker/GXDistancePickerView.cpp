@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GXAccessibilityText.h"
+#include "GXPickerAccessibility.h"
 #include "GXPickerComponents.h"
 #include "GXTitleReading.h"
 #include "GXWheelCalls.h"
@@ -171,15 +171,16 @@ void GXDistancePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPicke
     // The digits are read from the titles, since near the minimum row 0 is not the digit 0.
     const NSInteger whole = selectedNumber(pickerView, wholeComponent);
     const NSInteger components = this->pickerView() ? this->pickerView()->numberOfComponents() : 0;
-    const double tenths = components >= 3 ? static_cast<double>(selectedNumber(pickerView, tenthsComponent)) * 100.0 : 0;
-    const double hundredths = components > 3 ? static_cast<double>(selectedNumber(pickerView, hundredthsComponent)) * 10.0 : 0;
+    const double tenths = components > tenthsComponent ? static_cast<double>(selectedNumber(pickerView, tenthsComponent)) * 100.0 : 0;
+    const double hundredths =
+        components > hundredthsComponent ? static_cast<double>(selectedNumber(pickerView, hundredthsComponent)) * 10.0 : 0;
     checkMetricAndInformDelegate(static_cast<double>(whole) * 1000.0 + tenths + hundredths);
     if (component == tenthsComponent) {
-        for (NSInteger i = 2; i <= NSInteger{numberOfFractionUnits()} + 1; ++i) reloadComponent(this->pickerView(), i);
+        for (NSInteger i = tenthsComponent; i <= NSInteger{numberOfFractionUnits()} + 1; ++i) reloadComponent(this->pickerView(), i);
     } else if (component == wholeComponent) {
         // One short of the last component, which the new value has reloaded already with all
         // others.
-        for (NSInteger i = 1; i <= numberOfFractionUnits(); ++i) reloadComponent(this->pickerView(), i);
+        for (NSInteger i = separatorComponent; i <= numberOfFractionUnits(); ++i) reloadComponent(this->pickerView(), i);
     }
     selectCurrentValue();
 }
@@ -201,7 +202,7 @@ void GXDistancePickerView::selectCurrentValue() {
     }
 }
 
-/// Holds no row to those there are: a value below the minimum asks for rows before the first.
+/// Clamps no row: a value below the minimum requests rows before the first.
 void GXDistancePickerView::selectCurrentKilometers() {
     const double meters = currentValue().doubleValue();
     const NSInteger minimum = minValue().integerValue();

@@ -1,6 +1,6 @@
 #include "GXDurationLayout.h"
 
-#include "GXAccessibilityText.h"
+#include "GXPickerAccessibility.h"
 
 namespace gx {
 

@@ -18,6 +18,10 @@ constexpr NSInteger highest = GXDurationLayout::highest;
 constexpr NSInteger middle = GXDurationLayout::middle;
 constexpr NSInteger lowest = GXDurationLayout::lowest;
 
+constexpr std::int32_t millisecondsPerSecond = 1000;
+constexpr std::int32_t millisecondsPerMinute = 60 * millisecondsPerSecond;
+constexpr std::int32_t millisecondsPerHour = 60 * millisecondsPerMinute;
+
 /// The middle one of three is as narrow as its two digits allow. Prescribed by the product.
 constexpr CGFloat middleWidth = 30;
 
@@ -29,8 +33,8 @@ void GXDurationPickerView::initGXDurationPickerView() {
     minutesStepSize_ = 1;
     secondsStepSize_ = 5;
     setMinValue(NSNumber::numberWithInt(0));
-    setMaxValue(NSNumber::numberWithInt(356400000));
-    setCurrentValue(NSNumber::numberWithInt(300000));
+    setMaxValue(NSNumber::numberWithInt(99 * millisecondsPerHour));
+    setCurrentValue(NSNumber::numberWithInt(5 * millisecondsPerMinute));
     showTexts();
     reloadAllComponents(pickerView());
 }
@@ -72,14 +76,16 @@ std::string GXDurationPickerView::currentValueText() {
 
 // Units
 
-std::int32_t GXDurationPickerView::hoursFromMilliseconds(NSInteger milliseconds) const { return narrowTo32Bits(milliseconds / 3600000); }
+std::int32_t GXDurationPickerView::hoursFromMilliseconds(NSInteger milliseconds) const {
+    return narrowTo32Bits(milliseconds / millisecondsPerHour);
+}
 
 std::int32_t GXDurationPickerView::minutesFromMilliseconds(NSInteger milliseconds) const {
-    return narrowTo32Bits(milliseconds / 60000 % 60);
+    return narrowTo32Bits(milliseconds / millisecondsPerMinute % 60);
 }
 
 std::int32_t GXDurationPickerView::secondsFromMilliseconds(NSInteger milliseconds) const {
-    return narrowTo32Bits(milliseconds / 1000 % 60);
+    return narrowTo32Bits(milliseconds / millisecondsPerSecond % 60);
 }
 
 std::int32_t GXDurationPickerView::value_forComponent(NSInteger milliseconds, NSInteger component) const {
@@ -120,17 +126,17 @@ NSInteger GXDurationPickerView::rowsOfHighestUnit() const {
 }
 
 NSInteger GXDurationPickerView::rowsOfMiddleUnit() const {
-    const bool isHighestTheMaximums = isOnMaximum(highest);
-    std::int32_t end = isHighestTheMaximums ? maxValueForComponent(middle) : 60;
+    const bool isHighestAtMaximum = isOnMaximum(highest);
+    std::int32_t end = isHighestAtMaximum ? maxValueForComponent(middle) : 60;
     if (isOnMinimum(highest)) end = wrappingSubtract(end, minValueForComponent(middle));
     const std::int32_t rows = quotient(end, stepSizeForComponent(middle));
-    const bool isMaximumsOffered = isHighestTheMaximums && layout().hasThreeUnits() && maxValueForComponent(lowest) != 0;
-    return isMaximumsOffered ? wrappingAdd(rows, 1) : rows;
+    const bool isMaximumOffered = isHighestAtMaximum && layout().hasThreeUnits() && maxValueForComponent(lowest) != 0;
+    return isMaximumOffered ? wrappingAdd(rows, 1) : rows;
 }
 
 NSInteger GXDurationPickerView::rowsOfLowestUnit() const {
-    const bool areHigherTheMaximums = isOnMaximum(highest) && isOnMaximum(middle);
-    std::int32_t end = areHigherTheMaximums ? maxValueForComponent(lowest) : 60;
+    const bool areHigherAtMaximum = isOnMaximum(highest) && isOnMaximum(middle);
+    std::int32_t end = areHigherAtMaximum ? maxValueForComponent(lowest) : 60;
     if (isOnMinimum(highest) && isOnMinimum(middle)) end = wrappingSubtract(end, minValueForComponent(lowest));
     return quotient(end, stepSizeForComponent(lowest));
 }
@@ -151,19 +157,9 @@ NSInteger GXDurationPickerView::pickerView_numberOfRowsInComponent(const Ref<UIP
 std::optional<std::string> GXDurationPickerView::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                      NSInteger component) {
     if (!GXDurationLayout::holdsValues(component)) return std::nullopt;
-    bool isFromMinimum = false;
-    switch (component) {
     // Minutes above seconds are titled from 0: with a minimum of 1:30 their first row reads 00.
-    case highest:
-        isFromMinimum = layout().hasHours();
-        break;
-    case middle:
-        isFromMinimum = isOnMinimum(highest);
-        break;
-    default:
-        isFromMinimum = isOnMinimum(highest) && isOnMinimum(middle);
-        break;
-    }
+    const bool isFromMinimum =
+        component == highest ? layout().hasHours() : isOnMinimum(highest) && (component == middle || isOnMinimum(middle));
     const NSInteger first = isFromMinimum ? minValueForComponent(component) : 0;
     return paddedToTwoCharacters(wrappingAdd(wrappingMultiply<NSInteger>(stepSizeForComponent(component), row), first));
 }
@@ -189,23 +185,23 @@ float GXDurationPickerView::selectedSeconds() {
     const auto minutes = static_cast<float>(minutesFromMilliseconds(minimum));
     const auto seconds = static_cast<float>(secondsFromMilliseconds(minimum));
     // The value is still that of before the selection, whose rows the user saw.
-    const bool isHighestTheMinimums = isOnMinimum(highest);
-    const bool isMiddleTheMinimums = isOnMinimum(middle);
+    const bool isHighestAtMinimum = isOnMinimum(highest);
+    const bool isMiddleAtMinimum = isOnMinimum(middle);
 
     if (layout().hasMinutesAndSecondsAlone()) {
         const float total = selectedValue(highest, minutes) * 60.0F;
-        return total + selectedValue(middle, isHighestTheMinimums ? seconds : 0.0F);
+        return total + selectedValue(middle, isHighestAtMinimum ? seconds : 0.0F);
     }
     if (!layout().hasHours()) return 0;
 
     float total = selectedValue(highest, hours) * 3600.0F;
-    total += selectedValue(middle, isHighestTheMinimums ? minutes : 0.0F) * 60.0F;
+    total += selectedValue(middle, isHighestAtMinimum ? minutes : 0.0F) * 60.0F;
     // 1. With seconds: they start at the minimum's wherever the minutes are the minimum's, whatever
     //    the hours.
-    if (layout().hasThreeUnits()) return total + selectedValue(lowest, isMiddleTheMinimums ? seconds : 0.0F);
+    if (layout().hasThreeUnits()) return total + selectedValue(lowest, isMiddleAtMinimum ? seconds : 0.0F);
     // 2. Without: there the minimum's seconds go along unseen, so that its own minute is not below
     //    it.
-    return isMiddleTheMinimums ? total + seconds : total;
+    return isMiddleAtMinimum ? total + seconds : total;
 }
 
 void GXDurationPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger, NSInteger component) {
@@ -274,7 +270,7 @@ void GXDurationPickerView::selectUnits(NSInteger milliseconds) {
 
 void GXDurationPickerView::selectMinutesAndSeconds(NSInteger milliseconds) {
     // Divided before the minimum is subtracted, unlike the hours: with a step of 5 and a minimum of
-    // 10 minutes, 20 minutes ask for row 4 - 10, and so select the first.
+    // 10 minutes, 20 minutes are row 4 - 10, and so select the first.
     const std::int32_t steps = quotient(minutesFromMilliseconds(milliseconds), stepSizeForComponent(highest));
     selectRow_inComponent(pickerView(), std::max(wrappingSubtract(steps, minValueForComponent(highest)), 0), highest);
 
@@ -292,7 +288,7 @@ std::optional<GXAccessibilityName> GXDurationPickerView::accessibilityPartOfComp
 std::optional<std::string> GXDurationPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                   NSInteger component) {
     const Ref<GXBasePickerView> keep = self();
-    const auto number = [this, row, component](NSInteger asked) { return integerValueOfTitle(reportedTitle(asked, {row, component})); };
+    const auto number = [this, row, component](NSInteger index) { return integerValueOfTitle(reportedTitle(index, {row, component})); };
     return layout().accessibilityText(number(highest), number(middle), number(lowest));
 }
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerAccessibility.h"
 #include "GXValueText.h"
 #include "GXWheelCalls.h"
 #include "NSArithmetic.h"
@@ -15,7 +15,7 @@ namespace {
 constexpr NSInteger averageComponent = 0;
 constexpr NSInteger spacerComponent = 1;
 constexpr NSInteger maximumComponent = 2;
-/// What delegates know the maximum by; it is not the number of its component.
+// The component numbers that delegates get, which are not those of the wheel.
 constexpr NSInteger reportedMaximum = 1;
 constexpr NSInteger reportedAverage = 0;
 
@@ -40,8 +40,7 @@ void GXHeartRatePickerView::initGXHeartRatePickerView() {
     if (!wheel) return;
     wheel->setLabelsFollowReading(false);
     showTexts();
-    // At once: a fresh picker comes up on its rates, instead of turning to them before the user's
-    // eyes.
+    // Without animation: a new picker shows its rates at once, and does not spin to them.
     const NSInteger minimum = minValue().integerValue();
     selectRow_inComponent(wheel, wrappingSubtract(currentAvgHeartRate().integerValue(), minimum), averageComponent);
     selectRow_inComponent(wheel, wrappingSubtract(currentMaxHeartRate().integerValue(), minimum), maximumComponent);
@@ -102,7 +101,7 @@ std::string GXHeartRatePickerView::currentValueText() {
     return joinedByComma(textOfRate(wheel->leftLabelText(), averageComponent), textOfRate(wheel->rightLabelText(), maximumComponent));
 }
 
-// What the wheel asks
+// What the wheel queries
 
 NSInteger GXHeartRatePickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return 3; }
 
@@ -172,8 +171,8 @@ void GXHeartRatePickerView::informDelegateOfRate(const NSNumber& rate, NSInteger
     // The delegate may set another one while it reads this.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const NSNumber value = rate;
-    if (const Ref<GXBasePickerViewDelegate> told = delegate().lock()) {
-        told->pickerView_didChangeCurrentValue_forComponent(self(), value, reportedComponent);
+    if (const Ref<GXBasePickerViewDelegate> receiver = delegate().lock()) {
+        receiver->pickerView_didChangeCurrentValue_forComponent(self(), value, reportedComponent);
     }
 }
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerAccessibility.h"
 #include "GXStyleSheet.h"
 #include "GXValueText.h"
 #include "NSArithmetic.h"
@@ -58,7 +58,7 @@ void GXHeightPickerView::awakeFromNib() {
 }
 
 GXHeightPickerView::~GXHeightPickerView() {
-    // What is left of the wheel must not ask this part of it any more.
+    // What is left of the wheel must not query this part of it any more.
     UIPickerView::setDataSource({});
     UIPickerView::setDelegate({});
 }
@@ -96,7 +96,7 @@ void GXHeightPickerView::reloadData() {
 
 void GXHeightPickerView::reload() {
     const Ref<GXHeightPickerView> keep = refTo(this);
-    // The rows are asked for before the wheel knows the new columns. It keeps the requests, so that
+    // The rows are requested before the wheel knows the new columns. It keeps the requests, so that
     // the right rows appear with the reload.
     calculatePickerValues();
     reloadAllComponents();
@@ -148,8 +148,8 @@ void GXHeightPickerView::recalculateHeight() {
         const float height = feet + inches;
         setHeightInCm(CGFloat{height});
     }
-    if (const Ref<GXHeightPickerViewDelegate> told = heightDelegate().lock()) {
-        told->heightPickerView_didSelectHeightInCm_metric(keep, heightInCm(), isMetric());
+    if (const Ref<GXHeightPickerViewDelegate> receiver = heightDelegate().lock()) {
+        receiver->heightPickerView_didSelectHeightInCm_metric(keep, heightInCm(), isMetric());
     }
 }
 
@@ -191,7 +191,7 @@ std::string GXHeightPickerView::currentValueText() {
     return joinedBySpace(titleOf(0), titleOfRow(unitRowMetric, Shown::Unit).value_or(std::string()));
 }
 
-// What the wheel asks
+// What the wheel queries
 
 GXHeightPickerView::Shown GXHeightPickerView::shownIn(NSInteger component) const {
     if (component == 0) return isMetric() ? Shown::Centimetres : Shown::Feet;
@@ -271,7 +271,7 @@ std::optional<std::string> GXHeightPickerView::pickerView_accessibilityLabelForC
 
 std::optional<std::string> GXHeightPickerView::pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                                 NSInteger component) {
-    const auto rowOf = [this, row, component](NSInteger asked) { return asked == component ? row : announcedRowInComponent(asked); };
+    const auto rowOf = [this, row, component](NSInteger index) { return index == component ? row : announcedRowInComponent(index); };
     if (isMetric()) return accessibilitySum({{wrappingAdd(rowOf(0), lowestCentimetres), GXAccessibilityUnit::Centimetre}});
     return accessibilitySum({{wrappingAdd(rowOf(0), lowestFeet), GXAccessibilityUnit::Foot}, {rowOf(1), GXAccessibilityUnit::Inch}});
 }

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
-#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerAccessibility.h"
 #include "GXPickerComponents.h"
 #include "GXTitleReading.h"
 #include "GXValueText.h"
@@ -124,7 +124,7 @@ std::int32_t GXPacePickerView::rowsOfSeconds() const {
     const Pace maximum = paceOfValue(maxValue());
     if (current.minutes == maximum.minutes) return wrappingAdd(quotient(maximum.seconds, secondsStepSize()), 1);
     // 3. Any other minute.
-    return 60 / secondsStepSize();
+    return quotient(60, secondsStepSize());
 }
 
 NSInteger GXPacePickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {

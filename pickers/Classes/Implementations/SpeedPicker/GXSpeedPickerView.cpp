@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "GXAccessibilityText.h"
+#include "GXPickerAccessibility.h"
 #include "GXPickerComponents.h"
 #include "GXTitleReading.h"
 #include "GXWheelCalls.h"

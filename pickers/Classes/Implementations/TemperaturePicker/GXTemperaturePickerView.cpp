@@ -1,7 +1,7 @@
 #include "GXTemperaturePickerView.h"
 
-#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerAccessibility.h"
 #include "GXUnitConverter.h"
 #include "GXWheelCalls.h"
 #include "NSArithmetic.h"
@@ -65,7 +65,7 @@ void GXTemperaturePickerView::selectCurrentValue() {
     selectRow_inComponent(pickerView(), quotient(distance, stepSize().integerValue()), 0);
 }
 
-// What the wheel asks
+// What the wheel queries
 
 NSInteger GXTemperaturePickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
     if (isMetric()) return GXBasePickerView::pickerView_numberOfRowsInComponent(pickerView, component);

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "GXAccessibilityText.h"
 #include "GXLocalization.h"
+#include "GXPickerAccessibility.h"
 #include "GXPickerComponents.h"
 #include "GXUnitConverter.h"
 #include "GXWheelCalls.h"
@@ -20,26 +20,26 @@ constexpr NSInteger unitComponent = hundredthsComponent;
 constexpr CGFloat tenthsWidth = 20;
 constexpr CGFloat unitWidth = 60;
 
-// No wheel of pounds reaches 771, and this is the last weight that it shows.
-constexpr float endOfPounds = 771.0F;
-constexpr float lastPounds = 770.9F;
-
-/// The whole numbers that the first column offers: `rows` of them, from `first` upward.
+/// The whole numbers that the first column offers, which are the unit's range; `end` is exclusive.
 struct WholeNumbers {
-    NSInteger rows;
     NSInteger first;
+    NSInteger end;
+    NSInteger count() const { return end - first; }
 };
 
 WholeNumbers wholeNumbersOf(GXWeightUnit unit) {
     switch (unit) {
     case GXWeightUnitKilogram:
-        return {335, 15};
+        return {15, 350};
     case GXWeightUnitPound:
-        return {737, 34};
+        return {34, 771};
     default:
-        return {52, 3};
+        return {3, 55};
     }
 }
+
+/// The last weight that the wheel of pounds shows.
+constexpr float lastPounds = 770.9F;
 
 float weightInUnit(float kilograms, GXWeightUnit unit) {
     switch (unit) {
@@ -77,12 +77,12 @@ std::optional<std::string> nameOfUnit(GXWeightUnit unit) {
 
 // A unit that is none of the three is shown like stones.
 
-GXAccessibilityUnit spokenUnit(GXWeightUnit unit) {
+GXAccessibilityUnit accessibilityUnitOf(GXWeightUnit unit) {
     if (unit == GXWeightUnitKilogram) return GXAccessibilityUnit::Kilogram;
     return unit == GXWeightUnitPound ? GXAccessibilityUnit::Pound : GXAccessibilityUnit::Stone;
 }
 
-GXAccessibilityName spokenNameOfUnit(GXWeightUnit unit) {
+GXAccessibilityName accessibilityNameOf(GXWeightUnit unit) {
     if (unit == GXWeightUnitKilogram) return GXAccessibilityName::Kilograms;
     return unit == GXWeightUnitPound ? GXAccessibilityName::Pounds : GXAccessibilityName::Stones;
 }
@@ -137,18 +137,20 @@ void GXWeightPickerView::updateCurrentRightLabel() {
 
 void GXWeightPickerView::updateMinMaxWeight() {
     const Ref<GXBasePickerView> keep = self();
-    switch (weightUnit()) {
+    const GXWeightUnit unit = weightUnit();
+    const WholeNumbers range = wholeNumbersOf(unit);
+    switch (unit) {
     case GXWeightUnitKilogram:
-        setMinValue(NSNumber::numberWithInt(15));
-        setMaxValue(NSNumber::numberWithInt(350));
+        setMinValue(NSNumber::numberWithInt(static_cast<std::int32_t>(range.first)));
+        setMaxValue(NSNumber::numberWithInt(static_cast<std::int32_t>(range.end)));
         break;
     case GXWeightUnitPound:
-        setMinValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(34.0F)));
-        setMaxValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(endOfPounds)));
+        setMinValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(static_cast<float>(range.first))));
+        setMaxValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(static_cast<float>(range.end))));
         break;
     case GXWeightUnitStone:
-        setMinValue(NSNumber::numberWithFloat(GXUnitConverter::stToKg(3.0F)));
-        setMaxValue(NSNumber::numberWithFloat(GXUnitConverter::stToKg(55.0F)));
+        setMinValue(NSNumber::numberWithFloat(GXUnitConverter::stToKg(static_cast<float>(range.first))));
+        setMaxValue(NSNumber::numberWithFloat(GXUnitConverter::stToKg(static_cast<float>(range.end))));
         break;
     }
 }
@@ -158,7 +160,7 @@ void GXWeightPickerView::selectCurrentValue() {
     if (currentValue().floatValue() < minValue().floatValue()) return;
     float weight = weightInUnit(currentValue().floatValue(), weightUnit());
     // Pounds alone are clamped to the wheel; kilograms and stones beyond it keep their value.
-    if (weightUnit_ == GXWeightUnitPound && weight > endOfPounds) {
+    if (weightUnit_ == GXWeightUnitPound && weight > static_cast<float>(wholeNumbersOf(GXWeightUnitPound).end)) {
         setCurrentValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(lastPounds)));
         weight = lastPounds;
     }
@@ -174,14 +176,14 @@ void GXWeightPickerView::selectCurrentValue() {
     }
 }
 
-// What the wheel asks
+// What the wheel queries
 
 NSInteger GXWeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerView>&) { return weightUnitSelectable() ? 4 : 3; }
 
 NSInteger GXWeightPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return wholeNumbersOf(weightUnit()).rows;
+        return wholeNumbersOf(weightUnit()).count();
     case separatorComponent:
         return 1;
     case tenthsComponent:
@@ -252,7 +254,7 @@ void GXWeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerV
 std::optional<GXAccessibilityName> GXWeightPickerView::accessibilityPartOfComponent(NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return spokenNameOfUnit(weightUnit());
+        return accessibilityNameOf(weightUnit());
     case tenthsComponent:
         return GXAccessibilityName::Tenths;
     case unitComponent:
@@ -266,7 +268,7 @@ std::optional<std::string> GXWeightPickerView::pickerView_accessibilityValueForR
                                                                                                 NSInteger component) {
     const RowInComponent at = {row, component};
     const GXWeightUnit unit = component == unitComponent ? unitOfRow(row) : weightUnit();
-    return accessibilityQuantity(reportedNumber(wholeComponent, reportedTitle(tenthsComponent, at), at), spokenUnit(unit));
+    return accessibilityQuantity(reportedNumber(wholeComponent, reportedTitle(tenthsComponent, at), at), accessibilityUnitOf(unit));
 }
 
 } // namespace gx

@@ -7,7 +7,7 @@ namespace gx {
 /// Where one column of a wheel is, on which row it lands, and which landings are to be reported.
 ///
 /// It is a scroll axis whose positions are rows, with what only a wheel has: notches and steps that
-/// add up, flings that add up, and reports. It knows no views and calls nobody.
+/// add up, flings that add up, and reports. It knows no views and has no callbacks.
 ///
 /// A position is a row and a part of one, kept as a whole row (the anchor) and an offset from it.
 /// So the last of 10^18 rows is met as exactly as the first.

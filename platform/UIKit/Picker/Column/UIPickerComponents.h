@@ -56,7 +56,7 @@ public:
 /// and which one keys move.
 ///
 /// - `invalidate` marks all that is cached; the next operation that needs a value queries it again.
-/// - A callback that asks while a query is open gets the previous value, so that this always ends.
+/// - A query from a callback of a query gets the previous value, so that this always ends.
 ///   What it invalidates meanwhile stays invalid.
 /// - Its owner keeps itself alive while it calls operations that may query.
 class UIPickerComponents {

@@ -47,8 +47,8 @@ NSInteger itemCount(Table& table, NSInteger section, NSInteger rows) {
     return count;
 }
 
-/// One that is only read: the focus of the table's view is a row's.
-class ReadElement : public UITableViewElement {
+/// Cannot have the focus: that of the table's view is a row's.
+class ReadOnlyElement : public UITableViewElement {
 public:
     bool isFocusable() const override { return false; }
     bool isFocused() const override { return false; }
@@ -59,10 +59,10 @@ protected:
     using UITableViewElement::UITableViewElement;
 };
 
-class HeadingElement : public ReadElement {
+class HeadingElement : public ReadOnlyElement {
 public:
     HeadingElement(const Ref<UIView>& view, const Ref<Table>& table, NSInteger section)
-        : ReadElement(view, UIAccessibilityRole::Heading, partOfHeading(section), table), section_(section) {}
+        : ReadOnlyElement(view, UIAccessibilityRole::Heading, partOfHeading(section), table), section_(section) {}
 
     std::optional<std::string> label() const override {
         const Ref<Table> table = this->table();
@@ -153,10 +153,10 @@ private:
     NSIndexPath path_;
 };
 
-class ListElement : public ReadElement {
+class ListElement : public ReadOnlyElement {
 public:
     ListElement(const Ref<UIView>& view, const Ref<Table>& table, NSInteger section)
-        : ReadElement(view, UIAccessibilityRole::List, partOfList(section), table), section_(section) {}
+        : ReadOnlyElement(view, UIAccessibilityRole::List, partOfList(section), table), section_(section) {}
 
     /// The section's title or, without one, what the table is called.
     std::optional<std::string> label() const override {

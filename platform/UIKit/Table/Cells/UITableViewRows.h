@@ -11,7 +11,7 @@ namespace gx {
 
 /// Where the sections and rows of a table lie.
 ///
-/// It is a value made of numbers: it knows no views and calls nobody.
+/// It is a value made of numbers: it knows no views and has no callbacks.
 /// - Sections lie below each other, each with its header, if it has one, above its rows.
 /// - Rows of one height take no memory, however many there are; others take one number each.
 /// - Finding a row takes constant or, with heights of their own, logarithmic time.

@@ -1,4 +1,4 @@
-#include "GXAccessibilityText.h"
+#include "GXPickerAccessibility.h"
 
 #include "GXLocalization.h"
 
