@@ -44,9 +44,9 @@ public:
 /// - Override `didInitialize` to set range, step, value and unit through the public setters, after
 ///   the superclass's `didInitialize`. Every initialiser calls it once. A set-up in `initWithFrame`
 ///   alone runs with every form of `create` as well.
-/// - Override what the wheel asks, `selectCurrentValue`, `showTexts`, `setIsMetric` and
+/// - Override what the wheel queries, `selectCurrentValue`, `showTexts`, `setIsMetric` and
 ///   `setCurrentValue` as needed. The base calls every operation, getters too, through the object.
-/// - Give every field an initialiser: the wheel asks for rows before `didInitialize` has run.
+/// - Give every field an initialiser: the wheel queries rows before `didInitialize` has run.
 /// - Where you override `setDelegate`, write `using GXBasePickerView::setDelegate;` beside it.
 ///
 /// `docs/guide/own-picker.md` shows a picker and its cell.
@@ -82,7 +82,7 @@ public:
     virtual const NSNumber& stepSize() const { return stepSize_; }
     virtual void setStepSize(NSNumber value);
     /// The value shown. Default 0. The setter always stores, and selects the value's row; the
-    /// delegate is not told.
+    /// delegate is not called.
     virtual const NSNumber& currentValue() const { return currentValue_; }
     virtual void setCurrentValue(NSNumber value);
     /// Metric or imperial units, for the subclasses that know both. Default false.
@@ -129,7 +129,7 @@ public:
     /// Selects the row of the current value, without animation. A value below the minimum leaves
     /// the selection alone.
     virtual void selectCurrentValue();
-    /// Tells the delegate the current value, for component 0.
+    /// Calls the delegate with the current value, for component 0.
     virtual void informDelegateOfValueChange();
 
     /// Reads again what the services give: unit texts and separators, fonts and colours, rows.
@@ -139,7 +139,7 @@ public:
     /// on the wheel itself are replaced by the picker's.
     virtual void reloadData();
 
-    // What the wheel asks
+    // What the wheel queries
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     /// The whole steps from minimum to maximum, the maximum itself not offered.
@@ -162,7 +162,7 @@ public:
     /// The measurement and what the component stands for, such as "Distance, kilometres". The
     /// picker's own `accessibilityLabel`, if one was set, stands in for the measurement's name.
     std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    /// The whole measurement, whichever component is asked about, such as "5.3 kilometres": of the
+    /// The whole measurement, whichever component is queried, such as "5.3 kilometres": of the
     /// rows that the wheel reports, with `row` in `component`. Here the row's title.
     std::optional<std::string> pickerView_accessibilityValueForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                                 NSInteger component) override;
@@ -194,7 +194,7 @@ protected:
     /// The title of the row that a component of this wheel has selected.
     std::optional<std::string> selectedTitle(const Ref<UIPickerView>& pickerView, NSInteger component);
     /// The width of a component of digits: the base class's, at most a third of the wheel that
-    /// asks.
+    /// queries it.
     CGFloat widthOfDigits(const Ref<UIPickerView>& pickerView, NSInteger component);
     /// Stores a component's own step and reloads the wheel, if it is another one. Selects nothing.
     void storeStep(std::int32_t& stored, std::int32_t step) const;

@@ -31,7 +31,7 @@ public:
     /// What the chosen image's own label says; empty for one without.
     std::string currentValueText() override;
 
-    // What the wheel asks
+    // What the wheel queries
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     /// The images from the minimum on; negative for a minimum beyond the list.

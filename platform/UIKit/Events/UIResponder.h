@@ -17,7 +17,7 @@ namespace gx {
 /// superclass's.
 class GX_EXPORT UIResponder : public NSObject {
 public:
-    /// Who gets the events that this one leaves alone. Here nobody.
+    /// The responder that gets the events that this one does not use. Here none.
     virtual Ref<UIResponder> nextResponder() const;
 
     // Touches
@@ -25,8 +25,8 @@ public:
     /// Sent to the topmost view below the finger; here handed on. Returns whether a view took the
     /// touch.
     ///
-    /// The view that it began on gets the rest of the touch either way. What a touch that nobody
-    /// took does is the host's.
+    /// The view that it began on gets the rest of the touch either way. A touch that no view took
+    /// is the host's.
     virtual bool touchBegan(const UITouch& touch);
     /// Sent to the view that the touch began on; here handed on, as are the next two.
     virtual void touchMoved(const UITouch& touch);

@@ -52,7 +52,7 @@ public:
     NSInteger rowCount(NSInteger component) override { return wheel.numberOfRowsInComponent(component); }
     Ref<UIView> visibleView(NSInteger row, NSInteger component) override { return wheel.viewForRow_forComponent(row, component); }
     void report(NSInteger row, NSInteger component) override { wheel.turnToRow_inComponent(row, component); }
-    bool isLayoutNeeded() const override { return wheel.isLayoutDue(); }
+    bool isLayoutNeeded() const override { return wheel.isLayoutNeeded(); }
 
     bool isShowable() const {
         const CGSize size = wheel.bounds().size;

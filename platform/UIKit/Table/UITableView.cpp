@@ -9,9 +9,9 @@
 namespace gx {
 
 /// The content, and its way to the data source and the delegate.
-class UITableView::Parts final : public UITableViewContent::Client {
+class UITableView::Implementation final : public UITableViewContent::Client {
 public:
-    explicit Parts(UITableView& table) : content(table, *this, highestPassedCount), table_(table) {}
+    explicit Implementation(UITableView& table) : content(table, *this, highestPassedCount), table_(table) {}
 
     UITableViewContent content;
     /// A height that may be left to the table.
@@ -72,9 +72,9 @@ private:
     UITableView& table_;
 };
 
-UITableView::UITableView() : parts_(std::make_unique<Parts>(*this)) {}
+UITableView::UITableView() : implementation_(std::make_unique<Implementation>(*this)) {}
 UITableView::~UITableView() = default;
-UITableViewContent& UITableView::content() const { return parts_->content; }
+UITableViewContent& UITableView::content() const { return implementation_->content; }
 UITableViewContent& UITableView::refreshedContent() {
     content().refresh();
     return content();
@@ -83,7 +83,7 @@ UITableViewContent& UITableView::refreshedContent() {
 // Properties
 
 void UITableView::setHeight(CGFloat& height, CGFloat automatic, CGFloat wanted) {
-    const CGFloat clamped = Parts::heightOr(automatic, wanted);
+    const CGFloat clamped = Implementation::heightOr(automatic, wanted);
     if (clamped != std::exchange(height, clamped)) reloadData();
 }
 void UITableView::setRowHeight(CGFloat height) { setHeight(rowHeight_, defaultRowHeight, height); }
@@ -196,7 +196,7 @@ void UITableView::pressEnded(bool isTap, NSTimeInterval time) {
     const std::optional<NSIndexPath> path = press.row();
     if (!isTap || !path) return press.cancel();
     press.end();
-    parts_->tapRow(*path, time);
+    implementation_->tapRow(*path, time);
 }
 
 void UITableView::touchEnded(const UITouch& touch) {
@@ -236,10 +236,10 @@ bool UITableView::keyPressed(const UIKey& key) {
     if (UITableViewKeyFocus::isMove(pressed.code) && content().moveFocus(pressed.code)) return true;
     if (pressed.code != UIKey::Code::Return && pressed.code != UIKey::Code::Space) return UIScrollView::keyPressed(pressed);
     const std::optional<NSIndexPath> present = content().focusedRow();
-    if (!present || !parts_->canTapRow(*present)) return UIScrollView::keyPressed(pressed);
+    if (!present || !implementation_->canTapRow(*present)) return UIScrollView::keyPressed(pressed);
     if (pressed.isRepeat || !content().rows().exists(*present)) return true; // Taps once.
     content().focusRow(*present);
-    parts_->tapRow(*present, pressed.timestamp);
+    implementation_->tapRow(*present, pressed.timestamp);
     return true;
 }
 

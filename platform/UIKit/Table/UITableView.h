@@ -253,7 +253,7 @@ protected:
     void drawScrolledViews(UIGraphicsContext& context) override;
 
 private:
-    class Parts;
+    class Implementation;
 
     Ref<UITableView> self() { return refTo(this); }
     UITableViewContent& content() const;
@@ -266,7 +266,7 @@ private:
     CGFloat sectionHeaderHeight_ = defaultSectionHeaderHeight;
     Ref<UIFont> sectionHeaderFont_;
     std::optional<UIColor> separatorColor_ = UIColor::tertiarySystemFillColor();
-    std::unique_ptr<Parts> parts_; // Made once, by the constructor.
+    std::unique_ptr<Implementation> implementation_; // Made once, by the constructor.
 };
 
 inline CGFloat UITableViewDelegate::tableView_heightForRowAtIndexPath(const Ref<UITableView>&, NSIndexPath) {

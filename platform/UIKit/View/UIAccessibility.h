@@ -21,7 +21,7 @@ struct UIAccessibilityNumbers {
 
 /// Which one of a set something is: the third of twelve has position 2 and count 12.
 struct UIAccessibilityPlace {
-    NSInteger position = 0; ///< from 1
+    NSInteger position = 0; ///< from 0
     NSInteger count = 0;    ///< of the set
     friend bool operator==(const UIAccessibilityPlace&, const UIAccessibilityPlace&) = default;
 };

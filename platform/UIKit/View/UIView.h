@@ -96,7 +96,7 @@ public:
 
 protected:
     /// Whether the next layout pass will lay out this view itself.
-    bool isLayoutDue() const { return needsLayout_; }
+    bool isLayoutNeeded() const { return needsLayout_; }
     /// Whether `layoutSubviews` of this view is running.
     bool isLayingOut() const { return isLayingOut_; }
     /// Draws the subviews, in this view's coordinates.

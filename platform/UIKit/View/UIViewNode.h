@@ -28,7 +28,7 @@ enum class UIAccessibilityRole {
     ListItem ///< can be activated
 };
 
-/// What a view asks of the window at the top of its tree. `UIWindow` alone implements it.
+/// What a view requests of the window at the top of its tree. `UIWindow` alone implements it.
 class GX_EXPORT UIViewRoot {
 public:
     /// Something has changed on screen: a frame is needed.
@@ -43,7 +43,7 @@ public:
     virtual bool receivesKeys() const = 0;
     /// Has the view with the focus mark it, as after a key.
     virtual void showFocusMark() = 0;
-    /// Gives the focus to a view, or to nobody.
+    /// Gives the focus to a view, or takes it away for an empty one.
     virtual void moveFocusTo(const Ref<UIViewNode>& view) = 0;
     /// A tap at a point of the window, if what lies topmost there is the view or one below it.
     virtual void tapView_atPoint_time(const Ref<UIViewNode>& view, CGPoint point, NSTimeInterval time) = 0;
@@ -166,7 +166,7 @@ public:
     /// Returns false, and changes nothing, for a view in no window, out of sight, without input
     /// (also by a view above), or that cannot become first responder.
     bool becomeFirstResponder();
-    /// Gives the focus up, to nobody. Returns false for a view that does not have it.
+    /// Gives the focus up. Returns false for a view that does not have it.
     bool resignFirstResponder();
     /// Whether the view has the focus of its window.
     bool isFirstResponder() const;
@@ -183,7 +183,7 @@ public:
     /// Ends the view's own movements at once: what moves arrives, and a user's spin is reported.
     /// Here nothing moves.
     ///
-    /// Called on the view and all views below when nobody sees them any more: the view, or one
+    /// Called on the view and all views below when they are not visible any more: the view, or one
     /// above it, was hidden, or the window's `finishAnimations` was called. May be called at any
     /// time.
     virtual void finishAnimations();
@@ -224,7 +224,7 @@ protected:
     virtual UIViewRoot* asViewRoot() { return nullptr; }
     /// Called after the size of the bounds has changed.
     virtual void boundsSizeDidChange() = 0;
-    /// Tells this view of another tint in force, and those below that inherit it.
+    /// Notifies this view of another tint in force, and those below that inherit it.
     virtual void notifyTint();
 
 private:

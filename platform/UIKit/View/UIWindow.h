@@ -26,7 +26,7 @@ public:
     ~UIWindow() override;
 
     /// Gets the window's requests for frames and feedback. Not owned; clear it before the host
-    /// goes. A host that comes while a frame is needed is asked for it at once.
+    /// goes. A host that comes while a frame is needed gets the request at once.
     void setHost(UIWindowHost* host);
     UIWindowHost* host() const { return host_; }
 
@@ -41,8 +41,8 @@ public:
     /// Whether nothing in it moves by itself, for users who get dizzy by motion. Default false.
     ///
     /// What would glide arrives in the next tick at the latest:
-    /// - wheels on the row that they were spun or asked to, with the same reports;
-    /// - views that scroll on the place that they were asked for;
+    /// - wheels on the row that they were spun to or requested to show, with the same reports;
+    /// - views that scroll at the requested place;
     /// - rows of a table where they belong.
     ///
     /// Content that a finger has thrown stops where it was let go. What follows a finger does so as
@@ -72,7 +72,7 @@ public:
 
     /// The pointer is at a place in the window, whether its button is held or not.
     ///
-    /// The views below it are asked what they show (`UIResponder::hoverMoved`), again before
+    /// The views below it are queried for its style (`UIResponder::hoverMoved`), again before
     /// each frame until `pointerLeft`.
     void pointerMoved(CGPoint location) override;
     /// Nothing is hovered any more.
@@ -82,7 +82,7 @@ public:
 
     /// A key goes down, or repeats. Returns whether it was used.
     ///
-    /// It is sent to the first responder and from there up; to nobody if there is none. If none of
+    /// It is sent to the first responder, if there is one, and from there up. If none of
     /// them used it, Tab moves the focus to the next view that takes it, in reading order, and
     /// Shift with Tab to the one before; that view comes into sight.
     ///
@@ -93,7 +93,7 @@ public:
     /// shown, but it is kept.
     bool receivesKeys() const override { return receivesKeys_; }
     void setReceivesKeys(bool receives) override;
-    /// Nobody has the focus any more, as when Tab comes in from around the window.
+    /// No view has the focus any more, as when Tab comes in from around the window.
     void takeFocusAway() override { setFirstResponder(nullptr); }
 
     /// A screen reader acts on one of the window's elements. A no-op for one that does not exist.

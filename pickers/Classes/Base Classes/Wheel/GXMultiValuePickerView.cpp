@@ -186,7 +186,7 @@ void GXMultiValuePickerView::layoutSubviews() {
 /// Placing a label needs the rows laid out. Where a layout is needed, it places all labels itself,
 /// and doing it once more would only measure every text twice.
 bool GXMultiValuePickerView::areLabelsPlacedByLayout() {
-    if (!sources() || !isLayoutDue() || isLayingOut()) return false;
+    if (!sources() || !isLayoutNeeded() || isLayingOut()) return false;
     layoutIfNeeded();
     return true;
 }
@@ -218,17 +218,17 @@ CGFloat GXMultiValuePickerView::widestTitleWidth(const Sources& sources, NSInteg
     const auto title = sources.delegate->pickerView_titleForRow_forComponent(wheel, wrappingSubtract<NSInteger>(rows, 1), component);
     // Where a unit stands before the number, it is beside the first digit of any row.
     const Ref<GXStyleSheetFont> font = valueFont();
-    if (areSidesChanged() && title && font) return widthWithAnyDigits(*title, font->font());
+    if (areLabelsMirrored() && title && font) return widthWithAnyDigits(*title, font->font());
     return sizeOfText(title, font).width;
 }
 
-bool GXMultiValuePickerView::areSidesChanged() const { return labelsFollowReading_ && NSLocale::currentLocale()->isRightToLeft(); }
+bool GXMultiValuePickerView::areLabelsMirrored() const { return labelsFollowReading_ && NSLocale::currentLocale()->isRightToLeft(); }
 
 void GXMultiValuePickerView::setupLeftLabelFrame() {
     const Ref<UIView> keep = refTo<UIView>(this);
     const Sources sources = this->sources();
     if (!sources) return;
-    if (areSidesChanged()) {
+    if (areLabelsMirrored()) {
         placeRightOfComponents(sources, leftDescLabel_);
     } else {
         placeLeftOfComponents(sources, leftDescLabel_);
@@ -239,7 +239,7 @@ void GXMultiValuePickerView::setupRightLabelFrame() {
     const Ref<UIView> keep = refTo<UIView>(this);
     const Sources sources = this->sources();
     if (!sources) return;
-    if (areSidesChanged()) {
+    if (areLabelsMirrored()) {
         placeLeftOfComponents(sources, rightDescLabel_);
     } else {
         placeRightOfComponents(sources, rightDescLabel_);

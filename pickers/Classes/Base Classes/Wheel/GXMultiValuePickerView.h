@@ -126,7 +126,7 @@ private:
     };
     Sources sources() const;
     bool areLabelsPlacedByLayout();
-    bool areSidesChanged() const;
+    bool areLabelsMirrored() const;
     CGSize sizeInCurrentFont(const Ref<UILabel>& label) const;
     void placeLeftOfComponents(const Sources& sources, const Ref<UILabel>& label);
     void placeRightOfComponents(const Sources& sources, const Ref<UILabel>& label);

@@ -7,11 +7,11 @@ namespace gx {
 
 /// The delegate of a `GXMultiValuePickerView`.
 ///
-/// The wheel places its labels by titles and widths, so here both are required. The wheel asks for
-/// them also outside a reload: whenever it places a label.
+/// The wheel places its labels by titles and widths, so here both are required. The wheel
+/// queries them also outside a reload: whenever it places a label.
 ///
-/// It asks about the last row of the first and of the last component, whether they exist or not. A
-/// wheel without components asks its data source and this delegate about the components -1 and 0:
+/// It queries the last row of the first and of the last component, whether they exist or not. A
+/// wheel without components queries its data source and this delegate for the components -1 and 0:
 /// the last one of none, and the first. Return anything there, such as a width of 0 and no title.
 class GX_EXPORT GXMultiValuePickerViewDelegate : public UIPickerViewDelegate {
 public:

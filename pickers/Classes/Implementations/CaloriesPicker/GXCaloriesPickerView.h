@@ -9,11 +9,11 @@ namespace gx {
 /// Picks an amount of energy: 0 to 99990 in steps of 10, starting at 0.
 ///
 /// The unit beside the wheel is the formatter's, and is fixed at construction: neither another unit
-/// system nor another formatter changes it. Who wants another one sets
+/// system nor another formatter changes it. For another one call
 /// `pickerView()->setRightLabelText`.
 class GX_EXPORT GXCaloriesPickerView : public GXBasePickerView {
 public:
-    /// Made when first asked for, for the unit system of that moment.
+    /// Made when first needed, for the unit system of that moment.
     virtual Ref<GXCaloriesFormatter> caloriesFormatter();
     /// Stores only.
     virtual void setCaloriesFormatter(Ref<GXCaloriesFormatter> formatter) { caloriesFormatter_ = std::move(formatter); }

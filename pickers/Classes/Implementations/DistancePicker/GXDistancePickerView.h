@@ -31,14 +31,14 @@ namespace gx {
 class GX_EXPORT GXDistancePickerView : public GXBasePickerView {
 public:
     /// Decimal places, 1 or 2; anything else is ignored. Default 1. A change reloads the wheel but
-    /// selects nothing: a new column stands where it was last asked to.
+    /// selects nothing: a new column shows the row that was last requested of it.
     virtual std::int32_t numberOfFractionUnits() const { return numberOfFractionUnits_; }
     virtual void setNumberOfFractionUnits(std::int32_t count);
 
     /// Names the unit; its unit system decides how the whole units are written and the rows
     /// selected.
     ///
-    /// Held strongly; made when first asked for, for the unit system of that moment. `setIsMetric`
+    /// Held strongly; made when first needed, for the unit system of that moment. `setIsMetric`
     /// keeps it and the picker in step. The setter stores only, so with a formatter of another unit
     /// system titles are in one unit and row counts in the other.
     virtual Ref<GXDistanceFormatter> distanceFormatter();
@@ -61,8 +61,8 @@ public:
 
     void selectCurrentValue() override;
 
-    // What the wheel asks. Components: whole units, separator, tenths, hundredths; any other one is
-    // a row without a title.
+    // What the wheel queries. Components: whole units, separator, tenths, hundredths; any other one
+    // is a row without a title.
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;

@@ -76,8 +76,8 @@ public:
     /// The units are those of the international system, which are alike in all languages.
     std::string currentValueText() override;
 
-    // What the wheel asks. Components 0, 2 and, with three units, 4 hold values; any other one is a
-    // row without a title, those between are separators of 5 points.
+    // What the wheel queries. Components 0, 2 and, with three units, 4 hold values; any other one
+    // is a row without a title, those between are separators of 5 points.
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;

@@ -4,8 +4,9 @@
 
 namespace gx {
 
-/// The layouts that `GXDurationPickerView::type` knows.
-/// Hours and minutes; layouts are what `GXDurationPickerView::type` takes.
+// The layouts that `GXDurationPickerView::setType` takes.
+
+/// Hours and minutes.
 inline constexpr NSInteger GXDurationTypeHoursMinutes = 0;
 /// Hours, minutes and seconds.
 inline constexpr NSInteger GXDurationTypeHoursMinutesSeconds = 1;

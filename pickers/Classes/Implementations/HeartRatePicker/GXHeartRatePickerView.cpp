@@ -81,7 +81,7 @@ NSNumber GXHeartRatePickerView::storedRate(NSNumber rate, NSInteger component) {
     return rate;
 }
 
-NSInteger GXHeartRatePickerView::valueOfRow(NSInteger row) const { return wrappingAdd(minValue().integerValue(), row); }
+NSInteger GXHeartRatePickerView::rateOfRow(NSInteger row) const { return wrappingAdd(minValue().integerValue(), row); }
 
 void GXHeartRatePickerView::selectCurrentValue() {
     selectRow_inComponent(pickerView(), quotient(currentValue().integerValue(), stepSize().integerValue()), averageComponent);
@@ -114,7 +114,7 @@ std::optional<std::string> GXHeartRatePickerView::pickerView_titleForRow_forComp
                                                                                       NSInteger component) {
     if (component == spacerComponent) return std::nullopt;
     if (row == 0 && shouldShowNullValue()) return noValueTitle;
-    return std::to_string(narrowTo32Bits(valueOfRow(row)));
+    return std::to_string(narrowTo32Bits(rateOfRow(row)));
 }
 
 CGFloat GXHeartRatePickerView::pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) {
@@ -126,10 +126,10 @@ CGFloat GXHeartRatePickerView::pickerView_widthForComponent(const Ref<UIPickerVi
 void GXHeartRatePickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) {
     const Ref<GXBasePickerView> keep = self();
     if (component == averageComponent) {
-        setCurrentAvgHeartRate(NSNumber::numberWithInteger(valueOfRow(row)));
+        setCurrentAvgHeartRate(NSNumber::numberWithInteger(rateOfRow(row)));
         makeRoomAboveAverage();
     } else if (component == maximumComponent) {
-        setCurrentMaxHeartRate(NSNumber::numberWithInteger(valueOfRow(row)));
+        setCurrentMaxHeartRate(NSNumber::numberWithInteger(rateOfRow(row)));
         makeRoomBelowMaximum();
     } else {
         return;

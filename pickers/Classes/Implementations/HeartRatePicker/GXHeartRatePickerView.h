@@ -25,8 +25,8 @@ namespace gx {
 /// the rates afterwards. Keep the step at 1, for titles go up by 1 whatever the step.
 class GX_EXPORT GXHeartRatePickerView : public GXBasePickerView {
 public:
-    /// In beats per minute; 0 for no value. The setters select the rate's row, animated, and notify
-    /// nobody.
+    /// In beats per minute; 0 for no value. The setters select the rate's row, animated, and do
+    /// not call the delegate.
     /// - An empty number gives 120 for the average and 160 for the maximum.
     /// - With the row "-", the minimum itself becomes 0, for that row stands in its place.
     /// - A rate below the minimum is kept and shown on the first row, one above the range is kept
@@ -51,7 +51,7 @@ public:
     /// Both rates after the labels beside their columns, "AVG 142, MAX 171"; a dash for no value.
     std::string currentValueText() override;
 
-    // What the wheel asks: average, spacer, maximum
+    // What the wheel queries: average, spacer, maximum
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     /// The average has one row less, so that above the highest average there is always a maximum.
@@ -60,9 +60,8 @@ public:
     std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& pickerView, NSInteger row,
                                                                    NSInteger component) override;
     CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
-    /// Stores the rate, makes room for the gap and tells the delegate both rates: the maximum as
-    /// component 1, then the average as component
-    /// 0. A row of the spacer does nothing.
+    /// Stores the rate, makes room for the gap and calls the delegate with both rates: the maximum
+    /// as component 1, then the average as component 0. A row of the spacer does nothing.
     void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& pickerView, NSInteger row, NSInteger component) override;
     /// Each column is a measurement of its own, unless the application gives both one name.
     std::optional<std::string> pickerView_accessibilityLabelForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
@@ -81,7 +80,7 @@ protected:
 
 private:
     NSNumber storedRate(NSNumber rate, NSInteger component);
-    NSInteger valueOfRow(NSInteger row) const;
+    NSInteger rateOfRow(NSInteger row) const;
     std::string textOfRate(const std::optional<std::string>& label, NSInteger component);
     void makeRoomAboveAverage();
     void makeRoomBelowMaximum();

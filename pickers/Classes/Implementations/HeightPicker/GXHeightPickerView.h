@@ -84,9 +84,9 @@ public:
     /// - imperial: the whole feet below, and the nearest inch. A height below 120 cm shows 5 feet
     ///   10 inches, one from there to 4 feet shows 4 feet, one of 7 feet or more 6 feet 11 inches.
     ///
-    /// What is no number shows like 0. Rows that do not exist are asked of the wheel as they are:
-    /// centimetres beyond either end, and a twelfth inch, which shows as the eleventh and not as
-    /// the next foot.
+    /// What is no number shows like 0. Rows that do not exist are requested of the wheel as they
+    /// are: centimetres beyond either end, and a twelfth inch, which shows as the eleventh and not
+    /// as the next foot.
     virtual void calculatePickerValues();
     /// Stores the height of the rows that the wheel shows, and informs the delegate. Feet and
     /// inches are added in single precision; so 5 feet become 152.39999 cm, a hair less, and the
@@ -98,7 +98,7 @@ public:
     /// Shows the rows in the new tint.
     void tintColorDidChange() override;
 
-    // What the wheel asks: centimetres and unit, or feet, inches and unit
+    // What the wheel queries: centimetres and unit, or feet, inches and unit
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;

@@ -68,7 +68,7 @@ public:
     /// "4:45 min/km", without a zero before the minutes.
     std::string currentValueText() override;
 
-    // What the wheel asks. Components: minutes, separator, seconds; any other one is like the
+    // What the wheel queries. Components: minutes, separator, seconds; any other one is like the
     // separator.
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;

@@ -43,7 +43,7 @@ public:
     virtual double currentSpeedInMphOrKph() const { return currentSpeedInMphOrKph_; }
     virtual void setCurrentSpeedInMphOrKph(double speed) { currentSpeedInMphOrKph_ = speed; }
 
-    /// Names the unit. Held strongly; made when first asked for, for the unit system of that
+    /// Names the unit. Held strongly; made when first needed, for the unit system of that
     /// moment, and switched by `setIsMetric`. The setter stores only.
     virtual Ref<GXSpeedFormatter> speedFormatter();
     virtual void setSpeedFormatter(Ref<GXSpeedFormatter> formatter) { speedFormatter_ = std::move(formatter); }
@@ -69,7 +69,7 @@ public:
 
     void selectCurrentValue() override;
 
-    // What the wheel asks. Components: whole numbers, separator, tenths; any other one is a row
+    // What the wheel queries. Components: whole numbers, separator, tenths; any other one is a row
     // without a title.
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;

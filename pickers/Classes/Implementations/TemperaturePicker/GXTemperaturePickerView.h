@@ -21,8 +21,8 @@ namespace gx {
 ///   end below the row that was picked: the value stays as picked, and the wheel shows the row
 ///   before (from -16 °C in steps of 2, 65 °F goes back to 63).
 ///
-/// Nothing is clamped: a value below the minimum asks the wheel for a negative row, one above the
-/// maximum for a row beyond the last.
+/// Nothing is clamped: a value below the minimum requests a negative row of the wheel, one above
+/// the maximum a row beyond the last.
 class GX_EXPORT GXTemperaturePickerView : public GXBasePickerView {
 public:
     /// Celsius or Fahrenheit. The current value stays what it is, in degrees Celsius. The flag that
@@ -35,7 +35,7 @@ public:
     /// Celsius and kept in Fahrenheit.
     void selectCurrentValue() override;
 
-    // What the wheel asks
+    // What the wheel queries
 
     NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
     /// In Fahrenheit the whole part of the row's temperature, toward zero: a minimum of -0.4 °F

@@ -15,8 +15,8 @@ namespace gx {
 /// belong to the inner pickers and are set there. Its own setters of numbers and fonts only store,
 /// and show nothing.
 ///
-/// It tells nobody anything, but hands its delegate to the inner pickers. They report to it
-/// straight, each as the sender and for component 0, so compare the sender with `weatherPicker` and
+/// It sends no notices itself, but hands its delegate to the inner pickers. They report straight to
+/// that, each as the sender and for component 0, so compare the sender with `weatherPicker` and
 /// `temperaturePicker`. Before `setDelegate`, nothing is reported.
 ///
 /// Side by side, the two meet 30 points left of the middle. In less than 60 points there is no room
@@ -36,10 +36,10 @@ protected:
     void didInitialize() override;
     Ref<GXBasePickerView> innerPicker(Place place) const override;
     CGRect frameSideBySide(Place place, CGRect bounds) const override;
-    /// Makes the inner pickers. Their rows are as high as the initialiser was told, else as the
-    /// style sheet says of images.
+    /// Makes the inner pickers. Their rows have the height given to the initialiser, else the
+    /// style sheet's for images.
     virtual void initGXWeatherAndTemperaturePickerViewWithRowHeight(float rowHeight);
-    /// The style sheet's, also where the initialiser was told one: that is the inner pickers'.
+    /// The style sheet's, also where the initialiser was given one: that is the inner pickers'.
     float initialRowHeight() const override;
 
 private:

@@ -21,8 +21,8 @@ enum GXWeightUnit : NSUInteger { GXWeightUnitKilogram = 0, GXWeightUnitPound = 1
 /// A fresh picker shows its first rows without having a value in the range; set one.
 ///
 /// Only in pounds is a value that is too large replaced, by 770.9 lb. Otherwise rows that do not
-/// exist are asked of the wheel as they are, and a fraction of 0.95 or more asks for an eleventh
-/// tenth and not for the next whole unit.
+/// exist are requested of the wheel as they are, and a fraction of 0.95 or more requests an
+/// eleventh tenth and not the next whole unit.
 class GX_EXPORT GXWeightPickerView : public GXBasePickerView {
 public:
     /// Default kilograms. The setter gives the wheel the unit's rows and label.
@@ -47,7 +47,7 @@ public:
     /// where it is. More than 771 lb become 770.9 lb, in the current value too.
     void selectCurrentValue() override;
 
-    // What the wheel asks: whole units, decimal separator, tenths and, if it can be chosen, the
+    // What the wheel queries: whole units, decimal separator, tenths and, if it can be chosen, the
     // unit
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
