@@ -71,9 +71,9 @@ void GXBasePickerView::initGXBasePickerView() {
     wheel->setDataSource(self());
     wheel->setTranslatesAutoresizingMaskIntoConstraints(false);
     addSubview(wheel);
-    for (const char* format : {"H:|[_pickerView]|", "V:|[_pickerView]|"}) {
-        addConstraints(NSLayoutConstraint::constraintsWithVisualFormat_options_metrics_views(format, 0, {}, {{"_pickerView", wheel}}));
-    }
+    // Not by a format: in a browser's download, reading it would be a part of every picker.
+    addConstraints(NSLayoutConstraint::constraintsPinningView_toEdges(
+        wheel, {NSLayoutAttribute::Left, NSLayoutAttribute::Right, NSLayoutAttribute::Top, NSLayoutAttribute::Bottom}));
 }
 
 void GXBasePickerView::reloadData() {

@@ -135,15 +135,28 @@ std::vector<Ref<NSLayoutConstraint>> NSLayoutConstraint::constraintsWithVisualFo
     std::vector<Ref<NSLayoutConstraint>> constraints;
     const auto pin = [&](NSLayoutAttribute attribute, std::optional<CGFloat> distance) {
         if (!distance) return;
-        auto constraint = create<NSLayoutConstraint>();
-        constraint->item_ = view->second;
-        constraint->attribute_ = attribute;
-        constraint->constant_ = *distance;
-        constraints.push_back(std::move(constraint));
+        constraints.push_back(constraintPinning_edge_distance(view->second, attribute, *distance));
     };
     pin(parsed.isVertical() ? NSLayoutAttribute::Top : NSLayoutAttribute::Left, parsed.leading());
     pin(parsed.isVertical() ? NSLayoutAttribute::Bottom : NSLayoutAttribute::Right, parsed.trailing());
     return constraints;
+}
+
+std::vector<Ref<NSLayoutConstraint>> NSLayoutConstraint::constraintsPinningView_toEdges(const Ref<NSObject>& view,
+                                                                                        const std::vector<NSLayoutAttribute>& edges) {
+    std::vector<Ref<NSLayoutConstraint>> constraints;
+    if (!view) return constraints;
+    for (const NSLayoutAttribute edge : edges) constraints.push_back(constraintPinning_edge_distance(view, edge, 0));
+    return constraints;
+}
+
+Ref<NSLayoutConstraint> NSLayoutConstraint::constraintPinning_edge_distance(const Ref<NSObject>& view, NSLayoutAttribute edge,
+                                                                            CGFloat distance) {
+    auto constraint = create<NSLayoutConstraint>();
+    constraint->item_ = view;
+    constraint->attribute_ = edge;
+    constraint->constant_ = distance;
+    return constraint;
 }
 
 void NSLayoutPins::add(const NSLayoutConstraint& constraint) {

@@ -41,6 +41,11 @@ public:
                                                                                                   NSUInteger options,
                                                                                                   const Metrics& metrics,
                                                                                                   const Views& views);
+    /// The constraints that pin a view to edges of its superview, without a distance.
+    ///
+    /// Left and Right give those of `H:|[name]|`.
+    static std::vector<Ref<NSLayoutConstraint>> constraintsPinningView_toEdges(const Ref<NSObject>& view,
+                                                                               const std::vector<NSLayoutAttribute>& edges);
 
     /// The view that is pinned, held weakly.
     Ref<NSObject> firstItem() const { return item_.lock(); }
@@ -50,6 +55,8 @@ public:
     CGFloat constant() const { return constant_; }
 
 private:
+    static Ref<NSLayoutConstraint> constraintPinning_edge_distance(const Ref<NSObject>& view, NSLayoutAttribute edge, CGFloat distance);
+
     WeakRef<NSObject> item_;
     NSLayoutAttribute attribute_ = NSLayoutAttribute::Left;
     CGFloat constant_ = 0;

@@ -63,6 +63,17 @@ TEST_F(NSLayoutConstraintTest, AFormatPinsTheSidesThatItNames) {
     EXPECT_EQ(pins("H:[view]"), std::vector<Pin>{});
 }
 
+TEST_F(NSLayoutConstraintTest, PinnedEdgesAreThoseOfAFormatWithoutDistances) {
+    const auto pinned = NSLayoutConstraint::constraintsPinningView_toEdges(view, {left, right, bottom});
+    std::vector<Pin> found;
+    for (const auto& constraint : pinned) {
+        EXPECT_EQ(constraint->firstItem(), view);
+        found.emplace_back(constraint->attribute(), constraint->constant());
+    }
+    EXPECT_EQ(found, (std::vector<Pin>{{left, 0}, {right, 0}, {bottom, 0}}));
+    EXPECT_TRUE(NSLayoutConstraint::constraintsPinningView_toEdges(nullptr, {left}).empty());
+}
+
 TEST_F(NSLayoutConstraintTest, AFormatWithoutADirectionIsHorizontal) {
     EXPECT_EQ(pins("|[view]|"), (std::vector<Pin>{{left, 0}, {right, 0}}));
 }
