@@ -1,9 +1,8 @@
 #pragma once
 
-#include <functional>
-#include <map>
+#include <array>
 #include <string>
-#include <tuple>
+#include <vector>
 
 #include <GXUIPickers/UITextEngine.h>
 
@@ -17,23 +16,28 @@ public:
     /// The page's font for texts in the system font.
     void setSystemFont(std::int32_t font) { systemFont_ = font; }
     /// For fonts that have come late: everything is measured again.
-    void forgetMeasures() {
-        sizes_.clear();
-        count_ = 0;
-    }
+    void forgetMeasures();
 
 private:
+    struct Measure {
+        std::int32_t font;
+        CGFloat fontSize;
+        std::string text;
+        CGSize size;
+    };
+
     /// Chosen: all texts of a page full of pickers, in some hundred kilobytes.
     static constexpr std::size_t highestCount = 4000;
+    /// A power of two above twice the count, so that few texts meet in a slot.
+    static constexpr std::size_t slotCount = 8192;
 
-    struct Key {
-        std::int32_t font;
-        CGFloat size;
-        auto asTuple() const { return std::tie(font, size); }
-        friend bool operator<(const Key& one, const Key& other) { return one.asTuple() < other.asTuple(); }
-    };
-    std::map<Key, std::map<std::string, CGSize, std::less<>>> sizes_;
-    std::size_t count_ = 0;
+    std::uint16_t& slotOf(std::string_view text, std::int32_t font, CGFloat fontSize);
+
+    std::vector<Measure> measures_;
+    /// A hash table: 0, or one more than the index of a measure.
+    ///
+    /// A measure whose slot is taken is in the next free one.
+    std::array<std::uint16_t, slotCount> slots_{};
     std::int32_t systemFont_ = 0;
 };
 

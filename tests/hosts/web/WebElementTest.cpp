@@ -274,3 +274,22 @@ TEST_F(WebElementTest, ThePageKnowsItsElementsByNumber) {
     WebRegistry::remove(5);
     EXPECT_EQ(WebRegistry::count(), 0);
 }
+
+TEST_F(WebElementTest, NumbersComeInAnyOrderAndAreTakenAgain) {
+    const auto add = [](std::int32_t number) {
+        WebRegistry::add(std::make_unique<WebElement>(number, PickerKind::Bpm, surroundings()));
+        return WebRegistry::find(number);
+    };
+    WebElement* const nine = add(9);
+    WebElement* const three = add(3);
+    WebElement* const six = add(6);
+    EXPECT_EQ(WebRegistry::find(9), nine);
+    EXPECT_EQ(WebRegistry::find(3), three);
+    EXPECT_EQ(WebRegistry::find(6), six);
+    EXPECT_EQ(WebRegistry::find(5), nullptr);
+    const WebElement* const sixAgain = add(6);
+    EXPECT_EQ(WebRegistry::find(6), sixAgain);
+    EXPECT_EQ(WebRegistry::count(), 3);
+    for (const std::int32_t number : {3, 9, 6}) WebRegistry::remove(number);
+    EXPECT_EQ(WebRegistry::count(), 0);
+}

@@ -139,9 +139,12 @@ void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::
         const auto created = createLabel<SeparatorLabel>(valueFont());
         created->setWheel_component(refTo<UIPickerView>(this), component);
         // The style sheet's getter of the font may have set one meanwhile.
-        const auto [entry, isNew] = separators_.try_emplace(component, created);
-        label = entry->second;
-        if (isNew) addSubview(label);
+        label = separatorAfterComponent(component);
+        if (!label) {
+            label = created;
+            separators_.push_back({component, label});
+            addSubview(label);
+        }
     }
     label->setText(std::move(text));
     label->sizeToFit();
@@ -149,8 +152,10 @@ void GXMultiValuePickerView::setSeparatorText_afterComponent(std::optional<std::
 }
 
 Ref<UILabel> GXMultiValuePickerView::separatorAfterComponent(NSUInteger component) const {
-    const auto entry = separators_.find(component);
-    return entry == separators_.end() ? nullptr : entry->second;
+    for (const Separator& separator : separators_) {
+        if (separator.component == component) return separator.label;
+    }
+    return nullptr;
 }
 
 // Occasions to place the labels

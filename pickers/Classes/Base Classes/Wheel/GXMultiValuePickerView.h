@@ -3,9 +3,9 @@
 #include <concepts>
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "GXExport.h"
 #include "GXHeldWeakly.h"
@@ -133,7 +133,11 @@ private:
     CGRect rowRectOfComponent(NSInteger component);
     CGFloat widestTitleWidth(const Sources& sources, NSInteger component);
 
-    std::map<NSUInteger, Ref<UILabel>> separators_;
+    struct Separator {
+        NSUInteger component;
+        Ref<UILabel> label;
+    };
+    std::vector<Separator> separators_;
     Ref<UILabel> leftDescLabel_;
     Ref<UILabel> rightDescLabel_;
     std::optional<std::string> leftLabelText_;
