@@ -7,14 +7,15 @@
 //   custom-elements.json         what editors know of the elements
 //   sizes.json                   how large each is, and how large as a server would send it
 // With an ELEMENT, such as gx-distance-picker, the scripts define that one alone.
-import { build } from 'esbuild';
-import { execFileSync } from 'node:child_process';
+import { build, transformSync } from 'esbuild';
+import { execFile, execFileSync } from 'node:child_process';
 import { copyFileSync, cpSync, mkdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
-import { TextDecoder } from 'node:util';
+import { promisify, TextDecoder } from 'node:util';
 import { gzipSync } from 'node:zlib';
-import { kindOf, manifestOfOne, optionsOfOne, scriptOfOne } from './only.mjs';
+import { kindOf, manifestOfOne, optionsOfOne, scriptOfOne, withKindsAsNumbers } from './only.mjs';
+import { ordered } from './order.mjs';
 import { readSizesOfOne, table, tableOfOne } from './sizes.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
@@ -32,18 +33,22 @@ const wasm = path.join(folder, 'gxuipickers.wasm');
 // - Traps by an access beyond the memory end the module anyway, so code may be moved across them.
 // - The first KiB of the memory is the end of the stack: no address is computed from one in it.
 // - Functions stay functions: what is inlined is less like its neighbours, and so larger packed.
+// - Equal ends of branches stay, which pack well.
 // - Zeros stay in the data: a segment for each stretch between them is larger packed.
 const optimisations = [
     ['-Oz', '--converge'],
     ['--ignore-implicit-traps', '--low-memory-unused'],
-    ['--one-caller-inline-max-function-size', '8'],
-    ['--skip-pass=memory-packing'],
+    ['--one-caller-inline-max-function-size', '0'],
+    ['--skip-pass=memory-packing', '--skip-pass=code-folding'],
     features.map((name) => `--enable-${name}`),
 ].flat();
 execFileSync(path.join(here, 'node_modules/.bin/wasm-opt'), [...optimisations, path.join(source, 'gxuipickers.wasm'), '-o', wasm], {
     stdio: 'inherit',
 });
-const packed = gzipSync(readFileSync(wasm), { level: 9 });
+writeFileSync(wasm, ordered(readFileSync(wasm)));
+// In the background, while the other parts are built.
+const packedFile = path.join(source, 'gxuipickers.wasm.gz');
+const packing = promisify(execFile)(process.execPath, [path.join(here, 'pack.mjs'), wasm, packedFile]);
 
 /** The data of every language, in the library's order, as its own code writes it. */
 function readLanguages(file) {
@@ -73,9 +78,24 @@ for (const data of readLanguages(path.join(source, 'languages.wasm'))) {
 const loaders = [...files, ['iw', files.get('he')]].map(([code, file]) => `${code}:()=>import("./${file}")`);
 
 const parts = {
-    'gxuipickers.wasm.gz': { contents: packed.toString('base64'), loader: 'text' },
     'gxuipickers.languages': { contents: `export default {${loaders.join(',')}}`, loader: 'js', resolveDir: here },
 };
+/** The style sheet in `style.ts` without its comments and what else only its reader needs. */
+const withShortStyle = (text) =>
+    text.replace(/(?<=const css = `)[^`]*/, (css) => transformSync(css, { loader: 'css', minify: true, target: 'es2022' }).code);
+
+/** How scripts are changed before they become one file. */
+const changes = { style: withShortStyle };
+if (onlyElement) {
+    const numbered = (text) => withKindsAsNumbers(text, readFileSync(path.join(here, 'script/properties.ts'), 'utf8'));
+    Object.assign(changes, {
+        pickers: (text) => numbered(scriptOfOne(text, onlyElement)),
+        properties: (text) => optionsOfOne(text, kindOf(onlyElement)),
+        icons: numbered,
+        wheel: numbered,
+    });
+}
+
 const generated = {
     name: 'generated parts',
     setup(plugin) {
@@ -85,18 +105,15 @@ const generated = {
         plugin.onResolve({ filter: /^\.\/languages\// }, ({ path: name }) =>
             name.endsWith('.js') && name !== './languages.js' ? { path: name, external: true } : null,
         );
-        if (!onlyElement) return;
-        for (const [filter, reduced] of [
-            [/script\/pickers\.ts$/, (text) => scriptOfOne(text, onlyElement)],
-            [/script\/properties\.ts$/, (text) => optionsOfOne(text, kindOf(onlyElement))],
-        ]) {
+        for (const [file, reduced] of Object.entries(changes)) {
+            const filter = new RegExp(`script\\/${file}\\.ts$`);
             plugin.onLoad({ filter }, ({ path: name }) => ({ contents: reduced(readFileSync(name, 'utf8')), loader: 'ts' }));
         }
     },
 };
 
-for (const [entry, outfile] of Object.entries({ inline: 'gxuipickers.js', asset: 'asset.js' })) {
-    await build({
+const bundle = (entry, outfile) =>
+    build({
         entryPoints: [path.join(here, `script/${entry}.ts`)],
         outfile: path.join(folder, outfile),
         plugins: [generated],
@@ -109,12 +126,16 @@ for (const [entry, outfile] of Object.entries({ inline: 'gxuipickers.js', asset:
         legalComments: 'none',
         logLevel: 'warning',
     });
-}
+await bundle('asset', 'asset.js');
 execFileSync(path.join(here, 'node_modules/.bin/tsc'), ['-p', here, '--emitDeclarationOnly', '--outDir', path.join(folder, 'types')], {
     stdio: 'inherit',
 });
 cpSync(path.join(here, 'package/types'), path.join(folder, 'types'), { recursive: true });
 execFileSync(process.execPath, [path.join(here, 'package/manifest.mjs'), folder], { stdio: 'inherit' });
+await packing;
+parts['gxuipickers.wasm.gz'] = { contents: readFileSync(packedFile).toString('base64'), loader: 'text' };
+await bundle('inline', 'gxuipickers.js');
+
 if (onlyElement) {
     const change = (name, by) => writeFileSync(path.join(folder, name), by(readFileSync(path.join(folder, name), 'utf8')));
     change('types/pickers.d.ts', (text) => scriptOfOne(text, onlyElement) + 'export {};\n');

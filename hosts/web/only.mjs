@@ -50,6 +50,18 @@ export function optionsOfOne(script, kind) {
         .replace('Readonly<Record<Kind, readonly Option[]>> =', 'any =');
 }
 
+/**
+ * A script with each class's kind as a plain number. The bundler leaves out a class that nothing
+ * names only if it sees that making it does nothing else; of `Kind.Pace` it does not know that.
+ */
+export function withKindsAsNumbers(script, properties) {
+    const names = /export enum Kind \{([^}]*)\}/.exec(properties)[1].match(/[A-Z]\w*(?=,| =)/g);
+    return script.replace(/(?<=static override readonly kind(?:: Kind)? = )Kind\.(\w+)(?=;)/g, (_, name) => {
+        if (!names.includes(name)) throw new Error(`There is no kind ${name}.`);
+        return String(names.indexOf(name));
+    });
+}
+
 /** The manifest with one element. */
 export function manifestOfOne(manifest, element) {
     const kept = (list) => list.filter((entry) => entry.tagName === element || entry.name === element);

@@ -4,7 +4,7 @@ import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import { existsSync, readdirSync, readFileSync } from 'node:fs';
 import path from 'node:path';
-import { elementNamed, kindOf, manifestOfOne, optionsOfOne, scriptOfOne } from '../../hosts/web/only.mjs';
+import { elementNamed, kindOf, manifestOfOne, optionsOfOne, scriptOfOne, withKindsAsNumbers } from '../../hosts/web/only.mjs';
 import { tableOfOne } from '../../hosts/web/sizes.mjs';
 import { startBrowser } from './browser.mjs';
 import { root } from './places.mjs';
@@ -34,6 +34,15 @@ test('the options of one kind are left', () => {
     const properties = read('hosts/web/script/properties.ts');
     assert.deepEqual(list(optionsOfOne(properties, 'Weight')), ['Weight']);
     assert.equal(list(properties).length, 15);
+});
+
+test('the kinds of classes become their numbers', () => {
+    const properties = read('hosts/web/script/properties.ts');
+    const kinds = (script) => withKindsAsNumbers(script, properties).match(/(?<=kind(?:: Kind)? = )[^;]+/g);
+    assert.deepEqual(kinds(pickers), ['0', '1', '2', '3', '5', '4', '6', '7', '9', '10', '11', '13']);
+    assert.deepEqual(kinds(read('hosts/web/script/icons.ts')), ['8', '12']);
+    assert.deepEqual(kinds(read('hosts/web/script/wheel.ts')), ['14']);
+    assert.throws(() => withKindsAsNumbers('static override readonly kind = Kind.Space;', properties), /There is no kind Space/);
 });
 
 test('the manifest of one element has no other', () => {

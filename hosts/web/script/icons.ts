@@ -31,14 +31,13 @@ abstract class PickerWithIcons extends PickerElement {
             (child): child is HTMLElement => child instanceof HTMLImageElement || child instanceof SVGElement,
         );
         const size = (node: Element, name: string): number => Number(node.getAttribute(name)) || 24;
-        view.setIcons(
-            nodes.map((node) => ({
-                node,
-                width: size(node, 'width'),
-                height: size(node, 'height'),
-                label: node.getAttribute('alt') ?? node.getAttribute('aria-label') ?? '',
-            })),
-        );
+        const label = (node: Element): string => node.getAttribute('alt') ?? node.getAttribute('aria-label') ?? '';
+        view.surface.setImages(nodes);
+        view.set((calls) => {
+            const length = view.module.giveText(nodes.map((node) => `${label(node).replaceAll('\n', ' ')}\n`).join(''));
+            const numbers = nodes.flatMap((node, handle) => [handle, size(node, 'width'), size(node, 'height')]);
+            calls.setIcons(view.number, view.module.giveNumbers(numbers), nodes.length, length);
+        });
     }
 }
 

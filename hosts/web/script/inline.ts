@@ -1,9 +1,10 @@
 // One file for a page without a bundler: the module comes with the script.
+// First, so that it does not stand between parts of the script that are packed together.
+import packed from 'gxuipickers.wasm.gz';
 import { defineElements } from './pickers.js';
 import { addLanguages, provideLanguages } from './languages.js';
 import { startModule } from './module.js';
 import languages from 'gxuipickers.languages';
-import packed from 'gxuipickers.wasm.gz';
 
 export * from './index.js';
 

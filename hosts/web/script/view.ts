@@ -44,7 +44,7 @@ export class View implements Client {
     private traits: Traits | undefined;
 
     constructor(
-        private readonly module: Module,
+        readonly module: Module,
         private readonly owner: ViewOwner,
         readonly surface: Surface,
         root: HTMLElement,
@@ -222,7 +222,8 @@ export class View implements Client {
 
     // Settings
 
-    private set(work: (calls: Calls) => void): void {
+    /** Something of the module's, which is shown and told again. */
+    set(work: (calls: Calls) => void): void {
         this.call(work, undefined);
         this.changed();
     }
@@ -256,24 +257,6 @@ export class View implements Client {
     reload(): void {
         this.surface.forgetFonts();
         this.set((calls) => calls.reload(this.number));
-    }
-
-    /** The pictures of an icon picker, each with what it shows. */
-    setIcons(images: readonly { node: HTMLElement; width: number; height: number; label: string }[]): void {
-        this.surface.setImages(images.map((image) => image.node));
-        const numbers = images.flatMap((image, handle) => [handle, image.width, image.height]);
-        this.set((calls) => {
-            const length = this.module.giveText(images.map((image) => `${image.label.replaceAll('\n', ' ')}\n`).join(''));
-            calls.setIcons(this.number, this.module.giveNumbers(numbers), images.length, length);
-        });
-    }
-
-    /** The columns of a wheel of the page's own. */
-    setColumns(counts: readonly number[], columns: readonly { width: number; label: string }[]): void {
-        this.set((calls) => {
-            calls.setRowCounts(this.number, this.module.giveNumbers(counts), counts.length);
-            columns.forEach((column, i) => calls.setColumn(this.number, i, column.width, this.module.giveText(column.label)));
-        });
     }
 
     get valueText(): string {

@@ -86,10 +86,11 @@ export class Wheel extends PickerElement {
 
     protected override didOpen(view: View): void {
         const counts = this.list.map((column) => (typeof column.rows === 'number' ? column.rows : column.rows.length));
-        view.setColumns(
-            counts,
-            this.list.map((column) => ({ width: column.width ?? 0, label: column.label ?? '' })),
-        );
+        const { module, number } = view;
+        view.set((calls) => {
+            calls.setRowCounts(number, module.giveNumbers(counts), counts.length);
+            this.list.forEach((column, i) => calls.setColumn(number, i, column.width ?? 0, module.giveText(column.label ?? '')));
+        });
         this.showRows();
     }
 
