@@ -10,9 +10,6 @@ namespace gx::qt {
 
 namespace {
 
-// Stands for "no clip": larger than any device, small enough for sums of coordinates.
-const QRect everywhere(QPoint(-(1 << 24), -(1 << 24)), QPoint((1 << 24) - 1, (1 << 24) - 1));
-
 QColor colorOf(const UIColorComponents& color, double alpha) {
     const auto component = [](double value) { return static_cast<float>(std::clamp(value, 0.0, 1.0)); };
     return QColor::fromRgbF(component(color.red), component(color.green), component(color.blue), component(color.alpha * alpha));
@@ -39,9 +36,10 @@ double resolutionFor(double scale, double baseScale) {
     return baseScale * std::exp2(std::ceil(std::log2(scale / baseScale) - rounding));
 }
 
-/// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps its
-/// transform, and its units count as device pixels.
-bool isPlain(const QTransform& device) { return device.type() <= QTransform::TxScale && device.isInvertible(); }
+// In pixels. Rounded rectangles up to this size are kept as images: Qt fills them with several
+// threads, which takes longer than the rows of a wheel. Chosen: a wide selection indicator, at two
+// pixels a point.
+constexpr qint64 largestKeptRect = qint64{96} << 10U;
 
 bool isWhole(double scale) { return std::fabs(scale - 1) < 1e-9; }
 
@@ -90,7 +88,8 @@ void QtCanvas::takePainter(QPainter& painter) {
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QTransform device = painter.deviceTransform();
-    if (isPlain(device)) painter.setWorldTransform(device.inverted() * painter.worldTransform());
+    isPainterPlain_ = isPlain(device);
+    if (isPainterPlain_) painter.setWorldTransform(device.inverted() * painter.worldTransform());
     painter.setOpacity(1);
     paintedAlpha_ = 1;
 }
@@ -178,7 +177,7 @@ void QtCanvas::paint(const QtPiece& piece) {
     if (paintedAlpha_ != piece.alpha) painter_->setOpacity(paintedAlpha_ = piece.alpha);
     if (!piece.image.isNull()) {
         if (piece.isScaled()) {
-            painter_->drawImage(piece.area, piece.image);
+            paintScaled(piece);
         } else {
             painter_->drawImage(QPoint(pixel(piece.area.left()), pixel(piece.area.top())), piece.image);
         }
@@ -189,11 +188,24 @@ void QtCanvas::paint(const QtPiece& piece) {
         painter_->fillRect(area.intersected(piece.clip), piece.color);
         return;
     }
+    if (isPainterPlain_ && qint64{area.width()} * area.height() <= largestKeptRect) {
+        painter_->drawImage(area.topLeft(), pictures_->roundedRect(area.size(), piece.radiusX, piece.radiusY, piece.color.rgba()));
+        return;
+    }
     painter_->setRenderHint(QPainter::Antialiasing);
     painter_->setPen(Qt::NoPen);
     painter_->setBrush(piece.color);
     painter_->drawRoundedRect(area, piece.radiusX, piece.radiusY);
     painter_->setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::paintScaled(const QtPiece& piece) {
+    const QRect area = isPainterPlain_ && piece.hasClearEdge ? scaler_.scale(piece.image, piece.area) : QRect();
+    if (area.isEmpty()) {
+        painter_->drawImage(piece.area, piece.image);
+    } else {
+        painter_->drawImage(area.topLeft(), scaler_.result(), QRect(QPoint(), area.size()));
+    }
 }
 
 void QtCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) {
@@ -208,13 +220,14 @@ void QtCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& colo
 }
 
 /// The image fills the area, both in device pixels.
-void QtCanvas::drawMapped(const QImage& image, const QRectF& area) {
+void QtCanvas::drawMapped(const QImage& image, const QRectF& area, bool hasClearEdge) {
     if (image.isNull() || !isSeen(area)) return;
     const bool isMirrored = state_.scaleX < 0 || state_.scaleY < 0;
     QtPiece piece;
     piece.image = isMirrored ? image.mirrored(state_.scaleX < 0, state_.scaleY < 0) : image;
     piece.area = area;
     piece.alpha = state_.alpha;
+    piece.hasClearEdge = hasClearEdge;
     draw(std::move(piece));
 }
 
@@ -241,7 +254,7 @@ void QtCanvas::drawTextWithComponents(std::string_view text, const UIFont& font,
     if (isWhole(shareY)) baseline = std::floor(baseline + 0.5);
     const QRectF area(penX - drawn->penX * shareX, baseline - drawn->baseline * shareY, drawn->image.width() * shareX,
                       drawn->image.height() * shareY);
-    drawMapped(drawn->image, area.normalized());
+    drawMapped(drawn->image, area.normalized(), true);
 }
 
 /// For text that is too large for an image.

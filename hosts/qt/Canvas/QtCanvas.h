@@ -8,6 +8,7 @@
 
 #include "QtFrame.h"
 #include "QtImageCache.h"
+#include "QtImageScaler.h"
 #include "QtTextImageCache.h"
 #include <GXUIPickers/GXExport.h>
 #include <GXUIPickers/UIGraphicsContext.h>
@@ -46,8 +47,11 @@ public:
     void begin(QtFrame& frame, const QTransform& device);
     /// Gives the painter back as it was, or ends the recording.
     void end();
+    /// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps
+    /// its transform, and its units count as device pixels.
+    static bool isPlain(const QTransform& device) { return device.type() <= QTransform::TxScale && device.isInvertible(); }
     /// Paints what a frame shows in an area of device pixels. The painter's transform on the device
-    /// must be the frame's.
+    /// must be the frame's, and its clip is kept.
     void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area);
 
     void saveState() override;
@@ -78,9 +82,10 @@ private:
     QRectF mapped(CGRect rect) const;
     bool isSeen(const QRectF& area) const;
     void prepareClip(const QRect& clip);
-    void drawMapped(const QImage& image, const QRectF& area);
+    void drawMapped(const QImage& image, const QRectF& area, bool hasClearEdge = false);
     void draw(QtPiece piece);
     void paint(const QtPiece& piece);
+    void paintScaled(const QtPiece& piece);
     void drawTextDirectly(std::string_view text, const QtTextEngine::Face& face, double size, QRgb color, CGPoint origin);
 
     Ref<QtTextEngine> engine_;
@@ -88,6 +93,8 @@ private:
     std::shared_ptr<QtImageCache> pictures_;
 
     QPainter* painter_ = nullptr;
+    bool isPainterPlain_ = false; // Its units are device pixels.
+    QtImageScaler scaler_;
     QtFrame* frame_ = nullptr; // In place of the painter.
     double baseScale_ = 1;     // Device pixels for a point at the frame's start.
     State state_;

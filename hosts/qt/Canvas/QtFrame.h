@@ -11,15 +11,19 @@
 
 namespace gx::qt {
 
+/// Stands for "no clip": larger than any device, small enough for sums of coordinates.
+inline constexpr QRect everywhere{QPoint(-(1 << 24), -(1 << 24)), QPoint((1 << 24) - 1, (1 << 24) - 1)};
+
 /// One thing that a frame shows, in device pixels: an image, or a rectangle of one colour.
 struct QtPiece {
     QImage image; ///< shared with the caches; null for a rectangle
     QRectF area;
-    QRect clip;
+    QRect clip = everywhere;
     double alpha = 1; ///< of an image; a colour has its own
     QColor color;
     double radiusX = 0;
     double radiusY = 0;
+    bool hasClearEdge = false; ///< an image without ink in its outer pixels, as those of texts
     /// Whether the image's pixels lie between those of the device.
     bool isScaled() const { return !image.isNull() && (area.width() != image.width() || area.height() != image.height()); }
     /// What it may change, in whole pixels.

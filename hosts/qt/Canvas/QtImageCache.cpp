@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QPainter>
+
 namespace gx::qt {
 
 namespace {
@@ -81,8 +83,27 @@ void QtImageCache::trim() {
 }
 
 void QtImageCache::purge() {
+    rounded_.clear();
     entries_.clear();
     byteCount_ = 0;
+}
+
+QImage QtImageCache::roundedRect(QSize size, double radiusX, double radiusY, QRgb color) {
+    const auto known = std::find_if(rounded_.begin(), rounded_.end(), [&](const Rounded& rounded) {
+        return rounded.size == size && rounded.radiusX == radiusX && rounded.radiusY == radiusY && rounded.color == color;
+    });
+    if (known != rounded_.end()) return known->image;
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgba(color));
+    painter.drawRoundedRect(image.rect(), radiusX, radiusY);
+    painter.end();
+    if (rounded_.size() >= highestRoundedCount) rounded_.erase(rounded_.begin());
+    rounded_.push_back({size, radiusX, radiusY, color, image});
+    return image;
 }
 
 } // namespace gx::qt

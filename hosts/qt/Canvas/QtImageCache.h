@@ -30,6 +30,9 @@ public:
     /// others.
     QImage imageOfSize(const UIImage& image, double pixelWidth, double pixelHeight);
 
+    /// A rectangle with round corners, whose radii are in pixels too. The last few are kept.
+    QImage roundedRect(QSize size, double radiusX, double radiusY, QRgb color);
+
     std::size_t byteCount() const { return byteCount_; }
     std::size_t pictureCount() const { return entries_.size(); }
     /// How many pictures were converted or halved.
@@ -42,6 +45,13 @@ private:
         const UIImage* address; // Compared only, and only while the picture lives.
         std::vector<QImage> halvings;
     };
+    struct Rounded {
+        QSize size;
+        double radiusX;
+        double radiusY;
+        QRgb color;
+        QImage image;
+    };
     QImage halved(std::vector<QImage>& halvings, double pixelWidth, double pixelHeight);
     void forget(std::list<Entry>::iterator entry);
     void trim();
@@ -50,6 +60,10 @@ private:
     std::size_t byteCount_ = 0;
     std::size_t conversionCount_ = 0;
     std::list<Entry> entries_; // The one used last comes first.
+    std::vector<Rounded> rounded_;
+
+    // Chosen: the indicator and the marks of the keys and the pointer, in two looks.
+    static constexpr std::size_t highestRoundedCount = 8;
 };
 
 } // namespace gx::qt
