@@ -8,6 +8,8 @@
 #include "Pixels.h"
 #include "QtCanvas.h"
 #include "QtTextImageCache.h"
+#include "UIWindow.h"
+#include "WheelSource.h"
 
 namespace {
 std::size_t allocations = 0;
@@ -197,6 +199,42 @@ TEST_F(QtTextImageCacheTest, AHitAllocatesNothing) {
     EXPECT_NE(hit, nullptr);
     EXPECT_EQ(after, before);
     EXPECT_EQ(cache.hitCount(), 1U);
+}
+
+/// Rows that were drawn before, in steady motion: what a widget does in each of its frames.
+TEST(QtFrame, RecordingAndComparingASpinningWheelAllocatesNothing) {
+    const auto source = gx::create<WheelSource>();
+    source->rows = {12, 12, 12};
+    const auto wheel = wheelWithSource(source);
+    const auto window = gx::create<UIWindow>(wheel->frame());
+    window->addSubview(wheel);
+    gx::qt::QtCanvas canvas;
+    gx::qt::QtFrame shown;
+    gx::qt::QtFrame before;
+    double now = 1000;
+    std::size_t taken = 0;
+    int frames = 0;
+    const auto spinTo = [&](NSInteger row) {
+        for (const NSInteger column : {0, 1, 2}) wheel->selectRow_inComponent_animated(row, column, true);
+        for (int frame = 0; frame < 60; ++frame) {
+            window->tick(now += 1.0 / 60);
+            std::swap(shown, before);
+            const std::size_t start = allocations;
+            canvas.begin(shown, QTransform());
+            window->draw(canvas);
+            canvas.end();
+            frames += shown.areaChangedSince(before).isEmpty() ? 0 : 1;
+            taken += allocations - start;
+        }
+    };
+    spinTo(11);
+    spinTo(0);
+    taken = 0;
+    frames = 0;
+    spinTo(11);
+    spinTo(0);
+    EXPECT_GT(frames, 20) << "it spins";
+    EXPECT_EQ(taken, 0U);
 }
 
 TEST_F(QtTextImageCacheTest, MeasuringAKnownTextAllocatesNothing) {
