@@ -8,7 +8,7 @@
 #include "QtAccessibility.h"
 #include "QtLooks.h"
 #include "QuickAccessibleItem.h"
-#include "QuickNode.h"
+#include "QuickPaintedNode.h"
 
 namespace gx::quick {
 
@@ -157,12 +157,7 @@ void QuickItem::advance() {
     if (control()) qt::announceAccessibilityChanges(*control(), draws, input_->stepCount());
 }
 
-QSGNode* QuickItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
-    // The scene graph gives back what was returned last, and owns it.
-    auto* const shown = node ? static_cast<QuickNode*>(node) : new QuickNode; // NOLINT
-    shown->show(canvas_.pieces(), size(), *window());
-    return shown;
-}
+QSGNode* QuickItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) { return nodeWithPieces(canvas_.pieces(), node, *window()); }
 
 void QuickItem::finish() {
     const QuickSurroundings::Visit here = visit();

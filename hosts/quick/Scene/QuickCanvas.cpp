@@ -4,8 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include <QPainter>
-
 #include <GXUIPickers/UIFont.h>
 
 namespace gx::quick {
@@ -68,30 +66,13 @@ void QuickCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& c
     if (cornerRadius > 0) {
         const QSize pixels = QSizeF(rect.size.width * pixelsPerPoint_, rect.size.height * pixelsPerPoint_).toSize();
         if (pixels.isEmpty()) return;
-        add(roundedImage(pixels, cornerRadius * pixelsPerPoint_, colorOf(color)), QRectF(0, 0, rect.size.width, rect.size.height),
+        const double radius = cornerRadius * pixelsPerPoint_;
+        add(pictures_->roundedRect(pixels, radius, radius, colorOf(color).rgba()), QRectF(0, 0, rect.size.width, rect.size.height),
             rect.origin);
         return;
     }
     add(QImage(), QRectF(0, 0, rect.size.width, rect.size.height), rect.origin);
     pieces_.back().color = colorOf(color);
-}
-
-QImage QuickCanvas::roundedImage(QSize size, double radius, const QColor& color) {
-    const auto known = std::find_if(rounded_.begin(), rounded_.end(), [&](const Rounded& rounded) {
-        return rounded.size == size && rounded.radius == radius && rounded.color == color.rgba();
-    });
-    if (known != rounded_.end()) return known->image;
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
-    painter.drawRoundedRect(QRect(QPoint(), size), radius, radius);
-    painter.end();
-    if (rounded_.size() >= highestRoundedCount) rounded_.erase(rounded_.begin());
-    rounded_.push_back({size, radius, color.rgba(), image});
-    return image;
 }
 
 void QuickCanvas::drawTextWithComponents(std::string_view text, const UIFont& font, const UIColorComponents& color, CGPoint origin) {
@@ -103,6 +84,7 @@ void QuickCanvas::drawTextWithComponents(std::string_view text, const UIFont& fo
     const double points = 1 / pixelsPerPoint_;
     const QRectF area(-drawn->penX * points, -drawn->baseline * points, drawn->image.width() * points, drawn->image.height() * points);
     add(drawn->image, area, {origin.x, origin.y + face.ascent * font.pointSize()});
+    pieces_.back().hasClearEdge = true;
 }
 
 void QuickCanvas::drawImageInRect(const UIImage& image, CGRect rect) {

@@ -24,9 +24,11 @@ struct QuickPiece {
     double scaleX = 1;
     double scaleY = 1;
     double alpha = 1;
+    bool hasClearEdge = false; ///< an image without ink in its outer pixels, as those of texts
 };
 
-/// Notes what a frame shows, as pieces that the scene graph moves (`QuickNode`).
+/// Notes what a frame shows, as pieces that the scene graph moves (`QuickNode`) or that its
+/// software renderer paints (`QuickPaintedNode`).
 ///
 /// - Supports: texts and pictures at any ratio of device pixels to points, rectangles with and
 ///   without rounded corners, one alpha for each piece.
@@ -65,19 +67,8 @@ private:
         double y = 0;
         double alpha = 1;
     };
-    /// A rounded rectangle that was drawn before.
-    struct Rounded {
-        QSize size;
-        double radius;
-        QRgb color;
-        QImage image;
-    };
     void add(QImage image, const QRectF& area, CGPoint origin);
-    QImage roundedImage(QSize size, double radius, const QColor& color);
     double onPixel(double coordinate) const;
-
-    // Chosen: the indicator and the marks of the keys and the pointer, in two looks.
-    static constexpr std::size_t highestRoundedCount = 8;
 
     Ref<qt::QtTextEngine> engine_ = qt::QtTextEngine::shared();
     std::shared_ptr<qt::QtTextImageCache> texts_ = qt::QtTextImageCache::shared();
@@ -87,7 +78,6 @@ private:
     State state_;
     std::vector<State> saved_;
     std::vector<QuickPiece> pieces_;
-    std::vector<Rounded> rounded_;
 };
 
 } // namespace gx::quick

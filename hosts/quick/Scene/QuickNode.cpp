@@ -4,7 +4,6 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGRectangleNode>
-#include <QSGRendererInterface>
 
 namespace gx::quick {
 
@@ -18,7 +17,10 @@ QuickNode::~QuickNode() {
 
 QSGTexture* QuickNode::textureOf(const QImage& image, QQuickWindow& window) {
     Texture& entry = textures_[image.cacheKey()];
-    if (!entry.texture) entry.texture.reset(window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
+    if (!entry.texture) {
+        entry.texture.reset(window.createTextureFromImage(image, QQuickWindow::TextureCanUseAtlas));
+        ++madeTextureCount_;
+    }
     entry.lastFrame = frame_;
     return entry.texture.get();
 }
@@ -88,26 +90,11 @@ void QuickNode::hide(Nodes& nodes) {
     nodes.transform->setMatrix(matrix);
 }
 
-void QuickNode::cover(QQuickWindow& window, QSizeF size) {
-    if (window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software) return;
-    if (cover_ == nullptr) {
-        cover_ = window.createRectangleNode();
-        cover_->setColor(Qt::transparent);
-    } else {
-        removeChildNode(cover_);
-    }
-    cover_->setRect(QRectF(QPointF(), size));
-    appendChildNode(cover_);
-}
-
-void QuickNode::show(const std::vector<QuickPiece>& pieces, QSizeF size, QQuickWindow& window) {
+void QuickNode::show(const std::vector<QuickPiece>& pieces, QQuickWindow& window) {
     ++frame_;
-    const bool isLonger = pieces.size() > nodes_.size();
-    if (isLonger) nodes_.resize(pieces.size());
+    if (pieces.size() > nodes_.size()) nodes_.resize(pieces.size());
     for (std::size_t i = 0; i < pieces.size(); ++i) update(nodes_[i], pieces[i], window);
     for (std::size_t i = pieces.size(); i < nodes_.size(); ++i) hide(nodes_[i]);
-    if (isLonger || (cover_ != nullptr && cover_->rect().size() != size)) cover(window, size);
-    if (cover_ != nullptr) cover_->markDirty(DirtyMaterial);
     dropTextures();
 }
 

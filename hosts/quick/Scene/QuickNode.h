@@ -23,14 +23,17 @@ namespace gx::quick {
 /// opacity. Each image has one texture, which all nodes with it share.
 ///
 /// Textures that no piece has shown for a while are dropped, so they are bounded by what is on
-/// screen. Works with every renderer of Qt Quick: there are no materials of its own.
+/// screen. Works with every renderer of Qt Quick: there are no materials of its own. The software
+/// renderer has a faster node (`QuickPaintedNode`).
 class QuickNode final : public QSGNode {
 public:
     ~QuickNode() override;
 
-    void show(const std::vector<QuickPiece>& pieces, QSizeF size, QQuickWindow& window);
+    void show(const std::vector<QuickPiece>& pieces, QQuickWindow& window);
 
     std::size_t textureCount() const { return textures_.size(); }
+    /// How many textures were made so far.
+    std::size_t madeTextureCount() const { return madeTextureCount_; }
 
 private:
     /// The nodes of a piece; owned by the tree.
@@ -50,11 +53,6 @@ private:
     QSGTexture* textureOf(const QImage& image, QQuickWindow& window);
     void dropTextures();
     void hide(Nodes& nodes);
-    /// Covers everything with a clear rectangle, for the software renderer alone.
-    ///
-    /// It adds up the rectangles of what has changed, and clips each node to the sum. With one
-    /// rectangle around all of them a frame takes three quarters of the time (measured).
-    void cover(QQuickWindow& window, QSizeF size);
 
     // Chosen: the rows that come back when a wheel is turned to and fro.
     static constexpr std::size_t spareTextureCount = 64;
@@ -63,8 +61,8 @@ private:
 
     std::vector<Nodes> nodes_;
     std::unordered_map<qint64, Texture> textures_; // By the images' cache keys.
-    QSGRectangleNode* cover_ = nullptr;            // Owned by the tree.
     std::uint64_t frame_ = 0;
+    std::size_t madeTextureCount_ = 0;
 };
 
 } // namespace gx::quick

@@ -29,7 +29,7 @@ public:
 protected:
     QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override {
         auto* const shown = node ? static_cast<QuickNode*>(node) : new QuickNode;
-        shown->show(pieces, size(), *window());
+        shown->show(pieces, *window());
         textureCount = shown->textureCount();
         textures.clear();
         for (QSGNode* transform = shown->firstChild(); transform != nullptr; transform = transform->nextSibling()) {

@@ -1,0 +1,178 @@
+// A wheel as the nodes of Qt Quick show it, beside what a widget paints.
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include "QtCanvas.h"
+#include "QuickNode.h"
+#include "QuickPaintedNode.h"
+#include "UIWindow.h"
+#include "WheelSource.h"
+
+using namespace gx;
+using namespace gx::quick;
+
+namespace {
+
+constexpr QSize frameSize(320, 216);
+
+/// Shows what a canvas has noted, by nodes for each piece or by one that paints them.
+class WheelItem : public QQuickItem {
+public:
+    WheelItem(QQuickItem* parent, bool byOneNode) : QQuickItem(parent), isPainted(byOneNode) {
+        setFlag(ItemHasContents);
+        setSize(frameSize);
+    }
+
+    QuickCanvas canvas;
+    std::size_t madeTextureCount = 0;
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override {
+        if (isPainted) return nodeWithPieces(canvas.pieces(), node, *window());
+        auto* const shown = node ? static_cast<QuickNode*>(node) : new QuickNode;
+        shown->show(canvas.pieces(), *window());
+        madeTextureCount = shown->madeTextureCount();
+        return shown;
+    }
+
+private:
+    bool isPainted;
+};
+
+/// A wheel of three columns, of which two spin.
+struct QuickPictures : testing::Test {
+    QuickPictures() {
+        source->rows = {100, 24, 60};
+        source->width = 80;
+        wheel = wheelWithSource(source);
+        views->addSubview(wheel);
+        screen.resize(frameSize);
+        screen.setColor(Qt::white);
+        screen.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&screen));
+    }
+    void spin() {
+        wheel->selectRow_inComponent_animated(40, 0, true);
+        wheel->selectRow_inComponent_animated(7, 2, true);
+    }
+    void tick() { views->tick(now += 1.0 / 60); }
+    QImage pictureOf(WheelItem& item) {
+        item.canvas.begin(1);
+        views->draw(item.canvas);
+        painted.setVisible(&item == &painted);
+        nodes.setVisible(&item == &nodes);
+        item.update();
+        return screen.grabWindow().convertToFormat(QImage::Format_RGB32);
+    }
+    QImage pictureOfWidget(double alpha = 1) {
+        QImage image(frameSize, QImage::Format_RGB32);
+        image.fill(screen.color());
+        QPainter painter(&image);
+        canvas.begin(painter);
+        canvas.multiplyAlpha(alpha);
+        views->draw(canvas);
+        canvas.end();
+        return image;
+    }
+
+    double now = 1000;
+    Ref<WheelSource> source = create<WheelSource>();
+    Ref<UIPickerView> wheel;
+    Ref<UIWindow> views = create<UIWindow>(CGRectMake(0, 0, frameSize.width(), frameSize.height()));
+    qt::QtCanvas canvas;
+    QQuickWindow screen;
+    WheelItem painted{screen.contentItem(), true};
+    WheelItem nodes{screen.contentItem(), false};
+};
+
+/// The largest difference of a component.
+int difference(const QImage& one, const QImage& other) {
+    EXPECT_EQ(one.size(), other.size());
+    int largest = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QColor first = one.pixelColor(x, y);
+            const QColor second = other.pixelColor(x, y);
+            largest = std::max({largest, std::abs(first.red() - second.red()), std::abs(first.green() - second.green()),
+                                std::abs(first.blue() - second.blue())});
+        }
+    }
+    return largest;
+}
+
+/// How many pixels are not those of an empty window.
+int inkCount(const QImage& image) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) == image.pixel(0, 0) ? 0 : 1;
+    }
+    return count;
+}
+
+// Of 255: roundings of the indicator's corners.
+constexpr int tolerance = 2;
+
+TEST_F(QuickPictures, ASpinningWheelLooksAsInAWidgetLightAndDark) {
+    for (const auto style : {UIUserInterfaceStyle::Light, UIUserInterfaceStyle::Dark}) {
+        views->setUserInterfaceStyle(style);
+        screen.setColor(style == UIUserInterfaceStyle::Dark ? Qt::black : Qt::white);
+        wheel->selectRow_inComponent_animated(10, 0, false);
+        wheel->selectRow_inComponent_animated(30, 2, false);
+        tick();
+        spin();
+        for (int frame = 0; frame < 20; ++frame) {
+            for (int i = 0; i < 3; ++i) tick();
+            const QImage widget = pictureOfWidget();
+            ASSERT_GT(inkCount(widget), 2000);
+            EXPECT_LE(difference(pictureOf(painted), widget), tolerance) << "painted, frame " << frame;
+            EXPECT_LE(difference(pictureOf(nodes), widget), tolerance) << "nodes, frame " << frame;
+        }
+    }
+}
+
+TEST_F(QuickPictures, AnItemThatIsPlacedOtherwiseIsPaintedWhereItsNodesWouldBe) {
+    spin();
+    for (int i = 0; i < 12; ++i) tick();
+    const auto place = [this](const std::function<void(QQuickItem&)>& change) {
+        change(painted);
+        change(nodes);
+        const QImage expected = pictureOf(nodes);
+        EXPECT_GT(inkCount(expected), 500);
+        return difference(pictureOf(painted), expected);
+    };
+    EXPECT_LE(place([](QQuickItem& item) { item.setPosition({33, -21}); }), tolerance) << "moved";
+    EXPECT_LE(place([](QQuickItem& item) { item.parentItem()->setClip(true); }), tolerance) << "clipped";
+    EXPECT_LE(place([](QQuickItem& item) { item.setRotation(90); }), tolerance) << "on its side";
+}
+
+TEST_F(QuickPictures, ATranslucentItemIsPaintedTranslucent) {
+    painted.setOpacity(0.4);
+    EXPECT_LE(difference(pictureOf(painted), pictureOfWidget(0.4)), tolerance);
+}
+
+TEST_F(QuickPictures, ASpinOverRowsThatWereShownMakesNoTextures) {
+    source->rows = {12, 12, 12};
+    wheel->reloadAllComponents();
+    const auto spinTo = [this](NSInteger row) {
+        for (const NSInteger column : {0, 1, 2}) wheel->selectRow_inComponent_animated(row, column, true);
+        for (int frame = 0; frame < 90; ++frame) {
+            tick();
+            pictureOf(nodes);
+        }
+    };
+    spinTo(11);
+    spinTo(0);
+    const std::size_t before = nodes.madeTextureCount;
+    EXPECT_GE(before, 12U);
+    EXPECT_LE(before, 16U) << "one for each row's text, and the indicator's";
+    spinTo(11);
+    spinTo(0);
+    EXPECT_EQ(nodes.madeTextureCount, before);
+}
+
+} // namespace
