@@ -189,7 +189,7 @@ void QtCanvas::paint(const QtPiece& piece) {
         return;
     }
     if (isPainterPlain_ && qint64{area.width()} * area.height() <= largestKeptRect) {
-        painter_->drawImage(area.topLeft(), pictures_->roundedRect(area.size(), piece.radiusX, piece.radiusY, piece.color.rgba()));
+        painter_->drawImage(area.topLeft(), pictures_->roundedRect(area.size(), piece.radiusX, piece.radiusY, piece.color));
         return;
     }
     painter_->setRenderHint(QPainter::Antialiasing);

@@ -88,9 +88,9 @@ void QtImageCache::purge() {
     byteCount_ = 0;
 }
 
-QImage QtImageCache::roundedRect(QSize size, double radiusX, double radiusY, QRgb color) {
+QImage QtImageCache::roundedRect(QSize size, double radiusX, double radiusY, const QColor& color) {
     const auto known = std::find_if(rounded_.begin(), rounded_.end(), [&](const Rounded& rounded) {
-        return rounded.size == size && rounded.radiusX == radiusX && rounded.radiusY == radiusY && rounded.color == color;
+        return rounded.size == size && rounded.radiusX == radiusX && rounded.radiusY == radiusY && rounded.color == color.rgba64();
     });
     if (known != rounded_.end()) return known->image;
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -98,11 +98,11 @@ QImage QtImageCache::roundedRect(QSize size, double radiusX, double radiusY, QRg
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgba(color));
+    painter.setBrush(color);
     painter.drawRoundedRect(image.rect(), radiusX, radiusY);
     painter.end();
     if (rounded_.size() >= highestRoundedCount) rounded_.erase(rounded_.begin());
-    rounded_.push_back({size, radiusX, radiusY, color, image});
+    rounded_.push_back({size, radiusX, radiusY, color.rgba64(), image});
     return image;
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include <QColor>
 #include <QImage>
 
 #include <GXUIPickers/GXExport.h>
@@ -31,7 +32,7 @@ public:
     QImage imageOfSize(const UIImage& image, double pixelWidth, double pixelHeight);
 
     /// A rectangle with round corners, whose radii are in pixels too. The last few are kept.
-    QImage roundedRect(QSize size, double radiusX, double radiusY, QRgb color);
+    QImage roundedRect(QSize size, double radiusX, double radiusY, const QColor& color);
 
     std::size_t byteCount() const { return byteCount_; }
     std::size_t pictureCount() const { return entries_.size(); }
@@ -49,7 +50,7 @@ private:
         QSize size;
         double radiusX;
         double radiusY;
-        QRgb color;
+        QRgba64 color; // As exact as fills of it.
         QImage image;
     };
     QImage halved(std::vector<QImage>& halvings, double pixelWidth, double pixelHeight);

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstring>
 
+// Pixels lie in memory one behind the other, and registers hold several of them.
+// NOLINTBEGIN(cppcoreguidelines-pro-bounds-pointer-arithmetic, cppcoreguidelines-pro-type-reinterpret-cast)
 namespace gx::qt {
 
 namespace {
@@ -31,7 +33,6 @@ Bytes bytesAt(const QRgb* pixels) {
     return bytes;
 }
 
-// NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
 // Components and lanes begin with their lower bits.
 constexpr bool isByteOrderSupported = std::endian::native == std::endian::little;
 Lanes firstTwo(Bytes bytes) {
@@ -56,8 +57,6 @@ Lanes product(const QRgb* pixels, Lanes shares) {
     return firstTwo(reinterpret_cast<Bytes>(Pairs{both, 0})) * shares;
 }
 
-// NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
-
 /// Two pixels of the products for each of them.
 Lanes sums(Lanes first, Lanes second) {
     return __builtin_shufflevector(first, second, 0, 1, 2, 3, 8, 9, 10, 11) +
@@ -65,9 +64,7 @@ Lanes sums(Lanes first, Lanes second) {
 }
 
 /// Rows of pixels begin at whole ones.
-const QRgb* pixelsOf(const uchar* bytes) {
-    return reinterpret_cast<const QRgb*>(bytes); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
-}
+const QRgb* pixelsOf(const uchar* bytes) { return reinterpret_cast<const QRgb*>(bytes); }
 
 } // namespace
 
@@ -127,7 +124,7 @@ QRect QtImageScaler::scale(const QImage& image, const QRectF& area) {
         mixLines(pixelsOf(from + image.bytesPerLine() * std::clamp(y >> 16, 0, lowest)),
                  pixelsOf(from + image.bytesPerLine() * std::clamp((y >> 16) + 1, 0, lowest)), static_cast<std::size_t>(image.width()),
                  shareOf(y));
-        auto* pixel = reinterpret_cast<QRgb*>(to); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast)
+        auto* pixel = reinterpret_cast<QRgb*>(to);
         const QRgb* const line = line_.data();
         const Column* const end = columns_.data() + madeWidth;
         for (const Column* column = columns_.data(); column != end; column += pixelsOfBytes, pixel += pixelsOfBytes) {
@@ -140,3 +137,4 @@ QRect QtImageScaler::scale(const QImage& image, const QRectF& area) {
 }
 
 } // namespace gx::qt
+// NOLINTEND(cppcoreguidelines-pro-bounds-pointer-arithmetic, cppcoreguidelines-pro-type-reinterpret-cast)

@@ -67,8 +67,7 @@ void QuickCanvas::fillRectWithComponents(CGRect rect, const UIColorComponents& c
         const QSize pixels = QSizeF(rect.size.width * pixelsPerPoint_, rect.size.height * pixelsPerPoint_).toSize();
         if (pixels.isEmpty()) return;
         const double radius = cornerRadius * pixelsPerPoint_;
-        add(pictures_->roundedRect(pixels, radius, radius, colorOf(color).rgba()), QRectF(0, 0, rect.size.width, rect.size.height),
-            rect.origin);
+        add(pictures_->roundedRect(pixels, radius, radius, colorOf(color)), QRectF(0, 0, rect.size.width, rect.size.height), rect.origin);
         return;
     }
     add(QImage(), QRectF(0, 0, rect.size.width, rect.size.height), rect.origin);

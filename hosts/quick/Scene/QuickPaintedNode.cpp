@@ -72,8 +72,8 @@ void QuickPaintedNode::render(const RenderState* state) {
 }
 
 QSGNode* nodeWithPieces(const std::vector<QuickPiece>& pieces, QSGNode* before, QQuickWindow& window) {
-    // All windows of a process have one renderer. NOLINTBEGIN(cppcoreguidelines-owning-memory,
-    // cppcoreguidelines-pro-type-static-cast-downcast)
+    // All windows of a process have one renderer.
+    // NOLINTBEGIN(cppcoreguidelines-owning-memory, cppcoreguidelines-pro-type-static-cast-downcast)
     if (window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
         auto* const painted = before ? static_cast<QuickPaintedNode*>(before) : new QuickPaintedNode(window);
         painted->show(pieces);
