@@ -1,4 +1,4 @@
-"""The module for the browser and the scripts of its page number the same things alike."""
+"""The hosts number the same things alike: the browser's module, its scripts, and the types of QML."""
 import os
 import re
 import unittest
@@ -53,6 +53,13 @@ class NumberingTest(unittest.TestCase):
                 module.pop("Count", None)  # How many there are.
                 self.assertGreater(len(module), 1)
                 self.assertEqual(numbers_of(scripts, script_name), module)
+
+    def test_kinds_of_pickers_agree_in_qml(self):
+        kinds = numbers_of(read("hosts/elements/Pickers/PickerProperty.h"), "PickerKind")
+        for name in ("Columns", "Count"):  # A wheel of an application's columns is a type apart.
+            kinds.pop(name)
+        kinds["Integer"] = kinds.pop("Number")
+        self.assertEqual(numbers_of(read("hosts/quick/Pickers/QuickPickerItem.h"), "Kind"), kinds)
 
     def test_modifiers_of_keys_agree(self):
         module = numbers_of(read("platform/UIKit/Events/UIKey.h"), "Modifier")
