@@ -140,7 +140,7 @@ export function tables({ version, loads, rounds, downloads, failures, visits }) 
         0,
     );
     const parts = [
-        `Chromium ${version}, rounds: ${rounds}, load of the machine before and after each: ${loads.map((load) => load.toFixed(1)).join(', ')}.\nA blank page has its first paint after ${paints} ms.`,
+        `Chromium ${version}, rounds: ${rounds}. The machine's load before and after each:\n${loads.map((load) => load.toFixed(1)).join(', ')}. A blank page has its first paint after ${paints} ms.`,
     ];
     if (failures.length > 0) parts.push(`Visits that failed and were made once more: ${failures.length}.`);
     Object.entries(visits).forEach(([title, list], index) => {
