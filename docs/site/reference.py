@@ -20,7 +20,7 @@ EXAMPLES = "docs/examples/reference"
 
 
 def examples_in(root, ending):
-    """For each name between marks: the text of its pitfalls, its code, and the file that has them."""
+    """For each name between marks: its pitfalls as a text, its code, and the file of both."""
     found = {}
     for name in sorted(os.listdir(os.path.join(root, EXAMPLES))):
         if not name.endswith(ending):

@@ -1,4 +1,4 @@
-"""The hosts number the same things alike: the browser's module, its scripts, and the types of QML."""
+"""The browser's module, its scripts and the types of QML number the same things alike."""
 import os
 import re
 import unittest

@@ -6,7 +6,8 @@
 #include <cstring>
 
 // Pixels lie in memory one behind the other, and registers hold several of them.
-// NOLINTBEGIN(cppcoreguidelines-pro-bounds-pointer-arithmetic, cppcoreguidelines-pro-type-reinterpret-cast)
+// NOLINTBEGIN(cppcoreguidelines-pro-bounds-pointer-arithmetic)
+// NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
 namespace gx::qt {
 
 namespace {
@@ -137,4 +138,5 @@ QRect QtImageScaler::scale(const QImage& image, const QRectF& area) {
 }
 
 } // namespace gx::qt
-// NOLINTEND(cppcoreguidelines-pro-bounds-pointer-arithmetic, cppcoreguidelines-pro-type-reinterpret-cast)
+// NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
+// NOLINTEND(cppcoreguidelines-pro-bounds-pointer-arithmetic)
