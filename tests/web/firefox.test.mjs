@@ -118,7 +118,7 @@ test('a finger turns a column, and two fingers two', settings, async () => {
 test('a flick glides by animations, and lands where the same one by frames does', settings, async () => {
     await open('<gx-wheel></gx-wheel>');
     const { glided, frames, row, expected } = await firefox.run(async () => {
-        const { setFrameClock } = await window.elements;
+        const { HandClock, setFrameClock } = await window.elements;
         const wait = (milliseconds) => new Promise((resolve) => setTimeout(resolve, milliseconds));
         /** Made-up touches of the second column; `next` is awaited before each. */
         const flick = async (element, next) => {
@@ -161,28 +161,17 @@ test('a flick glides by animations, and lands where the same one by frames does'
         found.row = element.rows[1];
 
         // The same events once more, by a clock that goes from frame to frame.
-        let now = times[0] - 1;
-        const waiting = new Map();
-        let asks = 0;
-        setFrameClock({
-            now: () => now,
-            timeOf: () => now,
-            requestFrame: (callback) => waiting.set(`${(asks += 1)}`, callback) && `${asks}`,
-            cancelFrame: (request) => waiting.delete(request),
-        });
-        const frameAt = (time) => {
-            now = time;
-            const callbacks = [...waiting.values()];
-            waiting.clear();
-            for (const callback of callbacks) callback(now);
-        };
+        const { columns } = element;
+        element.remove(); // Before the clock changes: it takes back its frame of the page's clock.
+        const clock = new HandClock(times[0] - 1);
+        setFrameClock(clock);
         const other = document.createElement('gx-wheel');
-        other.columns = element.columns;
+        other.columns = columns;
         other.rows = [1, 17];
-        element.replaceWith(other);
-        for (let i = 0; i < 10; i += 1) frameAt(now + 0.01);
-        await flick(other, (step) => frameAt(times[step]));
-        for (let i = 0; i < 1200 && waiting.size > 0; i += 1) frameAt(now + 1 / 60);
+        document.body.append(other);
+        for (let i = 0; i < 10; i += 1) clock.step(0.01);
+        await flick(other, (step) => clock.stepTo(times[step]));
+        clock.runUntilStill();
         found.expected = other.rows[1];
         setFrameClock();
         return found;

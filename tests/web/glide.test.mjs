@@ -220,31 +220,15 @@ test('a finger that catches the rows has them where they were at its own time, t
     assert.ok(caught.wasGliding && !caught.isGliding);
     // The same by frames, on a clock of its own whose last frame is at the time of the touch.
     const expected = await page.evaluate(async ({ events, time }) => {
-        const { setFrameClock } = await import('/package/gxuipickers.js');
-        let now = events[0][2] - 1;
-        // By strings: the element that goes takes back a frame of the page's clock.
-        const waiting = new Map();
-        let asks = 0;
-        setFrameClock({
-            now: () => now,
-            timeOf: () => now,
-            requestFrame: (callback) => {
-                asks += 1;
-                waiting.set(`${asks}`, callback);
-                return `${asks}`;
-            },
-            cancelFrame: (request) => waiting.delete(request),
-        });
-        const frameAt = (at) => {
-            now = at;
-            const callbacks = [...waiting.values()];
-            waiting.clear();
-            for (const callback of callbacks) callback(now);
-        };
+        const { HandClock, setFrameClock } = await import('/package/gxuipickers.js');
+        // Before the clock changes: it takes back its frame of the page's clock.
+        document.querySelector('gx-wheel').remove();
+        const clock = new HandClock(events[0][2] - 1);
+        setFrameClock(clock);
         const other = document.createElement('gx-wheel');
-        document.querySelector('gx-wheel').replaceWith(other);
         other.columns = [{ rows: 1000 }, { rows: 1000 }];
-        for (let i = 0; i < 10; i += 1) frameAt(now + 0.01);
+        document.body.append(other);
+        for (let i = 0; i < 10; i += 1) clock.step(0.01);
         const node = other.shadowRoot.querySelector('.column');
         const box = node.getBoundingClientRect();
         const send = (type, offset) =>
@@ -259,11 +243,11 @@ test('a finger that catches the rows has them where they were at its own time, t
                 }),
             );
         for (const [type, offset, at] of events) {
-            frameAt(at);
+            clock.stepTo(at);
             send(type, offset);
         }
-        while (now + 0.011 < time) frameAt(now + 0.011);
-        frameAt(time);
+        while (clock.now() + 0.011 < time) clock.step(0.011);
+        clock.stepTo(time);
         const written = globalThis.spins.written(other);
         setFrameClock();
         return written;

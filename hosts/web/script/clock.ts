@@ -66,7 +66,12 @@ export class HandClock implements FrameClock {
 
     /** Lets time pass and calls back what waits for a frame, once. */
     step(seconds: number): void {
-        this.time += seconds;
+        this.stepTo(this.time + seconds);
+    }
+
+    /** The same, up to a time that is exactly this. */
+    stepTo(time: number): void {
+        this.time = time;
         const callbacks = [...this.waiting.values()];
         this.waiting.clear();
         for (const callback of callbacks) callback(this.time);
