@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include "QtPlainBrush.h"
+
 namespace gx::qt {
 
 namespace {
@@ -98,7 +100,7 @@ QImage QtImageCache::roundedRect(QSize size, double radiusX, double radiusY, con
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(color);
+    painter.setBrush(plainBrush(color));
     painter.drawRoundedRect(image.rect(), radiusX, radiusY);
     painter.end();
     if (rounded_.size() >= highestRoundedCount) rounded_.erase(rounded_.begin());

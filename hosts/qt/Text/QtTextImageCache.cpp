@@ -7,9 +7,12 @@
 
 #include <QGlyphRun>
 #include <QPainter>
+#include <QPen>
 #include <QRawFont>
 #include <QString>
 #include <QTextLayout>
+
+#include "QtPlainBrush.h"
 
 namespace gx::qt {
 
@@ -48,7 +51,7 @@ public:
         translate(onto.penX + shift, onto.baseline);
         QPainter::scale(scale, scale);
         setFont(face.font);
-        setPen(QColor::fromRgba(color));
+        setPen(QPen(plainBrush(QColor::fromRgba(color)), 0));
     }
 };
 
@@ -60,6 +63,7 @@ public:
         QTextOption option;
         option.setWrapMode(QTextOption::NoWrap);
         layout_.setTextOption(option);
+        layout_.setCacheEnabled(true); // It would be shaped again to be measured and to be drawn.
         layout_.beginLayout();
         line_ = layout_.createLine();
         line_.setLineWidth(unlimitedWidth);
@@ -98,17 +102,20 @@ std::optional<QtTextImage> drawnText(std::string_view text, const QtTextEngine::
     return drawn;
 }
 
-/// Puts a glyph over what the image shows, where the image is.
-void addGlyph(QImage& image, const QImage& glyph, int left, int top) {
+/// Puts a glyph over what the image shows, where the image is. Its columns from `clear` on show
+/// nothing yet.
+void addGlyph(QImage& image, const QImage& glyph, int left, int top, int clear) {
     const int first = std::max(0, -left);
     const int last = std::min(glyph.width(), image.width() - left);
+    const int copied = std::clamp(clear - left, first, std::max(first, last));
     for (int y = std::max(0, -top); y < std::min(glyph.height(), image.height() - top); ++y) {
         // Rows of pixels begin at whole ones.
         // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
         const std::span from(reinterpret_cast<const QRgb*>(glyph.constScanLine(y)), static_cast<std::size_t>(glyph.width()));
         const std::span to(reinterpret_cast<QRgb*>(image.scanLine(top + y)), static_cast<std::size_t>(image.width()));
         // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
-        for (int x = first; x < last; ++x) {
+        if (copied < last) std::copy(from.begin() + copied, from.begin() + last, to.begin() + left + copied);
+        for (int x = first; x < copied; ++x) {
             const QRgb above = from[static_cast<std::size_t>(x)];
             const int column = left + x;
             QRgb& pixel = to[static_cast<std::size_t>(column)];
@@ -162,6 +169,7 @@ std::optional<QtTextImage> QtTextImageCache::composedText(std::string_view text,
     for (std::size_t i = 0; i < places->count; ++i) ink |= face.digits->inkOf(text[i]).translated(places->x[i], 0);
     std::optional<QtTextImage> made = imageForInk(ink, scale);
     if (!made || made->image.isNull()) return std::nullopt;
+    int clear = 0;
     for (std::size_t i = 0; i < places->count; ++i) {
         // As Qt rounds a place: to sixty-fourths downward, and from the last one of a phase upward.
         const auto sixtyFourths = static_cast<int>(std::floor(places->x[i] * scale * 64)) + 1;
@@ -169,7 +177,9 @@ std::optional<QtTextImage> QtTextImageCache::composedText(std::string_view text,
         QPoint pen;
         const QImage* const glyph = imageOfDigit(text[i], quarters % phaseCount, face, pixelsPerEm, color, pen);
         if (!glyph) return std::nullopt;
-        addGlyph(made->image, *glyph, made->penX + quarters / phaseCount - pen.x(), made->baseline - pen.y());
+        const int left = made->penX + quarters / phaseCount - pen.x();
+        addGlyph(made->image, *glyph, left, made->baseline - pen.y(), clear);
+        clear = std::max(clear, left + glyph->width());
     }
     return made;
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QPainter>
+
 #include "QtImageCache.h"
 
 using namespace gx;
@@ -35,6 +37,26 @@ TEST(QtImageCache, HalvesAsFarAsTheSizeAllows) {
     // 64, 32, 16, 8, 4, 2 and 1.
     EXPECT_EQ(cache.conversionCount(), 7U);
     EXPECT_EQ(cache.byteCount(), 4U * (4096 + 1024 + 256 + 64 + 16 + 4 + 1));
+}
+
+/// Whatever fills it: opaque and translucent colours, radii in fractions, and whole ellipses.
+TEST(QtImageCache, ARoundedRectIsPixelForPixelWhatQtFills) {
+    QtImageCache cache;
+    for (int i = 0; i < 300; ++i) {
+        const QSize size(20 + i * 7 % 300, 10 + i * 11 % 90);
+        const double radius = 1 + i * 0.37;
+        const float part = static_cast<float>(i) / 300;
+        const QColor color = QColor::fromRgbF(part, 1 - part, 0.31F, i % 3 == 0 ? 1.0F : 0.05F + 0.9F * part);
+        QImage filled(size, QImage::Format_ARGB32_Premultiplied);
+        filled.fill(Qt::transparent);
+        QPainter painter(&filled);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawRoundedRect(filled.rect(), radius, radius);
+        painter.end();
+        ASSERT_EQ(cache.roundedRect(size, radius, radius, color), filled) << i;
+    }
 }
 
 TEST(QtImageCache, APictureWithoutPixelsIsEmpty) {
