@@ -58,7 +58,7 @@ public:
     /// Drops all faces and measures; they are made again when they are needed.
     void purge();
 
-    /// How many texts were measured and not found in the cache.
+    /// How many texts were measured and not found in the cache. Numbers are not in it.
     std::size_t measureCount() const { return measureCount_; }
 
 private:

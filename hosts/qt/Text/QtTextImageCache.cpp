@@ -20,6 +20,8 @@ namespace {
 
 // Chosen: a clear edge, so that an image drawn smaller or between pixels fades out and is not cut.
 constexpr double margin = 2;
+// A digit's image is copied to whole pixels only. It begins up to a pixel behind its place.
+constexpr double digitMargin = 1;
 // Estimated for an entry, in bytes beside its pixels.
 constexpr std::size_t overhead = 256;
 
@@ -29,12 +31,12 @@ constexpr double highestGlyphSize = 64;
 constexpr int phaseCount = 4;
 
 /// An image for ink at a scale, still empty; nothing if it would be too large.
-std::optional<QtTextImage> imageForInk(const QRectF& ink, double scale) {
+std::optional<QtTextImage> imageForInk(const QRectF& ink, double scale, double edge = margin) {
     if (ink.isEmpty()) return QtTextImage{};
-    const double left = std::floor(ink.left() * scale - margin);
-    const double top = std::floor(ink.top() * scale - margin);
-    const double width = std::ceil(ink.right() * scale + margin) - left;
-    const double height = std::ceil(ink.bottom() * scale + margin) - top;
+    const double left = std::floor(ink.left() * scale - edge);
+    const double top = std::floor(ink.top() * scale - edge);
+    const double width = std::ceil(ink.right() * scale + edge) - left;
+    const double height = std::ceil(ink.bottom() * scale + edge) - top;
     const bool fits = width <= QtTextImageCache::largestSide && height <= QtTextImageCache::largestSide;
     if (!fits) return std::nullopt;
     QtTextImage made = {QImage(static_cast<int>(width), static_cast<int>(height), QImage::Format_ARGB32_Premultiplied),
@@ -102,36 +104,40 @@ std::optional<QtTextImage> drawnText(std::string_view text, const QtTextEngine::
     return drawn;
 }
 
+/// Of an image of 32 bits a pixel, line by line without gaps.
+std::size_t pixelCount(const QImage& image) { return static_cast<std::size_t>(image.sizeInBytes()) / sizeof(QRgb); }
+
+/// One premultiplied pixel over another, as Qt blends them. Has no branches: most are clear or
+/// opaque, in no order that a processor could foresee.
+QRgb over(QRgb above, QRgb below) {
+    constexpr QRgb everySecond = 0xff00ff; // Two components at a time.
+    const QRgb rest = 255 - (above >> 24U);
+    const auto part = [rest](QRgb components) {
+        const QRgb product = components * rest;
+        return (product + ((product >> 8U) & everySecond) + 0x800080) >> 8U & everySecond; // Divided by 255, rounded.
+    };
+    return above + part(below & everySecond) + (part(below >> 8U & everySecond) << 8U);
+}
+
 /// Puts a glyph over what the image shows, where the image is. Its columns from `clear` on show
 /// nothing yet.
 void addGlyph(QImage& image, const QImage& glyph, int left, int top, int clear) {
+    // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
+    const std::span glyphPixels(reinterpret_cast<const QRgb*>(glyph.constBits()), pixelCount(glyph));
+    const std::span pixels(reinterpret_cast<QRgb*>(image.bits()), pixelCount(image));
+    // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
+    const auto glyphWidth = static_cast<std::size_t>(glyph.width());
+    const auto width = static_cast<std::size_t>(image.width());
     const int first = std::max(0, -left);
-    const int last = std::min(glyph.width(), image.width() - left);
-    const int copied = std::clamp(clear - left, first, std::max(first, last));
-    for (int y = std::max(0, -top); y < std::min(glyph.height(), image.height() - top); ++y) {
-        // Rows of pixels begin at whole ones.
-        // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast)
-        const std::span from(reinterpret_cast<const QRgb*>(glyph.constScanLine(y)), static_cast<std::size_t>(glyph.width()));
-        const std::span to(reinterpret_cast<QRgb*>(image.scanLine(top + y)), static_cast<std::size_t>(image.width()));
-        // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
-        if (copied < last) std::copy(from.begin() + copied, from.begin() + last, to.begin() + left + copied);
-        for (int x = first; x < copied; ++x) {
-            const QRgb above = from[static_cast<std::size_t>(x)];
-            const int column = left + x;
-            QRgb& pixel = to[static_cast<std::size_t>(column)];
-            if (above == 0) continue;
-            if (pixel == 0) {
-                pixel = above;
-                continue;
-            }
-            constexpr QRgb opaque = 255;
-            const QRgb rest = opaque - static_cast<QRgb>(qAlpha(above));
-            const auto part = [rest, pixel](unsigned shift) {
-                const QRgb value = ((pixel >> shift) & opaque) * rest;
-                return ((value + (value >> 8U) + 128) >> 8U) << shift; // Divided by 255, rounded.
-            };
-            pixel = above + part(0) + part(8) + part(16) + part(24);
-        }
+    const int last = std::max(first, std::min(glyph.width(), image.width() - left));
+    const auto count = static_cast<std::size_t>(last - first);
+    const auto blended = static_cast<std::size_t>(std::clamp(clear - left, first, last) - first);
+    const int bottom = std::min(glyph.height(), image.height() - top);
+    for (int y = std::max(0, -top); y < bottom; ++y) {
+        const std::span from = glyphPixels.subspan(static_cast<std::size_t>(y) * glyphWidth + static_cast<std::size_t>(first), count);
+        const std::span to = pixels.subspan(static_cast<std::size_t>(top + y) * width + static_cast<std::size_t>(left + first), count);
+        for (std::size_t x = 0; x < blended; ++x) to[x] = over(from[x], to[x]);
+        for (std::size_t x = blended; x < count; ++x) to[x] = from[x];
     }
 }
 
@@ -146,7 +152,7 @@ const QImage* QtTextImageCache::imageOfDigit(char digit, int phase, const QtText
         // Within the phase, so that no rounding leads to another one.
         const double shift = static_cast<double>(phase) / phaseCount + 0.5 / (phaseCount * 16);
         const double scale = pixelsPerEm / QtTextEngine::facePixelSize;
-        std::optional<QtTextImage> drawn = imageForInk(face.digits->inkOf(digit), scale);
+        std::optional<QtTextImage> drawn = imageForInk(face.digits->inkOf(digit), scale, digitMargin);
         if (drawn && !drawn->image.isNull())
             TextPainter(*drawn, face, scale, color, shift).drawGlyphRun(QPointF(0, 0), face.digits->glyphOf(digit));
         if (!drawn) return nullptr;

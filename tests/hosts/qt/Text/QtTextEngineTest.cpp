@@ -54,13 +54,19 @@ TEST_F(QtTextEngineTest, ATextIsMeasuredOnceForAllSizes) {
     EXPECT_EQ(engine->measureCount(), 2U);
 }
 
+TEST_F(QtTextEngineTest, NumbersTakeNoPlaceInTheCache) {
+    EXPECT_EQ(width("0", 22), width("0", 11) * 2);
+    for (int i = 0; i < 1000; ++i) width(std::to_string(i), 10);
+    EXPECT_EQ(engine->measureCount(), 0U);
+}
+
 TEST_F(QtTextEngineTest, BoundsTheNumberOfCachedTexts) {
-    for (int i = 0; i < 4097; ++i) width(std::to_string(i), 10);
+    for (int i = 0; i < 4097; ++i) width(std::to_string(i) + " h", 10);
     EXPECT_EQ(engine->measureCount(), 4097U);
-    width("4096", 10);
-    width("1", 10);
+    width("4096 h", 10);
+    width("1 h", 10);
     EXPECT_EQ(engine->measureCount(), 4097U);
-    width("0", 10); // The one that was unused for longest has gone.
+    width("0 h", 10); // The one that was unused for longest has gone.
     EXPECT_EQ(engine->measureCount(), 4098U);
 }
 
@@ -72,11 +78,11 @@ TEST_F(QtTextEngineTest, OneFamilyByTwoNamesIsMeasuredAlike) {
 TEST_F(QtTextEngineTest, AnotherInterfaceFamilyIsMeasuredAgain) {
     const Ref<UIFont> font = UIFont::systemFontOfSize_weight(22);
     const auto before = engine->faceOfFont(*font).identifier;
-    width("0", 22);
+    width("0 h", 22);
     engine->setInterfaceFamily("Inter Semi Bold");
     EXPECT_NE(engine->faceOfFont(*font).identifier, before);
     EXPECT_EQ(engine->interfaceFamily(), "Inter Semi Bold");
-    width("0", 22);
+    width("0 h", 22);
     EXPECT_EQ(engine->measureCount(), 2U);
 }
 
