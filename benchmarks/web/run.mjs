@@ -14,7 +14,7 @@ import { writeFileSync } from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
 import { parseArgs } from 'node:util';
-import { startServer } from '../../tests/web/server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 import { startBrowser } from '../../tests/web/browser.mjs';
 import { buildPages, pages } from './build.mjs';
 import { fling, footprint, longestTasks, openPage, start } from './measure.mjs';

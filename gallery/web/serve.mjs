@@ -1,5 +1,5 @@
 // Serves a folder on the loopback address until it is ended: node serve.mjs FOLDER [PORT]
-import { startServer } from '../../tests/web/server.mjs';
+import { startServer } from './server.mjs';
 
 const [folder, first = '8080'] = process.argv.slice(2);
 const triedPorts = 20;

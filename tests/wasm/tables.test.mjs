@@ -6,7 +6,7 @@ import { existsSync, readdirSync, readFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { startBrowser } from '../web/browser.mjs';
-import { startServer } from '../web/server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 import { runOnPage } from './page.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));

@@ -9,7 +9,7 @@ import path from 'node:path';
 import { promisify } from 'node:util';
 import { startBrowser, touches, untilStill } from './browser.mjs';
 import { packageFolder, root } from './places.mjs';
-import { startServer } from './server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 import { columnPlace, untilColumns } from './stage.mjs';
 
 const examples = path.join(root, 'hosts/web/examples');

@@ -5,7 +5,7 @@ import { pageOf } from './browser.mjs';
 import { everyElement, table } from './every.mjs';
 import { Firefox, hasFirefox } from './marionette.mjs';
 import { packageFolder } from './places.mjs';
-import { startServer } from './server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 
 const settings = hasFirefox ? {} : { skip: 'Firefox is not installed' };
 const key = { tab: '\uE004', left: '\uE012', up: '\uE013', right: '\uE014', down: '\uE015', home: '\uE011', pageDown: '\uE00F' };

@@ -8,7 +8,7 @@ import { elementNamed, kindOf, manifestOfOne, optionsOfOne, scriptOfOne, withKin
 import { tableOfOne } from '../../hosts/web/sizes.mjs';
 import { startBrowser } from './browser.mjs';
 import { root } from './places.mjs';
-import { startServer } from './server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 
 const read = (name) => readFileSync(path.join(root, name), 'utf8');
 const pickers = read('hosts/web/script/pickers.ts');

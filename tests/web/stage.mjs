@@ -3,7 +3,7 @@ import { before, after } from 'node:test';
 import assert from 'node:assert/strict';
 import { pageOf, startBrowser } from './browser.mjs';
 import { packageFolder } from './places.mjs';
-import { startServer } from './server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 
 /** Pages of one test file. Each is a new one; what it logs is in `logs`. */
 export class Stage {
