@@ -1,4 +1,4 @@
-import type { Calls } from './module.js';
+import type { Calls } from './calls.js';
 
 /** The numbers of a column (`columnNumber`). */
 const enum ColumnNumber {

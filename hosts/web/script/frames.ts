@@ -1,6 +1,7 @@
+import type { Calls } from './calls.js';
 import { clock } from './clock.js';
 import { Glide } from './glide.js';
-import type { Calls, Module } from './module.js';
+import type { Module } from './module.js';
 import type { Surface } from './surface.js';
 
 /** What frames ask of their view. */

@@ -1,5 +1,5 @@
 import { lineHeight } from './fonts.js';
-import type { Drawing } from './module.js';
+import type { Drawing } from './calls.js';
 import { rounded, Rects, type Shape } from './rects.js';
 
 /** A text or a picture of a frame. Numbers are rounded to what the page is given. */

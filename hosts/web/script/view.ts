@@ -1,9 +1,10 @@
 import { ColumnAction, Columns, type Traits } from './accessibility.js';
+import type { Calls, Client } from './calls.js';
 import { clock } from './clock.js';
 import type { Fonts } from './fonts.js';
 import { Frames } from './frames.js';
 import { Input } from './input.js';
-import type { Calls, Client, Module } from './module.js';
+import type { Module } from './module.js';
 import type { Kind } from './properties.js';
 import { Surface } from './surface.js';
 
