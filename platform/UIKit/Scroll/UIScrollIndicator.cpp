@@ -11,7 +11,7 @@ namespace {
 // In points, chosen by eye.
 constexpr CGFloat thickness = 4;
 constexpr CGFloat inset = 4;
-constexpr CGFloat shortest = 32;
+constexpr CGFloat shortestKnob = 32;
 
 } // namespace
 
@@ -37,7 +37,7 @@ void UIScrollIndicator::draw(UIGraphicsContext& context, CGRect area, CGFloat co
     const CGFloat highestOffset = contentHeight - area.size.height;
     if (!isVisible() || !(highestOffset > 0)) return;
     const CGFloat room = area.size.height - 2 * inset;
-    const CGFloat length = std::min(room, std::max(shortest, area.size.height * area.size.height / contentHeight));
+    const CGFloat length = std::min(room, std::max(shortestKnob, area.size.height * area.size.height / contentHeight));
     const CGFloat top = CGRectGetMinY(area);
     const CGFloat y = top + inset + (room - length) * std::clamp(top, 0.0, highestOffset) / highestOffset;
     const bool isMirrored = NSLocale::currentLocale()->isRightToLeft();
