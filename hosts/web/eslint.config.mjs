@@ -39,7 +39,7 @@ export default typescript.config(
                     ...['Event', 'CustomEvent', 'WheelEvent', 'PointerEvent', 'KeyboardEvent', 'FormData', 'FontFace'],
                     ...['MutationObserver', 'WebAssembly', 'Response', 'Node', 'URLSearchParams'],
                     // Of the gallery's page.
-                    ...['localStorage', 'Blob', 'AudioContext', 'Option'],
+                    ...['localStorage', 'Blob', 'AudioContext', 'OscillatorNode', 'GainNode', 'Option'],
                 ].map((name) => [name, 'readonly']),
             ),
         },

@@ -8,7 +8,7 @@ import { mkdtempSync, rmSync } from 'node:fs';
 import os from 'node:os';
 import { checkAccessibility, startBrowser, touches, untilStill } from './browser.mjs';
 import { packageFolder, root } from './places.mjs';
-import { startServer } from './server.mjs';
+import { startServer } from '../../gallery/web/server.mjs';
 import { columnPlace, untilColumns } from './stage.mjs';
 
 const folder = mkdtempSync(path.join(os.tmpdir(), 'gx-gallery-'));
@@ -41,6 +41,25 @@ async function open({ width = 390, height = 844, hash = '', ...context } = {}) {
     await page.goto(`${server.address}/${hash}`);
     await untilReady(page);
     return { page, logs, close: () => opened.close() };
+}
+
+/** What a file may have, as the desktop's gallery lists it: [name, lowest, highest]. */
+async function rangesOfDesktop() {
+    const source = await readFile(path.join(root, 'gallery/model/Workout.cpp'), 'utf8');
+    const constants = { longest: 300_000, longestTime: 356.4e6 };
+    for (const [name, value] of Object.entries(constants))
+        assert.equal(Number(new RegExp(`${name} = ([^;]+);`).exec(source)[1].replaceAll("'", '')), value);
+    const number = (text) =>
+        text
+            .replaceAll("'", '')
+            .split(' / ')
+            .map((part) => constants[part] ?? Number(part))
+            .reduce((one, other) => one / other);
+    return [...source.matchAll(/\{"(\w+)", &\S+, ([^,]+), ([^}]+)\}/g)].map(([, name, lowest, highest]) => [
+        name,
+        number(lowest),
+        number(highest),
+    ]);
 }
 
 const values = (page) => page.evaluate(() => [...document.querySelectorAll('.value')].map((node) => node.textContent));
@@ -137,7 +156,11 @@ test('a workout is saved to a file and opened from it', async () => {
         ['null', 'This file is no workout.'],
         ['{"format":"GXUIPickers workout","version":2}', 'This workout was saved by a newer version of this application.'],
         ['{"format":"GXUIPickers workout","version":1}', 'This file is damaged.'],
+        ['{"format":"GXUIPickers workout","version":1.5}', 'This file is damaged.'],
+        ['{"format":"GXUIPickers workout","version":1,"workout":[]}', 'This file is damaged.'],
+        [' '.repeat(2 ** 20) + JSON.stringify(saved), 'This file is no workout.'],
         [JSON.stringify({ ...saved, workout: { ...saved.workout, height: 'tall' } }), 'The file has no number for: height.'],
+        [JSON.stringify({ ...saved, workout: { ...saved.workout, height: 119 } }), 'A number in the file is out of range: height.'],
         [
             JSON.stringify({ ...saved, workout: { ...saved.workout, weather: 'frogs' } }),
             'The file names no weather that this application knows.',
@@ -153,12 +176,29 @@ test('a workout is saved to a file and opened from it', async () => {
     await close();
 });
 
+test('numbers of a file have the ranges of the desktop', async () => {
+    const { page, close } = await open();
+    const ranges = await page.evaluate(() =>
+        [...document.querySelectorAll('[data-file]')].flatMap((picker) =>
+            picker.dataset.file
+                .split(' ')
+                .map((entry) => entry.split(':').slice(1))
+                .filter(([name]) => name !== 'weather')
+                .map(([name, lowest, highest]) => [name, Number(lowest), Number(highest)]),
+        ),
+    );
+    const expected = await rangesOfDesktop();
+    assert.equal(expected.length, 14);
+    assert.deepEqual(ranges, expected);
+    await close();
+});
+
 test('units, language, look and text size change at once, and stay', async () => {
     const { page, logs, close } = await open({ hash: '#settings' });
-    await page.check('[name=unit][value=imperial]');
-    await page.check('[name=weight][value=st]');
+    await page.selectOption('[name=unit]', 'imperial');
+    await page.selectOption('[name=weight]', 'st');
     await page.selectOption('[name=language]', 'de');
-    await page.check('[name=look][value=dark]');
+    await page.selectOption('[name=look]', 'dark');
     await page.fill('[name=size]', '150');
     const look = () =>
         page.evaluate(() => [
@@ -173,11 +213,11 @@ test('units, language, look and text size change at once, and stay', async () =>
     await untilReady(page);
     await untilValue(page, 0, '3,2 mi, 0:27 h');
     assert.deepEqual(await look(), ['de', 'Training hinzufügen', 'rgb(14, 16, 19)', '24px']);
-    assert.equal(await page.isChecked('[name=unit][value=imperial]'), true);
+    assert.equal(await page.inputValue('[name=unit]'), 'imperial');
 
     const loaded = [];
     page.on('request', (request) => loaded.push(request.url()));
-    await page.check('[name=unit][value=metric]');
+    await page.selectOption('[name=unit]', 'metric');
     await page.fill('[name=size]', '120');
     await untilValue(page, 0, '5,3 km, 0:27 h');
     assert.deepEqual(loaded, [], 'a language is loaded only when it changes');
