@@ -128,6 +128,35 @@ test('rows glide from the frame after the finger has left', async () => {
     await close();
 });
 
+test('a usual fling is handed over once, with its slow end', async () => {
+    const { page, close } = await stage.open(wheel);
+    await page.evaluate(fill);
+    await untilColumns(page, asked);
+    await page.evaluate(provide);
+    const result = await page.evaluate(async () => {
+        const element = document.querySelector('gx-wheel');
+        const { Element } = globalThis;
+        const own = Element.prototype.animate;
+        let count = 0;
+        let isNew = true;
+        Element.prototype.animate = function (...how) {
+            if (isNew) {
+                count += 1;
+                setTimeout(() => (isNew = true));
+            }
+            isNew = false;
+            return own.apply(this, how);
+        };
+        await globalThis.spins.flick(element);
+        await new Promise((resolve) => element.addEventListener('change', resolve));
+        Element.prototype.animate = own;
+        return { count, row: element.rows[0] };
+    });
+    assert.equal(result.count, 1);
+    assert.ok(result.row > 5, `it ends at ${result.row}`);
+    await close();
+});
+
 test('what the compositor shows is where the module has the rows at that time', async () => {
     const { page, close } = await gliding();
     const difference = await page.evaluate(async () => {

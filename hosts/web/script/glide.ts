@@ -4,15 +4,22 @@ import type { Draw, Surface } from './surface.js';
 
 /**
  * In pixels, from frame to frame. Chosen: a row leaves its curve by a quarter of a pixel at most,
- * while it moves seven of them or more in each of the screen's frames.
+ * while it moves three of them or more in each of the screen's frames.
  */
 const mostDistance = 14;
-/** In seconds, from frame to frame. Chosen for the same reason, where rows turn round. */
-const frameTimes = { least: 1 / 120, most: 1 / 30 };
+/**
+ * In pixels: how far a row may leave its curve where its speed changes, after which frames lie less
+ * far apart. Chosen: unseen.
+ */
+const mostError = 0.2;
+/** In seconds, from frame to frame. Chosen: rows that turn round do so within a pixel. */
+const frameTimes = { least: 1 / 120, most: 1 / 15 };
+/** In seconds. Chosen: how late a row that passes is reported, at most. */
+const mostTick = 1 / 30;
 /** In seconds, to the second frame, which tells how fast rows are. Chosen: they hardly move. */
 const firstStep = 1 / 1000;
-/** Chosen: more make a long task. */
-const mostFrames = 60;
+/** Chosen: enough for a usual fling; more make a long task. */
+const mostFrames = 80;
 /** Chosen for the same reason; half of it are in sight at the start. */
 const mostTracks = 40;
 /** In seconds. Chosen: what is shorter is not worth it. */
@@ -49,6 +56,9 @@ interface Ahead {
 
 const isSame = (one: Place, other: Place): boolean =>
     one.y === other.y && one.x === other.x && one.alpha === other.alpha && one.scaleY === other.scaleY && one.scaleX === other.scaleX;
+
+const isAlike = (one: Draw, other: Draw): boolean =>
+    one.text === other.text && one.home === other.home && one.font === other.font && one.image === other.image;
 
 const placeOf = ({ x, y, scaleX, scaleY, alpha }: Place): Place => ({ x, y, scaleX, scaleY, alpha });
 
@@ -121,48 +131,68 @@ export class Glide {
     private look(time: number): Ahead | undefined {
         const { module, number, surface } = this;
         const tracks: Track[] = [];
-        const last = new Map<string, Track>();
+        // Those of the last frame and of this one, in the order in which they are drawn.
+        let last: Track[] = [];
+        let drawn: Track[] = [];
+        let next = 0;
         const times = [time];
         const wakes: number[] = [];
         let distance = 0;
         let isOver = false as boolean;
+        // Two alike in one frame cannot be told apart in the next.
         let isClear = true as boolean;
         const add = (draw: Draw): void => {
-            const key = `${draw.home}/${draw.font}/${draw.image}/${draw.text}`;
             const count = times.length - 1;
-            const track = last.get(key);
-            const length = track ? track.first + track.places.length : -1;
-            // Two alike cannot be told apart in the next frame.
-            if (length > count) isClear = false;
-            if (track && length === count) {
+            // Frames draw nearly the same in the same order, so it mostly is the next one.
+            let track = last[next];
+            if (!track || !isAlike(track.draw, draw)) track = last.find((other) => isAlike(other.draw, draw));
+            if (track) {
+                if (track.first + track.places.length > count) isClear = false;
                 const before = track.places[count - track.first - 1]!;
                 if (isSame(before, draw)) {
                     track.places.push(before);
-                    return;
+                } else {
+                    distance = Math.max(distance, Math.abs(draw.y - before.y));
+                    track.isMoving = true;
+                    track.places.push(placeOf(draw));
                 }
-                distance = Math.max(distance, Math.abs(draw.y - before.y));
-                track.isMoving = true;
-                track.places.push(placeOf(draw));
             } else {
-                const added = { draw: { ...draw }, first: count, places: [placeOf(draw)], isMoving: count > 0 };
-                last.set(key, added);
-                tracks.push(added);
+                if (drawn.some((other) => isAlike(other.draw, draw))) isClear = false;
+                track = { draw: { ...draw }, first: count, places: [placeOf(draw)], isMoving: count > 0 };
+                tracks.push(track);
             }
+            drawn.push(track);
+            next = last.indexOf(track) + 1;
         };
-        surface.draws().forEach(add);
+        const addFrame = (draws: readonly Draw[]): void => {
+            distance = 0;
+            next = 0;
+            draws.forEach(add);
+            [last, drawn] = [drawn, last];
+            drawn.length = 0;
+        };
+        addFrame(surface.draws());
         this.isAhead = true;
         module.runAhead((calls) => {
             let step = firstStep;
-            while (isClear && times.length < mostFrames && tracks.length < mostTracks) {
-                const next = times[times.length - 1]! + step;
-                const before = this.notes;
-                isOver = calls.tick(number, next) === 0;
-                if (isOver || this.notes > before) wakes.push(next);
-                if (isOver) break;
-                times.push(next);
-                distance = 0;
-                surface.sketch(() => module.draw(number)).forEach(add);
-                step = Math.min(Math.max((step * mostDistance) / distance, frameTimes.least), frameTimes.most);
+            let speed = NaN;
+            let now = time;
+            while (isClear && !isOver && times.length < mostFrames && tracks.length < mostTracks) {
+                const ticks = Math.ceil(step / mostTick);
+                for (let i = 0; i < ticks && !isOver; i += 1) {
+                    const before = this.notes;
+                    now += step / ticks;
+                    isOver = calls.tick(number, now) === 0;
+                    if (isOver || this.notes > before) wakes.push(now);
+                }
+                times.push(now);
+                addFrame(surface.sketch(() => module.draw(number)));
+                const before = speed;
+                speed = distance / step;
+                const change = Number.isNaN(before) ? 0 : Math.abs(speed - before) / step;
+                // Between two frames, a row that gets slower is ahead of the straight line.
+                const wanted = Math.min(mostDistance / speed, Math.sqrt((8 * mostError) / change));
+                step = Math.min(Math.max(wanted, frameTimes.least), Math.max(2 * step, mostTick), frameTimes.most);
             }
         });
         this.isAhead = false;
