@@ -12,8 +12,10 @@ const mostDistance = 14;
  * far apart. Chosen: unseen.
  */
 const mostError = 0.2;
+/** In seconds, from frame to frame. Chosen: twice as many as most screens show. */
+const leastStep = 1 / 120;
 /** In seconds, from frame to frame. Chosen: rows that turn round do so within a pixel. */
-const frameTimes = { least: 1 / 120, most: 1 / 15 };
+const mostStep = 1 / 15;
 /** In seconds. Chosen: how late a row that passes is reported, at most. */
 const mostTick = 1 / 30;
 /** In seconds, to the second frame, which tells how fast rows are. Chosen: they hardly move. */
@@ -111,7 +113,7 @@ export class Glide {
         const before = this.animations;
         this.animations = [];
         clearTimeout(this.timer);
-        if (ahead && ahead.times[ahead.times.length - 1]! - time >= leastTime) {
+        if (ahead && ahead.times.at(-1)! - time >= leastTime) {
             this.animate(ahead);
             this.wait(ahead.wakes, wake);
         } else if (isWanted) {
@@ -189,10 +191,10 @@ export class Glide {
                 addFrame(surface.sketch(() => module.draw(number)));
                 const before = speed;
                 speed = distance / step;
-                const change = Number.isNaN(before) ? 0 : Math.abs(speed - before) / step;
+                const change = Math.abs(speed - before) / step || 0;
                 // Between two frames, a row that gets slower is ahead of the straight line.
                 const wanted = Math.min(mostDistance / speed, Math.sqrt((8 * mostError) / change));
-                step = Math.min(Math.max(wanted, frameTimes.least), Math.max(2 * step, mostTick), frameTimes.most);
+                step = Math.min(Math.max(wanted, leastStep), Math.max(2 * step, mostTick), mostStep);
             }
         });
         this.isAhead = false;
@@ -205,7 +207,7 @@ export class Glide {
     private animate({ tracks, times }: Ahead): void {
         const count = times.length;
         const begin = times[0]!;
-        const end = times[count - 1]! + rest;
+        const end = times.at(-1)! + rest;
         const duration = end - begin;
         const moving = tracks.filter(({ isMoving, places }) => isMoving || places.length < count);
         // All writing first: an animation may look at the page's styles.
@@ -229,7 +231,7 @@ export class Glide {
                 return { ...one, y: one.y + (one.y - other.y) * share, scaleY: one.scaleY + (one.scaleY - other.scaleY) * share };
             };
             const length = first + places.length;
-            const last = places[places.length - 1]!;
+            const last = places.at(-1)!;
             // Between two frames it comes into sight, or goes out of it, on its way.
             if (first > 0) {
                 const before = goOn(first - 1, first, first + 1);
