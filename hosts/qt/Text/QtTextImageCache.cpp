@@ -114,7 +114,8 @@ QRgb over(QRgb above, QRgb below) {
     const QRgb rest = 255 - (above >> 24U);
     const auto part = [rest](QRgb components) {
         const QRgb product = components * rest;
-        return (product + ((product >> 8U) & everySecond) + 0x800080) >> 8U & everySecond; // Divided by 255, rounded.
+        // Divided by 255, rounded.
+        return (product + ((product >> 8U) & everySecond) + 0x800080) >> 8U & everySecond;
     };
     return above + part(below & everySecond) + (part(below >> 8U & everySecond) << 8U);
 }
