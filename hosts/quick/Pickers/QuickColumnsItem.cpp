@@ -17,41 +17,44 @@ QuickColumnsItem::~QuickColumnsItem() {
 
 void QuickColumnsItem::setColumns(const QVariantList& columns) {
     columns_ = columns;
-    if (isComponentComplete()) reload();
-    emit columnsChanged();
+    didChange(&QuickColumnsItem::columnsChanged);
 }
 
 void QuickColumnsItem::setCurrentIndexes(const QList<double>& indexes) {
-    const bool areNumbers = std::all_of(indexes.begin(), indexes.end(), [](double index) { return std::isfinite(index) && index >= 0; });
-    if (!areNumbers) return warn(QStringLiteral("currentIndexes have to be numbers of rows, 0 or more. They stay as they are."));
+    const auto isRow = [](double index) { return std::isfinite(index) && index >= 0 && std::trunc(index) == index; };
+    if (!std::ranges::all_of(indexes, isRow)) {
+        return warn(QStringLiteral("currentIndexes have to be numbers of rows, 0 or more and whole. They stay as they are."));
+    }
+    wantedIndexes_ = indexes;
+    if (isComponentComplete()) return select();
     if (indexes == currentIndexes_) return;
     currentIndexes_ = indexes;
-    if (isComponentComplete()) {
-        const QuickSurroundings::Visit here = visit();
-        select();
-    }
     emit currentIndexesChanged();
 }
 
 void QuickColumnsItem::setColumnWidths(const QList<double>& widths) {
     if (widths == columnWidths_) return;
     columnWidths_ = widths;
-    if (isComponentComplete()) reload();
-    emit columnWidthsChanged();
+    didChange(&QuickColumnsItem::columnWidthsChanged);
 }
 
 void QuickColumnsItem::setColumnLabels(const QStringList& labels) {
     if (labels == columnLabels_) return;
     columnLabels_ = labels;
-    if (isComponentComplete()) reload();
-    emit columnLabelsChanged();
+    didChange(&QuickColumnsItem::columnLabelsChanged);
 }
 
 void QuickColumnsItem::setTextRole(const QString& role) {
     if (role == textRole_) return;
     textRole_ = role;
+    isRoleWarnedOf_ = false;
+    didChange(&QuickColumnsItem::textRoleChanged);
+}
+
+void QuickColumnsItem::didChange(void (QuickColumnsItem::*changed)()) {
+    const QPointer<QuickColumnsItem> self(this); // Handlers may drop the item.
     if (isComponentComplete()) reload();
-    emit textRoleChanged();
+    if (self) emit(this->*changed)();
 }
 
 // Columns
@@ -68,6 +71,7 @@ QuickColumnsItem::Column QuickColumnsItem::columnOf(const QVariant& description,
     const int type = plain.typeId();
     if (type == QMetaType::Int || type == QMetaType::Double || type == QMetaType::UInt || type == QMetaType::LongLong) {
         column.rows = plain.toDouble();
+        column.isNumbered = true;
         if (column.rows >= 0) return column;
     } else if (type == QMetaType::QVariantList || type == QMetaType::QStringList) {
         for (const QVariant& title : plain.toList()) column.titles.append(title.toString());
@@ -87,7 +91,7 @@ std::optional<std::string> QuickColumnsItem::titleOf(double row, NSInteger colum
         const int role = textRole_.isEmpty() ? first : roles.key(textRole_.toUtf8(), first);
         return shown.model->data(shown.model->index(static_cast<int>(row), 0), role).toString().toStdString();
     }
-    if (shown.titles.isEmpty()) return QString::number(static_cast<qint64>(row)).toStdString();
+    if (shown.isNumbered) return QString::number(static_cast<qint64>(row)).toStdString();
     const auto index = static_cast<qsizetype>(row);
     return index < shown.titles.size() ? std::optional(shown.titles[index].toStdString()) : std::nullopt;
 }
@@ -101,6 +105,7 @@ void QuickColumnsItem::reload() {
     read_.clear();
     std::vector<double> counts;
     for (qsizetype i = 0; i < columns_.size(); ++i) {
+        const std::size_t column = read_.size();
         read_.push_back(columnOf(columns_[i], i));
         counts.push_back(read_.back().rows);
         const QAbstractItemModel* const model = read_.back().model;
@@ -111,23 +116,63 @@ void QuickColumnsItem::reload() {
         connect(model, &QAbstractItemModel::dataChanged, this, &QuickColumnsItem::reload);
         connect(model, &QAbstractItemModel::modelReset, this, &QuickColumnsItem::reload);
         connect(model, &QAbstractItemModel::layoutChanged, this, &QuickColumnsItem::reload);
-        connect(model, &QObject::destroyed, this, &QuickColumnsItem::reload);
+        connect(model, &QObject::destroyed, this, [this, column] { modelDidEnd(column); });
     }
+    warnOfRole();
     wheel_->setRowCounts(counts);
     for (qsizetype i = 0; i < columnWidths_.size(); ++i) wheel_->setWidth_ofColumn(columnWidths_[i], i);
     for (qsizetype i = 0; i < columnLabels_.size(); ++i) wheel_->setLabel_ofColumn(columnLabels_[i].toStdString(), i);
     select();
 }
 
+void QuickColumnsItem::warnOfRole() {
+    if (textRole_.isEmpty() || isRoleWarnedOf_) return;
+    for (std::size_t i = 0; i < read_.size(); ++i) {
+        if (!read_[i].model) continue;
+        const QHash<int, QByteArray> roles = read_[i].model->roleNames();
+        // A model may have no roles before it has rows.
+        if (roles.isEmpty() || roles.values().contains(textRole_.toUtf8())) continue;
+        QStringList names;
+        for (const QByteArray& name : roles) names.append(QString::fromUtf8(name));
+        names.sort();
+        isRoleWarnedOf_ = true;
+        return warn(QStringLiteral("textRole \"%1\" is no role of columns[%2], which has %3. It shows another one.")
+                        .arg(textRole_)
+                        .arg(i)
+                        .arg(names.join(QStringLiteral(", "))));
+    }
+}
+
+/// The model is gone already. Handlers run later, so that none does while a document is taken down.
+void QuickColumnsItem::modelDidEnd(std::size_t column) {
+    read_[column] = {};
+    columns_[static_cast<qsizetype>(column)] = 0;
+    QMetaObject::invokeMethod(
+        this, [this] { didChange(&QuickColumnsItem::columnsChanged); }, Qt::QueuedConnection);
+}
+
 void QuickColumnsItem::select() {
-    for (qsizetype i = 0; i < currentIndexes_.size(); ++i) wheel_->setRow_ofColumn(currentIndexes_[i], i);
+    if (!wheel_) return;
+    const QuickSurroundings::Visit here = visit();
+    for (qsizetype i = 0; i < wantedIndexes_.size(); ++i) wheel_->setRow_ofColumn(wantedIndexes_[i], i);
+    if (takeSelectedRows()) emit currentIndexesChanged();
+}
+
+/// Returns whether they are others than before.
+bool QuickColumnsItem::takeSelectedRows() {
+    QList<double> indexes;
+    for (NSInteger i = 0; i < wheel_->columnCount(); ++i) indexes.append(wheel_->rowOfColumn(i));
+    std::swap(indexes, currentIndexes_);
+    return indexes != currentIndexes_;
 }
 
 void QuickColumnsItem::userDidSelect() {
-    QList<double> indexes;
-    for (NSInteger i = 0; i < wheel_->columnCount(); ++i) indexes.append(wheel_->rowOfColumn(i));
-    const bool isChanged = indexes != currentIndexes_;
-    currentIndexes_ = indexes;
+    const bool isChanged = takeSelectedRows();
+    for (qsizetype i = 0; i < currentIndexes_.size(); ++i) {
+        const bool hasRows = read_[static_cast<std::size_t>(i)].rows > 0;
+        if (i >= wantedIndexes_.size()) wantedIndexes_.append(0);
+        if (hasRows) wantedIndexes_[i] = currentIndexes_[i];
+    }
     const QPointer<QuickColumnsItem> self(this); // Handlers may drop the item.
     if (isChanged) emit currentIndexesChanged();
     if (self) notifyMoved();
@@ -152,8 +197,8 @@ void QuickColumnsItem::componentComplete() {
     wheel_->setTitle([this](double row, NSInteger column) { return titleOf(row, column); });
     wheel_->didChange = [this] { userDidSelect(); };
     applyName();
-    reload();
     setRootView(wheel_->view());
+    reload();
 }
 
 } // namespace gx::quick

@@ -19,16 +19,21 @@ class QuickColumnsItem : public gx::quick::QuickItem { // Its whole name: Qt's t
     Q_OBJECT
     QML_NAMED_ELEMENT(ColumnsItem)
     /// The columns from the left: each a number of rows, which are numbered from 0, a list of
-    /// texts, or a model. Anything else gives a warning, and a column without rows.
+    /// texts, or a model, such as `columns: [model]`. Anything else gives a warning, and a column
+    /// without rows; so does a model that ends, without a warning.
     Q_PROPERTY(QVariantList columns READ columns WRITE setColumns NOTIFY columnsChanged FINAL)
-    /// The selected row of each column, from 0. An index beyond the rows selects the last one. A
-    /// list with NaN or a negative number is ignored with a warning.
+    /// The selected row of each column, from 0; 0 of a column without rows. An index beyond the
+    /// rows selects the last one, and is remembered until there are more rows or the user selects.
+    /// Columns beyond a shorter list keep their rows. A list with something else than whole numbers
+    /// from 0 is ignored with a warning.
     Q_PROPERTY(QList<double> currentIndexes READ currentIndexes WRITE setCurrentIndexes NOTIFY currentIndexesChanged FINAL)
     /// In points; a column without one, or with 0, gets an equal share.
     Q_PROPERTY(QList<double> columnWidths READ columnWidths WRITE setColumnWidths NOTIFY columnWidthsChanged FINAL)
     /// What a screen reader calls the columns.
     Q_PROPERTY(QStringList columnLabels READ columnLabels WRITE setColumnLabels NOTIFY columnLabelsChanged FINAL)
-    /// The role of a model that is shown; empty for its first one.
+    /// The role of the models that is shown, such as "name". Empty for the one that a model
+    /// displays; where it says none, it is the model's choice. A model without the role gives a
+    /// warning, and shows that one.
     Q_PROPERTY(QString textRole READ textRole WRITE setTextRole NOTIFY textRoleChanged FINAL)
 
 public:
@@ -59,21 +64,30 @@ protected:
 private:
     struct Column {
         double rows = 0;
+        bool isNumbered = false;
         QStringList titles;
         QPointer<QAbstractItemModel> model;
     };
     Column columnOf(const QVariant& description, qsizetype index) const;
     std::optional<std::string> titleOf(double row, NSInteger column) const;
+    /// Shows a changed property, then emits its signal.
+    void didChange(void (QuickColumnsItem::*changed)());
     void reload();
+    void warnOfRole();
+    void modelDidEnd(std::size_t column);
     void select();
+    bool takeSelectedRows();
     void userDidSelect();
     void applyName();
 
     QVariantList columns_;
     QList<double> currentIndexes_;
+    /// As they were last set or selected. Rows may come later.
+    QList<double> wantedIndexes_;
     QList<double> columnWidths_;
     QStringList columnLabels_;
     QString textRole_;
+    bool isRoleWarnedOf_ = false;
     std::vector<Column> read_;
     Ref<QuickColumns> wheel_;
 };
