@@ -27,6 +27,25 @@ Item {
         }
     }
 
+    Component {
+        id: weights
+
+        Flickable {
+            property alias picker: picker
+
+            width: 320
+            height: 216
+            contentHeight: 2000
+
+            WeightPicker {
+                id: picker
+
+                width: 320
+                value: 70
+            }
+        }
+    }
+
     TestCase {
         id: test
 
@@ -87,6 +106,26 @@ Item {
             mouseWheel(picker, 160, 108, 0, -120)
             tryCompare(picker, "value", 121)
             compare(flickable.contentY, 0)
+        }
+
+        function test_aNotchBesideTheColumnsScrolls_data() {
+            return [{ tag: "left edge", x: 5 }, { tag: "left", x: 60 }, { tag: "right", x: 300 }]
+        }
+        function test_aNotchBesideTheColumnsScrolls(data: var) {
+            const page = test.createTemporaryObject(weights, root)
+            waitForRendering(page.picker)
+            mouseWheel(page.picker, data.x, 108, 0, -120)
+            tryVerify(() => page.contentY > 0)
+            compare(page.picker.value, 70)
+        }
+
+        function test_withoutTheMouseWheelANotchOnAColumnScrolls() {
+            const page = test.createTemporaryObject(weights, root)
+            page.picker.wheelEnabled = false
+            waitForRendering(page.picker)
+            mouseWheel(page.picker, 160, 108, 0, -120)
+            tryVerify(() => page.contentY > 0)
+            compare(page.picker.value, 70)
         }
 
         function test_withLessMotionARowIsThereAtOnce() {
