@@ -4,6 +4,29 @@
 
 namespace gx::elements {
 
+/// A height picker in the looks of the style sheet, as all other pickers are: its font and colour,
+/// and rows and columns in proportion to it.
+///
+/// The base class has sizes of its own, and black texts. At the usual text size both are as large.
+class HeightWheel final : public GXHeightPickerView {
+public:
+    CGFloat pickerView_widthForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    CGFloat pickerView_rowHeightForComponent(const Ref<UIPickerView>& pickerView, NSInteger component) override;
+    Ref<NSAttributedString> styleString(std::optional<std::string> text) const override;
+
+protected:
+    Ref<UIFont> titleFont() override;
+
+private:
+    /// The style sheet's, or the largest that there is room for.
+    double scale() const;
+
+    // Made again when the style sheet's font or the scale has changed.
+    Ref<UIFont> fittedFont_;
+    Ref<UIFont> fittedFrom_;
+    double fittedScale_ = 0;
+};
+
 /// The height: centimetres in either unit.
 class HeightPropertyPicker final : public PropertyPicker {
 public:
@@ -18,7 +41,7 @@ public:
     void follow() { picker_->setHeightDelegate(WeakRef<GXHeightPickerViewDelegate>(refTo(this))); }
 
 private:
-    Ref<GXHeightPickerView> picker_ = create<GXHeightPickerView>(CGRectZero);
+    Ref<GXHeightPickerView> picker_ = create<HeightWheel>(CGRectZero);
 };
 
 } // namespace gx::elements

@@ -55,7 +55,8 @@ bool QuickControl::flag(const char* name, bool otherwise) const {
 
 QColor QuickControl::color(const char* role) const {
     if (control_) {
-        const QVariant color = QQmlProperty::read(control_, QStringLiteral("palette.") + QLatin1String(role), qmlContext(control_));
+        const QLatin1String group(isEnabled() ? "palette." : "palette.active.");
+        const QVariant color = QQmlProperty::read(control_, group + QLatin1String(role), qmlContext(control_));
         if (color.isValid()) return color.value<QColor>();
     }
     const QPalette palette = QGuiApplication::palette();

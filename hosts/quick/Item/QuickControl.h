@@ -31,6 +31,7 @@ public:
     QColor highlight() const { return color("highlight"); }
     QLocale locale() const;
     bool isMirrored() const;
+    bool isEnabled() const { return flag("enabled", true); }
     bool reducesMotion() const { return flag("reducedMotion", false); }
     bool takesWheel() const { return flag("wheelEnabled", true); }
     bool takesFocusByPress() const;
@@ -41,7 +42,8 @@ public:
 
 private:
     bool flag(const char* name, bool otherwise) const;
-    /// Of the palette.
+    /// Of the palette. That of an enabled control also when it is disabled: the item is dimmed as a
+    /// whole then.
     QColor color(const char* role) const;
     QFont font() const;
 

@@ -14,9 +14,10 @@ namespace gx::quick {
 
 namespace {
 
-// In points, at a text scale of 1: the frame that the pickers are made for.
-constexpr double usualWidth = 320;
+// In points, at a text scale of 1: what the pickers are made for.
 constexpr double usualHeight = 216;
+// Chosen: still legible. By it pictures are dimmed too, and in a style without disabled colours.
+constexpr double disabledOpacity = 0.4;
 
 /// For `QAccessible::installFactory`: the interfaces of controls whose content is an item of this
 /// module, nothing for other objects.
@@ -85,7 +86,8 @@ void QuickItem::follow() {
     window_->setAccessibilityContrast(looks.isHighContrast ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal);
     window_->setTintColor(UIColor::colorWithRed_green_blue_alpha(highlight.redF(), highlight.greenF(), highlight.blueF(), 1));
     const double scale = surroundings_.styleSheet()->textScale();
-    setImplicitSize(usualWidth * scale, usualHeight * scale);
+    setImplicitSize(usualWidth() * scale, usualHeight * scale);
+    setOpacity(control_.isEnabled() ? 1 : disabledOpacity);
     const QuickSurroundings::Visit here = visit();
     surroundingsDidChange(scale != scaleBefore);
 }

@@ -59,6 +59,8 @@ protected:
     /// Looks, language, direction or size have changed. Called in the item's surroundings; rows
     /// keep their height unless `isRowHeightChanged`.
     virtual void surroundingsDidChange(bool isRowHeightChanged) = 0;
+    /// The implicit width at a text scale of 1, in points: that of a phone.
+    virtual double usualWidth() const { return 320; }
     /// The control, also before it has the item; else the item.
     const QObject& owner() const { return control_.owner(*this); }
     /// A warning with the file and the line where the control is made.

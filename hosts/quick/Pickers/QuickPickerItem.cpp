@@ -4,12 +4,14 @@
 #include <cmath>
 #include <optional>
 
+#include <QMetaEnum>
 #include <QQmlFile>
 #include <QtQml>
 
 #include <GXUIPickers/UIImage.h>
 
 #include "PropertyPickerFactory.h"
+#include "QuickNumbers.h"
 
 namespace gx::quick {
 
@@ -36,11 +38,11 @@ bool isStep(Property property) {
            property == Property::SecondsStep;
 }
 
-/// The highest value of an enumeration; nothing for other properties.
-std::optional<double> highestOf(Property property) {
-    if (property == Property::Metric) return 1;
-    if (property == Property::WeightUnit) return WeightUnit::Stone;
-    if (property == Property::Layout) return DurationType::MinutesSeconds;
+/// The enumeration of a property; nothing for other properties.
+std::optional<QMetaObject> enumerationOf(Property property) {
+    if (property == Property::Metric) return UnitSystem::staticMetaObject;
+    if (property == Property::WeightUnit) return WeightUnit::staticMetaObject;
+    if (property == Property::Layout) return DurationType::staticMetaObject;
     return std::nullopt;
 }
 
@@ -86,9 +88,16 @@ bool QuickPickerItem::isTaken(Property property, double value) const {
         warn(QStringLiteral("%1 has to be a number. %2").arg(name, rest));
         return false;
     }
-    const std::optional<double> highest = highestOf(property);
-    if (highest && !(value >= 0 && value <= *highest)) {
-        warn(QStringLiteral("%1 has no such value. It stays as it is.").arg(name));
+    if (const std::optional<QMetaObject> enumeration = enumerationOf(property)) {
+        const QMetaEnum values = enumeration->enumerator(0);
+        if (values.valueToKey(static_cast<int>(value)) != nullptr) return true;
+        QStringList names;
+        for (int i = 0; i < values.keyCount(); ++i) names.append(QLatin1String(values.key(i)));
+        const QString type = QString::fromLatin1(enumeration->className()).section(QStringLiteral("::"), -1);
+        warn(QStringLiteral("%1: %2 is no %3, which has %4. It stays as it is.")
+                 .arg(name)
+                 .arg(value)
+                 .arg(type, names.join(QStringLiteral(", "))));
         return false;
     }
     if (isStep(property) && !(value > 0)) {
@@ -139,13 +148,21 @@ void QuickPickerItem::updatePolish() {
         const double lower = number(bounds.lower);
         const double upper = number(bounds.upper);
         if (!areCrossed(lower, upper)) continue;
-        warn(QStringLiteral("%1 (%2) is %5 %3 (%4). Only %2 can be chosen.")
+        const char* const relation = lower > upper ? "above" : "below";
+        const char* const reason = kind_ == Pace ? ", but from is the fastest pace, the largest speed" : "";
+        warn(QStringLiteral("%1 (%2) is %5 %3 (%4)%6. Only %2 can be chosen.")
                  .arg(QLatin1String(descriptions[indexOf(bounds.lower)].name))
                  .arg(lower)
                  .arg(QLatin1String(descriptions[indexOf(bounds.upper)].name))
                  .arg(upper)
-                 .arg(QLatin1String(lower > upper ? "above" : "below")));
+                 .arg(QLatin1String(relation), QLatin1String(reason)));
     }
+}
+
+/// A number of the picker for the application. Those that count are no floats.
+double QuickPickerItem::given(double value) const {
+    const bool isCount = kind_ == Integer || kind_ == Bpm || kind_ == Calories || kind_ == HeartRate || kind_ == Icon;
+    return isCount ? value : shortestOfFloat(value);
 }
 
 /// Reads what the picker has now, and emits the signals of what has changed.
@@ -156,8 +173,9 @@ void QuickPickerItem::refresh() {
         const std::optional<double> value = picker_->get(property);
         const std::optional<Bounds> bounds = boundsOf(property);
         const bool isCrossed = bounds && areCrossed(number(bounds->lower), number(bounds->upper));
-        if (!value || isCrossed || *value == values_[i]) continue;
-        values_[i] = *value;
+        // What the application has set stays as it is to the last digit.
+        if (!value || isCrossed || *value == values_[i] || given(*value) == values_[i]) continue;
+        values_[i] = given(*value);
         changed.set(i);
     }
     const QString text = QString::fromStdString(picker_->text());
@@ -248,7 +266,7 @@ void QuickPickerItem::componentComplete() {
     if (!isSet_.test(indexOf(Property::Metric))) values_[indexOf(Property::Metric)] = 1;
     isSet_.set(indexOf(Property::Metric));
     for (std::size_t i = 0; i < propertyCount; ++i) {
-        if (!isSet_.test(i)) values_[i] = picker_->get(static_cast<Property>(i)).value_or(0);
+        if (!isSet_.test(i)) values_[i] = given(picker_->get(static_cast<Property>(i)).value_or(0));
     }
     for (std::size_t i = 0; i < propertyCount; ++i) {
         if (isSet_.test(i)) apply(static_cast<Property>(i));

@@ -133,7 +133,7 @@ public:
 
     UnitSystem::Value unitSystem() const { return number(Property::Metric) != 0 ? UnitSystem::Metric : UnitSystem::Imperial; }
     void setUnitSystem(UnitSystem::Value value) {
-        setNumber(Property::Metric, value == UnitSystem::Metric ? 1 : value == UnitSystem::Imperial ? 0 : notTaken);
+        setNumber(Property::Metric, value == UnitSystem::Metric ? 1 : value == UnitSystem::Imperial ? 0 : value);
     }
     WeightUnit::Value weightUnit() const { return static_cast<WeightUnit::Value>(number(Property::WeightUnit)); }
     void setWeightUnit(WeightUnit::Value value) { setNumber(Property::WeightUnit, value); }
@@ -216,11 +216,11 @@ protected:
     void surroundingsDidChange(bool isRowHeightChanged) override;
     void componentComplete() override;
     void updatePolish() override;
+    /// Two pickers side by side need more, to show hours and minutes in the usual font; measured.
+    double usualWidth() const override { return kind_ == DistanceAndDuration ? 560 : QuickItem::usualWidth(); }
 
 private:
     static constexpr std::size_t propertyCount = static_cast<std::size_t>(Property::Count);
-    /// Of an enumeration: a number that is none of its values.
-    static constexpr double notTaken = -1;
     /// What a property is called in QML, and the signal of its changes.
     struct Description {
         const char* name;
@@ -231,6 +231,7 @@ private:
 
     bool isTaken(Property property, double value) const;
     bool areCrossed(double lower, double upper) const;
+    double given(double value) const;
     void apply(Property property);
     void applyIcons();
     void applyName();

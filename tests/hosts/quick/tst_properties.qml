@@ -203,7 +203,7 @@ Control {
         }
 
         function test_crossedPacesAreWarnedOf() {
-            ignoreWarning(/tst_properties.qml:\d+:\d+: QML PacePicker: from \(1\) is below to \(8\). Only 1 can be chosen/)
+            ignoreWarning(/tst_properties.qml:\d+:\d+: QML PacePicker: from \(1\) is below to \(8\), but from is the fastest pace, the largest speed. Only 1 can be chosen/)
             const picker = made(crossedPaces)
             compare([picker.from, picker.to, picker.value], [1, 8, 1])
             tryVerify(() => !isPolishScheduled(picker.contentItem))
@@ -226,9 +226,38 @@ Control {
             compare([WeightUnit.Kilogram, WeightUnit.Pound, WeightUnit.Stone], [0, 1, 2])
             compare([DurationType.HoursMinutes, DurationType.HoursMinutesSeconds, DurationType.MinutesSeconds], [0, 1, 2])
             const picker = made(distances)
-            ignoreWarning(/QML DistancePicker: unitSystem has no such value/)
+            ignoreWarning(/QML DistancePicker: unitSystem: 7 is no UnitSystem, which has Metric, Imperial\. It stays as it is\./)
             picker.unitSystem = 7
             compare(picker.unitSystem, UnitSystem.Metric)
+            ignoreWarning(/QML DurationPicker: type: 3 is no DurationType, which has HoursMinutes, HoursMinutesSeconds, MinutesSeconds\./)
+            createTemporaryQmlObject("import GXUIPickers\nDurationPicker { type: 3 }", root)
+            ignoreWarning(/QML WeightPicker: weightUnit: 9 is no WeightUnit, which has Kilogram, Pound, Stone\./)
+            createTemporaryQmlObject("import GXUIPickers\nWeightPicker { weightUnit: 9 }", root)
+        }
+
+        function test_aUsersValueHasTheDigitsOfAFloat() {
+            const height = createTemporaryQmlObject("import GXUIPickers\nHeightPicker { value: 177; unitSystem: UnitSystem.Imperial; reducedMotion: true }", root)
+            height.forceActiveFocus()
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Down)
+            tryCompare(height, "text", "5' 11\"")
+            tryCompare(height, "value", 180.34)
+            height.font.pixelSize = 30 // Makes the picker again.
+            compare(height.value, 180.34)
+            height.value = 180.33999633789062 // What an application sets stays as it is.
+            compare(height.value, 180.33999633789062)
+
+            const time = createTemporaryQmlObject("import GXUIPickers\nDurationPicker { value: 356389000; secondsStepSize: 1; type: DurationType.HoursMinutesSeconds; reducedMotion: true }", root)
+            time.forceActiveFocus()
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Down)
+            tryCompare(time, "value", 356390000)
+
+            const large = createTemporaryQmlObject("import GXUIPickers\nIntegerPicker { from: 123456780; to: 123456800; value: 123456783; reducedMotion: true }", root)
+            large.forceActiveFocus()
+            keyClick(Qt.Key_Down)
+            tryCompare(large, "value", 123456784)
         }
 
         function test_twoHeartRatesAreTwoValues() {
@@ -251,7 +280,7 @@ Control {
         function test_everyTypeCanBeMadeAndHasASize(data: var) {
             failOnWarning(/./)
             const picker = createTemporaryQmlObject("import GXUIPickers\n" + data.tag + " {}", root)
-            compare(picker.width, 320)
+            compare(picker.width, data.tag === "DistanceAndDurationPicker" ? 560 : 320)
             compare(picker.height, 216)
             waitForRendering(picker)
         }
