@@ -9,7 +9,8 @@
 - In the chapter about installing: project and commands, which `check_installing.cmake` runs, and the
   packages, which `scripts/packages try` installs.
 - In the README: its program and what that prints, which the consumer's tests build; commands, each of
-  which is a script that CI runs; and the page's element, which the tests in the browser have.
+  which is a script that CI runs; the page's element, which the tests in the browser have; and the
+  document of QML that `tst_reference.qml` shows.
 
 Prints each block that is none of these and exits with 1 if there is one.
 """
@@ -44,6 +45,8 @@ def is_known(name, language, block, example, first_of):
             return True  # A drawing of the folders.
         if language == "sh":
             return all(line.split()[0] in COMMANDS for line in block.splitlines() if line.strip())
+        if language == "qml":
+            return block == read("docs/examples/readme/Distance.qml")
         return language in ("cpp", "text", "html") and first_of[language]
     if name == "docs/guide/README.md":
         return language == "cmake" and first_of[language]

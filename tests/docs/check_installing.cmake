@@ -31,6 +31,16 @@ execute_process(COMMAND "${CMAKE_COMMAND}" -S "${root}" -B "${work}/from source"
 if(warnings MATCHES "not used by the project")
   message(FATAL_ERROR "${document} names options that are none:\n${warnings}")
 endif()
+# Those of the other commands need Qt, so they are looked up only.
+file(READ "${root}/cmake/GXOptions.cmake" known)
+string(REGEX MATCHALL "-DGX_[A-Z_]+=" named "${text}")
+foreach(option IN LISTS named)
+  string(REGEX REPLACE "-D(.*)=" "option(\\1 " option "${option}")
+  string(FIND "${known}" "${option}" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "${document} names an option that is none: ${option}")
+  endif()
+endforeach()
 
 file(READ "${chapter}" promises)
 function(check_output program)

@@ -259,8 +259,8 @@ bool QuickItem::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::KeyPress:
         return keyPressed(*static_cast<QKeyEvent*>(event)); // The type says so. NOLINT
-    case QEvent::Wheel:                                     // It was not used here. A control would take it from the page nevertheless.
-        event->ignore();
+    case QEvent::Wheel:
+        event->ignore(); // Not used here. The control would take it from the page nevertheless.
         return true;
     case QEvent::FocusIn:
         focusCame(static_cast<QFocusEvent*>(event)->reason()); // NOLINT

@@ -7,8 +7,8 @@
 
 namespace gx::quick {
 
-/// `UnitSystem.Metric`: kilometres, kilograms, degrees Celsius. `UnitSystem.Imperial`: miles,
-/// pounds, degrees Fahrenheit.
+/// `UnitSystem.Metric`: kilometres, centimetres, degrees Celsius. `UnitSystem.Imperial`: miles,
+/// feet and inches, degrees Fahrenheit. Weights have `WeightUnit`.
 namespace UnitSystem {
 Q_NAMESPACE
 QML_ELEMENT

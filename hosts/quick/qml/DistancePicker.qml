@@ -6,7 +6,7 @@ PickerControl {
     property alias value: item.value
     /// Metres. Default: 0.
     property alias from: item.from
-    /// Metres. A mile that is not whole within the range is not offered. Default: 300000.
+    /// Metres, exclusive. A mile that is not whole in the range is not offered. Default: 300000.
     property alias to: item.to
     /// Counts whole kilometres or miles. Default: 1.
     property alias stepSize: item.stepSize

@@ -7,7 +7,11 @@ import QtQuick.Templates as T
 ///
 /// - Each property has a signal for its changes, such as `onValueChanged`.
 /// - A value that is set is shown at once, and never calls `moved`.
-/// - Rows are as high as the font's pixel size needs, from 18 to 66 pixels.
+/// - Rows are as high as the font's pixel size needs, from 18 to 66 pixels. It is 22 until it is
+///   set on the picker itself.
+/// - `value` keeps what is set beyond the range, unless it says that it is clamped, while `text` is
+///   the row that is selected then.
+/// - A disabled picker is dimmed.
 T.Control {
     id: control
 

@@ -10,7 +10,7 @@ PickerControl {
     property alias to: item.to
     /// Has no effect: rows are a tenth apart. Default: 1.
     property alias stepSize: item.stepSize
-    /// Default: WeightUnit.Kilogram.
+    /// Changes when the user chooses another one. Default: WeightUnit.Kilogram.
     property alias weightUnit: item.weightUnit
     /// Default: false.
     property alias weightUnitSelectable: item.weightUnitSelectable

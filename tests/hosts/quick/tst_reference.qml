@@ -55,6 +55,19 @@ Item {
             compare(count > 1, data.tag !== "WheelPicker") // Lists and texts begin empty.
         }
 
+        function test_theReadmesDocumentShowsADistance() {
+            failOnWarning(/./)
+            const component = Qt.createComponent(Qt.resolvedUrl("../../../docs/examples/readme/Distance.qml"))
+            const picker = createTemporaryObject(component, root, { locale: Qt.locale("en_US"), reducedMotion: true })
+            verify(picker !== null, component.errorString())
+            compare(picker.text, "5.3 km")
+            picker.forceActiveFocus()
+            keyClick(Qt.Key_Right)
+            keyClick(Qt.Key_Down)
+            tryCompare(picker, "text", "5.4 km")
+            compare(picker.value, 5400)
+        }
+
         function test_examplesShowWhatTheySay() {
             failOnWarning(/./)
             const path = "docs/examples/reference/pickers.qml"
