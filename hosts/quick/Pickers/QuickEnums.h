@@ -12,6 +12,7 @@ namespace gx::quick {
 namespace UnitSystem {
 Q_NAMESPACE
 QML_ELEMENT
+QML_ADDED_IN_VERSION(0, 2)
 enum Value { Metric = 0, Imperial = 1 };
 Q_ENUM_NS(Value)
 } // namespace UnitSystem
@@ -20,6 +21,7 @@ Q_ENUM_NS(Value)
 namespace WeightUnit {
 Q_NAMESPACE
 QML_ELEMENT
+QML_ADDED_IN_VERSION(0, 2)
 enum Value { Kilogram = 0, Pound = 1, Stone = 2 };
 Q_ENUM_NS(Value)
 } // namespace WeightUnit
@@ -28,6 +30,7 @@ Q_ENUM_NS(Value)
 namespace DurationType {
 Q_NAMESPACE
 QML_ELEMENT
+QML_ADDED_IN_VERSION(0, 2)
 enum Value { HoursMinutes = 0, HoursMinutesSeconds = 1, MinutesSeconds = 2 };
 Q_ENUM_NS(Value)
 } // namespace DurationType

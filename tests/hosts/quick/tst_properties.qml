@@ -272,6 +272,17 @@ Control {
             compare(picker.currentAvgHeartRate, 140)
         }
 
+        function test_thereIsNothingBeforeVersion02() {
+            compare(createTemporaryQmlObject("import GXUIPickers 0.2\nBpmPicker { property int unit: UnitSystem.Imperial }", root).unit, 1)
+            let message = ""
+            try {
+                createTemporaryQmlObject("import GXUIPickers 0.1\nBpmPicker {}", root)
+            } catch (error) {
+                message = error.message
+            }
+            verify(/BpmPicker is not a type|not installed/.test(message), message)
+        }
+
         function test_everyTypeCanBeMadeAndHasASize_data() {
             return ["BpmPicker", "CaloriesPicker", "DistanceAndDurationPicker", "DistancePicker", "DurationPicker", "HeartRatePicker",
                     "HeightPicker", "IconPicker", "IntegerPicker", "PacePicker", "SpeedPicker", "TemperaturePicker",
