@@ -45,7 +45,47 @@ Ref<Picker> make() {
 
 using Values = std::vector<double>;
 
+/// 70 to 200 over 40 to 130, as one number: 120080 is 120/80.
+class PressurePicker : public GXBasePickerView {
+public:
+    NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>&) override { return 3; }
+    NSInteger pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) override {
+        return component == 1 ? 1 : component == 0 ? 131 : 91;
+    }
+    std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) override {
+        if (component == 1) return std::nullopt;
+        return std::to_string(row + (component == 0 ? 70 : 40));
+    }
+    void pickerView_didSelectRow_inComponent(const Ref<UIPickerView>& wheel, NSInteger, NSInteger) override {
+        const NSInteger number = (wheel->selectedRowInComponent(0) + 70) * 1000 + wheel->selectedRowInComponent(2) + 40;
+        setCurrentValue(NSNumber::numberWithInt(static_cast<int>(number)));
+        informDelegateOfValueChange();
+    }
+    void selectCurrentValue() override {
+        const NSInteger number = currentValue().integerValue();
+        pickerView()->selectRow_inComponent_animated(number / 1000 - 70, 0, false);
+        pickerView()->selectRow_inComponent_animated(number % 1000 - 40, 2, false);
+    }
+
+protected:
+    void didInitialize() override {
+        GXBasePickerView::didInitialize();
+        setCurrentValue(NSNumber::numberWithInt(120080));
+        pickerView()->setSeparatorText_afterComponent("/", 0);
+    }
+};
+
 } // namespace
+
+TEST(PickerKeys, TheSeparatorThatAPickerShowsGoesOnToItsNextColumn) {
+    Typed typed(make<PressurePicker>());
+    typed.window.type("124/79");
+    EXPECT_EQ(typed.told(), (Values{124080, 124079}));
+    EXPECT_EQ(typed.picker->currentValueText(), "124/79");
+    typed.window.press(Code::Left);
+    typed.window.type("118 76");
+    EXPECT_EQ(typed.told(), (Values{118079, 118076}));
+}
 
 TEST(PickerKeys, ADecimalSeparatorGoesOnToTheTenths) {
     const auto picker = make<GXDistancePickerView>();

@@ -139,7 +139,8 @@ bool UIPickerController::keyPressed(const UIKey& key) {
     case UIKey::Code::Character: {
         const std::u32string characters = UIPickerTyping::readableForm(key.characters);
         for (std::size_t i = 0; !key.isRepeat && i < characters.size(); ++i) typeSelect_.typeCharacter(characters[i], key.timestamp);
-        return !characters.empty();
+        if (!characters.empty()) return true;
+        return !key.isRepeat && UIPickerTyping::isBlank(key.characters) && typeSelect_.typeBlank(key.timestamp);
     }
     case UIKey::Code::Left:
     case UIKey::Code::Right: {

@@ -62,6 +62,7 @@ private:
     bool isHeld(NSInteger component) override { return components_.at(component).axis.isHeld(); }
     NSInteger rowCount(NSInteger component) override { return components_.at(component).rows; }
     std::optional<std::string> titleOfRow(NSInteger row, NSInteger component) override { return rows_.titleOfRow(row, component); }
+    std::optional<std::string> separatorTextAfter(NSInteger component) override { return owner_.separatorTextAfter(component); }
     NSInteger landingRow(NSInteger component) override { return components_.at(component).axis.landingRow(); }
     void spinToRow(NSInteger row, NSInteger component) override { components_.at(component).axis.spinToRow(row); }
     void startMoving() override;

@@ -46,6 +46,7 @@ public:
         return of(delegate).pickerView_accessibilityValueForRow_forComponent(self(), row, component);
     }
     Ref<UIFont> titleFont() override { return wheel.titleFont(); }
+    std::optional<std::string> separatorTextAfter(NSInteger component) override { return wheel.separatorTextAfterComponent(component); }
     NSInteger componentCount() override { return wheel.numberOfComponents(); }
     NSInteger selectedRow(NSInteger component) override { return wheel.selectedRowInComponent(component); }
     NSInteger announcedRow(NSInteger component) override { return wheel.announcedRowInComponent(component); }
@@ -293,8 +294,7 @@ void UIPickerView::finishAnimations() {
 
 void UIPickerView::didMoveToWindow() {
     UIView::didMoveToWindow();
-    // Without a window no time passes: what moves arrives.
-    if (!window()) finishAnimations();
+    if (!window()) finishAnimations(); // Without a window no time passes: what moves arrives.
 }
 
 } // namespace gx

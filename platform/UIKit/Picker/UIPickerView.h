@@ -96,8 +96,12 @@ public:
 /// - Up and Down move by a row, page keys by the visible rows less one, Home and End to the first
 ///   and last row. They count from the row that the column is on its way to, so none is lost.
 /// - Characters spin to the row whose title they spell, in any script's digits, and on to the next
-///   column: "12:05", "3.5", "5'9". A typed text is reported once, when it is complete: nothing can
-///   follow, a second has passed, or other input comes.
+///   column: "12:05", "3.5", "5'9", "120/80".
+/// - To the next column lead the decimal separator, the colon and, behind a number, a space and the
+///   first character of the separator that is shown there. A text that no title spells, such as
+///   "12x", takes the column back.
+/// - A typed text is reported once, when it is complete: nothing can follow, a second has passed,
+///   or other input comes.
 ///
 /// The pointer. The column below it that can be spun is marked faintly in the selection indicator
 /// and, once the mouse wheel or a drag has spun it, like that of the keys until the pointer leaves.
@@ -238,6 +242,10 @@ protected:
         static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(titleFontSize, UIFontWeight::Medium);
         return font;
     }
+
+    /// The separator that is shown behind a component, such as the "/" of 120/80, whose first
+    /// character leads on to the next column when it is typed. Here nothing.
+    virtual std::optional<std::string> separatorTextAfterComponent(NSInteger /*component*/) { return std::nullopt; }
 
 private:
     class Implementation;

@@ -158,6 +158,11 @@ Ref<UILabel> GXMultiValuePickerView::separatorAfterComponent(NSUInteger componen
     return nullptr;
 }
 
+std::optional<std::string> GXMultiValuePickerView::separatorTextAfterComponent(NSInteger component) {
+    const Ref<UILabel> label = separatorAfterComponent(static_cast<NSUInteger>(component));
+    return label ? label->text() : std::nullopt;
+}
+
 // Occasions to place the labels
 
 void GXMultiValuePickerView::setDelegate(WeakRef<UIPickerViewDelegate> delegate) {

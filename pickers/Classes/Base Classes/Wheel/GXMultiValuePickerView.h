@@ -73,6 +73,8 @@ public:
     /// Ignored, and not remembered, while the data source or the delegate is absent.
     virtual void setSeparatorText_afterComponent(std::optional<std::string> text, NSUInteger component);
     /// Nothing if none was set.
+    ///
+    /// Typing its text's first character behind a number goes on to the next column.
     Ref<UILabel> separatorAfterComponent(NSUInteger component) const;
 
     /// Place both labels and all separators, or one of them. Nothing happens without a data source
@@ -113,6 +115,8 @@ protected:
     /// What every way to set a delegate ends in, that of a plain wheel included: a subclass may
     /// override it.
     void setDelegate(WeakRef<UIPickerViewDelegate> delegate) override;
+    /// The text of that separator's label.
+    std::optional<std::string> separatorTextAfterComponent(NSInteger component) override;
 
 private:
     Ref<GXStyleSheetFont> labelFont() const;

@@ -38,6 +38,8 @@ public:
     // What subclasses of the wheel may override.
     /// Of rows with a title alone. Nothing leaves it to the label.
     virtual Ref<UIFont> titleFont() { return nullptr; }
+    /// What is shown behind a component. Nothing without a separator.
+    virtual std::optional<std::string> separatorTextAfter(NSInteger /*component*/) { return std::nullopt; }
     virtual NSInteger componentCount() = 0;
     virtual NSInteger selectedRow(NSInteger component) = 0;
     /// The row that a screen reader says. Here the selected one.

@@ -13,8 +13,43 @@ void UIPickerTypeSelect::typeCharacter(char32_t character, NSTimeInterval time) 
     if (component < 0 || wheel_.isHeld(component)) return;
     if (typing_.isIgnoring()) return typing_.ignoreFromTime(time);
     if (!typing_.isAtComponent(component)) complete();
-    if (UIPickerTyping::endsColumn(character) && typeSeparator(character, component, time)) return;
+    if (UIPickerTyping::endsColumn(character)) {
+        if (typeSeparator(character, component, time)) return;
+    } else if (!typing_.text().empty() && (character == U' ' || isShownBehind(character, component))) {
+        const bool isOfTitle = rowsSpelled(typing_.text() + character, component).canGrow;
+        if (!isOfTitle && goOnBehindText(component, false, time)) return;
+    }
     typeText(character, component, time);
+}
+
+bool UIPickerTypeSelect::typeBlank(NSTimeInterval time) {
+    const NSInteger component = wheel_.componentOfKeys();
+    if (component < 0 || wheel_.isHeld(component)) return false;
+    if (!typing_.isAtComponent(component) || typing_.text().empty() || typing_.isOverAt(time)) return false;
+    if (!rowsSpelled(typing_.text() + U' ', component).canGrow) return goOnBehindText(component, false, time);
+    typeText(U' ', component, time);
+    return true;
+}
+
+/// Whether the wheel's separator behind the column begins with the character. A digit is always
+/// one of the number.
+bool UIPickerTypeSelect::isShownBehind(char32_t character, NSInteger component) {
+    if (character >= U'0' && character <= U'9') return false;
+    const std::optional<std::string> separator = wheel_.separatorTextAfter(component);
+    return separator && UIPickerTyping::readableForm(*separator).substr(0, 1) == std::u32string(1, character);
+}
+
+/// Goes on to the next column, if there is one and the text so far is not that of no row, as the .5
+/// of 3.5 where rows begin at 30. Returns whether it did.
+bool UIPickerTypeSelect::goOnBehindText(NSInteger component, bool isFraction, NSTimeInterval time) {
+    const NSInteger next = wheel_.componentAfter(component);
+    const std::u32string text = typing_.text();
+    if (next < 0 || (!text.empty() && !rowsSpelled(text, component).row)) return false;
+    complete();
+    // Also a column of one row: what is typed next is meant for it.
+    wheel_.chooseComponent(next);
+    typing_.goOnToComponent_atTime(next, isFraction, time);
+    return true;
 }
 
 /// Returns whether the separator leads away from the column.
@@ -22,17 +57,9 @@ bool UIPickerTypeSelect::typeSeparator(char32_t separator, NSInteger component, 
     const std::u32string text = typing_.text();
     // A title may have one of its own, as 36.5 has after 36.
     if (!text.empty() && rowsSpelled(text + separator, component).canGrow) return false;
-    const NSInteger next = wheel_.componentAfter(component);
-    // As the .5 of 3.5, where rows begin at 30.
-    const bool isOfNothing = !text.empty() && !rowsSpelled(text, component).row;
-    if (next >= 0 && !isOfNothing) {
-        complete();
-        // Also a column of one row: what is typed next is meant for it.
-        wheel_.chooseComponent(next);
-        typing_.goOnToComponent_atTime(next, separator != U':', time);
-        return true;
-    }
+    if (goOnBehindText(component, separator != U':', time)) return true;
     // A title may begin with one, as .5 does in a column of tenths.
+    const bool isOfNothing = !text.empty() && !rowsSpelled(text, component).row;
     if (text.empty() || (!isOfNothing && rowsSpelled(std::u32string(1, separator), component).canGrow)) return false;
     complete();
     typing_.ignoreFromTime(time);

@@ -11,7 +11,8 @@ namespace gx {
 /// - Characters within a second (`UIPickerTyping::longestPause`) belong together. The column spins
 ///   while the user types and is reported once, when the text is complete.
 /// - A decimal separator or a colon that no title has at that place goes on to the next column, and
-///   a digit behind a complete tenth to the column right behind it.
+///   a digit behind a complete tenth to the column right behind it. So do, behind a text, a blank
+///   and the first character of the separator that the wheel shows there.
 /// - A text that no title spells takes the column back to the row it was on. What follows it, or
 ///   goes on beyond the last column, is ignored until a pause.
 ///
@@ -31,6 +32,8 @@ public:
         virtual bool isHeld(NSInteger component) = 0;
         virtual NSInteger rowCount(NSInteger component) = 0;
         virtual std::optional<std::string> titleOfRow(NSInteger row, NSInteger component) = 0;
+        /// What is shown behind the column; nothing without a separator.
+        virtual std::optional<std::string> separatorTextAfter(NSInteger /*component*/) { return std::nullopt; }
         /// The row that it is on, or on its way to.
         virtual NSInteger landingRow(NSInteger component) = 0;
         virtual void spinToRow(NSInteger row, NSInteger component) = 0;
@@ -48,6 +51,8 @@ public:
 
     /// A character in the form of `UIPickerTyping::readableForm`.
     void typeCharacter(char32_t character, NSTimeInterval time);
+    /// A blank by itself. Returns whether it was used: it goes on with a text that can go on.
+    bool typeBlank(NSTimeInterval time);
     /// The text is complete, and its column is reported once it has landed.
     void complete();
     /// The same, but the next report is left to others: a finger may go on, or the window ends all
@@ -59,6 +64,8 @@ public:
 
 private:
     bool typeSeparator(char32_t separator, NSInteger component, NSTimeInterval time);
+    bool isShownBehind(char32_t character, NSInteger component);
+    bool goOnBehindText(NSInteger component, bool isFraction, NSTimeInterval time);
     void typeText(char32_t character, NSInteger component, NSTimeInterval time);
     bool typeBehindComplete(char32_t character, NSInteger component, NSTimeInterval time);
     UIPickerTitleSearch::Result rowsSpelled(const std::u32string& text, NSInteger component);

@@ -33,7 +33,7 @@ constexpr char32_t zeros[] = {
     0x1BB0, 0x1C40, 0x1C50, 0xA620, 0xA8D0, 0xA900, 0xA9D0, 0xA9F0, 0xAA50, 0xABF0, 0xFF10,
 };
 
-bool isBlank(char32_t point) { return point == U' ' || (point >= U'\t' && point <= U'\r') || point == 0xA0 || point == 0x202F; }
+bool isBlankPoint(char32_t point) { return point == U' ' || (point >= U'\t' && point <= U'\r') || point == 0xA0 || point == 0x202F; }
 
 /// Marks that say in which direction a text runs, and show nothing.
 bool isDirectionMark(char32_t point) {
@@ -71,9 +71,18 @@ std::u32string UIPickerTyping::readableForm(std::string_view text) {
         const std::optional<char32_t> point = takeCodePoint(text);
         if (point && !isDirectionMark(*point)) form.push_back(readable(*point));
     }
-    while (!form.empty() && isBlank(form.back())) form.pop_back();
-    form.erase(form.begin(), std::find_if_not(form.begin(), form.end(), isBlank));
+    while (!form.empty() && isBlankPoint(form.back())) form.pop_back();
+    form.erase(form.begin(), std::find_if_not(form.begin(), form.end(), isBlankPoint));
     return form;
+}
+
+bool UIPickerTyping::isBlank(std::string_view text) {
+    if (text.empty()) return false;
+    while (!text.empty()) {
+        const std::optional<char32_t> point = takeCodePoint(text);
+        if (!point || !isBlankPoint(*point)) return false;
+    }
+    return true;
 }
 
 bool UIPickerTyping::endsColumn(char32_t character) {

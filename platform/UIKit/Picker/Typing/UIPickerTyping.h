@@ -23,6 +23,8 @@ public:
 
     /// A text (UTF-8) in that form. Bytes that are no UTF-8 are left out.
     static std::u32string readableForm(std::string_view text);
+    /// Whether a text (UTF-8) has blanks and nothing else, so that nothing is left of it.
+    static bool isBlank(std::string_view text);
     /// Whether a character of that form goes on to the next column: a decimal separator, also that
     /// of the current locale, or the colon of times.
     static bool endsColumn(char32_t character);

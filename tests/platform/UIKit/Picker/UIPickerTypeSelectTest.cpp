@@ -15,6 +15,7 @@ public:
     Calls calls;
     NSInteger chosen = 0;
     bool isHeldByFinger = false;
+    std::optional<std::string> separator;
 
     Calls takeCalls() { return std::move(calls); }
 
@@ -28,6 +29,7 @@ public:
     bool isHeld(NSInteger) override { return isHeldByFinger; }
     NSInteger rowCount(NSInteger) override { return 100; }
     std::optional<std::string> titleOfRow(NSInteger row, NSInteger) override { return std::to_string(row); }
+    std::optional<std::string> separatorTextAfter(NSInteger component) override { return component == 0 ? separator : std::nullopt; }
     NSInteger landingRow(NSInteger) override { return 50; }
     void spinToRow(NSInteger row, NSInteger component) override {
         calls.push_back("spin " + std::to_string(row) + " in " + std::to_string(component));
@@ -77,6 +79,52 @@ TEST_F(UIPickerTypeSelectTest, ASeparatorCompletesTheColumnAndChoosesTheNext) {
     EXPECT_EQ(wheel.takeCalls(), (Calls{"report", "choose 1"}));
     typeSelect.typeCharacter(U'5', 10.2);
     EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 1", "spin 5 in 1", "start"}));
+}
+
+TEST_F(UIPickerTypeSelectTest, TheFirstCharacterOfTheSeparatorShownThereChoosesTheNextColumn) {
+    wheel.separator = " / of";
+    typeSelect.typeCharacter(U'1', 10);
+    typeSelect.typeCharacter(U'2', 10.1);
+    wheel.takeCalls();
+    typeSelect.typeCharacter(U'/', 10.2);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"choose 1"})) << "12 is complete, and needs no report of its own";
+    typeSelect.typeCharacter(U'5', 10.3);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 1", "spin 5 in 1", "start"}));
+    typeSelect.typeCharacter(U'/', 10.4);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 1", "spin 50 in 1", "report", "start"})) << "none is shown behind this one";
+}
+
+TEST_F(UIPickerTypeSelectTest, ASeparatorShownThereLeadsOnFromATextAlone) {
+    wheel.separator = "-";
+    typeSelect.typeCharacter(U'-', 10);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 0", "start"})) << "it may begin a negative number";
+    wheel.separator = "2";
+    typeSelect.typeCharacter(U'1', 10);
+    typeSelect.typeCharacter(U'2', 10.1);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 0", "spin 1 in 0", "start", "finish all but 0", "spin 12 in 0", "start"}))
+        << "a digit belongs to the number";
+}
+
+TEST_F(UIPickerTypeSelectTest, ABlankBehindATextChoosesTheNextColumn) {
+    EXPECT_FALSE(typeSelect.typeBlank(10)) << "nothing is typed yet";
+    typeSelect.typeCharacter(U'1', 10);
+    wheel.takeCalls();
+    EXPECT_TRUE(typeSelect.typeBlank(10.5));
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"report", "choose 1"}));
+    EXPECT_FALSE(typeSelect.typeBlank(10.6)) << "nor in the next column";
+    typeSelect.typeCharacter(U'5', 10.7);
+    EXPECT_EQ(wheel.takeCalls(), (Calls{"finish all but 1", "spin 5 in 1", "start"}));
+    EXPECT_FALSE(typeSelect.typeBlank(10.8)) << "no column follows";
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
+}
+
+TEST_F(UIPickerTypeSelectTest, ABlankAfterAPauseOrBelowAFingerIsNotUsed) {
+    typeSelect.typeCharacter(U'1', 10);
+    wheel.takeCalls();
+    EXPECT_FALSE(typeSelect.typeBlank(11.1));
+    wheel.isHeldByFinger = true;
+    EXPECT_FALSE(typeSelect.typeBlank(10.5));
+    EXPECT_EQ(wheel.takeCalls(), Calls{});
 }
 
 TEST_F(UIPickerTypeSelectTest, ATextThatNoTitleSpellsGoesBackAndIsIgnoredUntilAPause) {

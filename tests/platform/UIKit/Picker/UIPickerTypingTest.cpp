@@ -37,6 +37,15 @@ TEST(UIPickerTyping, FirstAndLastLettersOfAnAlphabetAreLowerCaseAndTheirNeighbou
     EXPECT_EQ(UIPickerTyping::readableForm("ЀЏАЯ\u03FFа"), U"ѐџая\u03FFа");
 }
 
+TEST(UIPickerTyping, ATextOfBlanksAloneIsBlank) {
+    EXPECT_TRUE(UIPickerTyping::isBlank(" "));
+    EXPECT_TRUE(UIPickerTyping::isBlank("\t\u00A0\u202F")) << "also those that do not break a line";
+    EXPECT_FALSE(UIPickerTyping::isBlank(""));
+    EXPECT_FALSE(UIPickerTyping::isBlank(" 5"));
+    EXPECT_FALSE(UIPickerTyping::isBlank("\u200E")) << "a mark of direction";
+    EXPECT_FALSE(UIPickerTyping::isBlank("\xC2")) << "no UTF-8";
+}
+
 TEST(UIPickerTyping, BlanksAroundATextAndMarksOfDirectionAreLeftOut) {
     EXPECT_EQ(UIPickerTyping::readableForm("  fl oz\u00A0"), U"fl oz");
     EXPECT_EQ(UIPickerTyping::readableForm("\u200E\u06614\u061C"), U"14");

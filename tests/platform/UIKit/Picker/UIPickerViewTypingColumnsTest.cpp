@@ -21,6 +21,38 @@ TEST_F(UIPickerViewKeysTimes, AColonGoesOnToTheNextColumn) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}, {30, 1}}));
 }
 
+TEST_F(UIPickerViewKeysTimes, ASpaceBehindANumberGoesOnToTheNextColumn) {
+    EXPECT_TRUE(window.type("4 30"));
+    EXPECT_FALSE(window.typeCharacter(" ")) << "no column follows, so it is passed up";
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {30, 1}}));
+    window.press(Code::Left);
+    EXPECT_TRUE(window.typeCharacter("12 34")) << "as one key";
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {30, 1}, {12, 0}, {34, 1}}));
+}
+
+TEST_F(UIPickerViewKeys, ASpaceBehindANumberThatDoesNotExistIsPassedUp) {
+    source->title = [](NSInteger row, NSInteger) { return std::to_string(row + 50); };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    EXPECT_TRUE(window.typeCharacter("6"));
+    EXPECT_FALSE(window.typeCharacter(" "));
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
+}
+
+TEST_F(UIPickerViewKeys, ASpaceOfATitleStaysInItsColumn) {
+    source->rows = {3, 10};
+    source->title = [](NSInteger row, NSInteger component) {
+        return component == 0 ? std::vector<std::string>{"5 km", "5 mi", "6 km"}[static_cast<std::size_t>(row)] : std::to_string(row);
+    };
+    wheel->reloadAllComponents();
+    window.tick(0);
+    EXPECT_TRUE(window.type("5 m"));
+    window.run(2);
+    EXPECT_EQ(source->notices, (Notices{{1, 0}}));
+}
+
 TEST_F(UIPickerViewKeysThreeColumns, ADecimalSeparatorGoesOnToTheNextColumnThatShowsSomething) {
     source->title = [](NSInteger row, NSInteger component) -> std::optional<std::string> {
         if (component == 1) return std::nullopt;
