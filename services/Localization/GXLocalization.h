@@ -22,8 +22,9 @@ class GXLanguage;
 ///     distancePicker->reloadData();
 ///
 /// An application with translations of its own overrides the `virtual` operations and calls
-/// `setSharedLocalization`. Without one, and until a host sets the language, the texts are English
-/// and equal to their keys.
+/// `setSharedLocalization`. Without one, and until the application sets the language, the texts are
+/// English and equal to their keys: the host of Qt widgets sets the locale alone. Items of Qt Quick
+/// and elements of a web page follow their own language.
 class GX_EXPORT GXLocalization : public NSObject {
 public:
     GXLocalization();

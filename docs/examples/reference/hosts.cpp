@@ -18,7 +18,8 @@ TEST(ReferenceExamples, Hosts) {
     char* arguments[] = {name, nullptr};
     // [qt::QtHostOptions qt::QtFontLoading]
     /// - Call `installQtHost` after the application object was made and before the first view.
-    /// - The language is read once: it does not follow a change while the application runs.
+    /// - The locale is read once: it does not follow a change while the application runs.
+    /// - It is no language: set that of the texts by `GXLocalization::setLanguage`.
     /// - Without a font, offscreen pictures have wrong widths and no message: load one.
     QApplication application(count, arguments);
     qt::QtHostOptions options;

@@ -25,9 +25,11 @@ struct QtHostOptions {
 /// Makes a Qt application the library's host: call it once, after the application object was made
 /// and before the first view.
 ///
-/// - Supports: text, pictures, the user's language, decimal separator and writing direction, screen
-///   readers, and passes of the run loop, one in each pass of Qt's event loop.
-/// - Does not support: a language that changes while the application runs.
+/// - Supports: text, pictures, the user's decimal separator and writing direction, screen readers,
+///   and passes of the run loop, one in each pass of Qt's event loop.
+/// - Does not support: the language of the texts, which the application gives to
+///   `GXLocalization::setLanguage` before the first picker, and a locale that changes while the
+///   application runs.
 ///
 /// When the application object is destroyed, the library is without a host again.
 GX_EXPORT void installQtHost(QGuiApplication& application, const QtHostOptions& options = {});
