@@ -7,8 +7,7 @@
 using namespace gx;
 
 /// Receives what the user picks.
-class Run : public NSObject, public GXBasePickerViewDelegate {
-public:
+struct Run : GXBasePickerViewDelegate {
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>& picker, const NSNumber& metres, NSInteger) override {
         std::cout << "the user picked " << metres.doubleValue() << " metres: " << picker->currentValueText() << "\n";
     }
@@ -20,7 +19,7 @@ int main() {
     picker->setMinValue(NSNumber::numberWithInt(0));
     picker->setMaxValue(NSNumber::numberWithInt(100000)); // 100 km. The last row lies below it.
 
-    const auto run = create<Run>();
+    const auto run = std::make_shared<Run>();
     picker->setDelegate(run); // Held weakly: keep the delegate.
 
     picker->setCurrentValue(NSNumber::numberWithInt(5300)); // No call of the delegate.

@@ -42,8 +42,7 @@ protected:
 };
 
 /// Receives what the user picks.
-class Swim : public NSObject, public GXBasePickerViewDelegate {
-public:
+struct Swim : GXBasePickerViewDelegate {
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber& laps, NSInteger) override {
         std::cout << laps.integerValue() << " laps\n";
     }
@@ -51,7 +50,7 @@ public:
 
 int main() {
     const auto cell = create<LapsPickerCell>(UITableViewCellStyleDefault, LapsPickerCell::cellIdentifier());
-    const auto swim = create<Swim>(); // The picker holds its delegate weakly.
+    const auto swim = std::make_shared<Swim>(); // The picker holds its delegate weakly.
     cell->pickerView()->setDelegate(swim);
 
     const Ref<GXMultiValuePickerView> wheel = cell->pickerView()->pickerView();

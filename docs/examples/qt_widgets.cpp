@@ -16,7 +16,7 @@
 using namespace gx;
 
 /// Shows in a label what the user picks.
-class LabelUpdate : public NSObject, public GXBasePickerViewDelegate {
+class LabelUpdate : public GXBasePickerViewDelegate {
 public:
     explicit LabelUpdate(QLabel& label) : label_(label) {}
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>& picker, const NSNumber&, NSInteger) override {
@@ -27,9 +27,33 @@ private:
     QLabel& label_;
 };
 
+/// Shows a picker in the largest fonts with which nothing of it is cut.
+class PickerWidget : public qt::UIViewWidget {
+public:
+    explicit PickerWidget(const Ref<GXBasePickerView>& picker) : picker_(picker) {
+        setRootView(picker);      // The view's frame becomes the size hint.
+        setMinimumSize(240, 132); // Without one a layout may make it smaller than its texts.
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        UIViewWidget::resizeEvent(event); // Gives the picker its frame.
+        picker_->sizeFontsToFit();
+    }
+
+private:
+    Ref<GXBasePickerView> picker_;
+};
+
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    qt::installQtHost(application); // Once, before the first view.
+    // Once, before the first view: the decimal separator and the direction of the user's locale.
+    qt::QtHostOptions options;
+    const QLocale locale = QLocale::system();
+    options.locale = locale;
+    qt::installQtHost(application, options);
+    // The language of the texts is the application's.
+    GXLocalization::sharedLocalization()->setLanguage(locale.name().toStdString());
 
     const auto picker = create<GXTemperaturePickerView>(CGRectMake(0, 0, 320, 216));
     picker->setIsMetric(true);
@@ -40,9 +64,8 @@ int main(int argc, char** argv) {
     QDialog dialog;
     auto* const layout = new QVBoxLayout(&dialog);
     auto* const label = new QLabel(QString::fromStdString(picker->currentValueText()));
-    auto* const widget = new qt::UIViewWidget; // Owned by the layout's dialog, like every widget.
+    auto* const widget = new PickerWidget(picker); // Owned by the dialog.
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    widget->setRootView(picker); // The view's frame becomes the size hint.
     layout->addWidget(label);
     layout->addWidget(widget, 1);
     layout->addWidget(buttons);

@@ -8,8 +8,7 @@
 using namespace gx;
 
 /// What is to be tested: a form that keeps the weight as a text.
-class WeightForm : public NSObject, public GXBasePickerViewDelegate {
-public:
+struct WeightForm : GXBasePickerViewDelegate {
     WeightForm() { picker->setCurrentValue(NSNumber::numberWithInt(70)); }
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber&, NSInteger) override {
         text = picker->currentValueText();
@@ -32,7 +31,7 @@ void expect(bool condition, const char* what) {
 } // namespace
 
 int main() {
-    const auto form = create<WeightForm>();
+    const auto form = std::make_shared<WeightForm>();
     form->picker->setDelegate(form);
 
     // Shortest: what any gesture ends in. Row 57 of the whole kilograms is 72, as they begin at 15.
