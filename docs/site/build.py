@@ -126,7 +126,7 @@ def write(folder, arguments):
     findings += links.check_site(folder)
     old = sorted(name for name in wanted if drawn and name.endswith(".png") and name not in drawn)
     for name in old:
-        print(f"not drawn by this run, the repository's own is shown: {name}")
+        print(f"the picture of the repository, which the gallery does not draw: {name}")
     print(f"{len(written)} pages, {len(api.classes)} classes, {len(module.types)} types of QML, {len(wanted)} pictures of documents, {len(of_class)} classes and types with pictures")
     return findings
 
