@@ -51,8 +51,10 @@ protected:
     }
 
 private:
-    static constexpr NSInteger upper = 0, lower = 2;
-    static constexpr NSInteger lowestUpper = 70, lowestLower = 40;
+    static constexpr NSInteger upper = 0;
+    static constexpr NSInteger lower = 2;
+    static constexpr NSInteger lowestUpper = 70;
+    static constexpr NSInteger lowestLower = 40;
 };
 
 /// Receives what the user picks.
