@@ -16,8 +16,7 @@ const CGRect frame = CGRectMake(0, 0, 320, 216);
 /// - Nothing is clamped: a value outside the range is kept, and selects a row that is not there.
 /// - The maximum is exclusive: the last row lies below it.
 /// - Setters never call the delegate, gestures always do.
-class Log : public NSObject, public GXBasePickerViewDelegate {
-public:
+struct Log : GXBasePickerViewDelegate {
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>& sender, const NSNumber& value, NSInteger) override {
         from = sender;
         picked = value;
@@ -32,7 +31,7 @@ TEST(ReferenceExamples, Bases) {
     const auto floors = create<GXBasePickerView>(frame);
     floors->setMinValue(NSNumber::numberWithInt(-2));
     floors->setMaxValue(NSNumber::numberWithInt(13));
-    const auto log = create<Log>();
+    const auto log = std::make_shared<Log>();
     floors->setDelegate(log);
     floors->setCurrentValue(NSNumber::numberWithInt(3));
     EXPECT_EQ(floors->currentValueText(), "3");
@@ -101,8 +100,7 @@ TEST(ReferenceExamples, Durations) {
 ///   `currentMaxHeartRate`.
 /// - A new bound or step selects `currentValue` again: set the rates afterwards.
 /// - 0 is "no value", not a rate.
-class Rates : public NSObject, public GXHeartRatePickerViewDelegate {
-public:
+struct Rates : GXHeartRatePickerViewDelegate {
     void pickerView_didChangeCurrentValue_forComponent(const Ref<GXBasePickerView>&, const NSNumber& rate, NSInteger component) override {
         (component == 0 ? average : maximum) = rate.integerValue();
     }
@@ -114,7 +112,7 @@ public:
 TEST(ReferenceExamples, HeartRates) {
     // [GXHeartRatePickerView GXHeartRatePickerViewDelegate]
     const auto picker = create<GXHeartRatePickerView>(frame);
-    const auto rates = create<Rates>();
+    const auto rates = std::make_shared<Rates>();
     picker->setDelegate(rates);
     picker->setMinimumGapBetweenAvgAndMax(NSNumber::numberWithInt(5));
     picker->pickerView()->turnToRow_inComponent(145, 0); // 25 + 145 beats on average …
@@ -127,8 +125,7 @@ TEST(ReferenceExamples, HeartRates) {
 /// - It is itself a wheel: leave its data source and delegate alone, and set `heightDelegate`.
 /// - Switching the unit is a selection: 180 cm become 5 feet 11 inches, and with that 180.34 cm.
 /// - The unit's row is selected in a later pass of the run loop.
-class Height : public NSObject, public GXHeightPickerViewDelegate {
-public:
+struct Height : GXHeightPickerViewDelegate {
     void heightPickerView_didSelectHeightInCm_metric(const Ref<GXHeightPickerView>&, CGFloat height, bool) override {
         centimetres = height;
     }
@@ -139,7 +136,7 @@ public:
 TEST(ReferenceExamples, Heights) {
     // [GXHeightPickerView GXHeightPickerViewDelegate]
     const auto picker = create<GXHeightPickerView>(frame);
-    const auto height = create<Height>();
+    const auto height = std::make_shared<Height>();
     picker->setHeightDelegate(height);
     picker->setIsMetric(true);
     picker->setHeightInCm(176);
@@ -224,7 +221,7 @@ TEST(ReferenceExamples, DistancesAndDurations) {
     /// - After `setDelegate` the sender is the inner picker, and the component is 0 for both.
     /// - Large texts may stack the wheels: give it the height of `smallestHeightForWidth`.
     const auto picker = create<GXDistanceAndDurationPicker>(frame);
-    const auto log = create<Log>();
+    const auto log = std::make_shared<Log>();
     picker->setDelegate(log);
     picker->setIsMetric(true);
     picker->durationPicker()->setCurrentValue(NSNumber::numberWithInt(27 * 60 * 1000));

@@ -132,6 +132,8 @@ void UIPickerController::chooseComponent(NSInteger component) {
 
 bool UIPickerController::keyPressed(const UIKey& key) {
     const bool isTyped = key.code == UIKey::Code::Character && !key.isCommand();
+    const bool isBlank = key.code == UIKey::Code::Space || (isTyped && UIPickerTyping::isBlank(key.characters));
+    if (isBlank && !key.isCommand() && !key.isRepeat && typeSelect_.typeBlank(key.timestamp)) return true;
     if (!isTyped) completeTyping();
     const NSInteger component = componentOfKeys();
     if (component < 0 || key.isCommand()) return false;
@@ -139,8 +141,7 @@ bool UIPickerController::keyPressed(const UIKey& key) {
     case UIKey::Code::Character: {
         const std::u32string characters = UIPickerTyping::readableForm(key.characters);
         for (std::size_t i = 0; !key.isRepeat && i < characters.size(); ++i) typeSelect_.typeCharacter(characters[i], key.timestamp);
-        if (!characters.empty()) return true;
-        return !key.isRepeat && UIPickerTyping::isBlank(key.characters) && typeSelect_.typeBlank(key.timestamp);
+        return !characters.empty();
     }
     case UIKey::Code::Left:
     case UIKey::Code::Right: {

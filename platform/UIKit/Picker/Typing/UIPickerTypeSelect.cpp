@@ -23,9 +23,9 @@ void UIPickerTypeSelect::typeCharacter(char32_t character, NSTimeInterval time) 
 }
 
 bool UIPickerTypeSelect::typeBlank(NSTimeInterval time) {
+    if (typing_.text().empty() || typing_.isOverAt(time)) return false;
     const NSInteger component = wheel_.componentOfKeys();
-    if (component < 0 || wheel_.isHeld(component)) return false;
-    if (!typing_.isAtComponent(component) || typing_.text().empty() || typing_.isOverAt(time)) return false;
+    if (component < 0 || wheel_.isHeld(component) || !typing_.isAtComponent(component)) return false;
     if (!rowsSpelled(typing_.text() + U' ', component).canGrow) return goOnBehindText(component, false, time);
     typeText(U' ', component, time);
     return true;

@@ -32,6 +32,25 @@ TEST_F(UIPickerViewKeysTimes, ASpaceBehindANumberGoesOnToTheNextColumn) {
     EXPECT_EQ(source->notices, (Notices{{4, 0}, {30, 1}, {12, 0}, {34, 1}}));
 }
 
+TEST_F(UIPickerViewKeysTimes, TheSpaceKeyGoesOnToTheNextColumnWhileANumberIsTyped) {
+    EXPECT_FALSE(window.press(Code::Space)) << "nothing is typed";
+    window.type("4");
+    EXPECT_FALSE(window.press(Code::Space, UIKey::Control)) << "a command";
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
+    window.run(1.5);
+    window.type("5");
+    EXPECT_TRUE(window.press(Code::Space));
+    window.type("30");
+    EXPECT_FALSE(window.press(Code::Space)) << "no column follows";
+    window.runUntilStill();
+    EXPECT_EQ(source->notices, (Notices{{4, 0}, {5, 0}, {30, 1}}));
+    window.press(Code::Left);
+    window.type("7");
+    window.run(1.5);
+    EXPECT_FALSE(window.press(Code::Space)) << "after a pause";
+    EXPECT_EQ(wheel->componentOfKeys(), 0);
+}
+
 TEST_F(UIPickerViewKeys, ASpaceBehindANumberThatDoesNotExistIsPassedUp) {
     source->title = [](NSInteger row, NSInteger) { return std::to_string(row + 50); };
     wheel->reloadAllComponents();
