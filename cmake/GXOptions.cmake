@@ -12,11 +12,11 @@ option(GX_LANGUAGES_ON_DEMAND "Compile English alone in; other languages are add
 option(GX_PACKAGES "Make packages of this build by cpack, the gallery among them" OFF)
 option(GX_BARE "Build without RTTI and exceptions; code that uses the library is compiled so too" OFF)
 
-# For those who work on the library. The presets dev, sanitize, ci and fuzz turn them on; a plain
-# build never does.
+# For those who work on the library, turned on by presets.
 option(GX_WARNINGS_AS_ERRORS "Refuse code that compiles with warnings" OFF)
 option(GX_PRECOMPILE_HEADERS "Precompile what most sources include" OFF)
 option(GX_ROOMS_AS_UNITS "Compile each folder as one unit" OFF)
+set(GX_COMPILED_ALONE "" CACHE STRING "With GX_ROOMS_AS_UNITS, the libraries whose sources are compiled one by one")
 option(GX_LIBRARIES_AS_UNITS "With GX_ROOMS_AS_UNITS, compile each library as one unit" OFF)
 option(GX_DESCRIBE_TYPES "Describe the types of libraries for scripts/abi" OFF)
 option(GX_TESTS_AS_UNITS "Compile several tests as one unit" OFF)

@@ -4,8 +4,9 @@
 # - GX_ROOMS_AS_UNITS: one unit for each room.
 # - GX_LIBRARIES_AS_UNITS too: one for the whole target, or for each name that a folder gives in
 #   GX_UNIT. clang-tidy reads the standard library once for each unit.
+# - The sources of a target in GX_COMPILED_ALONE stay alone, which shows what they do not include.
 function(gx_compile_as_unit target room)
-  if(GX_ROOMS_AS_UNITS)
+  if(GX_ROOMS_AS_UNITS AND NOT target IN_LIST GX_COMPILED_ALONE)
     if(GX_LIBRARIES_AS_UNITS)
       set(room "${GX_UNIT}")
     endif()
