@@ -3,6 +3,7 @@
 #include <GXUIPickers/GXUIPickers.h>
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 using namespace gx;
@@ -130,6 +131,17 @@ protected:
 };
 // [UIGraphicsContext]
 
+// [UIDrawingVersion]
+/// - `setNeedsDisplay` replaces both numbers of a view, and `tree` of the views above it. A view
+///   that draws what another one knows has to be invalidated with that.
+/// - Only canvases compare versions. One that does not gets every call of every view.
+class RememberingCanvas : public CountingCanvas {
+public:
+    std::uint64_t shown = 0;
+    bool beginView(const UIDrawingVersion& version, CGPoint, double) override { return version.tree == std::exchange(shown, version.tree); }
+};
+// [UIDrawingVersion]
+
 TEST(ReferenceExamples, Canvases) {
     // [UIGraphicsContext]
     const auto label = create<UILabel>(CGRectMake(0, 0, 100, 20));
@@ -138,6 +150,20 @@ TEST(ReferenceExamples, Canvases) {
     label->renderInContext(canvas);
     EXPECT_EQ(canvas.texts, 1);
     // [UIGraphicsContext]
+}
+
+TEST(ReferenceExamples, DrawingVersions) {
+    // [UIDrawingVersion]
+    const auto label = create<UILabel>(CGRectMake(0, 0, 100, 20));
+    label->setText("5.3 km");
+    RememberingCanvas canvas;
+    label->renderInContext(canvas);
+    label->renderInContext(canvas); // Looks the same, and is not drawn.
+    EXPECT_EQ(canvas.texts, 1);
+    label->setText("5.4 km");
+    label->renderInContext(canvas);
+    EXPECT_EQ(canvas.texts, 2);
+    // [UIDrawingVersion]
 }
 
 } // namespace

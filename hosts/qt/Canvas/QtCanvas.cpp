@@ -61,9 +61,9 @@ void QtCanvas::begin(QPainter& painter) {
     paintedClip_ = state_.clip;
 }
 
-void QtCanvas::begin(QtFrame& frame, const QTransform& device) {
+void QtCanvas::begin(QtFrame& frame, const QTransform& device, QtFrame* before) {
     frame_ = &frame;
-    frame.begin(device);
+    frame.begin(device, before);
     beginState(device);
     state_.clip = everywhere;
     if (!isPlain(device)) frame.markIncomplete();
@@ -106,13 +106,11 @@ void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& 
     takePainter(painter);
     paintedClip_ = everywhere;
     for (const QtPiece& piece : frame.pieces()) {
-        if (piece.visibleArea().intersects(area)) paint(piece);
+        if (piece.visible.intersects(area)) paint(piece);
     }
     painter.restore();
     painter_ = nullptr;
 }
-
-void QtCanvas::saveState() { saved_.push_back(state_); }
 
 void QtCanvas::restoreState() {
     if (saved_.empty()) return;

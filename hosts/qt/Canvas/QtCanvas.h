@@ -43,8 +43,9 @@ public:
     /// Starts a frame with the painter's transform and the bounding rectangle of its clip. The
     /// painter must live until `end`, and nothing else may draw with it meanwhile.
     void begin(QPainter& painter);
-    /// Starts a frame that is recorded, for a device with this transform, and not painted.
-    void begin(QtFrame& frame, const QTransform& device);
+    /// Starts a frame that is recorded, for a device with this transform, and not painted. Views
+    /// that draw the same as in the frame before, if one is given, are taken out of it.
+    void begin(QtFrame& frame, const QTransform& device, QtFrame* before = nullptr);
     /// Gives the painter back as it was, or ends the recording.
     void end();
     /// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps
@@ -54,12 +55,18 @@ public:
     /// must be the frame's, and its clip is kept.
     void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area);
 
-    void saveState() override;
+    void saveState() override { saved_.push_back(state_); }
     void restoreState() override;
     void translate(CGFloat x, CGFloat y) override;
     void scale(CGFloat x, CGFloat y) override;
     void clipToRect(CGRect rect) override;
     void multiplyAlpha(double alpha) override;
+    bool beginView(const UIDrawingVersion& version, CGPoint origin, double alpha) override {
+        return frame_ && frame_->beginView(version, state_.at(origin, alpha), textBytes_);
+    }
+    void endView() override {
+        if (frame_) frame_->endView(textBytes_);
+    }
 
 protected:
     void fillRectWithComponents(CGRect rect, const UIColorComponents& color, CGFloat cornerRadius) override;
@@ -67,16 +74,6 @@ protected:
     void drawImageInRect(const UIImage& image, CGRect rect) override;
 
 private:
-    /// Maps points to device pixels.
-    struct State {
-        double scaleX = 1;
-        double scaleY = 1;
-        double x = 0;
-        double y = 0;
-        double alpha = 1;
-        QRect clip;
-    };
-
     void beginState(const QTransform& device);
     void takePainter(QPainter& painter);
     QRectF mapped(CGRect rect) const;
@@ -97,8 +94,8 @@ private:
     QtImageScaler scaler_;
     QtFrame* frame_ = nullptr; // In place of the painter.
     double baseScale_ = 1;     // Device pixels for a point at the frame's start.
-    State state_;
-    std::vector<State> saved_;
+    QtDrawingState state_;
+    std::vector<QtDrawingState> saved_;
     QRect paintedClip_;       // What the painter clips to now.
     double paintedAlpha_ = 1; // The painter's opacity now.
     std::size_t textBytes_ = 0;

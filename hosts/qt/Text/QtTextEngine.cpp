@@ -79,6 +79,7 @@ void QtTextEngine::setInterfaceFamily(std::string family) {
     if (family == interfaceFamily_) return;
     interfaceFamily_ = std::move(family);
     purge();
+    measuresDidChange();
 }
 
 void QtTextEngine::purge() {

@@ -14,7 +14,7 @@ void QtRepaint::frameDidChange(QWidget& widget, UIWindowInput& window) {
     isPresent_ = false;
     if (!widget.isVisible() || !device_) return widget.update();
     isPresent_ = true; // Unless the views change something while they draw.
-    canvas_.begin(next_, *device_);
+    canvas_.begin(next_, *device_, &shown_);
     window.draw(canvas_);
     canvas_.end();
     std::swap(shown_, next_);

@@ -16,8 +16,11 @@ namespace gx::qt {
 /// Has a widget painted where its views look different, and nowhere else.
 ///
 /// After each tick the views draw into a recorded frame, which is compared with the one before; the
-/// widget's next paint event paints that frame. So views draw once a frame, whatever is painted,
-/// and no view has to say what it changes.
+/// widget's next paint event paints that frame.
+///
+/// - A view draws once a frame, whatever is painted, and only if it or one around it was
+///   invalidated; the others are taken over.
+/// - No view has to say which part of it has changed.
 ///
 /// Invariant: while frames are comparable, the screen shows the present one, but for what is still
 /// to be painted. Where that is not known, everything is painted.

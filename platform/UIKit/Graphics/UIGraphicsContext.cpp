@@ -2,6 +2,15 @@
 
 namespace gx {
 
+std::uint64_t UIDrawingVersion::next() {
+    static std::uint64_t latest = 0;
+    return ++latest;
+}
+
+bool UIGraphicsContext::beginView(const UIDrawingVersion&, CGPoint, double) { return false; }
+
+void UIGraphicsContext::endView() {}
+
 void UIGraphicsContext::fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius) {
     const UIColorComponents& components = color.resolved(style_, contrast_);
     if (components.alpha > 0 && !CGRectIsEmpty(rect)) fillRectWithComponents(rect, components, cornerRadius);

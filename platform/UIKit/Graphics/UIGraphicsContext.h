@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "CGGeometry.h"
@@ -9,6 +10,16 @@
 #include "UIImage.h"
 
 namespace gx {
+
+/// Stands for what a view draws: as long as it is the same, so are the view's drawing calls.
+///
+/// Its numbers are given once, so no other view and no later state of the view has them.
+struct UIDrawingVersion {
+    std::uint64_t view = next(); ///< another when the view and all below it may look different
+    std::uint64_t tree = view;   ///< another also when only a view below it may look different
+    /// A number that was not given before.
+    GX_EXPORT static std::uint64_t next();
+};
 
 /// The canvas that a host gives to a window for one frame.
 ///
@@ -39,6 +50,15 @@ public:
     virtual void clipToRect(CGRect rect) = 0;
     /// Multiplies the alpha of what follows by a factor from 0 to 1.
     virtual void multiplyAlpha(double alpha) = 0;
+
+    /// Called before a view draws itself and what is below it, at an origin and with an alpha that
+    /// it sets afterwards.
+    ///
+    /// A canvas that has recorded the same version before may show that again and return true: the
+    /// view then draws nothing. Here false, and every view draws.
+    virtual bool beginView(const UIDrawingVersion& version, CGPoint origin, double alpha);
+    /// Called after a view has drawn, unless `beginView` returned true. Both nest.
+    virtual void endView();
 
     /// Fills a rectangle, its corners rounded by `cornerRadius` points.
     void fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius = 0);

@@ -165,18 +165,23 @@ void UIView::addConstraints(const std::vector<Ref<NSLayoutConstraint>>& constrai
 // Drawing
 
 void UIView::renderInContext(UIGraphicsContext& context) {
+    if (context.beginView(drawing(), {}, 1)) return;
     context.saveState();
     drawContent(context);
     context.restoreState();
+    context.endView();
 }
 
 void UIView::drawView(UIView& view, UIGraphicsContext& context) {
     if (view.isHidden() || view.alpha() == 0 || CGRectIsEmpty(view.frame())) return;
+    const CGPoint origin = {CGRectGetMinX(view.frame()), CGRectGetMinY(view.frame())};
+    if (context.beginView(view.drawing(), origin, view.alpha())) return;
     context.saveState();
-    context.translate(CGRectGetMinX(view.frame()), CGRectGetMinY(view.frame()));
+    context.translate(origin.x, origin.y);
     if (view.alpha() < 1) context.multiplyAlpha(view.alpha());
     view.drawContent(context);
     context.restoreState();
+    context.endView();
 }
 
 void UIView::drawContent(UIGraphicsContext& context) {

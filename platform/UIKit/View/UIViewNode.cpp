@@ -38,8 +38,6 @@ bool UIViewNode::initWithCoder(const Ref<NSCoder>& coder) {
     return true;
 }
 
-void UIViewNode::awakeFromNib() {}
-
 // Geometry
 
 void UIViewNode::setFrame(CGRect frame) {
@@ -224,9 +222,13 @@ void UIViewNode::notifyTint() {
     setNeedsDisplay();
 }
 
-void UIViewNode::tintColorDidChange() {}
+void UIViewNode::invalidateDrawing(UIViewNode& node) {
+    node.drawing_.view = UIDrawingVersion::next();
+    for (UIViewNode* view = &node; view; view = view->above_) view->drawing_.tree = UIDrawingVersion::next();
+}
 
 void UIViewNode::setNeedsDisplay() {
+    invalidateDrawing(*this);
     if (UIViewRoot* const root = rawViewRoot()) root->requestFrame();
 }
 
@@ -291,8 +293,6 @@ void UIViewNode::setAccessibilityExpanded(std::optional<bool> expanded) {
 }
 
 // Time
-
-void UIViewNode::finishAnimations() {}
 
 void UIViewNode::finishAnimationsInTree() { finishAnimations(); }
 

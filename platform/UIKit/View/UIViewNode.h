@@ -8,6 +8,7 @@
 #include "GXExport.h"
 #include "NSCoder.h"
 #include "UIColor.h"
+#include "UIGraphicsContext.h"
 #include "UIResponder.h"
 
 namespace gx {
@@ -72,7 +73,7 @@ public:
     virtual bool initWithCoder(const Ref<NSCoder>& coder);
     /// To be called on every view of an interface file once all are connected; `create` does not
     /// call it.
-    virtual void awakeFromNib();
+    virtual void awakeFromNib() {}
 
     // Geometry
 
@@ -145,11 +146,14 @@ public:
     /// Nothing inherits the superview's again.
     void setTintColor(std::optional<UIColor> color);
     /// Called when the tint in force has changed, here or above.
-    virtual void tintColorDidChange();
+    virtual void tintColorDidChange() {}
     /// A number for the application's own use. Default 0.
     NSInteger tag() const { return tag_; }
     void setTag(NSInteger tag) { tag_ = tag; }
-    /// Requests a new frame from the window's host.
+    /// Requests a new frame from the window's host, in which this view and those below it draw.
+    ///
+    /// Other views may be shown as in the frame before: a view whose drawing depends on another one
+    /// is invalidated with that.
     void setNeedsDisplay();
 
     // Input and focus
@@ -186,7 +190,7 @@ public:
     /// Called on the view and all views below when they are not visible any more: the view, or one
     /// above it, was hidden, or the window's `finishAnimations` was called. May be called at any
     /// time.
-    virtual void finishAnimations();
+    virtual void finishAnimations() {}
     /// Calls `finishAnimations` on this view and on those below it.
     virtual void finishAnimationsInTree();
 
@@ -213,6 +217,10 @@ protected:
     void setNodeAbove(UIViewNode* above) { above_ = above; }
     /// Whether this view is `view` or a view above it.
     bool contains(const UIViewNode& view) const;
+    /// Stands for what this view and those below it draw.
+    const UIDrawingVersion& drawing() const { return drawing_; }
+    /// Has the view and those below it draw in the next frame, without asking for one.
+    static void invalidateDrawing(UIViewNode& node);
     /// Whether a tint was set on this view itself.
     bool hasOwnTint() const { return tintColor_.has_value(); }
     /// `takesInput` without the views above.
@@ -238,6 +246,7 @@ private:
     CGRect frame_;
     CGPoint boundsOrigin_;
     UIViewNode* above_ = nullptr; // Cleared by the superview before it goes.
+    UIDrawingVersion drawing_;
     std::optional<UIColor> backgroundColor_;
     std::optional<UIColor> tintColor_;
     std::optional<std::string> accessibilityLabel_;

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <limits>
 
-#include "UIGraphicsContext.h"
 #include "UIPointerTracking.h"
 
 namespace gx {
@@ -247,6 +246,7 @@ bool UIWindow::tick(NSTimeInterval time) {
     for (std::size_t i = 0; i < count; ++i) {
         const Ref<UIView> view = moving_[i].lock();
         const bool isHere = view && view->isDescendantOfView(keep);
+        if (isHere) invalidateDrawing(*view); // It need not say that it looks different.
         if (!isHere || !view->advanceToTime(time)) moving_[i].reset();
     }
     moving_.erase(std::remove_if(moving_.begin(), moving_.end(), [](const WeakRef<UIView>& view) { return view.expired(); }),

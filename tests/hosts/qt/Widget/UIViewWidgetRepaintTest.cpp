@@ -76,6 +76,37 @@ TEST_F(UIViewWidgetRepaint, ASpinningColumnIsPaintedAlone) {
         << painted.x() << ' ' << painted.y() << ' ' << painted.width() << ' ' << painted.height();
 }
 
+TEST_F(UIViewWidgetRepaint, ASpinningWheelHasNoOtherViewDraw) {
+    struct CountingView : UIView {
+        int count = 0;
+        void drawRect(UIGraphicsContext& context, CGRect rect) override {
+            ++count;
+            context.fillRect(rect, UIColor::systemBlueColor());
+        }
+    };
+    const auto beside = create<CountingView>(CGRectMake(300, 400, 50, 50));
+    const auto within = create<CountingView>(CGRectMake(10, 10, 20, 20));
+    beside->addSubview(within);
+    root->addSubview(beside);
+    frame();
+    const int first = beside->count;
+    EXPECT_GT(first, 0);
+    wheel->selectRow_inComponent_animated(50, 0, true);
+    for (int i = 0; i < 8; ++i) frame();
+    EXPECT_TRUE(wheel->isTurning());
+    EXPECT_EQ(beside->count, first);
+    EXPECT_EQ(within->count, first);
+    expectWholePicture("while it spins"); // All draw for it.
+    EXPECT_EQ(beside->count, first + 1);
+    within->setNeedsDisplay();
+    frame();
+    EXPECT_EQ(within->count, first + 2);
+    EXPECT_EQ(beside->count, first + 2) << "a view around it draws again";
+    root->setNeedsDisplay();
+    frame();
+    EXPECT_EQ(within->count, first + 3) << "as does one below it";
+}
+
 TEST_F(UIViewWidgetRepaint, AFrameThatLooksTheSamePaintsNothing) {
     root->setNeedsDisplay();
     frame();

@@ -1,9 +1,12 @@
 // What a view and those below it leave on a canvas.
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "RecordingCanvas.h"
 #include "UIView.h"
+#include "UIWindow.h"
 
 using namespace gx;
 using Calls = std::vector<std::string>;
@@ -109,4 +112,112 @@ TEST_F(UIViewDrawingTest, AViewMayAddAnotherWhileItDraws) {
     outer->addSubview(view);
     drawn(outer);
     EXPECT_EQ(outer->subviews().size(), 20U);
+}
+
+namespace {
+
+/// Notes the versions of the views that draw, and shows some of them again itself.
+struct RecordingHost : RecordingCanvas {
+    std::vector<UIDrawingVersion> versions;
+    std::uint64_t shownAgain = 0;
+    int open = 0;
+
+    bool beginView(const UIDrawingVersion& version, CGPoint, double) override {
+        versions.push_back(version);
+        open += version.tree == shownAgain ? 0 : 1;
+        return version.tree == shownAgain;
+    }
+    void endView() override { --open; }
+};
+
+/// A root with two views, of which the first one has a view as well.
+struct DrawingVersions : testing::Test {
+    Ref<UIView> root = create<UIView>(CGRectMake(0, 0, 100, 100));
+    Ref<Filler> first = create<Filler>(CGRectMake(10, 10, 20, 20));
+    Ref<Filler> inFirst = create<Filler>(CGRectMake(1, 1, 5, 5));
+    Ref<Filler> second = create<Filler>(CGRectMake(50, 10, 20, 20));
+
+    DrawingVersions() {
+        first->addSubview(inFirst);
+        root->addSubview(first);
+        root->addSubview(second);
+    }
+    /// Of the root, the first view, the one in it and the second view.
+    std::vector<UIDrawingVersion> versions() {
+        RecordingHost host;
+        root->renderInContext(host);
+        EXPECT_EQ(host.open, 0);
+        EXPECT_EQ(host.versions.size(), 4U);
+        return host.versions;
+    }
+    /// Which of them, themselves or by what is below them, may look different since then.
+    std::string changedSince(const std::vector<UIDrawingVersion>& before) {
+        const std::vector<UIDrawingVersion> now = versions();
+        std::string changed;
+        for (std::size_t i = 0; i < now.size(); ++i) {
+            changed += now[i].view != before[i].view ? 'V' : now[i].tree != before[i].tree ? 'T' : '-';
+        }
+        return changed;
+    }
+};
+
+} // namespace
+
+TEST_F(DrawingVersions, StayTheSameWhileNothingIsInvalidated) {
+    EXPECT_EQ(changedSince(versions()), "----");
+    std::vector<std::uint64_t> numbers;
+    for (const UIDrawingVersion& version : versions()) numbers.push_back(version.tree);
+    std::sort(numbers.begin(), numbers.end());
+    EXPECT_EQ(std::unique(numbers.begin(), numbers.end()), numbers.end()) << "each view has its own";
+}
+
+TEST_F(DrawingVersions, ChangeForTheInvalidatedViewAndTheTreesAboveIt) {
+    std::vector<UIDrawingVersion> before = versions();
+    inFirst->setNeedsDisplay();
+    EXPECT_EQ(changedSince(before), "TTV-");
+    before = versions();
+    second->setAlpha(0.5);
+    EXPECT_EQ(changedSince(before), "T--V");
+    before = versions();
+    root->setNeedsDisplay();
+    EXPECT_EQ(changedSince(before), "V---");
+    before = versions();
+    first->setFrame(CGRectMake(10, 10, 30, 30));
+    EXPECT_EQ(changedSince(before), "TV--");
+}
+
+TEST_F(DrawingVersions, ChangeForAViewInMotionWithoutAFrameBeingRequested) {
+    struct Moving : Filler {
+        bool advanceToTime(NSTimeInterval) override { return true; }
+    };
+    const auto window = create<UIWindow>(CGRectMake(0, 0, 100, 100));
+    const auto moving = create<Moving>(CGRectMake(0, 0, 10, 10));
+    window->addSubview(root);
+    first->addSubview(moving);
+    window->animateView(moving);
+    window->tick(1);
+    const auto drawn = [&window] {
+        RecordingHost host;
+        window->draw(host);
+        return host.versions;
+    };
+    const std::vector<UIDrawingVersion> before = drawn();
+    EXPECT_TRUE(window->tick(2));
+    const std::vector<UIDrawingVersion> after = drawn();
+    // The window, then as above, the moving view after the one in the first.
+    ASSERT_EQ(after.size(), 6U);
+    EXPECT_NE(after[4].view, before[4].view);
+    EXPECT_EQ(after[2].view, before[2].view);
+    EXPECT_NE(after[2].tree, before[2].tree);
+    EXPECT_EQ(after[3].tree, before[3].tree);
+    EXPECT_EQ(after[5].tree, before[5].tree);
+}
+
+TEST_F(DrawingVersions, ACanvasThatShowsAViewAgainGetsNoCallsOfIt) {
+    RecordingHost host;
+    host.shownAgain = versions()[1].tree;
+    root->renderInContext(host);
+    EXPECT_EQ(host.open, 0);
+    EXPECT_EQ(host.versions.size(), 3U) << "without the view in it";
+    EXPECT_EQ(host.takeCalls(), (Calls{"save", "save", "translate 50 10", "fill 0 0 20 20 with 1 1 1 1", "restore", "restore"}));
 }

@@ -8,6 +8,9 @@
 #include <QTransform>
 
 #include <GXUIPickers/GXExport.h>
+#include <GXUIPickers/NSLocale.h>
+
+#include "QtFrameViews.h"
 
 namespace gx::qt {
 
@@ -24,6 +27,7 @@ struct QtPiece {
     double radiusX = 0;
     double radiusY = 0;
     bool hasClearEdge = false; ///< an image without ink in its outer pixels, as those of texts
+    QRect visible;             ///< the visible area, once it is recorded
     /// Whether the image's pixels lie between those of the device.
     bool isScaled() const { return !image.isNull() && (area.width() != image.width() || area.height() != image.height()); }
     /// What it may change, in whole pixels.
@@ -33,12 +37,20 @@ struct QtPiece {
 
 /// What a `QtCanvas` has recorded of one frame, to be painted in parts and compared with the next.
 ///
+/// A view that draws the same as in the frame before is not drawn again: its pieces are moved here.
+///
 /// Recording into a frame again takes nothing from the heap once it was larger.
 class GX_EXPORT QtFrame {
 public:
-    /// Starts with nothing, for a device whose transform is this.
-    void begin(const QTransform& device);
-    void add(QtPiece piece) { pieces_.push_back(std::move(piece)); }
+    /// Starts with nothing, for a device whose transform is this. Pieces are taken out of the frame
+    /// before, if one is given. It must live until the recording ends, and then serves for
+    /// `areaChangedSince` alone.
+    void begin(const QTransform& device, QtFrame* before = nullptr);
+    /// A view is about to draw, with so many bytes of images of texts recorded. Returns whether it
+    /// was taken over; else `endView` must follow.
+    bool beginView(const UIDrawingVersion& version, const QtDrawingState& state, std::size_t& textBytes);
+    void endView(std::size_t textBytes) { views_.endView({pieces_.size(), textBytes}); }
+    void add(QtPiece piece);
     const std::vector<QtPiece>& pieces() const { return pieces_; }
     const QTransform& transform() const { return transform_; }
 
@@ -47,12 +59,33 @@ public:
     void markIncomplete() { isComplete_ = false; }
 
     /// What has to be painted again after the other frame, in device pixels; empty if both show the
-    /// same. No scaled image lies partly in it, since one that is painted in parts may differ by a
+    /// same. Pieces may have been taken out of that frame, and of no other.
+    ///
+    /// No scaled image lies partly in it, since one that is painted in parts may differ by a
     /// rounding.
     QRect areaChangedSince(const QtFrame& before) const;
 
 private:
+    /// Some pieces in a row.
+    struct Range {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+    };
+    /// Pieces here and where they were in the frame before.
+    struct Taken {
+        Range here;
+        Range before;
+    };
+    bool canTakeOver(const QtFrame& before) const;
+    QRect difference(Range here, const QtFrame& before, Range there) const;
+
     std::vector<QtPiece> pieces_;
+    QtFrameViews views_;
+    QtFrame* before_ = nullptr; // While views begin and end.
+    std::vector<Taken> taken_;  // In their order, here and there.
+    // What drawing depends on beside the views.
+    Ref<NSLocale> locale_;
+    std::uint64_t textGeneration_ = 0;
     QTransform transform_;
     bool isComplete_ = false;
 };

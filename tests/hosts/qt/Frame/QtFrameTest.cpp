@@ -1,3 +1,5 @@
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include <QPainter>
@@ -31,9 +33,18 @@ struct Screen {
     void record() {
         views->tick(now += 0.013);
         std::swap(shown, before);
-        canvas.begin(shown, device);
+        canvas.begin(shown, device, &before);
         views->draw(canvas);
         canvas.end();
+    }
+    /// Whether every view that draws gives the same frame.
+    void expectWholeFrame(const char* what) {
+        QtFrame whole;
+        canvas.begin(whole, device);
+        views->draw(canvas);
+        canvas.end();
+        ASSERT_EQ(shown.pieces().size(), whole.pieces().size()) << what;
+        ASSERT_TRUE(std::equal(shown.pieces().begin(), shown.pieces().end(), whole.pieces().begin())) << what;
     }
     void paint(QImage& image, const QRect& area) {
         QPainter painter(&image);
@@ -53,6 +64,7 @@ struct Screen {
     void expectWholePicture(const char* what) {
         record();
         ASSERT_TRUE(shown.isComplete()) << what;
+        ASSERT_NO_FATAL_FAILURE(expectWholeFrame(what));
         const QRect changed = changedPixels();
         if (!changed.isEmpty()) paint(picture, changed);
         QImage whole(picture.size(), picture.format());
@@ -118,6 +130,50 @@ TEST_P(QtFrameAtEachScale, AFontThatChangesLateIsPainted) {
     screen.label->setText("Label 7");
     ASSERT_NO_FATAL_FAILURE(screen.expectWholePicture("the first font"));
     EXPECT_EQ(screen.picture, before);
+}
+
+TEST_P(QtFrameAtEachScale, AFontThatChangesLateIsShownByEveryView) {
+    Screen screen(GetParam());
+    QtTextEngine& engine = *QtTextEngine::shared();
+    const std::string family = engine.interfaceFamily();
+    engine.setInterfaceFamily("monospace");
+    screen.wheel->setNeedsDisplay();
+    ASSERT_NO_FATAL_FAILURE(screen.expectWholePicture("another font"));
+    engine.setInterfaceFamily(family);
+    screen.wheel->setNeedsDisplay();
+    ASSERT_NO_FATAL_FAILURE(screen.expectWholePicture("the first font"));
+}
+
+TEST_P(QtFrameAtEachScale, ViewsThatComeGoAndChangePlacesAreShown) {
+    Screen screen(GetParam());
+    std::vector<Ref<UILabel>> labels;
+    const auto holder = create<UIView>(CGRectMake(320, 60, 150, 150));
+    screen.views->addSubview(holder);
+    for (int i = 0; i < 6; ++i) {
+        labels.push_back(create<UILabel>(CGRectMake(3 * i, 20 * i, 100, 20)));
+        labels.back()->setText("Label " + std::to_string(i));
+        holder->addSubview(labels.back());
+    }
+    const std::vector<std::function<void()>> changes = {
+        [] {},
+        [&] { labels[2]->setHidden(true); },
+        [&] { labels[4]->setText("Four"); },
+        [&] { labels[2]->setHidden(false); },
+        [&] { holder->insertSubview_atIndex(labels[5], 0); },
+        [&] { labels[0]->removeFromSuperview(); },
+        [&] { labels[1]->addSubview(labels[3]); },
+        [&] { holder->setFrame(CGRectMake(310.5, 50, 150, 150)); },
+        [&] { holder->setAlpha(0.6); },
+        [&] { holder->setBounds(CGRectMake(0, 7, 150, 150)); },
+        [&] { screen.views->setUserInterfaceStyle(UIUserInterfaceStyle::Dark); },
+        [&] { holder->addSubview(labels[0]); },
+        [] {},
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        changes[i]();
+        ASSERT_NO_FATAL_FAILURE(screen.expectWholePicture("after a change")) << i;
+        ASSERT_NO_FATAL_FAILURE(screen.expectWholePicture("in the next frame")) << i;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Scales, QtFrameAtEachScale, testing::Values(1, 1.5, 2, 3));
