@@ -62,7 +62,7 @@ public:
     void clipToRect(CGRect rect) override;
     void multiplyAlpha(double alpha) override;
     bool beginView(const UIDrawingVersion& version, CGPoint origin, double alpha) override {
-        return frame_ && frame_->beginView(version, state_.at(origin, alpha), textBytes_);
+        return frame_ != nullptr && frame_->beginView(version, state_.at(origin, alpha), textBytes_);
     }
     void endView() override {
         if (frame_) frame_->endView(textBytes_);
