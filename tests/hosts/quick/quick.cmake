@@ -45,7 +45,7 @@ if(NOT GX_SANITIZE) # The runner itself is built without the checks.
     -D "work=${CMAKE_CURRENT_BINARY_DIR}/quick installed" -D "folder=${GX_QML_INSTALL_FOLDER}" -D "runner=${GX_QMLTESTRUNNER}"
     -D "tests=${folder}" -D "source=${PROJECT_SOURCE_DIR}" -D "compiler=${CMAKE_CXX_COMPILER}" -P "${folder}/installed.cmake")
   set_tests_properties(quick_test quick_installed PROPERTIES ENVIRONMENT "${environment};QML_XHR_ALLOW_FILE_READ=1")
-  set_tests_properties(quick_installed PROPERTIES LABELS slow)
+  set_tests_properties(quick_test quick_installed PROPERTIES LABELS slow)
 endif()
 add_test(NAME quick_lint COMMAND "${CMAKE_COMMAND}" -D "source=${PROJECT_SOURCE_DIR}" -D "modules=${PROJECT_BINARY_DIR}/qml"
   -D "qmllint=${GX_QMLLINT}" -P "${folder}/lint.cmake")
