@@ -105,9 +105,12 @@ void QtCanvas::end() {
 void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area) {
     takePainter(painter);
     paintedClip_ = everywhere;
+    paintedArea_ = area;
+    isInArea_ = true;
     for (const QtPiece& piece : frame.pieces()) {
         if (piece.visible.intersects(area)) paint(piece);
     }
+    isInArea_ = false;
     painter.restore();
     painter_ = nullptr;
 }
@@ -151,7 +154,8 @@ bool QtCanvas::isSeen(const QRectF& area) const {
            area.bottom() > state_.clip.top();
 }
 
-void QtCanvas::prepareClip(const QRect& clip) {
+void QtCanvas::prepareClip(const QRect& wanted) {
+    const QRect clip = isInArea_ ? wanted.intersected(paintedArea_) : wanted;
     if (clip == paintedClip_) return;
     if (clip == everywhere) {
         painter_->setClipping(false);

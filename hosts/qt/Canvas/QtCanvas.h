@@ -51,8 +51,9 @@ public:
     /// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps
     /// its transform, and its units count as device pixels.
     static bool isPlain(const QTransform& device) { return device.type() <= QTransform::TxScale && device.isInvertible(); }
-    /// Paints what a frame shows in an area of device pixels. The painter's transform on the device
-    /// must be the frame's, and its clip is kept.
+    /// Paints what a frame shows in an area of device pixels, and nothing outside of it. The
+    /// painter's transform on the device must be the frame's. Of a clip of its own, other than a
+    /// paint event's, only the area counts.
     void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area);
 
     void saveState() override { saved_.push_back(state_); }
@@ -78,7 +79,7 @@ private:
     void takePainter(QPainter& painter);
     QRectF mapped(CGRect rect) const;
     bool isSeen(const QRectF& area) const;
-    void prepareClip(const QRect& clip);
+    void prepareClip(const QRect& wanted);
     void drawMapped(const QImage& image, const QRectF& area, bool hasClearEdge = false);
     void draw(QtPiece piece);
     void paint(const QtPiece& piece);
@@ -97,6 +98,8 @@ private:
     QtDrawingState state_;
     std::vector<QtDrawingState> saved_;
     QRect paintedClip_;       // What the painter clips to now.
+    QRect paintedArea_;       // Of a frame.
+    bool isInArea_ = false;   // Whether a frame is painted.
     double paintedAlpha_ = 1; // The painter's opacity now.
     std::size_t textBytes_ = 0;
 };

@@ -167,6 +167,9 @@ TEST_P(QtFrameAtEachScale, ViewsThatComeGoAndChangePlacesAreShown) {
         [&] { holder->setBounds(CGRectMake(0, 7, 150, 150)); },
         [&] { screen.views->setUserInterfaceStyle(UIUserInterfaceStyle::Dark); },
         [&] { holder->addSubview(labels[0]); },
+        [&] { holder->setClipsToBounds(true); },
+        [&] { labels[5]->setFrame(CGRectMake(-20, 140, 100, 20)); },
+        [&] { holder->setClipsToBounds(false); },
         [] {},
     };
     for (std::size_t i = 0; i < changes.size(); ++i) {
