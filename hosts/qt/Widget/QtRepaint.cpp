@@ -12,11 +12,13 @@ namespace gx::qt {
 void QtRepaint::frameDidChange(QWidget& widget, UIWindowInput& window) {
     const bool wasComparable = std::exchange(isComparable_, false);
     isPresent_ = false;
-    if (!widget.isVisible() || !device_) return widget.update();
+    if (!widget.isVisible() || !device_ || isRecording_) return widget.update();
     isPresent_ = true; // Unless the views change something while they draw.
+    isRecording_ = true;
     canvas_.begin(next_, *device_, &shown_);
     window.draw(canvas_);
     canvas_.end();
+    isRecording_ = false;
     std::swap(shown_, next_);
     isPresent_ = isPresent_ && shown_.isComplete();
     isComparable_ = isPresent_;
@@ -27,6 +29,14 @@ void QtRepaint::frameDidChange(QWidget& widget, UIWindowInput& window) {
 
 void QtRepaint::paint(QWidget& widget, QPainter& painter, const QRect& area, UIWindowInput& window) {
     const QTransform device = painter.deviceTransform();
+    if (isRecording_) { // A view that draws has the widget painted. Neither frame is whole now.
+        isPresent_ = false;
+        QtCanvas canvas;
+        canvas.begin(painter);
+        window.draw(canvas);
+        canvas.end();
+        return;
+    }
     const bool isOnScreen =
         widget.backingStore() != nullptr && painter.paintEngine()->paintDevice() == widget.backingStore()->paintDevice();
     if (isOnScreen && isPresent_ && device == shown_.transform()) {

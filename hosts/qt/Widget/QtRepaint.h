@@ -18,8 +18,8 @@ namespace gx::qt {
 /// After each tick the views draw into a recorded frame, which is compared with the one before; the
 /// widget's next paint event paints that frame.
 ///
-/// - A view draws once a frame, whatever is painted, and only if it or one around it was
-///   invalidated; the others are taken over.
+/// - A view draws once a frame, whatever is painted, and only if it, one below it or one around it
+///   was invalidated; the others are taken over.
 /// - No view has to say which part of it has changed.
 ///
 /// Invariant: while frames are comparable, the screen shows the present one, but for what is still
@@ -41,6 +41,7 @@ private:
     QtFrame shown_;
     QtFrame next_;
     std::optional<QTransform> device_; // Of the last paint event.
+    bool isRecording_ = false;
     bool isComparable_ = false;
     bool isPresent_ = false; // Whether the views look as `shown_` has recorded them.
 };

@@ -1,5 +1,7 @@
 // Which parts of a widget are painted again.
 
+#include <utility>
+
 #include <QPaintEvent>
 #include <QScreen>
 #include <QWindow>
@@ -174,6 +176,32 @@ TEST_F(UIViewWidgetRepaint, AChangeBetweenTheTickAndThePaintIsPainted) {
     frame();
     frame();
     expectWholePicture("in the end");
+}
+
+TEST_F(UIViewWidgetRepaint, AViewMayHaveTheWidgetPaintedWhileItDraws) {
+    struct PaintingView : UIView {
+        using UIView::UIView;
+        QWidget* widget = nullptr;
+        QImage seen;
+        void drawRect(UIGraphicsContext& context, CGRect rect) override {
+            context.fillRect(rect, UIColor::blackColor());
+            QWidget* const painted = std::exchange(widget, nullptr);
+            if (!painted) return;
+            painted->repaint();
+            seen = painted->grab().toImage();
+        }
+    };
+    const auto painting = create<PaintingView>(CGRectMake(10, 400, 50, 50));
+    root->addSubview(painting);
+    for (int i = 0; i < 5; ++i) frame();
+    painting->widget = &widget;
+    painting->setNeedsDisplay();
+    frame();
+    EXPECT_EQ(painting->seen, widget.grab().toImage());
+    ASSERT_NO_FATAL_FAILURE(expectWholePicture("after it was painted"));
+    labels[3]->setText("Three");
+    frame();
+    ASSERT_NO_FATAL_FAILURE(expectWholePicture("in the next frame"));
 }
 
 TEST_F(UIViewWidgetRepaint, ATextTooLargeForAnImageIsPaintedToo) {
