@@ -199,8 +199,7 @@ export class Glide {
         });
         this.isAhead = false;
         if (!isClear) return undefined;
-        if (isOver || times.length <= reserve) return { tracks, times, wakes };
-        const end = times[times.length - reserve]!;
+        const end = isOver || times.length <= reserve ? times.at(-1)! : times[times.length - reserve]!;
         return { tracks, times, wakes: [...wakes.filter((row) => row < end), end] };
     }
 
