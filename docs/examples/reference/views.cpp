@@ -117,7 +117,7 @@ TEST(ReferenceExamples, Roots) {
     const auto view = create<UIView>(window->bounds());
     EXPECT_EQ(view->viewRoot(), nullptr);
     window->addSubview(view);
-    view->viewRoot()->requestFrame();
+    view->viewRoot()->requestFrame(); // A view that looks different calls setNeedsDisplay.
     EXPECT_EQ(view->window(), window);
     // [UIViewRoot]
 }

@@ -40,6 +40,7 @@ const QtFrameViews::View* QtFrameViews::beginView(const UIDrawingVersion& versio
 }
 
 void QtFrameViews::endView(Extent now) {
+    if (isClosed()) return; // No view has begun.
     View& view = views_[open_.back().view];
     view.end = now;
     view.next = views_.size();

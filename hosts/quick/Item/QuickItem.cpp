@@ -106,7 +106,6 @@ void QuickItem::itemChange(ItemChange change, const ItemChangeData& data) {
         if (!data.boolValue) finish();
         break;
     case ItemDevicePixelRatioHasChanged:
-        window_->requestFrame();
         window_->setNeedsDisplay();
         break;
     default:

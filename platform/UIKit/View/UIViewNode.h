@@ -32,7 +32,7 @@ enum class UIAccessibilityRole {
 /// What a view requests of the window at the top of its tree. `UIWindow` alone implements it.
 class GX_EXPORT UIViewRoot {
 public:
-    /// Something has changed on screen: a frame is needed.
+    /// A frame is needed. Views that look different call `setNeedsDisplay`, which requests one.
     virtual void requestFrame() = 0;
     /// Takes the fingers from the view and from those below it, as if the system had.
     virtual void cancelTouchesWithin(const Ref<UIViewNode>& view) = 0;
@@ -150,10 +150,11 @@ public:
     /// A number for the application's own use. Default 0.
     NSInteger tag() const { return tag_; }
     void setTag(NSInteger tag) { tag_ = tag; }
-    /// Requests a new frame from the window's host, in which this view and those below it draw.
+    /// Requests a new frame from the window's host, in which this view, those below it and what the
+    /// views above it draw themselves are drawn.
     ///
-    /// Other views may be shown as in the frame before: a view whose drawing depends on another one
-    /// is invalidated with that.
+    /// Other views may be shown as in the frame before: one whose drawing depends on a view beside
+    /// it is invalidated with that.
     void setNeedsDisplay();
 
     // Input and focus

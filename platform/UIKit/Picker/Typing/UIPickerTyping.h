@@ -43,7 +43,7 @@ public:
     /// The row that the column was on when its text began.
     std::optional<NSInteger> rowBefore() const { return rowBefore_; }
 
-    /// A separator or a complete fraction leads to the column: what comes is typed there.
+    /// What is typed next belongs to this column.
     void goOnToComponent_atTime(NSInteger component, bool isFraction, NSTimeInterval time);
     /// A text begins at the column, while it is on the row or on its way there.
     void beginInComponent_onRow(NSInteger component, NSInteger row);
