@@ -51,9 +51,10 @@ public:
     /// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps
     /// its transform, and its units count as device pixels.
     static bool isPlain(const QTransform& device) { return device.type() <= QTransform::TxScale && device.isInvertible(); }
-    /// Paints what a frame shows in an area of device pixels, and nothing outside of it. The
-    /// painter's transform on the device must be the frame's. Of a clip of its own, other than a
-    /// paint event's, only the area counts.
+    /// Paints what a frame shows in an area of device pixels, and nothing outside of it.
+    ///
+    /// The painter's transform on the device must be the frame's. The area replaces a clip that was
+    /// set on the painter; that of a paint event stays in force.
     void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area);
 
     void saveState() override { saved_.push_back(state_); }
