@@ -17,6 +17,7 @@ QtAccessibleView::~QtAccessibleView() {
 }
 
 UIAccessibilityElements QtAccessibleView::elements() const {
+    const std::shared_ptr<void> here = surface_->visit();
     const Ref<UIWindow> window = window_.lock(); // The views may drop the object meanwhile.
     return window && surface_->exists() ? window->accessibilityElements() : UIAccessibilityElements();
 }
@@ -83,6 +84,7 @@ QAccessibleInterface* QtAccessibleView::elementAtPlace(int x, int y) const {
 // The focus
 
 Ref<UIAccessibilityElement> QtAccessibleView::focused() const {
+    const std::shared_ptr<void> here = surface_->visit();
     const Ref<UIWindow> window = window_.lock();
     return window && surface_->exists() && surface_->hasFocus() ? window->focusedAccessibilityElement() : nullptr;
 }
@@ -96,6 +98,7 @@ QAccessibleInterface* QtAccessibleView::focusedElement() const {
 // Changes
 
 void QtAccessibleView::announceChanges(Sender send) {
+    const std::shared_ptr<void> here = surface_->visit();
     const QPointer<QObject> object = surface_->object();
     const Ref<UIWindow> window = window_.lock();
     if (!object || !window) return;

@@ -17,8 +17,10 @@ namespace {
 
 /// Whether the element is there, in the window of the surface.
 bool isShownBy(const QtAccessibleSurface& surface, const Ref<UIWindow>& window, const UIAccessibilityElement& element) {
+    if (!surface.exists() || !window) return false;
+    const std::shared_ptr<void> here = surface.visit();
     const Ref<UIViewNode> view = element.view();
-    return surface.exists() && window && view && view->window() == window && element.exists();
+    return view && view->window() == window && element.exists();
 }
 
 } // namespace
@@ -26,11 +28,11 @@ bool isShownBy(const QtAccessibleSurface& surface, const Ref<UIWindow>& window, 
 bool QtAccessibleElement::isValid() const { return isShownBy(*surface_, window_.lock(), *element_); }
 
 QAccessible::Role QtAccessibleElement::role() const {
-    switch (element_->role()) {
+    switch (visited()->role()) {
     case UIAccessibilityRole::Adjustable:
         return QAccessible::SpinBox;
     case UIAccessibilityRole::Button:
-        return element_->isChecked() ? QAccessible::CheckBox : QAccessible::Button;
+        return visited()->isChecked() ? QAccessible::CheckBox : QAccessible::Button;
     case UIAccessibilityRole::Image:
         return QAccessible::Graphic;
     case UIAccessibilityRole::Heading:
@@ -52,13 +54,13 @@ QAccessible::Role QtAccessibleElement::role() const {
 
 QString QtAccessibleElement::text(QAccessible::Text kind) const {
     if (!isValid()) return {};
-    if (kind == QAccessible::Name) return textOf(element_->label());
-    return kind == QAccessible::Value ? textOf(element_->value()) : QString();
+    if (kind == QAccessible::Name) return textOf(visited()->label());
+    return kind == QAccessible::Value ? textOf(visited()->value()) : QString();
 }
 
 QRect QtAccessibleElement::rect() const {
     if (!isValid()) return {};
-    const CGRect area = element_->frame();
+    const CGRect area = visited()->frame();
     if (!surface_->exists()) return {};
     return surface_->onScreen({area.origin.x, area.origin.y, area.size.width, area.size.height});
 }
@@ -70,18 +72,18 @@ QAccessible::State QtAccessibleElement::state() const {
         return state;
     }
     const bool hasActions = !actionNames().isEmpty();
-    state.disabled = !surface_->isEnabled() || (hasActions && !element_->isEnabled());
+    state.disabled = !surface_->isEnabled() || (hasActions && !visited()->isEnabled());
     state.invisible = !surface_->isVisible();
     state.offscreen = !rect().intersects(surface_->frame());
     state.readOnly = !hasActions;
-    state.focusable = surface_->canTakeFocus() && element_->isFocusable();
-    state.focused = surface_->hasFocus() && element_->isFocused();
-    if (const std::optional<bool> isExpanded = element_->isExpanded()) {
+    state.focusable = surface_->canTakeFocus() && visited()->isFocusable();
+    state.focused = surface_->hasFocus() && visited()->isFocused();
+    if (const std::optional<bool> isExpanded = visited()->isExpanded()) {
         state.expandable = true;
         state.expanded = *isExpanded;
         state.collapsed = !*isExpanded;
     }
-    if (const std::optional<bool> isChecked = element_->isChecked()) {
+    if (const std::optional<bool> isChecked = visited()->isChecked()) {
         state.checkable = true;
         state.checked = *isChecked;
     }
@@ -102,25 +104,25 @@ QtAccessibleTree* QtAccessibleElement::tree() const {
 }
 
 QAccessibleInterface* QtAccessibleElement::parent() const {
-    const Ref<UIAccessibilityElement> container = element_->container();
+    const Ref<UIAccessibilityElement> container = visited()->container();
     if (!surface_->exists()) return nullptr;
     const QtAccessibleTree* const tree = container ? this->tree() : nullptr;
     return tree ? tree->interfaceOf(container) : QAccessible::queryAccessibleInterface(surface_->object());
 }
 
 int QtAccessibleElement::childCount() const {
-    return static_cast<int>(std::min<NSInteger>(element_->childCount(), std::numeric_limits<int>::max()));
+    return static_cast<int>(std::min<NSInteger>(visited()->childCount(), std::numeric_limits<int>::max()));
 }
 
 QAccessibleInterface* QtAccessibleElement::child(int index) const {
-    const Ref<UIAccessibilityElement> child = index >= 0 && index < childCount() ? element_->child(index) : nullptr;
+    const Ref<UIAccessibilityElement> child = index >= 0 && index < childCount() ? visited()->child(index) : nullptr;
     const QtAccessibleTree* const tree = child ? this->tree() : nullptr;
     return tree ? tree->interfaceOf(child) : nullptr;
 }
 
 int QtAccessibleElement::indexOfChild(const QAccessibleInterface* child) const {
     const auto* const element = dynamic_cast<const QtAccessibleElement*>(child);
-    const NSInteger index = element ? element_->indexOfChild(*element->element()) : -1;
+    const NSInteger index = element ? visited()->indexOfChild(*element->element()) : -1;
     return index < childCount() ? static_cast<int>(index) : -1;
 }
 
@@ -133,6 +135,7 @@ QAccessibleInterface* QtAccessibleElement::childAt(int x, int y) const {
 }
 
 QAccessibleInterface* QtAccessibleElement::focusChild() const {
+    const std::shared_ptr<void> here = surface_->visit();
     const Ref<UIWindow> window = window_.lock();
     const bool hasFocus = window && surface_->exists() && surface_->hasFocus();
     const Ref<UIAccessibilityElement> focused = hasFocus ? window->focusedAccessibilityElement() : nullptr;
@@ -147,7 +150,7 @@ QAccessibleInterface* QtAccessibleElement::focusChild() const {
 // Numbers
 
 QVariant QtAccessibleElement::number(double UIAccessibilityNumbers::*part) const {
-    const std::optional<UIAccessibilityNumbers> numbers = isValid() ? element_->numbers() : std::nullopt;
+    const std::optional<UIAccessibilityNumbers> numbers = isValid() ? visited()->numbers() : std::nullopt;
     return numbers ? QVariant((*numbers).*part) : QVariant();
 }
 
@@ -166,7 +169,7 @@ void QtAccessibleElement::setCurrentValue(const QVariant& value) {
 
 QStringList QtAccessibleElement::actionNames() const {
     QStringList names;
-    switch (element_->role()) {
+    switch (visited()->role()) {
     case UIAccessibilityRole::Adjustable:
         names = {increaseAction(), decreaseAction()};
         break;
@@ -174,12 +177,12 @@ QStringList QtAccessibleElement::actionNames() const {
     case UIAccessibilityRole::RadioButton:
     case UIAccessibilityRole::ListItem:
         names = {pressAction()};
-        if (element_->isChecked()) names.append(toggleAction());
+        if (visited()->isChecked()) names.append(toggleAction());
         break;
     default:
         break;
     }
-    if (element_->isFocusable()) names.append(setFocusAction());
+    if (visited()->isFocusable()) names.append(setFocusAction());
     return names;
 }
 
@@ -187,6 +190,7 @@ namespace {
 
 void performAction(const QtAccessibleSurface& surface, const Ref<UIWindow>& window, const UIAccessibilityAction& action,
                    const Ref<UIAccessibilityElement>& element) {
+    const std::shared_ptr<void> here = surface.visit();
     QAccessibleInterface* const root = surface.exists() ? QAccessible::queryAccessibleInterface(surface.object()) : nullptr;
     if (auto* const tree = dynamic_cast<QtAccessibleTree*>(root)) tree->lookAfterNextFrame();
     const Ref<UIWindowInput> input = surface.input();

@@ -75,7 +75,14 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    bool isAdjustable() const { return element_->role() == UIAccessibilityRole::Adjustable; }
+    /// The element for one query, in the surroundings of its object.
+    struct Visited {
+        std::shared_ptr<void> here;
+        Ref<UIAccessibilityElement> element;
+        UIAccessibilityElement* operator->() const { return element.get(); }
+    };
+    Visited visited() const { return {surface_->visit(), element_}; }
+    bool isAdjustable() const { return visited()->role() == UIAccessibilityRole::Adjustable; }
     bool canAct() const { return isValid() && surface_->isEnabled(); }
     void perform(UIAccessibilityAction::Kind kind, double number = 0) const;
     void takeFocus() const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QObject>
 #include <QRect>
 
@@ -36,6 +38,9 @@ public:
     virtual bool isBlockedByDialog() const { return false; }
     /// What the object sends to its window by; nothing for the window itself.
     virtual Ref<UIWindowInput> input() const { return nullptr; }
+    /// For the time of a query: while the result lives, views read the object's own services, such
+    /// as its language. Nothing where these are the application's.
+    virtual std::shared_ptr<void> visit() const { return nullptr; }
 };
 
 } // namespace gx::qt

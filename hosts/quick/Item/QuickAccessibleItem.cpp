@@ -14,7 +14,8 @@ QRect onScreenOf(const QQuickItem& item, const QRectF& area) {
 /// The control has the focus, its content the views.
 class ItemSurface final : public qt::QtAccessibleSurface {
 public:
-    ItemSurface(QQuickItem& control, QQuickItem& content) : control_(&control), content_(&content) {}
+    ItemSurface(QQuickItem& control, QQuickItem& content, std::shared_ptr<const QuickSurroundings> surroundings)
+        : control_(&control), content_(&content), surroundings_(std::move(surroundings)) {}
 
     QObject* object() const override { return content_ ? control_.data() : nullptr; }
     bool isEnabled() const override { return control_->isEnabled(); }
@@ -28,17 +29,20 @@ public:
     }
     QRect onScreen(const QRectF& area) const override { return onScreenOf(*content_, area); }
     QRect frame() const override { return onScreenOf(*control_, QRectF(0, 0, control_->width(), control_->height())); }
+    std::shared_ptr<void> visit() const override { return std::make_shared<QuickSurroundings::Visit>(*surroundings_); }
 
 private:
     QPointer<QQuickItem> control_;
     QPointer<QQuickItem> content_;
+    std::shared_ptr<const QuickSurroundings> surroundings_;
 };
 
 } // namespace
 
-QuickAccessibleItem::QuickAccessibleItem(QQuickItem& control, QQuickItem& content, WeakRef<UIWindow> window, Clock clock,
-                                         std::function<QString()> name)
-    : QuickAccessibleItem(control, std::make_shared<ItemSurface>(control, content), std::move(window), std::move(clock), std::move(name)) {}
+QuickAccessibleItem::QuickAccessibleItem(QQuickItem& control, QQuickItem& content, std::shared_ptr<const QuickSurroundings> surroundings,
+                                         WeakRef<UIWindow> window, Clock clock, std::function<QString()> name)
+    : QuickAccessibleItem(control, std::make_shared<ItemSurface>(control, content, std::move(surroundings)), std::move(window),
+                          std::move(clock), std::move(name)) {}
 
 QuickAccessibleItem::QuickAccessibleItem(QQuickItem& control, std::shared_ptr<qt::QtAccessibleSurface> surface, WeakRef<UIWindow> window,
                                          Clock clock, std::function<QString()> name)

@@ -9,6 +9,7 @@
 #include <QQuickWindow>
 
 #include "QtAccessibility.h"
+#include "QuickSurroundings.h"
 
 namespace gx::quick {
 
@@ -16,9 +17,10 @@ namespace gx::quick {
 /// views.
 class QuickAccessibleItem final : public QAccessibleObject, public qt::QtAccessibleView {
 public:
-    /// `content` is the control's content, whose views `window` holds. The clock and the name are
-    /// queried only while the control lives.
-    QuickAccessibleItem(QQuickItem& control, QQuickItem& content, WeakRef<UIWindow> window, Clock clock, std::function<QString()> name);
+    /// `content` is the control's content, whose views `window` holds; they are queried in
+    /// `surroundings`. The clock and the name are queried only while the control lives.
+    QuickAccessibleItem(QQuickItem& control, QQuickItem& content, std::shared_ptr<const QuickSurroundings> surroundings,
+                        WeakRef<UIWindow> window, Clock clock, std::function<QString()> name);
 
     /// Lets go of an interface of another class, made before the control had its content, so that
     /// the next query makes one of this: Qt makes one as soon as a document sets a role or a name.

@@ -28,7 +28,8 @@ QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
         auto* const item = qobject_cast<QuickItem*>(child);
         if (item != nullptr && item->control() == control) {
             return new QuickAccessibleItem(
-                *control, *item, item->uiWindow(), [item] { return item->now(); }, [item] { return item->accessibleName(); });
+                *control, *item, item->surroundings(), item->uiWindow(), [item] { return item->now(); },
+                [item] { return item->accessibleName(); });
         }
     }
     return nullptr;
@@ -76,16 +77,16 @@ void QuickItem::componentComplete() {
 
 void QuickItem::follow() {
     if (!isComponentComplete()) return;
-    const double scaleBefore = surroundings_.styleSheet()->textScale();
+    const double scaleBefore = surroundings_->styleSheet()->textScale();
     const QuickLooks looks = control_.looks();
     const QColor highlight = control_.highlight();
-    surroundings_.styleSheet()->setLooks(looks);
-    surroundings_.setLocale_isMirrored(control_.locale(), control_.isMirrored());
+    surroundings_->styleSheet()->setLooks(looks);
+    surroundings_->setLocale_isMirrored(control_.locale(), control_.isMirrored());
     window_->setReducesMotion(control_.reducesMotion());
     window_->setUserInterfaceStyle(control_.isDark() ? UIUserInterfaceStyle::Dark : UIUserInterfaceStyle::Light);
     window_->setAccessibilityContrast(looks.isHighContrast ? UIAccessibilityContrast::High : UIAccessibilityContrast::Normal);
     window_->setTintColor(UIColor::colorWithRed_green_blue_alpha(highlight.redF(), highlight.greenF(), highlight.blueF(), 1));
-    const double scale = surroundings_.styleSheet()->textScale();
+    const double scale = surroundings_->styleSheet()->textScale();
     setImplicitSize(usualWidth() * scale, usualHeight * scale);
     setOpacity(control_.isEnabled() ? 1 : disabledOpacity);
     const QuickSurroundings::Visit here = visit();
@@ -264,9 +265,11 @@ bool QuickItem::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusIn:
         focusCame(static_cast<QFocusEvent*>(event)->reason()); // NOLINT
         return false;
-    case QEvent::FocusOut:
+    case QEvent::FocusOut: {
+        const QuickSurroundings::Visit here = visit();
         window->setReceivesKeys(false);
         return false;
+    }
     default:
         return false;
     }

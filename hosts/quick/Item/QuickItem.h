@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -46,14 +48,20 @@ public:
     QQuickItem* control() const { return control_.item(); }
     /// In seconds, on the clock of the frames.
     double now() const { return static_cast<double>(clock_.nsecsElapsed()) * 1e-9; }
+    /// Its own looks, language and direction, for a query from outside.
+    std::shared_ptr<const QuickSurroundings> surroundings() const { return surroundings_; }
     /// What the application calls the control; empty without a name.
     QString accessibleName() const { return control_.accessibleName(); }
+    /// The same for views; nothing without a name.
+    std::optional<std::string> accessibilityLabel() const {
+        const QString name = accessibleName();
+        return name.isEmpty() ? std::nullopt : std::optional(name.toStdString());
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    [[nodiscard]] QuickSurroundings::Visit visit() const { return QuickSurroundings::Visit(surroundings_); }
-    const QuickSurroundings& surroundings() const { return surroundings_; }
+    [[nodiscard]] QuickSurroundings::Visit visit() const { return QuickSurroundings::Visit(*surroundings_); }
     /// In place of the one before. It fills the item.
     void setRootView(const Ref<UIView>& view);
     /// Looks, language, direction or size have changed. Called in the item's surroundings; rows
@@ -106,7 +114,7 @@ private:
     qt::QtEventClock eventClock_;
     QElapsedTimer clock_;
     QuickCanvas canvas_;
-    QuickSurroundings surroundings_;
+    std::shared_ptr<QuickSurroundings> surroundings_ = std::make_shared<QuickSurroundings>();
     QuickControl control_;
     QPointer<QQuickWindow> shownIn_;
     bool isFrameNeeded_ = false;

@@ -180,13 +180,8 @@ void QuickColumnsItem::userDidSelect() {
 
 void QuickColumnsItem::surroundingsDidChange(bool) {
     if (!wheel_) return;
-    applyName();
+    wheel_->setAccessibilityLabel(accessibilityLabel());
     wheel_->reload();
-}
-
-void QuickColumnsItem::applyName() {
-    const QString name = accessibleName();
-    if (!name.isEmpty()) wheel_->setAccessibilityLabel(name.toStdString());
 }
 
 void QuickColumnsItem::componentComplete() {
@@ -196,7 +191,7 @@ void QuickColumnsItem::componentComplete() {
     wheel_->follow();
     wheel_->setTitle([this](double row, NSInteger column) { return titleOf(row, column); });
     wheel_->didChange = [this] { userDidSelect(); };
-    applyName();
+    wheel_->setAccessibilityLabel(accessibilityLabel());
     setRootView(wheel_->view());
     reload();
 }

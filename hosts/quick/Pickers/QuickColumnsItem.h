@@ -78,7 +78,6 @@ private:
     void select();
     bool takeSelectedRows();
     void userDidSelect();
-    void applyName();
 
     QVariantList columns_;
     QList<double> currentIndexes_;

@@ -200,15 +200,17 @@ void QuickPickerItem::userDidSelect() {
 void QuickPickerItem::setIconImages(const QStringList& images) {
     if (images == iconImages_) return;
     iconImages_ = images;
+    const QPointer<QuickPickerItem> self(this); // Handlers may drop the item.
     if (picker_) applyIcons();
-    emit iconImagesChanged();
+    if (self) emit iconImagesChanged();
 }
 
 void QuickPickerItem::setIconLabels(const QStringList& labels) {
     if (labels == iconLabels_) return;
     iconLabels_ = labels;
+    const QPointer<QuickPickerItem> self(this); // Handlers may drop the item.
     if (picker_) applyIcons();
-    emit iconLabelsChanged();
+    if (self) emit iconLabelsChanged();
 }
 
 void QuickPickerItem::applyIcons() {
@@ -241,21 +243,18 @@ void QuickPickerItem::surroundingsDidChange(bool isRowHeightChanged) {
     if (!picker_) return;
     if (isRowHeightChanged) {
         // Rows are as high as their fonts need from the making of a picker on.
+        const QPointer<QuickPickerItem> self(this); // Handlers may drop the item.
         finishMovements();
+        if (!self) return;
         const Ref<elements::PropertyPicker> before = picker_;
         makePicker();
         before->copyTo(*picker_);
         before->didChange = nullptr;
         setRootView(picker_->view());
     }
-    applyName();
+    picker_->setAccessibilityLabel(accessibilityLabel());
     picker_->reload();
     refresh();
-}
-
-void QuickPickerItem::applyName() {
-    const QString name = accessibleName();
-    if (!name.isEmpty()) picker_->setAccessibilityLabel(name.toStdString());
 }
 
 void QuickPickerItem::componentComplete() {
@@ -272,7 +271,7 @@ void QuickPickerItem::componentComplete() {
         if (isSet_.test(i)) apply(static_cast<Property>(i));
     }
     if (!iconImages_.isEmpty()) applyIcons(); // Selects again, and reads what was applied.
-    applyName();
+    picker_->setAccessibilityLabel(accessibilityLabel());
     setRootView(picker_->view());
     picker_->reload();
     refresh();

@@ -234,7 +234,6 @@ private:
     double given(double value) const;
     void apply(Property property);
     void applyIcons();
-    void applyName();
     void makePicker();
     void refresh();
     void userDidSelect();

@@ -3,15 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 #include <QAccessible>
+#include <QFont>
+#include <QImage>
+#include <QPointer>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <GXUIPickers/QuickPickers.h>
@@ -55,6 +60,22 @@ constexpr const char* duration = R"(DurationPicker {
     Accessible.name: "Ride"
 })";
 
+/// Does something when an object emits a signal, within the emission.
+class OnSignal : public QObject {
+public:
+    OnSignal(QObject& sender, const char* signal, std::function<void()> work) : work_(std::move(work)) {
+        const int index = sender.metaObject()->indexOfSignal(signal);
+        EXPECT_TRUE(QMetaObject::connect(&sender, index, this, QObject::staticMetaObject.methodCount(), Qt::DirectConnection));
+    }
+    int qt_metacall(QMetaObject::Call call, int index, void** arguments) override {
+        if (QObject::qt_metacall(call, index, arguments) == 0) work_();
+        return -1;
+    }
+
+private:
+    std::function<void()> work_;
+};
+
 } // namespace
 
 TEST_F(LinkedModule, APickerIsAGroupOfItsColumns) {
@@ -78,6 +99,20 @@ TEST_F(LinkedModule, APickerIsAGroupOfItsColumns) {
     EXPECT_EQ(value->minimumValue().toDouble(), 0);
     EXPECT_EQ(value->maximumValue().toDouble(), 59);
     EXPECT_EQ(value->minimumStepSize().toDouble(), 1);
+}
+
+TEST_F(LinkedModule, ElementsAreInTheLanguageOfTheirPicker) {
+    QQuickItem* const row = made(R"(Row {
+        DurationPicker { locale: Qt.locale("de_DE"); width: 200; type: DurationType.HoursMinutes; value: 4500000 }
+        DurationPicker { locale: Qt.locale("fr_FR"); width: 200; type: DurationType.HoursMinutes; value: 4500000 }
+    })");
+    QAccessibleInterface* const german = column(QAccessible::queryAccessibleInterface(row->childItems().at(0)), 0);
+    QAccessibleInterface* const french = column(QAccessible::queryAccessibleInterface(row->childItems().at(1)), 0);
+    EXPECT_EQ(nameOf(german), "Dauer, Stunden");
+    EXPECT_EQ(nameOf(french), "Durée, heures");
+    EXPECT_EQ(textOf(german), "1 Stunde 15 Minuten");
+    EXPECT_EQ(textOf(french), "1 heure 15 minutes");
+    EXPECT_EQ(german->textInterface()->text(0, -1).toStdString(), "1 Stunde 15 Minuten");
 }
 
 TEST_F(LinkedModule, AColumnIsSetAndSteppedAsByTheUser) {
@@ -129,6 +164,9 @@ TEST_F(LinkedModule, ANameMayChange) {
     item->setProperty("title", "Walk");
     EXPECT_EQ(nameOf(picker), "Walk");
     EXPECT_EQ(nameOf(column(picker, 0)), "Walk, hours");
+    item->setProperty("title", "");
+    EXPECT_EQ(nameOf(picker), "");
+    EXPECT_EQ(nameOf(column(picker, 0)), "Duration, hours");
 }
 
 TEST_F(LinkedModule, ElementsOfAPickerThatIsGoneAreInvalid) {
@@ -136,6 +174,46 @@ TEST_F(LinkedModule, ElementsOfAPickerThatIsGoneAreInvalid) {
     shown.reset();
     const QAccessibleInterface* const left = QAccessible::accessibleInterface(identifier);
     EXPECT_TRUE(left == nullptr || !left->isValid());
+}
+
+// The next two fail where memory is checked.
+
+TEST_F(LinkedModule, AHandlerOfItsTextMayDropTheContentThatGetsIcons) {
+    QQuickItem* const control = made("IconPicker {}");
+    QPointer<QQuickItem> content(control->property("contentItem").value<QQuickItem*>());
+    const QTemporaryDir folder;
+    QImage picture(24, 24, QImage::Format_ARGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(folder.filePath("sunny.png")));
+    content->setProperty("iconImages", QStringList{QUrl::fromLocalFile(folder.filePath("sunny.png")).toString()});
+    int count = 0;
+    const OnSignal dropping(*content, "textChanged()", [&] {
+        ++count;
+        delete content;
+    });
+    content->setProperty("iconLabels", QStringList{QStringLiteral("Sunny")});
+    EXPECT_EQ(count, 1);
+    EXPECT_FALSE(content);
+}
+
+TEST_F(LinkedModule, AHandlerOfAValueMayDropTheContentWhileItsFontChanges) {
+    QQuickItem* const control = made(R"(DurationPicker {
+        locale: Qt.locale("en_US")
+        type: DurationType.HoursMinutes
+        value: 4500000
+    })");
+    QPointer<QQuickItem> content(control->property("contentItem").value<QQuickItem*>());
+    column(QAccessible::queryAccessibleInterface(control), 1)->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    int count = 0;
+    const OnSignal dropping(*content, "valueChanged()", [&] {
+        ++count;
+        delete content;
+    });
+    QFont larger = control->property("font").value<QFont>();
+    larger.setPixelSize(30);
+    control->setProperty("font", larger); // The wheel still spins.
+    EXPECT_EQ(count, 1);
+    EXPECT_FALSE(content);
 }
 
 // Its controls change their looks while they are taken down.
