@@ -206,9 +206,10 @@ bool UIViewWidget::event(QEvent* event) {
 void UIViewWidget::hideEvent(QHideEvent* event) {
     const std::shared_ptr<QtInput> input = input_;
     const Ref<UIWindowInput> window = windowInput_;
+    const double time = now();
     QWidget::hideEvent(event);
     input->pointerLeft();
-    input->cancelAll(now());
+    input->cancelAll(time);
     window->finishAnimations();
 }
 

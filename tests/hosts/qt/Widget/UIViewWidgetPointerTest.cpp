@@ -73,6 +73,23 @@ TEST_F(UIViewWidgetPointer, EachStyleHasAShape) {
     }
 }
 
+TEST_F(UIViewWidgetPointer, AViewMayDropTheWidgetWhenThePointerLeavesAsItIsHidden) {
+    struct DroppingView : UIView {
+        std::optional<UIPointerStyle> hoverMoved(CGPoint) override { return UIPointerStyle::Press; }
+        void hoverEnded() override { delete std::exchange(shownBy, nullptr); }
+        qt::UIViewWidget* shownBy = nullptr;
+    };
+    const auto view = create<DroppingView>(CGRectMake(0, 0, 320, 216));
+    view->shownBy = new qt::UIViewWidget;
+    view->shownBy->setClock([] { return 5.0; });
+    view->shownBy->setRootView(view);
+    view->shownBy->uiWindow()->pointerMoved({100, 100});
+    QHideEvent event; // Where memory is checked, a use of the widget afterwards fails.
+    QApplication::sendEvent(view->shownBy, &event);
+    EXPECT_EQ(view->shownBy, nullptr);
+    EXPECT_FALSE(view->window());
+}
+
 TEST_F(UIViewWidgetPointer, MovesThatASystemMakesOfTouchesDoNotHover) {
     hover(firstColumn, Qt::MouseEventSynthesizedBySystem);
     EXPECT_EQ(shape(), Qt::ArrowCursor);
