@@ -1,5 +1,6 @@
 #include "GXWeightPickerView.h"
 
+#include <array>
 #include <cmath>
 
 #include "GXLocalization.h"
@@ -20,78 +21,58 @@ constexpr NSInteger unitComponent = hundredthsComponent;
 constexpr CGFloat tenthsWidth = 20;
 constexpr CGFloat unitWidth = 60;
 
-/// The whole numbers that the first column offers, which are the unit's range; `end` is exclusive.
-struct WholeNumbers {
+/// All that differs from unit to unit. Another unit is another row, and another `GXWeightUnit`.
+struct WeightUnit {
+    /// The whole numbers that the first column offers, which are the unit's range; `end` is
+    /// exclusive.
     NSInteger first;
     NSInteger end;
     NSInteger count() const { return end - first; }
+    float (*fromKilograms)(float weight);
+    /// Nothing for kilograms, whose values are not rounded to single precision.
+    float (*toKilograms)(float weight);
+    const char* name;
+    const char* comment;
+    GXAccessibilityUnit accessibilityUnit;
+    GXAccessibilityName accessibilityName;
 };
 
-WholeNumbers wholeNumbersOf(GXWeightUnit unit) {
-    switch (unit) {
-    case GXWeightUnitKilogram:
-        return {15, 350};
-    case GXWeightUnitPound:
-        return {34, 771};
-    default:
-        return {3, 55};
-    }
-}
+/// In the order of `GXWeightUnit`, which is that of the unit column's rows.
+constexpr std::array<WeightUnit, 3> weightUnits = {{
+    {15, 350, [](float weight) { return weight; }, nullptr, "kg", "unit kg (kilogram)", GXAccessibilityUnit::Kilogram,
+     GXAccessibilityName::Kilograms},
+    {34, 771, [](float weight) { return GXUnitConverter::kgToLb(weight); }, [](float weight) { return GXUnitConverter::lbToKg(weight); },
+     "lb", "unit lb (pound)", GXAccessibilityUnit::Pound, GXAccessibilityName::Pounds},
+    {3, 55, [](float weight) { return GXUnitConverter::kgToSt(weight); }, [](float weight) { return GXUnitConverter::stToKg(weight); },
+     "st", "unit st (stones)", GXAccessibilityUnit::Stone, GXAccessibilityName::Stones},
+}};
 
 /// The last weight that the wheel of pounds shows.
 constexpr float lastPounds = 770.9F;
 
-float weightInUnit(float kilograms, GXWeightUnit unit) {
-    switch (unit) {
-    case GXWeightUnitKilogram:
-        return kilograms;
-    case GXWeightUnitPound:
-        return GXUnitConverter::kgToLb(kilograms);
-    default:
-        return GXUnitConverter::kgToSt(kilograms);
-    }
+bool isKnown(GXWeightUnit unit) { return unit < weightUnits.size(); }
+
+/// A unit that is none of these is shown like the last one.
+const WeightUnit& rulesOf(GXWeightUnit unit) { return isKnown(unit) ? weightUnits[static_cast<std::size_t>(unit)] : weightUnits.back(); }
+
+GXWeightUnit unitOfRow(NSInteger row) {
+    const bool exists = row >= 0 && row < static_cast<NSInteger>(weightUnits.size());
+    return exists ? static_cast<GXWeightUnit>(row) : GXWeightUnitKilogram;
 }
 
-NSNumber boxedKilograms(double weight, GXWeightUnit unit) {
-    switch (unit) {
-    case GXWeightUnitKilogram:
-        return NSNumber::numberWithDouble(weight);
-    case GXWeightUnitPound:
-        return NSNumber::numberWithFloat(GXUnitConverter::lbToKg(static_cast<float>(weight)));
-    default:
-        return NSNumber::numberWithFloat(GXUnitConverter::stToKg(static_cast<float>(weight)));
-    }
+NSNumber boxedKilograms(double weight, const WeightUnit& unit) {
+    if (!unit.toKilograms) return NSNumber::numberWithDouble(weight);
+    return NSNumber::numberWithFloat(unit.toKilograms(static_cast<float>(weight)));
+}
+
+NSNumber boxedBound(NSInteger weight, const WeightUnit& unit) {
+    if (!unit.toKilograms) return NSNumber::numberWithInt(static_cast<std::int32_t>(weight));
+    return boxedKilograms(static_cast<double>(weight), unit);
 }
 
 std::optional<std::string> nameOfUnit(GXWeightUnit unit) {
-    const Ref<GXLocalization> localization = GXLocalization::sharedLocalization();
-    switch (unit) {
-    case GXWeightUnitPound:
-        return localization->localizedStringWithKey_comment("lb", "unit lb (pound)");
-    case GXWeightUnitStone:
-        return localization->localizedStringWithKey_comment("st", "unit st (stones)");
-    default:
-        return localization->localizedStringWithKey_comment("kg", "unit kg (kilogram)");
-    }
-}
-
-// A unit that is none of the three is shown like stones.
-
-GXAccessibilityUnit accessibilityUnitOf(GXWeightUnit unit) {
-    if (unit == GXWeightUnitKilogram) return GXAccessibilityUnit::Kilogram;
-    return unit == GXWeightUnitPound ? GXAccessibilityUnit::Pound : GXAccessibilityUnit::Stone;
-}
-
-GXAccessibilityName accessibilityNameOf(GXWeightUnit unit) {
-    if (unit == GXWeightUnitKilogram) return GXAccessibilityName::Kilograms;
-    return unit == GXWeightUnitPound ? GXAccessibilityName::Pounds : GXAccessibilityName::Stones;
-}
-
-bool isKnown(GXWeightUnit unit) { return unit <= GXWeightUnitStone; }
-
-GXWeightUnit unitOfRow(NSInteger row) {
-    if (row == 1) return GXWeightUnitPound;
-    return row == 2 ? GXWeightUnitStone : GXWeightUnitKilogram;
+    const WeightUnit& rules = rulesOf(unit);
+    return GXLocalization::sharedLocalization()->localizedStringWithKey_comment(rules.name, rules.comment);
 }
 
 } // namespace
@@ -138,34 +119,22 @@ void GXWeightPickerView::updateCurrentRightLabel() {
 void GXWeightPickerView::updateMinMaxWeight() {
     const Ref<GXBasePickerView> keep = self();
     const GXWeightUnit unit = weightUnit();
-    const WholeNumbers range = wholeNumbersOf(unit);
-    switch (unit) {
-    case GXWeightUnitKilogram:
-        setMinValue(NSNumber::numberWithInt(static_cast<std::int32_t>(range.first)));
-        setMaxValue(NSNumber::numberWithInt(static_cast<std::int32_t>(range.end)));
-        break;
-    case GXWeightUnitPound:
-        setMinValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(static_cast<float>(range.first))));
-        setMaxValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(static_cast<float>(range.end))));
-        break;
-    case GXWeightUnitStone:
-        setMinValue(NSNumber::numberWithFloat(GXUnitConverter::stToKg(static_cast<float>(range.first))));
-        setMaxValue(NSNumber::numberWithFloat(GXUnitConverter::stToKg(static_cast<float>(range.end))));
-        break;
-    }
+    if (!isKnown(unit)) return;
+    setMinValue(boxedBound(rulesOf(unit).first, rulesOf(unit)));
+    setMaxValue(boxedBound(rulesOf(unit).end, rulesOf(unit)));
 }
 
 void GXWeightPickerView::selectCurrentValue() {
     const Ref<GXBasePickerView> keep = self();
     if (currentValue().floatValue() < minValue().floatValue()) return;
-    float weight = weightInUnit(currentValue().floatValue(), weightUnit());
+    float weight = rulesOf(weightUnit()).fromKilograms(currentValue().floatValue());
     // Pounds alone are clamped to the wheel; kilograms and stones beyond it keep their value.
-    if (weightUnit_ == GXWeightUnitPound && weight > static_cast<float>(wholeNumbersOf(GXWeightUnitPound).end)) {
+    if (weightUnit_ == GXWeightUnitPound && weight > static_cast<float>(rulesOf(GXWeightUnitPound).end)) {
         setCurrentValue(NSNumber::numberWithFloat(GXUnitConverter::lbToKg(lastPounds)));
         weight = lastPounds;
     }
     const float whole = std::floor(weight);
-    const auto row = truncateTo<NSInteger>(whole - static_cast<float>(wholeNumbersOf(weightUnit()).first));
+    const auto row = truncateTo<NSInteger>(whole - static_cast<float>(rulesOf(weightUnit()).first));
     // A fraction of 0.95 or more is tenth 10, which the wheel shows as 9: 72.96 kg reads 72.9 and
     // not 73.0.
     const auto tenth = truncateTo<NSInteger>(std::round((weight - whole) * 10.0F));
@@ -183,13 +152,13 @@ NSInteger GXWeightPickerView::numberOfComponentsInPickerView(const Ref<UIPickerV
 NSInteger GXWeightPickerView::pickerView_numberOfRowsInComponent(const Ref<UIPickerView>&, NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return wholeNumbersOf(weightUnit()).count();
+        return rulesOf(weightUnit()).count();
     case separatorComponent:
         return 1;
     case tenthsComponent:
         return 10;
     default:
-        return 3;
+        return static_cast<NSInteger>(weightUnits.size());
     }
 }
 
@@ -197,7 +166,7 @@ std::optional<std::string> GXWeightPickerView::pickerView_titleForRow_forCompone
                                                                                    NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return std::to_string(narrowTo32Bits(wrappingAdd(row, wholeNumbersOf(weightUnit()).first)));
+        return std::to_string(narrowTo32Bits(wrappingAdd(row, rulesOf(weightUnit()).first)));
     case tenthsComponent:
         return std::to_string(narrowTo32Bits(row));
     case unitComponent:
@@ -225,8 +194,8 @@ CGFloat GXWeightPickerView::pickerView_widthForComponent(const Ref<UIPickerView>
 // The user's selections
 
 void GXWeightPickerView::storeWeight(NSInteger wholeRow, NSInteger tenths) {
-    const NSInteger whole = wrappingAdd(wholeRow, wholeNumbersOf(weightUnit()).first);
-    setCurrentValue(boxedKilograms(static_cast<double>(whole) + static_cast<double>(tenths) / 10.0, weightUnit()));
+    const NSInteger whole = wrappingAdd(wholeRow, rulesOf(weightUnit()).first);
+    setCurrentValue(boxedKilograms(static_cast<double>(whole) + static_cast<double>(tenths) / 10.0, rulesOf(weightUnit())));
 }
 
 void GXWeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerView>&, NSInteger row, NSInteger component) {
@@ -254,7 +223,7 @@ void GXWeightPickerView::pickerView_didSelectRow_inComponent(const Ref<UIPickerV
 std::optional<GXAccessibilityName> GXWeightPickerView::accessibilityPartOfComponent(NSInteger component) {
     switch (component) {
     case wholeComponent:
-        return accessibilityNameOf(weightUnit());
+        return rulesOf(weightUnit()).accessibilityName;
     case tenthsComponent:
         return GXAccessibilityName::Tenths;
     case unitComponent:
@@ -268,7 +237,7 @@ std::optional<std::string> GXWeightPickerView::pickerView_accessibilityValueForR
                                                                                                 NSInteger component) {
     const RowInComponent at = {row, component};
     const GXWeightUnit unit = component == unitComponent ? unitOfRow(row) : weightUnit();
-    return accessibilityQuantity(reportedNumber(wholeComponent, reportedTitle(tenthsComponent, at), at), accessibilityUnitOf(unit));
+    return accessibilityQuantity(reportedNumber(wholeComponent, reportedTitle(tenthsComponent, at), at), rulesOf(unit).accessibilityUnit);
 }
 
 } // namespace gx
