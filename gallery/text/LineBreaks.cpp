@@ -3,35 +3,18 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "CodePoints.h"
+
 using namespace gx;
 
 namespace gallery {
 
 namespace {
 
-struct Character {
-    char32_t code = 0;
-    std::size_t start = 0; ///< its first byte
-    std::size_t end = 0;   ///< behind its last one
-};
-
-std::vector<Character> charactersOf(std::string_view text) {
-    constexpr unsigned char continuationMask = 0xC0;
-    constexpr unsigned char continuation = 0x80;
-    std::vector<Character> characters;
-    for (std::size_t at = 0; at < text.size();) {
-        const auto first = static_cast<unsigned char>(text[at]);
-        Character character = {first, at, at + 1};
-        if (first >= 0xC0) character.code = first & (first >= 0xF0 ? 0x07U : first >= 0xE0 ? 0x0FU : 0x1FU);
-        for (; character.end < text.size(); ++character.end) {
-            const auto next = static_cast<unsigned char>(text[character.end]);
-            if ((next & continuationMask) != continuation) break;
-            character.code = (character.code << 6U) | (next & 0x3FU);
-        }
-        at = character.end;
-        characters.push_back(character);
-    }
-    return characters;
+std::vector<CodePoint> codePointsOf(std::string_view text) {
+    std::vector<CodePoint> points;
+    for (std::size_t place = 0; place < text.size(); place = points.back().end) points.push_back(codePointAt(text, place));
+    return points;
 }
 
 bool isOneOf(std::u32string_view set, char32_t code) { return set.find(code) != std::u32string_view::npos; }
@@ -77,7 +60,7 @@ struct Piece {
 
 std::vector<Piece> piecesOf(std::string_view text) {
     std::vector<Piece> pieces;
-    const std::vector<Character> characters = charactersOf(text);
+    const std::vector<CodePoint> characters = codePointsOf(text);
     bool followsSpace = false;
     for (std::size_t i = 0; i < characters.size();) {
         if (characters[i].code == ' ') {
@@ -137,19 +120,19 @@ std::vector<Piece> joinNumbersAndUnits(const std::vector<Piece>& pieces, CGFloat
 }
 
 /// Whether a new syllable may begin with a letter: at a consonant that a vowel follows.
-bool beginsSyllable(const std::vector<Character>& word, std::size_t at) {
+bool beginsSyllable(const std::vector<CodePoint>& word, std::size_t at) {
     constexpr std::size_t fewest = 2; // Letters on either side.
     if (at < fewest || at + fewest > word.size()) return false;
     const auto code = [&word](std::size_t index) { return word[index].code; };
     const bool areLetters =
         std::all_of(word.begin() + static_cast<std::ptrdiff_t>(at - fewest), word.begin() + static_cast<std::ptrdiff_t>(at + fewest),
-                    [](const Character& character) { return isLetter(character.code); });
+                    [](const CodePoint& character) { return isLetter(character.code); });
     const auto stayTogether = [](char32_t first, char32_t second) { return areOneSound(first, second) || areOneOnset(first, second); };
     if (!areLetters || isVowel(code(at)) || stayTogether(code(at - 1), code(at))) return false;
     const bool isPair = at + 2 < word.size() && stayTogether(code(at), code(at + 1));
     if (!isVowel(code(isPair ? at + 2 : at + 1))) return false;
     return std::any_of(word.begin(), word.begin() + static_cast<std::ptrdiff_t>(at),
-                       [](const Character& character) { return isVowel(character.code); });
+                       [](const CodePoint& character) { return isVowel(character.code); });
 }
 
 struct Part {
@@ -159,7 +142,7 @@ struct Part {
 
 /// The longest beginning of a word that fits, and at least one character.
 Part beginningThatFits(std::string_view word, CGFloat width, const LineBreaks::WidthOf& widthOf) {
-    const std::vector<Character> characters = charactersOf(word);
+    const std::vector<CodePoint> characters = codePointsOf(word);
     std::size_t fitting = 1;
     while (fitting < characters.size() && widthOf(word.substr(0, characters[fitting].end)) <= width) ++fitting;
     for (std::size_t at = fitting; at > 1; --at) {

@@ -3,26 +3,28 @@
 #include <cstddef>
 #include <optional>
 
+#include "CodePoints.h"
+
 namespace gallery {
 
 namespace {
 
 constexpr const char* rightToLeftMark = "\u200F";
 
-bool isFromRight(unsigned code) {
+bool isFromRight(char32_t code) {
     return (code >= 0x05D0 && code <= 0x05F4) || (code >= 0x0620 && code <= 0x065F) || (code >= 0x066E && code <= 0x06EF);
 }
 
-/// Whether the first letter is read from the right; nothing if there is none. Letters of two bytes
-/// are enough: they include Hebrew and Arabic.
+/// Whether the first letter is read from the right; nothing if there is none. Only scripts that
+/// stand in Hebrew and Arabic texts count.
 std::optional<bool> isFirstLetterFromRight(std::string_view text) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if ((byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')) return false;
-        if (byte < 0xC3 || byte > 0xDF || i + 1 == text.size()) continue;
-        const unsigned code = ((byte & 0x1FU) << 6U) | (static_cast<unsigned char>(text[i + 1]) & 0x3FU);
+    for (std::size_t place = 0; place < text.size();) {
+        const CodePoint point = codePointAt(text, place);
+        const char32_t code = point.code;
         if (isFromRight(code)) return true;
-        if (code < 0x0530) return false; // Latin, Greek, Cyrillic.
+        const bool isLatin = (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z');
+        if (isLatin || (code >= 0x00C0 && code < 0x0530)) return false; // With Greek and Cyrillic.
+        place = point.end;
     }
     return std::nullopt;
 }
@@ -30,10 +32,10 @@ std::optional<bool> isFirstLetterFromRight(std::string_view text) {
 } // namespace
 
 bool TextDirection::hasLettersFromRight(std::string_view text) {
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (byte < 0xD6 || byte > 0xDB) continue;
-        if (isFromRight(((byte & 0x1FU) << 6U) | (static_cast<unsigned char>(text[i + 1]) & 0x3FU))) return true;
+    for (std::size_t place = 0; place < text.size();) {
+        const CodePoint point = codePointAt(text, place);
+        if (isFromRight(point.code)) return true;
+        place = point.end;
     }
     return false;
 }
