@@ -19,6 +19,9 @@ public:
     static constexpr std::size_t longestLine = 8U << 20U;
     /// Far beyond any screen and any recording.
     static constexpr double largestNumber = 1e12;
+    /// Of a window, in points. Chosen: with four pixels for each, a picture of it still fits into
+    /// memory.
+    static constexpr double largestSide = 4096;
 
     /// Chosen: no element lies as deep in a screen.
     static constexpr std::size_t longestList = 32;

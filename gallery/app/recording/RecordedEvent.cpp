@@ -166,7 +166,6 @@ std::string RecordedEvent::line() const {
 }
 
 std::optional<RecordedEvent> RecordedEvent::eventOfLine(const std::string& line, std::string& error) {
-    constexpr double largestSide = 4096;
     LineReader reader(line);
     RecordedEvent event;
     event.time = reader.number("time");
@@ -177,7 +176,8 @@ std::optional<RecordedEvent> RecordedEvent::eventOfLine(const std::string& line,
     if (event.kind == Kind::Scroll) readScroll(reader, event.scroll);
     if (event.kind == Kind::Key) readKey(reader, event.key);
     if (event.kind == Kind::Action) readAction(reader, event);
-    if (event.kind == Kind::Size) event.size = {reader.number("width", 0, largestSide), reader.number("height", 0, largestSide)};
+    if (event.kind == Kind::Size)
+        event.size = {reader.number("width", 0, LineReader::largestSide), reader.number("height", 0, LineReader::largestSide)};
     if (event.kind == Kind::File) readFile(reader, event.file);
     if (event.kind == Kind::Picture) {
         event.name = reader.text("name");

@@ -63,7 +63,6 @@ std::string RecordingStart::line() const {
 
 std::optional<RecordingStart> RecordingStart::startOfLine(const std::string& line, std::string& error) {
     constexpr double smallestSide = 1;
-    constexpr double largestSide = 4096;
     constexpr double largestScale = 4;
     LineReader reader(line);
     if (reader.text("format") != format) reader.refuse("this is no recording of the gallery");
@@ -71,7 +70,8 @@ std::optional<RecordingStart> RecordingStart::startOfLine(const std::string& lin
     if (made < 1) reader.refuse("\"version\" is below 1");
     if (made > version) reader.refuse("this was recorded by a newer version of the gallery");
     RecordingStart start;
-    start.size = {reader.number("width", smallestSide, largestSide), reader.number("height", smallestSide, largestSide)};
+    start.size = {reader.number("width", smallestSide, LineReader::largestSide),
+                  reader.number("height", smallestSide, LineReader::largestSide)};
     start.scale = reader.number("scale", 1, largestScale);
     start.locale = reader.text("locale");
     start.decimalSeparator = reader.text("decimalSeparator");
