@@ -77,7 +77,7 @@ private:
     std::vector<Row> shown_;
     std::vector<Row> pool_;
     UIPickerCylinder cylinder_;
-    CGFloat rowHeight_ = 32;
+    CGFloat rowHeight_ = UIPickerCylinder::initialRowHeight;
     NSInteger anchor_ = 0;
     double offset_ = 0;
 };

@@ -120,7 +120,7 @@ private:
     double releaseVelocityAt(NSTimeInterval time) const;
 
     NSInteger count_ = 0;
-    CGFloat rowHeight_ = 32;
+    CGFloat rowHeight_ = 1; // Any above 0, while there are no rows.
     CGFloat extent_ = 0;
 
     UIScrollAxis axis_{UIScrollFeel::wheelColumn};

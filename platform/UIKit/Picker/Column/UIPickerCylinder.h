@@ -19,6 +19,9 @@ namespace gx {
 /// knows no views.
 class UIPickerCylinder {
 public:
+    /// In points, until there is another one: that of a wheel whose delegate gives none.
+    static constexpr CGFloat initialRowHeight = 32;
+
     /// Of a wheel and of its rows, both finite and the latter above 0.
     void setHeight_rowHeight(CGFloat height, CGFloat rowHeight);
 
@@ -41,7 +44,7 @@ private:
     double distanceOfEdge(CGFloat y) const;
 
     CGFloat height_ = 0;
-    CGFloat rowHeight_ = 32;
+    CGFloat rowHeight_ = initialRowHeight;
     CGFloat radius_ = 0;
     double reach_ = 0;
     // Where rows begin to fade toward the edge, and where they are gone.

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "UIPickerCylinder.h"
+#include "UIPickerView.h"
 
 using namespace gx;
 
@@ -42,6 +43,10 @@ struct UIPickerCylinderTest : testing::Test {
 };
 
 } // namespace
+
+TEST_F(UIPickerCylinderTest, RowsAreAtFirstAsHighAsThoseOfAWheelWhoseDelegateGivesNoHeight) {
+    EXPECT_EQ(UIPickerCylinder::initialRowHeight, UIPickerView::defaultRowHeight);
+}
 
 TEST_F(UIPickerCylinderTest, TheMiddleRowIsDrawnAsItIs) {
     forMany([](const UIPickerCylinder& wheel, CGFloat, CGFloat, UIAccessibilityContrast contrast) {
