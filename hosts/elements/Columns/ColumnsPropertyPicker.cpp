@@ -7,7 +7,7 @@
 
 namespace gx::elements {
 
-void ColumnsPropertyPicker::follow() {
+void ColumnsPropertyPicker::becomeDelegate() {
     const Ref<ColumnsPropertyPicker> self = refTo(this);
     wheel_->setDelegate(self);
     wheel_->setDataSource(WeakRef<UIPickerViewDataSource>(self));

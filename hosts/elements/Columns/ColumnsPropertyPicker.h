@@ -36,7 +36,7 @@ public:
     /// The titles of the selected rows.
     std::string text() const override;
     /// To be called once: the wheel holds its delegate weakly.
-    void follow();
+    void becomeDelegate();
 
     /// Nothing for a row without a title.
     virtual std::optional<std::string> titleOfRow_ofColumn(double row, NSInteger column) const = 0;

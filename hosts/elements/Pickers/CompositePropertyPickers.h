@@ -18,7 +18,7 @@ public:
     std::string text() const override { return picker_->currentValueText(); }
 
     /// To be called once: the picker holds its delegate weakly.
-    void follow() { picker_->setDelegate(WeakRef<GXBasePickerViewDelegate>(refTo(this))); }
+    void becomeDelegate() { picker_->setDelegate(WeakRef<GXBasePickerViewDelegate>(refTo(this))); }
 
 private:
     Ref<GXDistanceAndDurationPicker> picker_ = create<GXDistanceAndDurationPicker>(CGRectZero);
@@ -38,7 +38,7 @@ public:
     std::string text() const override { return picker_->currentValueText(); }
 
     /// To be called once: the picker holds its delegate weakly.
-    void follow() { picker_->setDelegate(WeakRef<GXBasePickerViewDelegate>(refTo(this))); }
+    void becomeDelegate() { picker_->setDelegate(WeakRef<GXBasePickerViewDelegate>(refTo(this))); }
 
 private:
     Ref<GXWeatherAndTemperaturePickerView> picker_ = create<GXWeatherAndTemperaturePickerView>(CGRectZero);

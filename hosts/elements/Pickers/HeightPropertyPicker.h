@@ -38,7 +38,7 @@ public:
     std::string text() const override { return picker_->currentValueText(); }
 
     /// To be called once: the picker holds its delegate weakly.
-    void follow() { picker_->setHeightDelegate(WeakRef<GXHeightPickerViewDelegate>(refTo(this))); }
+    void becomeDelegate() { picker_->setHeightDelegate(WeakRef<GXHeightPickerViewDelegate>(refTo(this))); }
 
 private:
     Ref<GXHeightPickerView> picker_ = create<HeightWheel>(CGRectZero);

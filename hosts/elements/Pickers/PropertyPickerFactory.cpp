@@ -26,7 +26,7 @@ Ref<PropertyPicker> other() {
         return nullptr;
     } else {
         const Ref<Element> element = create<Element>();
-        element->follow();
+        element->becomeDelegate();
         return element;
     }
 }

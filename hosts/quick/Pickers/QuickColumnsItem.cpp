@@ -188,7 +188,7 @@ void QuickColumnsItem::componentComplete() {
     QuickItem::componentComplete(); // The looks are known from here on.
     const QuickSurroundings::Visit here = visit();
     wheel_ = gx::create<QuickColumns>();
-    wheel_->follow();
+    wheel_->becomeDelegate();
     wheel_->setTitle([this](double row, NSInteger column) { return titleOf(row, column); });
     wheel_->didChange = [this] { userDidSelect(); };
     wheel_->setAccessibilityLabel(accessibilityLabel());

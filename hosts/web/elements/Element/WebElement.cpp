@@ -28,7 +28,7 @@ void WebElement::makePicker() {
     if (elements::isBuilt(elements::PickerKind::Columns) && kind_ == elements::PickerKind::Columns) {
         columns_ = create<WebColumns>();
         columns_->setNumber(window_.number());
-        columns_->follow();
+        columns_->becomeDelegate();
         picker_ = columns_;
     } else {
         picker_ = elements::pickerOfKind(kind_);
