@@ -80,6 +80,39 @@ class NumberingTest(unittest.TestCase):
         script = re.search(r"pointerFinger = (-?\d+)", read(SCRIPTS + "input.ts"))
         self.assertEqual(script[1], module[1])
 
+    def test_sizes_agree(self):
+        def number(path, name):
+            return float(re.search(r"\b" + name + r"(?: =|:) ([\d.]+)", read(path))[1])
+
+        script = SCRIPTS + "surroundings.ts"
+        style_sheet = "services/Style/GXStyleSheet"
+        self.assertEqual(number(script, "usualRowSize"), number(style_sheet + ".cpp", "fontSize"))
+        self.assertEqual(number(script, "least"), number(style_sheet + ".h", "minTextScale"))
+        self.assertEqual(number(script, "most"), number(style_sheet + ".h", "maxTextScale"))
+        self.assertEqual(number(script, "usualWidth"), number("hosts/elements/Pickers/HeightPropertyPicker.cpp", "usualWidth"))
+        self.assertEqual(number("hosts/quick/qml/PickerControl.qml", "font.pixelSize"), number(style_sheet + ".cpp", "fontSize"))
+
+    def test_choices_agree_in_qml_and_attributes(self):
+        properties = read(SCRIPTS + "properties.ts")
+        enums = read("hosts/quick/Pickers/QuickEnums.h")
+
+        def of_qml(name):
+            return numbers_of(enums[enums.index("namespace " + name):], "Value")
+
+        def of_attribute(start):
+            words = re.search(r"words: \{([^}]*)\}", properties[properties.index(start):])[1]
+            return [int(number) for number in re.findall(r": (\d)", words)]
+
+        module = read("pickers/Classes/Implementations/WeightPicker/GXWeightPickerView.h")
+        units = {name.removeprefix("GXWeightUnit"): number for name, number in numbers_of(module, "GXWeightUnit").items()}
+        self.assertEqual(of_qml("WeightUnit"), units)
+        self.assertEqual(of_attribute("property: Property.WeightUnit"), list(units.values()))
+
+        module = read("pickers/Classes/Implementations/DurationPicker/GXDurationType.h")
+        layouts = {name: int(number) for name, number in re.findall(r"GXDurationType(\w+) = (\d)", module)}
+        self.assertEqual(of_qml("DurationType"), layouts)
+        self.assertEqual(of_attribute("property: Property.Layout"), list(layouts.values()))
+
 
 if __name__ == "__main__":
     unittest.main()
