@@ -5,8 +5,11 @@
 /// What the module asks of the page: the imports of the WebAssembly module.
 ///
 /// Plain C functions, called synchronously. Natively, the program that uses the host defines them,
-/// as the tests do. The page acts on a notice after the module has returned, so no call comes back
-/// into the module.
+/// as the tests do.
+///
+/// - The page acts on a notice after the module has returned. So no call comes back into the module
+///   meanwhile, but the one of `text` that makes room for a title (`gx_page_row_title`).
+/// - The text buffer holds another text then, so a function takes its own out of it first.
 ///
 /// Texts are UTF-8 without an end mark. Lengths are CSS pixels, which are the points of floor 1.
 
@@ -59,7 +62,8 @@ void gx_page_did_change(std::int32_t element);
 
 // Queries of an element whose columns are the application's
 
-/// Puts the title of a row into the text buffer and returns its length; −1 for none.
+/// Puts the title of a row into the text buffer, by a call of `text`. Returns its length; −1 for
+/// none.
 GX_PAGE_IMPORT("rowTitle")
 std::int32_t gx_page_row_title(std::int32_t element, std::int32_t component, double row);
 }
