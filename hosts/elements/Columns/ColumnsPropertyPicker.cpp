@@ -47,10 +47,16 @@ void ColumnsPropertyPicker::setRow_ofColumn(double row, NSInteger column) {
     wheel_->selectRow_inComponent_animated(truncateTo<NSInteger>(std::clamp(row, 0.0, highestCount)), column, false);
 }
 
+std::optional<std::string> ColumnsPropertyPicker::titleOfExistingRow(NSInteger row, NSInteger column) const {
+    const Column* const shown = columnAt(column);
+    const bool exists = shown && row >= 0 && row < shown->rows;
+    return exists ? titleOfRow_ofColumn(static_cast<double>(row), column) : std::nullopt;
+}
+
 std::string ColumnsPropertyPicker::text() const {
     std::string text;
     for (NSInteger i = 0; i < static_cast<NSInteger>(columns_.size()); ++i) {
-        const std::optional<std::string> title = titleOfRow_ofColumn(rowOfColumn(i), i);
+        const std::optional<std::string> title = titleOfExistingRow(wheel_->selectedRowInComponent(i), i);
         if (!title || title->empty()) continue;
         if (!text.empty()) text += ' ';
         text += *title;
@@ -69,7 +75,7 @@ NSInteger ColumnsPropertyPicker::pickerView_numberOfRowsInComponent(const Ref<UI
 
 std::optional<std::string> ColumnsPropertyPicker::pickerView_titleForRow_forComponent(const Ref<UIPickerView>&, NSInteger row,
                                                                                       NSInteger component) {
-    return titleOfRow_ofColumn(static_cast<double>(row), component);
+    return titleOfExistingRow(row, component);
 }
 
 CGFloat ColumnsPropertyPicker::pickerView_widthForComponent(const Ref<UIPickerView>&, NSInteger component) {

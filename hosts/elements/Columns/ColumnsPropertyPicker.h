@@ -38,7 +38,7 @@ public:
     /// To be called once: the wheel holds its delegate weakly.
     void becomeDelegate();
 
-    /// Nothing for a row without a title.
+    /// Nothing for a row without a title. Called for rows that exist alone.
     virtual std::optional<std::string> titleOfRow_ofColumn(double row, NSInteger column) const = 0;
 
     NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& pickerView) override;
@@ -59,6 +59,8 @@ private:
         std::string label;
     };
     const Column* columnAt(NSInteger column) const;
+    /// A wheel queries a row of columns without rows too.
+    std::optional<std::string> titleOfExistingRow(NSInteger row, NSInteger column) const;
 
     std::vector<Column> columns_;
     Ref<GXMultiValuePickerView> wheel_ = GXMultiValuePickerView::wheelWithFrame(CGRectZero);

@@ -199,6 +199,21 @@ TEST_F(WebElementTest, ColumnsOfThePageShowItsTitles) {
     EXPECT_EQ(element->picker().wheels().front()->numberOfRowsInComponent(1), 9007199254740992) << "the rows that a double counts";
 }
 
+TEST_F(WebElementTest, ThePageIsNeverAskedForTitlesOfRowsThatDoNotExist) {
+    std::vector<std::pair<int, double>> asked;
+    page.title = [&asked](int column, double row) {
+        asked.emplace_back(column, row);
+        return std::string("a");
+    };
+    const auto element = opened(PickerKind::Columns);
+    element->columns()->setRowCounts({0, 1, 0});
+    draw(*element);
+    EXPECT_EQ(element->picker().text(), "a");
+    const std::pair<int, double> only = {1, 0};
+    EXPECT_FALSE(asked.empty());
+    for (const std::pair<int, double>& row : asked) EXPECT_EQ(row, only);
+}
+
 TEST_F(WebElementTest, IconsAreThePagesPictures) {
     const auto element = opened(PickerKind::Icon);
     auto images = std::make_shared<GXIconPickerView::Images>();
