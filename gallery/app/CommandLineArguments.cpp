@@ -71,6 +71,10 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
             parsed.showsHelp = true;
             continue;
         }
+        if (option == "--version") {
+            parsed.showsVersion = true;
+            continue;
+        }
         if (!isOption(option)) {
             error = "unknown option " + option;
             return std::nullopt;
@@ -120,8 +124,15 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
     return parsed;
 }
 
-std::string CommandLineArguments::usage() {
-    return "usage: gallery [options]\n"
+std::string CommandLineArguments::programName(const char* path) {
+    std::string name = path ? path : "";
+    name.erase(0, name.find_last_of('/') + 1); // Nothing without a folder: npos + 1 is 0.
+    return name.empty() ? "gallery" : name;
+}
+
+std::string CommandLineArguments::usage(const std::string& program) {
+    return "usage: " + program +
+           " [options]\n"
            "Shows the pickers of this library in a window.\n"
            "\n"
            "  --shots DIR    write pictures of all pages into DIR, light and dark, instead of opening a window\n"
@@ -133,6 +144,7 @@ std::string CommandLineArguments::usage() {
            "  --contrast C   of the colours, normal or high; normal unless told\n"
            "  --record FILE  write all that you do into FILE, to be played again; F12 marks a picture\n"
            "  --replay FILE  play that without a window, and print what is shown at the end; with --shots DIR also pictures\n"
+           "  --version      show the version of the library\n"
            "  --help         show this text\n";
 }
 

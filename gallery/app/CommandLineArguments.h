@@ -11,6 +11,7 @@ namespace gallery {
 /// The options that the gallery was started with.
 struct CommandLineArguments {
     bool showsHelp = false;
+    bool showsVersion = false;
     /// The folder to write pictures to; without one the window opens.
     std::optional<std::string> pictureFolder;
     /// The file to write all events to, or to play them from.
@@ -31,7 +32,10 @@ struct CommandLineArguments {
     /// Reads the arguments after the program's name. Returns nothing for invalid ones, with the
     /// reason in `error`.
     static std::optional<CommandLineArguments> parse(const std::vector<std::string>& arguments, std::string& error);
-    static std::string usage();
+    /// The text of `--help` for a program of this name: packages install it under another one.
+    static std::string usage(const std::string& program);
+    /// The name that a program was started by, without its folder; "gallery" if it has none.
+    static std::string programName(const char* path);
 };
 
 } // namespace gallery

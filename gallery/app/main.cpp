@@ -89,19 +89,25 @@ int main(int argc, char** argv) {
     std::string error;
     const auto words = std::span(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
     const auto arguments = CommandLineArguments::parse({words.begin(), words.end()}, error);
+    const std::string program = CommandLineArguments::programName(argc > 0 ? argv[0] : nullptr);
     if (!arguments) {
-        std::cerr << "gallery: " << error << "\n\n" << CommandLineArguments::usage();
+        std::cerr << "gallery: " << error << "\n\n" << CommandLineArguments::usage(program);
         return CannotStart;
     }
     if (arguments->showsHelp) {
-        std::cout << CommandLineArguments::usage();
+        std::cout << CommandLineArguments::usage(program);
+        return Done;
+    }
+    if (arguments->showsVersion) {
+        std::cout << "GXUIPickers gallery " << GX_VERSION << "\n";
         return Done;
     }
     if (arguments->pictureFolder || arguments->recordingToPlay) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay()) {
         std::cerr << "gallery: there is no display to open a window on; neither DISPLAY nor WAYLAND_DISPLAY is set.\n"
-                     "Pictures can be drawn without one: gallery --shots DIR\n";
+                     "Pictures can be drawn without one: "
+                  << program << " --shots DIR\n";
         return NoDisplay;
     }
 

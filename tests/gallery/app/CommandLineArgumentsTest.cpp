@@ -45,9 +45,26 @@ TEST(CommandLineArguments, HelpIsShownForBothSpellings) {
         EXPECT_TRUE(parsed->showsHelp);
     }
     for (const char* option : {"--shots DIR", "--page NAME", "--size WxH", "--scale N", "--locale NAME", "--text-scale N", "--contrast C",
-                               "--record FILE", "--replay FILE", "--help"}) {
-        EXPECT_NE(CommandLineArguments::usage().find(option), std::string::npos) << option;
+                               "--record FILE", "--replay FILE", "--version", "--help"}) {
+        EXPECT_NE(CommandLineArguments::usage("gallery").find(option), std::string::npos) << option;
     }
+}
+
+TEST(CommandLineArguments, VersionIsShown) {
+    std::string error;
+    const auto parsed = CommandLineArguments::parse({"--version"}, error);
+    ASSERT_TRUE(parsed) << error;
+    EXPECT_TRUE(parsed->showsVersion);
+    EXPECT_FALSE(CommandLineArguments::parse({"--help"}, error)->showsVersion);
+}
+
+TEST(CommandLineArguments, UsageNamesTheProgramAsItWasStarted) {
+    EXPECT_EQ(CommandLineArguments::programName("/usr/bin/gxuipickers-gallery"), "gxuipickers-gallery");
+    EXPECT_EQ(CommandLineArguments::programName("gallery"), "gallery");
+    EXPECT_EQ(CommandLineArguments::programName("build/dev/"), "gallery");
+    EXPECT_EQ(CommandLineArguments::programName(""), "gallery");
+    EXPECT_EQ(CommandLineArguments::programName(nullptr), "gallery");
+    EXPECT_EQ(CommandLineArguments::usage("gxuipickers-gallery").find("usage: gxuipickers-gallery [options]\n"), 0);
 }
 
 TEST(CommandLineArguments, AnInvalidArgumentIsNamed) {
