@@ -20,6 +20,7 @@
 #include "QtInput.h"
 #include "QtLooks.h"
 #include "QtRepaint.h"
+#include <GXUIPickers/UITextEngine.h>
 
 namespace gx::qt {
 
@@ -42,6 +43,12 @@ QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
         widget, widget->uiWindow(), [widget] { return widget->now(); }, [widget] { return widget->windowInput(); });
 }
 
+/// Views measure their texts from the start, so the host has to be there before them.
+void warnWithoutHost() {
+    if (!std::dynamic_pointer_cast<UIFixedWidthTextEngine>(UITextEngine::shared())) return;
+    qWarning("UIViewWidget: call gx::qt::installQtHost before the first view. Without it texts have wrong widths.");
+}
+
 } // namespace
 
 UIViewWidget::UIViewWidget(QWidget* parent)
@@ -55,6 +62,7 @@ UIViewWidget::UIViewWidget(QWidget* parent)
     setMouseTracking(true);          // A move without a button shows that a release went elsewhere.
     setFocusPolicy(Qt::StrongFocus); // A press takes the focus away from where the user was typing.
     followPalette();
+    warnWithoutHost();
     QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
     window_->setHost(this);                              // A new window asks for its first frame.
 }

@@ -9,6 +9,7 @@
 #include "QtHost.h"
 #include "QtTextEngine.h"
 #include "UIHost.h"
+#include "UIViewWidget.h"
 
 using namespace gx;
 using gx::qt::installQtHost;
@@ -95,6 +96,19 @@ TEST(QtHost, WorkThatQueuesItselfLetsEventsThrough) {
     goesOn = false;
     EXPECT_TRUE(QTest::qWaitFor([] { return !NSRunLoop::mainRunLoop()->hasWork(); }));
     EXPECT_GT(passes, 1);
+}
+
+TEST(QtHost, AWidgetWarnsWithoutIt) {
+    static QStringList warnings;
+    warnings.clear();
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { warnings.append(text); });
+    UITextEngine::setShared(nullptr);
+    const gx::qt::UIViewWidget without;
+    UITextEngine::setShared(QtTextEngine::shared());
+    const gx::qt::UIViewWidget with;
+    qInstallMessageHandler(before);
+    EXPECT_EQ(warnings, QStringList("UIViewWidget: call gx::qt::installQtHost before the first view. Without it texts have wrong widths."));
 }
 
 TEST(QtHost, RunsWorkQueuedBeforeItWasInstalled) {
