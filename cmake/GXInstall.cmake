@@ -71,9 +71,10 @@ function(gx_install_part part)
   if(GX_BARE)
     set(flags " -fno-rtti -fno-exceptions")
   endif()
-  # The folders follow the file, wherever all is installed.
+  # The folders follow the file, wherever all is installed. Those of packages stay in the system's,
+  # which pkg-config leaves out of what it prints if their names are plain.
   set(prefix "${CMAKE_INSTALL_PREFIX}")
-  if(NOT IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  if(NOT GX_PACKAGES AND NOT IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
     file(RELATIVE_PATH up "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
     string(REGEX REPLACE "/$" "" up "${up}")
     set(prefix "\${pcfiledir}/${up}")

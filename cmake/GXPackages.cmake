@@ -77,18 +77,18 @@ set(runtime_quick libgxuipickers-quick${soversion})
 set(what "GXUIPickers are wheel pickers with which the user of a fitness application\nenters distances, durations, paces, heart rates, weights and the like, exact\nto the last digit.")
 gx_add_package(runtime LIBRARY NAME ${runtime} SECTION libs
   SUMMARY "wheel pickers for fitness applications - library"
-  DESCRIPTION "${what}\n\nThis package holds the libraries without a toolkit.")
+  DESCRIPTION "${what}\n\nThis package holds the libraries with every picker. They need no toolkit.")
 gx_add_package(development NAME libgxuipickers-dev SECTION libdevel
   SUMMARY "wheel pickers for fitness applications - development files"
-  DESCRIPTION "${what}\n\nThis package holds the headers, the CMake package and the files for pkg-config\nthat need no toolkit."
+  DESCRIPTION "${what}\n\nThis package holds the headers, the CMake package (find_package(GXUIPickers\nCOMPONENTS pickers), target gx::pickers), the files for pkg-config\n(gxuipickers-pickers) and the guide. It brings nothing of Qt."
   DEPENDS "${runtime} (= ${full_version})")
 gx_add_package(qt LIBRARY NAME ${runtime_qt} SECTION libs
   SUMMARY "wheel pickers for fitness applications - Qt widgets"
-  DESCRIPTION "${what}\n\nThis package holds the host for Qt widgets."
+  DESCRIPTION "${what}\n\nThis package holds the library with which pickers are Qt widgets."
   DEPENDS "${runtime} (= ${full_version})")
 gx_add_package(qt_development NAME libgxuipickers-qt-dev SECTION libdevel
   SUMMARY "wheel pickers for fitness applications - development files for Qt"
-  DESCRIPTION "${what}\n\nThis package holds the headers, the CMake components and the files for\npkg-config of the host for Qt widgets."
+  DESCRIPTION "${what}\n\nThis package holds what compiles pickers as Qt widgets: headers, CMake\ncomponent qt (target gx::qt) and the file for pkg-config (gxuipickers-qt)."
   DEPENDS "${runtime_qt} (= ${full_version})" "libgxuipickers-dev (= ${full_version})" qt6-base-dev)
 # Those of Qt only recommend each other, and an import needs all of them.
 set(qml_modules qml6-module-qtquick qml6-module-qtquick-templates qml6-module-qtqml qml6-module-qtqml-models
@@ -99,18 +99,26 @@ gx_add_package(quick LIBRARY NAME ${runtime_quick} SECTION libs
   DEPENDS "${runtime_qt} (= ${full_version})" ${qml_modules})
 gx_add_package(qml NAME qml6-module-gxuipickers SECTION libs
   SUMMARY "wheel pickers for fitness applications - QML module"
-  DESCRIPTION "${what}\n\nThis package holds the QML module: import GXUIPickers."
+  DESCRIPTION "${what}\n\nThis package holds the QML module: after import GXUIPickers a document has a\ntype for each picker, such as DistancePicker. C++ is not needed for it."
   DEPENDS "${runtime_quick} (= ${full_version})" ${qml_modules})
 gx_add_package(quick_development NAME libgxuipickers-quick-dev SECTION libdevel
   SUMMARY "wheel pickers for fitness applications - development files for Qt Quick"
-  DESCRIPTION "${what}\n\nThis package holds the CMake component and the file for pkg-config with which\nC++ applications link the QML module."
+  DESCRIPTION "${what}\n\nThis package holds the CMake component quick (target gx::quick) and the file\nfor pkg-config (gxuipickers-quick) with which C++ applications link the QML\nmodule."
   DEPENDS "${runtime_quick} (= ${full_version})" "qml6-module-gxuipickers (= ${full_version})"
     "libgxuipickers-qt-dev (= ${full_version})" qt6-declarative-dev)
 gx_add_package(gallery NAME gxuipickers-gallery SECTION utils
   SUMMARY "wheel pickers for fitness applications - demonstration"
-  DESCRIPTION "${what}\n\nThis package holds an application that shows all of them: the entry of a\nworkout, settings, and a page for each measurement."
+  DESCRIPTION "${what}\n\nThis package holds an application that shows all of them: the entry of a\nworkout, settings, and a page for each measurement. Its command is\ngxuipickers-gallery."
   DEPENDS "${runtime_qt} (= ${full_version})" fonts-inter
   RECOMMENDS fonts-dejavu-core fonts-wqy-microhei)
+
+# README and guide with the examples, each where the links of the others look for it.
+set(documents "${CMAKE_INSTALL_DATAROOTDIR}/doc/libgxuipickers-dev")
+install(FILES "${PROJECT_SOURCE_DIR}/README.md" DESTINATION "${documents}" COMPONENT development)
+install(FILES "${PROJECT_SOURCE_DIR}/docs/versions.md" "${PROJECT_SOURCE_DIR}/docs/recordings.md"
+  "${PROJECT_SOURCE_DIR}/docs/screen-readers.md" DESTINATION "${documents}/docs" COMPONENT development)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/guide" "${PROJECT_SOURCE_DIR}/docs/examples" DESTINATION "${documents}/docs"
+  COMPONENT development)
 
 # The application, its icon, and what desktops and catalogues read of it.
 set(application org.gxuipickers.Gallery)
