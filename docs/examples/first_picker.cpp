@@ -25,7 +25,7 @@ int main() {
     picker->setCurrentValue(NSNumber::numberWithInt(5300)); // No call of the delegate.
     std::cout << picker->currentValueText() << "\n";
 
-    // What a finger does on a screen: 42 is the row of the kilometres, 2 that of the tenths.
+    // What a finger does on a screen. Columns: 0 has the kilometres, 1 the separator, 2 the tenths.
     picker->pickerView()->turnToRow_inComponent(42, 0);
     picker->pickerView()->turnToRow_inComponent(2, 2);
     return picker->currentValue().integerValue() == 42200 ? 0 : 1;
