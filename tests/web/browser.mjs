@@ -82,7 +82,7 @@ export async function checkAccessibility(page) {
 export function untilStill(page, selector) {
     return page.evaluate(async (asked) => {
         const surface = document.querySelector(asked).shadowRoot.querySelector('.surface');
-        const look = () => [...surface.children].map((node) => node.style.cssText).join('\n');
+        const look = () => [...surface.querySelectorAll('*')].map((node) => node.style.cssText).join('\n');
         let before = look();
         for (let still = 0; still < 20;) {
             await new Promise((resolve) => requestAnimationFrame(resolve));

@@ -12,10 +12,35 @@ const fill = () => (document.querySelector('gx-wheel').columns = [{ rows: 1000 }
 /** What a page needs for these tests, as `globalThis.spins`. */
 function provide() {
     const rows = (element) => [...element.shadowRoot.querySelectorAll('.text')];
+    const { DOMMatrix } = globalThis;
     globalThis.spins = {
-        /** A flick of the first column by made-up pointers; the times of its events. */
-        async flick(element, distance = 120) {
-            const node = element.shadowRoot.querySelector('.column');
+        animations: (element) => element.shadowRoot.querySelector('.surface').getAnimations({ subtree: true }),
+        /** The rows with their places and opacities in `style`, and those of what moves them. */
+        places(element, style) {
+            const surface = element.shadowRoot.querySelector('.surface');
+            const found = new Map();
+            for (const node of rows(element).filter((row) => row.style.visibility !== 'hidden')) {
+                const matrix = new DOMMatrix();
+                let opacity = 1;
+                for (let at = node; at !== surface; at = at.parentNode) {
+                    matrix.preMultiplySelf(new DOMMatrix(style(at).transform || 'none'));
+                    matrix.preMultiplySelf(new DOMMatrix([1, 0, 0, 1, at.offsetLeft, at.offsetTop]));
+                    opacity *= Number(style(at).opacity || 1);
+                }
+                // What is beyond the surface is out of sight.
+                const isInSight = matrix.f < surface.clientHeight && matrix.f + node.clientHeight * matrix.d > 0;
+                if (isInSight) found.set(`${node.textContent}/${Math.round(matrix.e / 60)}`, { matrix, opacity });
+            }
+            return found;
+        },
+        /** Where the page has the rows that are shown. */
+        boxes: (element) =>
+            rows(element)
+                .filter((node) => node.style.visibility !== 'hidden')
+                .map((node) => node.getBoundingClientRect()),
+        /** A flick of a column by made-up pointers; the times of its events. */
+        async flick(element, distance = 120, column = 0) {
+            const node = element.shadowRoot.querySelectorAll('.column')[column];
             const box = node.getBoundingClientRect();
             const times = [];
             const send = (type, offset) => {
@@ -38,7 +63,7 @@ function provide() {
             send('pointerup', distance);
             return times;
         },
-        isGliding: (element) => rows(element).some((node) => node.getAnimations().length > 0),
+        isGliding: (element) => globalThis.spins.animations(element).length > 0,
         /** What is written to the rows, in the order of their places. */
         written: (element) =>
             rows(element)
@@ -163,21 +188,10 @@ test('what the compositor shows is where the module has the rows at that time', 
         const { spins, element } = globalThis;
         await spins.until(() => spins.isGliding(element));
         // An even moment of the page's own time line: nothing happens between both looks.
-        const { DOMMatrix } = globalThis;
-        const read = (style) =>
-            new Map(
-                [...element.shadowRoot.querySelectorAll('.text')]
-                    .filter((node) => node.style.visibility !== 'hidden')
-                    .map((node) => {
-                        const matrix = new DOMMatrix(style(node).transform);
-                        return [`${node.textContent}/${Math.round(matrix.e / 60)}`, { matrix, opacity: Number(style(node).opacity) }];
-                    }),
-            );
         const { now } = performance;
         let told = 0;
         element.addEventListener('input', () => (told = performance.now()));
-        const starts = () =>
-            [...element.shadowRoot.querySelectorAll('.text')].flatMap((node) => node.getAnimations().map((each) => each.startTime));
+        const starts = () => spins.animations(element).map((each) => each.startTime);
         let time;
         do {
             await new Promise((resolve) => requestAnimationFrame(resolve));
@@ -186,11 +200,11 @@ test('what the compositor shows is where the module has the rows at that time', 
         } while (told >= time || starts().some((start) => start > time));
         const wasGliding = spins.isGliding(element);
         performance.now = () => time;
-        const shown = read((node) => getComputedStyle(node));
+        const shown = spins.places(element, (node) => getComputedStyle(node));
         // Whatever is set takes the rows back, where they are at this time.
         element.setAttribute('readonly', '');
         performance.now = now;
-        const written = read((node) => node.style);
+        const written = spins.places(element, (node) => node.style);
         const isGliding = spins.isGliding(element);
         let most = 0;
         let shades = 0;
@@ -209,6 +223,25 @@ test('what the compositor shows is where the module has the rows at that time', 
     assert.ok(difference.wasGliding && !difference.isGliding);
     assert.ok(difference.most < 0.5, `${difference.most} pixels apart`);
     assert.ok(difference.shades < 0.2, `${difference.shades} of an opacity apart`);
+    await close();
+});
+
+test('rows of a column that has glided stay where they are while another one glides', async () => {
+    const { page, close } = await gliding();
+    await untilStill(page, asked);
+    const { before, after, isGliding, count } = await page.evaluate(async () => {
+        const { spins, element } = globalThis;
+        const box = element.shadowRoot.querySelector('.column').getBoundingClientRect();
+        const resting = () =>
+            [...spins.boxes(element)].filter(({ x }) => x < box.right).map(({ x, y, width, height }) => [x, y, width, height].join());
+        const before = resting().sort();
+        await spins.flick(element, 120, 1);
+        await spins.until(() => element.rows[1] > 3);
+        return { before, after: resting().sort(), isGliding: spins.isGliding(element), count: before.length };
+    });
+    assert.ok(isGliding);
+    assert.ok(count >= 5, `${count} rows are in sight`);
+    assert.deepEqual(after, before);
     await close();
 });
 
@@ -315,7 +348,7 @@ test('whatever happens to an element, its rows are its own again at once, and it
             await spins.flick(element);
             await spins.until(() => spins.isGliding(element));
             const from = element.rows[0];
-            const animations = [...element.shadowRoot.querySelectorAll('.text')].flatMap((node) => node.getAnimations());
+            const animations = spins.animations(element);
             new Function(`return ${text}`)()(element);
             // Sizes are told with the next frame.
             await new Promise((resolve) => requestAnimationFrame(() => setTimeout(resolve, 20)));

@@ -1,5 +1,6 @@
 import { clock, isPageClock } from './clock.js';
 import type { Module } from './module.js';
+import { Reels, type Place, type Track } from './reels.js';
 import type { Draw, Surface } from './surface.js';
 
 /**
@@ -28,26 +29,10 @@ const mostTracks = 40;
 const leastTime = 0.1;
 /** In frames: how long before the end of its last frame the compositor gets more. */
 const reserve = 6;
-/**
- * In seconds: how long the last frame stays. Chosen: longer than a timer is late, since animations
- * that end wake the page.
- */
-const rest = 0.1;
 /** In seconds. Chosen: longer than between two events of a hand that moves. */
 const pause = 0.1;
 /** In bytes. Chosen: copied in less than a millisecond. */
 const mostMemory = 4 * 1024 * 1024;
-
-/** Where a text or a picture is in one frame. */
-type Place = Pick<Draw, 'x' | 'y' | 'scaleX' | 'scaleY' | 'alpha'>;
-
-/** One text or picture in the frames to come. */
-interface Track {
-    readonly draw: Draw;
-    readonly first: number;
-    readonly places: Place[];
-    isMoving: boolean;
-}
 
 /** What the frames at these times draw, the first of them now, and when rows pass. */
 interface Ahead {
@@ -71,7 +56,7 @@ const placeOf = ({ x, y, scaleX, scaleY, alpha }: Place): Place => ({ x, y, scal
  * The module is run ahead for it and set back, so nothing of its curves is written here.
  */
 export class Glide {
-    private animations: Animation[] = [];
+    private readonly reels: Reels;
     private timer: ReturnType<typeof setTimeout> | undefined;
     private heldUntil = 0;
     private notes = 0;
@@ -82,10 +67,12 @@ export class Glide {
         private readonly module: Module,
         private readonly number: number,
         private readonly surface: Surface,
-    ) {}
+    ) {
+        this.reels = new Reels(surface);
+    }
 
     get isActive(): boolean {
-        return this.animations.length > 0;
+        return this.reels.areMoving;
     }
 
     /** Something has happened, and more may follow. */
@@ -110,24 +97,21 @@ export class Glide {
     begin(time: number, wake: (draws: boolean) => void): boolean {
         const isWanted = isPageClock() && time >= this.heldUntil && this.module.memorySize <= mostMemory;
         const ahead = isWanted ? this.look(time) : undefined;
-        const before = this.animations;
-        this.animations = [];
         clearTimeout(this.timer);
         if (ahead && ahead.times.at(-1)! - time >= leastTime) {
-            this.animate(ahead);
+            this.reels.move(ahead.tracks, ahead.times);
             this.wait(ahead.wakes, wake);
-        } else if (isWanted) {
+        } else {
+            this.reels.stop();
             // It stays so until something happens.
-            this.heldUntil = Infinity;
+            if (isWanted) this.heldUntil = Infinity;
         }
-        for (const animation of before) animation.cancel();
         return this.isActive;
     }
 
     end(): void {
         clearTimeout(this.timer);
-        for (const animation of this.animations) animation.cancel();
-        this.animations = [];
+        this.reels.stop();
     }
 
     private look(time: number): Ahead | undefined {
@@ -201,49 +185,6 @@ export class Glide {
         if (!isClear) return undefined;
         const end = isOver || times.length <= reserve ? times.at(-1)! : times[times.length - reserve]!;
         return { tracks, times, wakes: [...wakes.filter((row) => row < end), end] };
-    }
-
-    private animate({ tracks, times }: Ahead): void {
-        const count = times.length;
-        const begin = times[0]!;
-        const end = times.at(-1)! + rest;
-        const duration = end - begin;
-        const moving = tracks.filter(({ isMoving, places }) => isMoving || places.length < count);
-        // All writing first: an animation may look at the page's styles.
-        const nodes = moving.map(({ draw, first }) => this.surface.nodeFor(draw, first > 0));
-        moving.forEach(({ first, places }, i) => {
-            // By property, which the page reads in half the time that keyframes take.
-            const offset: number[] = [];
-            const transform: string[] = [];
-            const opacity: number[] = [];
-            const add = (time: number, { x, y, scaleX, scaleY, alpha }: Place, seen = alpha): void => {
-                offset.push((time - begin) / duration);
-                // All of one form, so that the page mixes them number by number.
-                transform.push(`translate(${x}px,${y}px) scale(${scaleX},${scaleY})`);
-                opacity.push(seen);
-            };
-            const goOn = (frame: number, near: number, far: number): Place => {
-                const one = places[near - first]!;
-                const other = places[far - first];
-                if (!other) return one;
-                const share = (times[frame]! - times[near]!) / (times[near]! - times[far]!);
-                return { ...one, y: one.y + (one.y - other.y) * share, scaleY: one.scaleY + (one.scaleY - other.scaleY) * share };
-            };
-            const length = first + places.length;
-            const last = places.at(-1)!;
-            // Between two frames it comes into sight, or goes out of it, on its way.
-            if (first > 0) {
-                const before = goOn(first - 1, first, first + 1);
-                add(begin, before, 0);
-                add(times[first - 1]!, before, 0);
-            }
-            places.forEach((place, k) => add(times[first + k]!, place));
-            if (length < count) add(times[length]!, goOn(length, length - 1, length - 2), 0);
-            add(end, last, length < count ? 0 : last.alpha);
-            const animation = nodes[i]!.animate({ offset, transform, opacity }, { duration: duration * 1000, fill: 'both' });
-            animation.startTime = begin * 1000;
-            this.animations.push(animation);
-        });
     }
 
     private wait(times: readonly number[], wake: (draws: boolean) => void, next = 0): void {

@@ -27,6 +27,7 @@ const css = `
 .surface, .columns { position: absolute; left: 0; top: 0; width: 100%; height: 100%; transform-origin: 0 0; direction: ltr; }
 .surface { contain: strict; pointer-events: none; }
 .surface > * { position: absolute; left: 0; top: 0; transform-origin: 0 0; }
+.reel { display: grid; place-items: start; }
 .text { white-space: pre; font-variant-numeric: inherit; text-align: left; }
 .image { display: grid; place-items: center; overflow: hidden; }
 .image > * { width: 100%; height: 100%; object-fit: contain; }

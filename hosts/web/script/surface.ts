@@ -37,7 +37,7 @@ const enum Part {
 }
 
 export const transformOf = ({ scaleX, scaleY, x, y }: Draw): string =>
-    scaleX === 1 && scaleY === 1 ? `translate(${x}px,${y}px)` : `matrix(${scaleX},0,0,${scaleY},${x},${y})`;
+    x === 0 && y === 0 ? 'none' : scaleX === 1 && scaleY === 1 ? `translate(${x}px,${y}px)` : `matrix(${scaleX},0,0,${scaleY},${x},${y})`;
 
 const nothing: Draw = { text: '', image: -1, font: -1, size: 0, isRow: false, scaleX: 1, scaleY: 1, x: NaN, y: NaN, alpha: NaN, home: 0 };
 
@@ -58,6 +58,8 @@ export class Surface implements Drawing {
     private frame = 0;
     private isSketching = false;
     private readonly open: Draw[] = [];
+    /** Of the element, in the module's points. */
+    height = 0;
     /** The font of labels, by which they are told from separators. */
     labelFont = -1;
 
@@ -198,7 +200,10 @@ export class Surface implements Drawing {
         return this.draws();
     }
 
-    /** The element that shows this in the last frame; for a new one, a free element, unseen yet. */
+    /**
+     * The element that shows this in the last frame, or for a new one a free element. Until the
+     * next frame it has no place of its own.
+     */
     nodeFor(draw: Draw, isNew: boolean): HTMLElement {
         const isAlike = (item: Item): boolean =>
             isNew
@@ -209,7 +214,7 @@ export class Surface implements Drawing {
                   item.image === draw.image &&
                   item.text === draw.text;
         const item = this.items.find(isAlike) ?? this.addItem(draw.image >= 0);
-        if (isNew) this.write(item, { ...draw, alpha: 0 });
+        this.write(item, { ...draw, x: 0, y: 0, scaleX: 1, scaleY: 1, alpha: 1 });
         return item.node;
     }
 

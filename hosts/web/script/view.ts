@@ -252,6 +252,7 @@ export class View implements Client {
     }
 
     setSize(width: number, height: number): void {
+        this.surface.height = height;
         this.set((calls) => calls.setSize(this.number, width, height));
     }
 
