@@ -49,7 +49,7 @@ void ColumnsPropertyPicker::setRow_ofColumn(double row, NSInteger column) {
 
 std::optional<std::string> ColumnsPropertyPicker::titleOfExistingRow(NSInteger row, NSInteger column) const {
     const Column* const shown = columnAt(column);
-    const bool exists = shown && row >= 0 && row < shown->rows;
+    const bool exists = shown != nullptr && row >= 0 && row < shown->rows;
     return exists ? titleOfRow_ofColumn(static_cast<double>(row), column) : std::nullopt;
 }
 
