@@ -94,3 +94,35 @@ test('without memory one element stops with a message, and all others go on with
     );
     await close();
 });
+
+test('an element that has stopped while it looked ahead shows its selection indicator when it is opened again', async () => {
+    const { page, logs, close } = await stage.open('<gx-bpm-picker value="90"></gx-bpm-picker>');
+    const isIndicatorShown = () =>
+        page.evaluate(() => document.querySelector('gx-bpm-picker').shadowRoot.querySelector('.indicator').style.display !== 'none');
+    await untilColumns(page, 'gx-bpm-picker');
+    assert.ok(await isIndicatorShown());
+    await page.evaluate(async () => {
+        const { loadedModule } = await import('/package/gxuipickers.js');
+        const module = loadedModule();
+        const own = module.runAhead;
+        module.runAhead = (work) => {
+            delete module.runAhead;
+            module.draw = () => {
+                throw new RangeError('There is no memory left.');
+            };
+            try {
+                own.call(module, work);
+            } finally {
+                delete module.draw;
+            }
+        };
+    });
+    await page.mouse.move(...Object.values(await columnPlace(page, 'gx-bpm-picker')));
+    await page.mouse.wheel(0, 600);
+    await page.waitForFunction(() => !document.querySelector('gx-bpm-picker').shadowRoot.querySelector('.surface.isReady'));
+    assert.equal(logs.filter((line) => line.startsWith('error')).length, 1, logs.join('\n'));
+    await page.evaluate(() => document.body.append(document.querySelector('gx-bpm-picker')));
+    await untilColumns(page, 'gx-bpm-picker');
+    assert.ok(await isIndicatorShown());
+    await close();
+});

@@ -195,8 +195,11 @@ export class Surface implements Drawing {
     sketch(work: () => void): readonly Draw[] {
         this.drawCount = 0;
         this.isSketching = true;
-        work();
-        this.isSketching = false;
+        try {
+            work();
+        } finally {
+            this.isSketching = false; // The element may be opened again after a failure.
+        }
         return this.draws();
     }
 
