@@ -61,14 +61,19 @@ void QuickPaintedNode::render(const RenderState* state) {
     if (painter == nullptr) return;
     // The renderer restores it.
     painter->setTransform(QTransform());
-    if (const QRegion* const clip = state->clipRegion(); clip != nullptr && !clip->isEmpty()) painter->setClipRegion(*clip);
-    painter->setTransform(matrix()->toTransform());
+    const QTransform ofWindow = painter->deviceTransform();
+    const QTransform item = matrix()->toTransform();
+    painter->setTransform(item);
     const QTransform device = painter->deviceTransform();
     const bool isPlain = qt::QtCanvas::isPlain(device);
-    const QRectF clip = painter->clipBoundingRect();
     frame_.begin(device);
     for (const QuickPiece& piece : pieces_) frame_.add(painted(piece, isPlain ? device : QTransform()));
-    canvas_.paintFrame(*painter, frame_, (isPlain ? device.mapRect(clip) : clip).toAlignedRect());
+    const QRegion* const dirty = state->clipRegion();
+    const QTransform toArea = isPlain ? ofWindow : item.inverted();
+    // What lies between its rectangles is not cleared before.
+    for (const QRect& rect : dirty != nullptr && !dirty->isEmpty() ? *dirty : QRegion(QRect({}, window_.size()))) {
+        canvas_.paintFrame(*painter, frame_, toArea.mapRect(QRectF(rect)).toAlignedRect());
+    }
 }
 
 QSGNode* nodeWithPieces(const std::vector<QuickPiece>& pieces, QSGNode* before, QQuickWindow& window) {

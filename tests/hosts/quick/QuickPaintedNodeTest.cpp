@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QSGSimpleRectNode>
 #include <QTest>
 
 #include "QtCanvas.h"
@@ -42,6 +43,31 @@ protected:
 
 private:
     bool isPainted;
+};
+
+/// A square of one colour.
+class Square : public QQuickItem {
+public:
+    Square(QQuickItem* parent, QPointF place) : QQuickItem(parent) {
+        setFlag(ItemHasContents);
+        setPosition(place);
+        setSize({8, 8});
+    }
+    void setColor(const QColor& color) {
+        color_ = color;
+        update();
+    }
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override {
+        auto* const shown = node ? static_cast<QSGSimpleRectNode*>(node) : new QSGSimpleRectNode;
+        shown->setRect(boundingRect());
+        shown->setColor(color_);
+        return shown;
+    }
+
+private:
+    QColor color_ = Qt::white;
 };
 
 /// A wheel of three columns, of which two spin.
@@ -144,6 +170,22 @@ TEST_F(QuickPictures, AnItemThatIsMovedIsPaintedThere) {
 TEST_F(QuickPictures, ATranslucentItemIsPaintedTranslucent) {
     painted.setOpacity(0.4);
     EXPECT_LE(difference(pictureOf(painted), pictureOfWidget(0.4)), tolerance);
+}
+
+TEST_F(QuickPictures, WhatLiesBetweenTwoChangedItemsIsNotPaintedAgain) {
+    Square first(screen.contentItem(), {30, 100});
+    Square last(screen.contentItem(), {280, 150});
+    for (Square* const square : {&first, &last}) square->setZ(-1);
+    tick();
+    const QImage before = pictureOf(painted);
+    ASSERT_GT(inkCount(before), 2000);
+    const auto pictureWithSquares = [&](const QColor& color) {
+        first.setColor(color);
+        last.setColor(color);
+        return screen.grabWindow().convertToFormat(QImage::Format_RGB32);
+    };
+    EXPECT_NE(pictureWithSquares(Qt::red), before);
+    EXPECT_EQ(pictureWithSquares(Qt::white), before);
 }
 
 TEST_F(QuickPictures, ASpinOverRowsThatWereShownMakesNoTextures) {
