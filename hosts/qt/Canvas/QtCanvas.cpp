@@ -102,8 +102,9 @@ void QtCanvas::end() {
     texts_->setBytesInSight(this, textBytes_);
 }
 
-void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area) {
+void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area, QImage* device) {
     takePainter(painter);
+    device_ = device;
     paintedClip_ = everywhere;
     paintedArea_ = area;
     isInArea_ = true;
@@ -111,6 +112,7 @@ void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& 
         if (piece.visible.intersects(area)) paint(piece);
     }
     isInArea_ = false;
+    device_ = nullptr;
     painter.restore();
     painter_ = nullptr;
 }
@@ -175,6 +177,10 @@ void QtCanvas::draw(QtPiece piece) {
 }
 
 void QtCanvas::paint(const QtPiece& piece) {
+    if (device_ != nullptr && piece.hasClearEdge && piece.isScaled() &&
+        scaler_.blend(piece.image, piece.area, piece.alpha, *device_, piece.clip.intersected(paintedArea_))) {
+        return;
+    }
     prepareClip(piece.clip);
     if (paintedAlpha_ != piece.alpha) painter_->setOpacity(paintedAlpha_ = piece.alpha);
     if (!piece.image.isNull()) {

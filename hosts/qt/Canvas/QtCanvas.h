@@ -55,7 +55,10 @@ public:
     ///
     /// The painter's transform on the device must be the frame's. The area replaces a clip that was
     /// set on the painter; that of a paint event stays in force.
-    void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area);
+    ///
+    /// `device` is the image that the painter paints on, if nothing but the area clips. Texts are
+    /// then blended with its pixels at once, which spares the painter's states.
+    void paintFrame(QPainter& painter, const QtFrame& frame, const QRect& area, QImage* device = nullptr);
 
     void saveState() override { saved_.push_back(state_); }
     void restoreState() override;
@@ -95,6 +98,7 @@ private:
     bool isPainterPlain_ = false; // Its units are device pixels.
     QtImageScaler scaler_;
     QtFrame* frame_ = nullptr; // In place of the painter.
+    QImage* device_ = nullptr; // What a frame is painted on.
     double baseScale_ = 1;     // Device pixels for a point at the frame's start.
     QtDrawingState state_;
     std::vector<QtDrawingState> saved_;

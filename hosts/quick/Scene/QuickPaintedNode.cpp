@@ -68,11 +68,14 @@ void QuickPaintedNode::render(const RenderState* state) {
     const bool isPlain = qt::QtCanvas::isPlain(device);
     frame_.begin(device);
     for (const QuickPiece& piece : pieces_) frame_.add(painted(piece, isPlain ? device : QTransform()));
+    // It clips to nothing but the region, so the canvas may blend with its pixels.
+    const bool isImage = isPlain && painter->device()->devType() == QInternal::Image;
+    auto* const image = isImage ? static_cast<QImage*>(painter->device()) : nullptr;
     const QRegion* const dirty = state->clipRegion();
     const QTransform toArea = isPlain ? ofWindow : item.inverted();
     // What lies between its rectangles is not cleared before.
     for (const QRect& rect : dirty != nullptr && !dirty->isEmpty() ? *dirty : QRegion(QRect({}, window_.size()))) {
-        canvas_.paintFrame(*painter, frame_, toArea.mapRect(QRectF(rect)).toAlignedRect());
+        canvas_.paintFrame(*painter, frame_, toArea.mapRect(QRectF(rect)).toAlignedRect(), image);
     }
 }
 

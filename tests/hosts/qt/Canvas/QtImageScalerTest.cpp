@@ -40,12 +40,19 @@ struct QtImageScalerTest : testing::Test {
         return onto;
     }
 
+    /// Nothing if the area is not supported.
+    QImage blended(const QImage& image, const QRectF& area, double opacity, QImage::Format format = QImage::Format_ARGB32_Premultiplied) {
+        QImage onto = paper().convertToFormat(format);
+        return scaler.blend(image, area, opacity, onto, onto.rect()) ? onto : QImage();
+    }
+
     QtTextImageCache cache;
     QtImageScaler scaler;
 };
 
 TEST_F(QtImageScalerTest, AResultIsPixelForPixelWhatQtDraws) {
     int count = 0;
+    int blendedCount = 0;
     for (const char* text : {"7", "42", "1000000", "km/h", "Åg|fi"}) {
         for (const double size : {11.0, 22.0, 33.0, 44.0}) {
             const QImage image = textImage(text, size);
@@ -58,10 +65,14 @@ TEST_F(QtImageScalerTest, AResultIsPixelForPixelWhatQtDraws) {
                     << text << " at " << size << ", " << i << ": " << area.x() << ' ' << area.y() << ' ' << area.width() << ' '
                     << area.height();
                 ++count;
+                if (area.right() > 156 || area.bottom() > 159) continue;
+                ASSERT_EQ(blended(image, area, opacity), drawnByQt(image, area, opacity)) << text << " at " << size << ", " << i;
+                ++blendedCount;
             }
         }
     }
     EXPECT_EQ(count, 1200);
+    EXPECT_GT(blendedCount, 900);
 }
 
 TEST_F(QtImageScalerTest, AnImageThatLeavesTheDeviceIsWhatQtDraws) {
@@ -76,6 +87,26 @@ TEST_F(QtImageScalerTest, ATranslucentTextIsWhatQtDraws) {
     const QImage image = textImage("42", 44, 0x80ff3311);
     const QRectF area(10.25, 20.75, image.width() * 0.9, image.height() * 0.7);
     EXPECT_EQ(drawnFromHere(image, area, 1), drawnByQt(image, area, 1));
+    EXPECT_EQ(blended(image, area, 1), drawnByQt(image, area, 1));
+}
+
+TEST_F(QtImageScalerTest, BlendingWithAnImageWithoutAlphaIsTheSame) {
+    const QImage image = textImage("42", 44);
+    const QRectF area(10.25, 20.75, image.width() * 0.9, image.height() * 0.7);
+    EXPECT_EQ(blended(image, area, 0.3, QImage::Format_RGB32), drawnByQt(image, area, 0.3).convertToFormat(QImage::Format_RGB32));
+    EXPECT_TRUE(blended(image, area, 0.3, QImage::Format_RGB16).isNull());
+}
+
+TEST_F(QtImageScalerTest, AnAreaThatIsCutIsNotBlended) {
+    const QImage image = textImage("42", 44);
+    const QSizeF size(image.width() * 0.83, image.height() * 0.61);
+    for (const QPointF place :
+         {QPointF(-0.6, 20.6), QPointF(160.6 - size.width(), 20.1), QPointF(30.4, -0.6), QPointF(30.4, 160.6 - size.height())}) {
+        EXPECT_TRUE(blended(image, {place, size}, 0.7).isNull()) << place.x() << ' ' << place.y();
+    }
+    QImage onto = paper();
+    EXPECT_FALSE(scaler.blend(image, {QPointF(20, 20), size}, 0.7, onto, QRect(21, 0, 100, 100)));
+    EXPECT_EQ(onto, paper());
 }
 
 TEST_F(QtImageScalerTest, OtherImagesAreLeftToTheCaller) {
