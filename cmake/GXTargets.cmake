@@ -111,7 +111,9 @@ endfunction()
 # gx_add_umbrella_header(<floor>…): <GXUIPickers/GXUIPickers.h>, which includes every public header
 # of these floors.
 function(gx_add_umbrella_header)
-  set(lines "#pragma once\n\n/// Everything: views, services and all pickers.\n\n")
+  # The reason comes before the errors that an older standard makes of the headers' keywords.
+  set(lines "#pragma once\n\n#if !defined(__cpp_concepts)\n#error \"GXUIPickers needs C++20: compile with -std=c++20\"\n#endif\n\n\
+/// Everything: views, services and all pickers.\n\n")
   foreach(name IN LISTS ARGN)
     get_property(headers GLOBAL PROPERTY GX_PUBLIC_HEADERS_OF_${name})
     foreach(header IN LISTS headers)

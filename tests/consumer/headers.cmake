@@ -24,8 +24,16 @@ foreach(place "${work}/prefix/include" "${build}/include")
     message(FATAL_ERROR "In ${place} too many: ${extra}; missing: ${missing}")
   endif()
 
-  # The message below is looked for in English.
+  # The messages below are looked for in English.
   set(ENV{LC_ALL} C)
+  # An older standard is named as the reason, before the errors that follow from it.
+  file(WRITE "${work}/standard.cpp" "#include <GXUIPickers/GXUIPickers.h>\n")
+  execute_process(COMMAND "${compiler}" -std=c++17 -Wfatal-errors -fsyntax-only "-I${place}" "${work}/standard.cpp" RESULT_VARIABLE result
+    OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  string(REGEX MATCH "error: [^\n]*" first_error "${output}")
+  if(result EQUAL 0 OR NOT first_error MATCHES "GXUIPickers needs C\\+\\+20")
+    message(FATAL_ERROR "C++17 is not refused by the first message: ${first_error}")
+  endif()
   # The line that outside code writes works for a public header, and fails for internal ones since
   # they are not found.
   list(GET public 0 first)
