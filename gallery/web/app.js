@@ -22,8 +22,31 @@ function kept(key, value) {
     }
 }
 
-// Texts: the English one is the key.
+// The workout: each row is a picker, which knows its value, its limits and how it is written.
+const weathers = 'clear partly-cloudy cloudy overcast fog drizzle rain showers thunderstorm sleet snow wind'.split(' ');
+const icons = weathers.map((name) => make('img', { width: 48, height: 48, src: `weather.svg#${name}`, alt: name.replace('-', ' ') }));
+one('gx-weather-and-temperature-picker').append(...icons);
+const pickers = all('[data-file]');
+for (const picker of pickers) {
+    const title = make('span', { textContent: picker.ariaLabel });
+    title.dataset.text = '';
+    const value = make('span', { className: 'value' });
+    const row = make('details', { name: 'row', open: picker === pickers[0] }, make('summary', {}, title, value));
+    picker.replaceWith(row);
+    row.append(picker);
+    // A picker tells when its text is another: by the user, a unit, or a language that has arrived.
+    const show = () => (value.textContent = picker.valueText);
+    picker.addEventListener('gx-text', show);
+    show();
+}
+
+// Languages: the page is in English, and its texts are the keys of the others.
 const languages = await load('texts/index.json');
+const places = [
+    ...all('[data-text]').map((node) => [node, 'textContent']),
+    ...all('main [aria-label]').map((node) => [node, 'ariaLabel']),
+    ...icons.map((icon) => [icon, 'alt']),
+].map(([node, property]) => [node, property, node[property]]);
 let texts = {};
 /** The language that was chosen last, and the one that is shown, which follows it. */
 let chosenLanguage, shownLanguage;
@@ -37,27 +60,9 @@ async function showLanguage(language) {
     texts = loaded;
     shownLanguage = document.documentElement.lang = language;
     document.documentElement.dir = ['ar', 'he'].includes(language) ? 'rtl' : 'ltr';
-    for (const node of all('[data-text]')) node.textContent = text(node.dataset.text);
-    for (const node of all('[data-label]')) node.ariaLabel = text(node.dataset.label);
-    for (const image of all('img')) image.alt = text((image.dataset.alt ??= image.alt));
-}
-
-// The workout: each row is a picker, which knows its value, its limits and how it is written.
-const weathers = 'clear partly-cloudy cloudy overcast fog drizzle rain showers thunderstorm sleet snow wind'.split(' ');
-const icons = weathers.map((name) => make('img', { width: 48, height: 48, src: `weather.svg#${name}`, alt: name.replace('-', ' ') }));
-one('gx-weather-and-temperature-picker').append(...icons);
-const pickers = all('[data-file]');
-for (const picker of pickers) {
-    const title = make('span');
-    title.dataset.text = picker.dataset.label;
-    const value = make('span', { className: 'value' });
-    const row = make('details', { name: 'row', open: picker === pickers[0] }, make('summary', {}, title, value));
-    picker.replaceWith(row);
-    row.append(picker);
-    // A picker tells when its text is another: by the user, a unit, or a language that has arrived.
-    const show = () => (value.textContent = picker.valueText);
-    picker.addEventListener('gx-text', show);
-    show();
+    for (const [node, property, english] of places) node[property] = text(english);
+    one('#place').replaceChildren(); // Its months and icons have names in another language.
+    showPage();
 }
 
 /** Each number of a file: the picker and its property, its name, and its range unless a weather. */
@@ -204,14 +209,17 @@ bench.addEventListener('change', showElement);
 
 // Pages
 function showPage() {
-    const asked = one('main > section' + (location.hash || '#workout')) ?? one('#workout');
-    for (const section of all('main > section')) section.hidden = section !== asked;
+    const sections = all('main > section');
+    const asked = sections.find(({ id }) => location.hash === `#${id}`) ?? sections[0];
+    for (const section of sections) section.hidden = section !== asked;
     for (const link of all('nav a')) link.ariaCurrent = link.hash === `#${asked.id}` ? 'page' : null;
     document.title = `${one('h1', asked).textContent} – GXUIPickers`;
     if (asked.id === 'pickers' && !one('#place').firstElementChild) showElement();
-    scrollTo(0, 0);
 }
-addEventListener('hashchange', showPage);
+addEventListener('hashchange', () => {
+    showPage();
+    scrollTo(0, 0);
+});
 
 // The start: what was kept, or the browser's language.
 const wanted = navigator.languages.map((tag) => languages.find((code) => code.split('-')[0] === tag.split('-')[0]));
@@ -222,4 +230,3 @@ try {
 } catch {
     // There is none yet.
 }
-showPage();
