@@ -133,13 +133,16 @@ function click() {
 }
 
 const choices = one('#choices');
-for (const code of languages) choices.language.add(new Option(new Intl.DisplayNames(code, { type: 'language' }).of(code), code));
+for (const code of languages) {
+    const name = new Intl.DisplayNames(code, { type: 'language' }).of(code);
+    choices.language.add(make('option', { value: code, lang: code }, name));
+}
 for (const picker of pickers) picker.addEventListener('gx-tick', click);
 
 async function applySettings() {
     const { unit, weight, look, clicks, size, language } = Object.fromEntries(new FormData(choices));
     document.documentElement.style.colorScheme = look;
-    document.documentElement.style.fontSize = `${size}%`;
+    document.documentElement.style.fontSize = choices.size.ariaValueText = `${size}%`;
     for (const picker of pickers) {
         if ('unit' in picker) picker.unit = picker.localName === 'gx-weight-picker' ? weight : unit;
         picker.toggleAttribute('ticks', clicks === 'on');

@@ -134,6 +134,8 @@ test('finger, mouse wheel and keys turn a wheel, and the workout stays', async (
 
 test('a workout is saved to a file and opened from it', async () => {
     const { page, logs, close } = await open();
+    // A screen reader says what changes in an element that has been there before.
+    assert.notEqual(await page.evaluate(() => getComputedStyle(document.querySelector('#status')).display), 'none');
     const [download] = await Promise.all([page.waitForEvent('download'), page.click('#save')]);
     const file = path.join(folder, download.suggestedFilename());
     await download.saveAs(file);
@@ -209,6 +211,8 @@ test('units, language, look and text size change at once, and stay', async () =>
         ]);
     await untilValue(page, 0, '3,2 mi, 0:27 h');
     assert.deepEqual(await look(), ['de', 'Training hinzufügen', 'rgb(14, 16, 19)', '24px']);
+    assert.equal(await page.title(), 'Einstellungen – GXUIPickers');
+    assert.equal(await page.evaluate(() => document.querySelector('[name=size]').ariaValueText), '150%');
     await page.reload();
     await untilReady(page);
     await untilValue(page, 0, '3,2 mi, 0:27 h');
@@ -298,6 +302,14 @@ test('all pickers are there with all of their options', async () => {
     await page.mouse.wheel(0, 120);
     await page.waitForFunction(() => document.querySelector('#log').textContent.includes('change'));
     assert.match(await page.textContent('#log li'), /^change: value = 6\d{3}/);
+
+    await page.selectOption('#element', 'gx-wheel');
+    await page.evaluate(() => (location.hash = '#settings'));
+    await page.selectOption('[name=language]', 'de');
+    await page.waitForFunction(() => document.documentElement.lang === 'de');
+    await page.evaluate(() => (location.hash = '#pickers'));
+    await untilColumns(page, '#place > *');
+    assert.equal(await page.evaluate(() => document.querySelector('#place > *').columns[0].rows[2]), 'März');
     assert.deepEqual(logs, []);
     await close();
 });
