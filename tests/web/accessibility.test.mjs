@@ -68,6 +68,21 @@ test('each column is a spin button with its numbers as they are shown', async ()
     await close();
 });
 
+test('the pictures of a weather have the name that the page gives to the picker', async () => {
+    const { page, logs, close } = await stage.open(`<main><h1>Workout</h1>
+        <gx-weather-and-temperature-picker aria-label="Weather" weather="1" temperature="18" step="1">
+            <img alt="clear" src="data:," /><img alt="cloudy" src="data:," />
+        </gx-weather-and-temperature-picker></main>`);
+    await untilColumns(page, 'gx-weather-and-temperature-picker');
+    const columns = await readColumns(page);
+    assert.deepEqual(
+        columns['gx-weather-and-temperature-picker'].map(({ text }) => text),
+        ['Weather: cloudy', 'Temperature: 18 degrees Celsius'],
+    );
+    assertQuiet(logs);
+    await close();
+});
+
 test('names and values are texts of the page’s language, in all fifteen', async () => {
     const { page, logs, close } = await openEvery();
     assert.equal(Object.keys(table.texts).length, 15);

@@ -2,6 +2,8 @@
 
 #include "OwnProperties.h"
 
+#include <utility>
+
 namespace gx::elements {
 
 namespace {
@@ -107,6 +109,11 @@ bool WeatherAndTemperaturePropertyPicker::set(PickerProperty property, double va
 void WeatherAndTemperaturePropertyPicker::setIcons(Ref<const GXIconPickerView::Images> icons) {
     picker_->weatherPicker()->setIconImages(std::move(icons));
     selectAgain(*picker_->weatherPicker());
+}
+
+void WeatherAndTemperaturePropertyPicker::setAccessibilityLabel(std::optional<std::string> label) {
+    picker_->weatherPicker()->setAccessibilityLabel(label);
+    PropertyPicker::setAccessibilityLabel(std::move(label));
 }
 
 void WeatherAndTemperaturePropertyPicker::reload() {

@@ -36,6 +36,8 @@ public:
     Ref<const GXIconPickerView::Images> icons() const override { return picker_->weatherPicker()->iconImages(); }
     void reload() override;
     std::string text() const override { return picker_->currentValueText(); }
+    /// The label of the pictures, whose own default names no measurement.
+    void setAccessibilityLabel(std::optional<std::string> label) override;
 
     /// To be called once: the picker holds its delegate weakly.
     void becomeDelegate() { picker_->setDelegate(WeakRef<GXBasePickerViewDelegate>(refTo(this))); }
