@@ -2,14 +2,13 @@
 
 namespace gx {
 
-std::uint64_t UIDrawingVersion::next() {
-    static std::uint64_t latest = 0;
-    return ++latest;
-}
-
 bool UIGraphicsContext::beginView(const UIDrawingVersion&, CGPoint, double) { return false; }
 
 void UIGraphicsContext::endView() {}
+
+std::uint64_t UIGraphicsContext::beginSubviews(const UIDrawingVersion&, std::size_t) { return 0; }
+
+void UIGraphicsContext::repeatSubviews(std::size_t) {}
 
 void UIGraphicsContext::fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius) {
     const UIColorComponents& components = color.resolved(style_, contrast_);

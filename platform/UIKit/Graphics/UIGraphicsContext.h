@@ -1,28 +1,17 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
 #include "CGGeometry.h"
 #include "GXExport.h"
 #include "UIColor.h"
+#include "UIDrawingVersion.h"
 #include "UIFont.h"
 #include "UIImage.h"
 
 namespace gx {
-
-/// Stands for what a view draws: as long as it is the same, so are the view's drawing calls.
-///
-/// That holds within one locale, one state of the text measures (`UITextEngine::generation`), one
-/// look and one contrast of the canvas, and at one place.
-///
-/// Its numbers are given once, so no other view and no later state of the view has them.
-struct UIDrawingVersion {
-    std::uint64_t view = next(); ///< another when the view and all below it may look different
-    std::uint64_t tree = view;   ///< another also when only a view below it may look different
-    /// A number that was not given before.
-    GX_EXPORT static std::uint64_t next();
-};
 
 /// The canvas that a host gives to a window for one frame.
 ///
@@ -55,13 +44,21 @@ public:
     virtual void multiplyAlpha(double alpha) = 0;
 
     /// Called before a view draws itself and what is below it, at an origin and with an alpha that
-    /// it sets afterwards.
+    /// it sets afterwards. A hidden one draws nothing then.
     ///
     /// A canvas that has recorded the same version before may show that again and return true: the
     /// view then draws nothing. Here false, and every view draws.
     virtual bool beginView(const UIDrawingVersion& version, CGPoint origin, double alpha);
     /// Called after a view has drawn, unless `beginView` returned true. Both nest.
     virtual void endView();
+    /// Called before a view draws its subviews in their order, so many of them.
+    ///
+    /// A canvas that has recorded the same number of them for the same `view`, in the state that is
+    /// in force, may return the `tree` of that time. A subview whose own `tree` is not higher draws
+    /// the same as then. Here 0, and every subview draws.
+    virtual std::uint64_t beginSubviews(const UIDrawingVersion& version, std::size_t count);
+    /// Shows so many of those subviews as they were recorded, in place of their `beginView`.
+    virtual void repeatSubviews(std::size_t count);
 
     /// Fills a rectangle, its corners rounded by `cornerRadius` points.
     void fillRect(CGRect rect, const UIColor& color, CGFloat cornerRadius = 0);

@@ -173,14 +173,15 @@ void UIView::renderInContext(UIGraphicsContext& context) {
 }
 
 void UIView::drawView(UIView& view, UIGraphicsContext& context) {
-    if (view.isHidden() || view.alpha() == 0 || CGRectIsEmpty(view.frame())) return;
     const CGPoint origin = {CGRectGetMinX(view.frame()), CGRectGetMinY(view.frame())};
     if (context.beginView(view.drawing(), origin, view.alpha())) return;
-    context.saveState();
-    context.translate(origin.x, origin.y);
-    if (view.alpha() < 1) context.multiplyAlpha(view.alpha());
-    view.drawContent(context);
-    context.restoreState();
+    if (!view.isHidden() && view.alpha() > 0 && !CGRectIsEmpty(view.frame())) {
+        context.saveState();
+        context.translate(origin.x, origin.y);
+        if (view.alpha() < 1) context.multiplyAlpha(view.alpha());
+        view.drawContent(context);
+        context.restoreState();
+    }
     context.endView();
 }
 
@@ -199,9 +200,19 @@ bool UIView::showsSomething() const { return true; }
 void UIView::drawRect(UIGraphicsContext&, CGRect) {}
 
 void UIView::drawSubviews(UIGraphicsContext& context) {
-    for (std::size_t i = 0; i < subviews_.size(); ++i) {
-        const Ref<UIView> view = subviews_[i]; // Drawing may change the list.
-        drawView(*view, context);
+    const UIDrawingVersion version = drawing();
+    const std::uint64_t recorded = context.beginSubviews(version, subviews_.size());
+    for (std::size_t i = 0; i < subviews_.size();) {
+        std::size_t end = i;
+        // Drawing may change the list. That invalidates this view, and no subview is repeated then.
+        while (drawing().view == version.view && end < subviews_.size() && subviews_[end]->drawing().tree <= recorded) ++end;
+        if (end > i) {
+            context.repeatSubviews(end - i);
+            i = end;
+        } else {
+            const Ref<UIView> view = subviews_[i++];
+            drawView(*view, context);
+        }
     }
 }
 

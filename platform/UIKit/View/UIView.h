@@ -9,6 +9,8 @@
 
 namespace gx {
 
+class UIGraphicsContext;
+
 /// A rectangle in a tree of views: it draws itself, lays out its subviews and receives touches. The
 /// base of everything on the screen.
 ///

@@ -8,7 +8,7 @@
 #include "GXExport.h"
 #include "NSCoder.h"
 #include "UIColor.h"
-#include "UIGraphicsContext.h"
+#include "UIDrawingVersion.h"
 #include "UIResponder.h"
 
 namespace gx {

@@ -213,6 +213,104 @@ TEST_F(DrawingVersions, ChangeForAViewInMotionWithoutAFrameBeingRequested) {
     EXPECT_EQ(after[5].tree, before[5].tree);
 }
 
+TEST_F(DrawingVersions, BeginForHiddenViewsTooWhichDrawNothing) {
+    first->setHidden(true);
+    RecordingHost host;
+    root->renderInContext(host);
+    EXPECT_EQ(host.open, 0);
+    EXPECT_EQ(host.versions.size(), 3U) << "without the view in the hidden one";
+    EXPECT_EQ(host.painted(), (Calls{"fill 0 0 20 20 with 1 1 1 1"}));
+}
+
+namespace {
+
+/// Has recorded the subviews of one view, as that had this version.
+struct RepeatingHost : RecordingHost {
+    UIDrawingVersion recorded;
+    std::size_t recordedCount = 0;
+
+    std::uint64_t beginSubviews(const UIDrawingVersion& version, std::size_t count) override {
+        return version.view == recorded.view && count == recordedCount ? recorded.tree : 0;
+    }
+    void repeatSubviews(std::size_t count) override { calls.push_back("repeat " + std::to_string(count)); }
+};
+
+/// A root with five views that draw nothing but their rectangles.
+struct RepeatedSubviews : testing::Test {
+    Ref<UIView> root = create<UIView>(CGRectMake(0, 0, 100, 100));
+    std::vector<Ref<Filler>> views;
+    RepeatingHost host;
+
+    RepeatedSubviews() {
+        for (int i = 0; i < 5; ++i) {
+            views.push_back(create<Filler>(CGRectMake(0, 0, 1 + i, 1)));
+            root->addSubview(views.back());
+        }
+        root->renderInContext(host);
+        host.recorded = host.versions.front();
+        host.recordedCount = views.size();
+        host.calls.clear();
+    }
+    /// The calls that draw or repeat.
+    std::vector<std::string> drawn() {
+        root->renderInContext(host);
+        EXPECT_EQ(host.open, 0);
+        std::vector<std::string> found;
+        for (const std::string& call : host.takeCalls()) {
+            if (call.starts_with("fill") || call.starts_with("repeat")) found.push_back(call);
+        }
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(RepeatedSubviews, AreAllThatWereNotInvalidated) {
+    EXPECT_EQ(drawn(), (Calls{"repeat 5"}));
+    views[3]->setNeedsDisplay();
+    EXPECT_EQ(drawn(), (Calls{"repeat 3", "fill 0 0 4 1 with 1 1 1 1", "repeat 1"}));
+    views[0]->setNeedsDisplay();
+    EXPECT_EQ(drawn(), (Calls{"fill 0 0 1 1 with 1 1 1 1", "repeat 2", "fill 0 0 4 1 with 1 1 1 1", "repeat 1"}));
+}
+
+TEST_F(RepeatedSubviews, IncludeHiddenOnes) {
+    views[2]->setHidden(true);
+    EXPECT_EQ(drawn(), (Calls{"repeat 2", "repeat 2"}));
+}
+
+TEST_F(RepeatedSubviews, AreNoneOnceTheListHasChangedOrTheViewWasInvalidated) {
+    views[4]->removeFromSuperview();
+    EXPECT_EQ(drawn().size(), 4U);
+    root->addSubview(views[4]);
+    const Calls all = drawn();
+    ASSERT_EQ(all.size(), 5U);
+    EXPECT_EQ(all[0], "fill 0 0 1 1 with 1 1 1 1");
+}
+
+TEST_F(RepeatedSubviews, AreNoneOnceTheListChangesWhileTheyDraw) {
+    struct Reordering : Filler {
+        bool reorders = false;
+        void drawRect(UIGraphicsContext& context, CGRect rect) override {
+            Filler::drawRect(context, rect);
+            const Ref<UIView> above = superview();
+            if (reorders) above->insertSubview_atIndex(above->subviews().back(), 3);
+        }
+    };
+    const auto reordering = create<Reordering>(CGRectMake(0, 0, 9, 1));
+    root->insertSubview_atIndex(reordering, 0);
+    host.versions.clear();
+    root->renderInContext(host);
+    host.recorded = host.versions.front();
+    host.recordedCount = 6;
+    host.calls.clear();
+    reordering->setNeedsDisplay();
+    EXPECT_EQ(drawn(), (Calls{"fill 0 0 9 1 with 1 1 1 1", "repeat 5"}));
+    reordering->setNeedsDisplay();
+    reordering->reorders = true;
+    EXPECT_EQ(drawn(), (Calls{"fill 0 0 9 1 with 1 1 1 1", "fill 0 0 1 1 with 1 1 1 1", "fill 0 0 2 1 with 1 1 1 1",
+                              "fill 0 0 5 1 with 1 1 1 1", "fill 0 0 3 1 with 1 1 1 1", "fill 0 0 4 1 with 1 1 1 1"}));
+}
+
 TEST_F(DrawingVersions, ACanvasThatShowsAViewAgainGetsNoCallsOfIt) {
     RecordingHost host;
     host.shownAgain = versions()[1].tree;
