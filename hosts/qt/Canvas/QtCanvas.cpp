@@ -61,9 +61,9 @@ void QtCanvas::begin(QPainter& painter) {
     paintedClip_ = state_.clip;
 }
 
-void QtCanvas::begin(QtFrame& frame, const QTransform& device, QtFrame* before) {
+void QtCanvas::begin(QtFrame& frame, const QTransform& device) {
     frame_ = &frame;
-    frame.begin(device, before);
+    frame.begin(device);
     beginState(device);
     state_.clip = everywhere;
     if (!isPlain(device)) frame.markIncomplete();
@@ -97,6 +97,7 @@ void QtCanvas::takePainter(QPainter& painter) {
 void QtCanvas::end() {
     if (!painter_ && !frame_) return;
     if (painter_) painter_->restore();
+    if (frame_) frame_->end();
     painter_ = nullptr;
     frame_ = nullptr;
     texts_->setBytesInSight(this, textBytes_);
@@ -107,11 +108,8 @@ void QtCanvas::paintFrame(QPainter& painter, const QtFrame& frame, const QRect& 
     device_ = device;
     paintedClip_ = everywhere;
     paintedArea_ = area;
-    isInArea_ = true;
-    for (const QtPiece& piece : frame.pieces()) {
-        if (piece.visible.intersects(area)) paint(piece);
-    }
-    isInArea_ = false;
+    frame.forEachPieceIn(area, [this](const QtPiece& piece) { paint(piece); });
+    paintedArea_ = everywhere;
     device_ = nullptr;
     painter.restore();
     painter_ = nullptr;
@@ -157,7 +155,7 @@ bool QtCanvas::isSeen(const QRectF& area) const {
 }
 
 void QtCanvas::prepareClip(const QRect& wanted) {
-    const QRect clip = isInArea_ ? wanted.intersected(paintedArea_) : wanted;
+    const QRect clip = wanted.intersected(paintedArea_);
     if (clip == paintedClip_) return;
     if (clip == everywhere) {
         painter_->setClipping(false);

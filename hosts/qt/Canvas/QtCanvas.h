@@ -44,8 +44,8 @@ public:
     /// painter must live until `end`, and nothing else may draw with it meanwhile.
     void begin(QPainter& painter);
     /// Starts a frame that is recorded, for a device with this transform, and not painted. Views
-    /// that draw the same as in the frame before, if one is given, are taken out of it.
-    void begin(QtFrame& frame, const QTransform& device, QtFrame* before = nullptr);
+    /// that draw the same as in the frame recorded before stay as they are.
+    void begin(QtFrame& frame, const QTransform& device);
     /// Gives the painter back as it was, or ends the recording.
     void end();
     /// Whether a painter's units can be made device pixels. One that is rotated or sheared keeps
@@ -71,6 +71,12 @@ public:
     }
     void endView() override {
         if (frame_) frame_->endView(textBytes_);
+    }
+    std::uint64_t beginSubviews(const UIDrawingVersion& version, std::size_t count) override {
+        return frame_ != nullptr ? frame_->beginSubviews(version, state_, count) : 0;
+    }
+    void repeatSubviews(std::size_t count) override {
+        if (frame_) frame_->repeatSubviews(count, textBytes_);
     }
 
 protected:
@@ -102,10 +108,9 @@ private:
     double baseScale_ = 1;     // Device pixels for a point at the frame's start.
     QtDrawingState state_;
     std::vector<QtDrawingState> saved_;
-    QRect paintedClip_;       // What the painter clips to now.
-    QRect paintedArea_;       // Of a frame.
-    bool isInArea_ = false;   // Whether a frame is painted.
-    double paintedAlpha_ = 1; // The painter's opacity now.
+    QRect paintedClip_;              // What the painter clips to now.
+    QRect paintedArea_ = everywhere; // Nothing is painted outside of it.
+    double paintedAlpha_ = 1;        // The painter's opacity now.
     std::size_t textBytes_ = 0;
 };
 

@@ -1,97 +1,117 @@
 #include "QtFrame.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include <GXUIPickers/UITextEngine.h>
 
 namespace gx::qt {
 
-bool operator==(const QtPiece& some, const QtPiece& other) {
-    return some.image.cacheKey() == other.image.cacheKey() && some.area == other.area && some.clip == other.clip &&
-           some.alpha == other.alpha && some.color == other.color && some.radiusX == other.radiusX && some.radiusY == other.radiusY;
-}
-
-void QtFrame::begin(const QTransform& device, QtFrame* before) {
-    pieces_.clear();
-    taken_.clear();
+void QtFrame::begin(const QTransform& device) {
+    const Ref<NSLocale> locale = NSLocale::currentLocale();
+    const std::uint64_t textGeneration = UITextEngine::generation();
+    const bool mayKeep = isComplete_ && isWhole_ && device == transform_ && locale == locale_ && textGeneration == textGeneration_;
+    locale_ = locale;
+    textGeneration_ = textGeneration;
     transform_ = device;
     isComplete_ = true;
-    locale_ = NSLocale::currentLocale();
-    textGeneration_ = UITextEngine::generation();
-    before_ = before != nullptr && canTakeOver(*before) ? before : nullptr;
-    views_.begin(before_ != nullptr ? &before_->views_ : nullptr);
+    isWhole_ = false;
+    changed_ = {};
+    root_.before.clear();
+    root_.before.swap(root_.pieces);
+    open_.clear();
+    open_.push_back({&root_, mayKeep});
 }
 
-bool QtFrame::canTakeOver(const QtFrame& before) const {
-    return before.isComplete_ && before.views_.isClosed() && before.transform_ == transform_ && before.locale_ == locale_ &&
-           before.textGeneration_ == textGeneration_;
-}
-
-bool QtFrame::beginView(const UIDrawingVersion& version, const QtDrawingState& state, std::size_t& textBytes) {
-    const QtFrameViews::View* const known = views_.beginView(version, state, {pieces_.size(), textBytes});
-    if (known == nullptr) return false;
-    textBytes += known->end.textBytes - known->begin.textBytes;
-    const Range from = {known->begin.pieces, known->end.pieces};
-    const std::size_t begin = pieces_.size();
-    for (std::size_t i = from.begin; i < from.end; ++i) pieces_.push_back(std::move(before_->pieces_[i]));
-    const bool continues = !taken_.empty() && taken_.back().here.end == begin && taken_.back().before.end == from.begin;
-    if (!continues) taken_.push_back({{begin, begin}, {from.begin, from.begin}});
-    taken_.back().here.end = pieces_.size();
-    taken_.back().before.end = from.end;
-    return true;
+void QtFrame::end() {
+    isWhole_ = open_.size() == 1;
+    while (open_.size() > 1) endView(open_.back().textBytes);
+    close(open_.front());
 }
 
 void QtFrame::add(QtPiece piece) {
+    Open& open = open_.back();
     piece.visible = piece.visibleArea();
-    pieces_.push_back(std::move(piece));
+    piece.viewsBelow = open.next;
+    open.visible |= piece.visible;
+    open.view->pieces.push_back(std::move(piece));
 }
 
-QRect QtFrame::difference(Range here, const QtFrame& before, Range there) const {
-    const auto at = [](const QtFrame& frame, std::size_t place) { return frame.pieces_.begin() + static_cast<std::ptrdiff_t>(place); };
-    const auto begin = at(*this, here.begin);
-    const auto end = at(*this, here.end);
-    const auto oldBegin = at(before, there.begin);
-    const auto oldEnd = at(before, there.end);
-    // Pieces come in the order of the views: what lies between the first and the last difference
-    // is the view that has changed.
-    const auto first = std::mismatch(begin, end, oldBegin, oldEnd);
-    const auto common = std::min(end - first.first, oldEnd - first.second);
-    const auto reversed = [](auto place) { return std::make_reverse_iterator(place); };
-    const auto last = std::mismatch(reversed(end), reversed(end) + common, reversed(oldEnd), reversed(oldEnd) + common);
-    QRect changed;
-    if (end - begin == oldEnd - oldBegin) {
-        auto other = first.second;
-        for (auto piece = first.first; piece != last.first.base(); ++piece, ++other) {
-            if (!(*piece == *other)) changed |= piece->visible | other->visible;
-        }
-    } else {
-        for (auto piece = first.first; piece != last.first.base(); ++piece) changed |= piece->visible;
-        for (auto piece = first.second; piece != last.second.base(); ++piece) changed |= piece->visible;
+bool QtFrame::beginView(const UIDrawingVersion& version, const QtDrawingState& state, std::size_t& textBytes) {
+    Open& above = open_.back();
+    std::vector<QtFrameView::Within>& within = above.view->within;
+    if (above.next == within.size()) within.emplace_back();
+    const QtFrameView::Within& known = within[above.next++];
+    QtFrameView& view = *known.view;
+    if (above.mayKeep && view.version.tree == version.tree && view.state == state) {
+        textBytes += known.textBytes;
+        above.visible |= known.visible;
+        return true;
     }
-    return changed;
+    // A view that was invalidated itself has all below it draw.
+    const bool mayKeep = above.mayKeep && view.version.view == version.view;
+    open_.push_back({&view, mayKeep, textBytes, view.version.tree, view.subviews});
+    view.subviews = {};
+    view.version = version;
+    view.state = state;
+    view.before.swap(view.pieces);
+    return false;
 }
 
-QRect QtFrame::areaChangedSince(const QtFrame& before) const {
-    QRect changed;
-    Range here;
-    Range there;
-    for (const Taken& taken : taken_) {
-        here.end = taken.here.begin;
-        there.end = taken.before.begin;
-        changed |= difference(here, before, there);
-        here.begin = taken.here.end;
-        there.begin = taken.before.end;
+void QtFrame::endView(std::size_t textBytes) {
+    if (open_.size() == 1) return; // No view has begun.
+    const Open ended = open_.back();
+    close(ended);
+    open_.pop_back();
+    Open& above = open_.back();
+    QtFrameView::Within& place = above.view->within[above.next - 1];
+    place.visible = ended.visible;
+    place.textBytes = textBytes - ended.textBytes;
+    above.visible |= ended.visible;
+}
+
+void QtFrame::close(const Open& ended) {
+    QtFrameView& view = *ended.view;
+    changed_ |= view.changedPieces();
+    view.before.clear();
+    for (std::size_t i = ended.next; i < view.count; ++i) {
+        QtFrameView::Within& gone = view.within[i];
+        changed_ |= gone.visible;
+        gone.view->clear();
+        gone.visible = {};
+        gone.textBytes = 0;
     }
-    changed |= difference({here.begin, pieces_.size()}, before, {there.begin, before.pieces_.size()});
+    view.count = ended.next;
+}
+
+std::uint64_t QtFrame::beginSubviews(const UIDrawingVersion& version, const QtDrawingState& state, std::size_t count) {
+    const Open& open = open_.back();
+    const QtFrameView::Subviews& before = open.subviewsBefore;
+    const bool isSame = open.mayKeep && open.view->version.view == version.view && before.first == open.next && before.count == count &&
+                        before.state == state;
+    open.view->subviews = {open.next, count, state};
+    return isSame ? open.treeBefore : 0;
+}
+
+void QtFrame::repeatSubviews(std::size_t count, std::size_t& textBytes) {
+    Open& open = open_.back();
+    const std::size_t end = std::min(open.next + count, open.view->count);
+    for (; open.next < end; ++open.next) textBytes += open.view->within[open.next].textBytes;
+    if (open_.size() == 1) return;
+    // What they cover lies within what the view has covered before.
+    const Open& above = open_[open_.size() - 2];
+    open.visible |= above.view->within[above.next - 1].visible;
+}
+
+QRect QtFrame::changedArea() const {
+    QRect changed = changed_;
     for (bool hasGrown = !changed.isEmpty(); hasGrown;) {
         hasGrown = false;
-        for (const QtPiece& piece : pieces_) {
-            if (!piece.visible.intersects(changed) || changed.contains(piece.visible) || !piece.isScaled()) continue;
+        forEachPieceIn(QRect(changed), [&](const QtPiece& piece) {
+            if (!piece.isScaled() || changed.contains(piece.visible)) return;
             changed |= piece.visible;
             hasGrown = true;
-        }
+        });
     }
     return changed;
 }

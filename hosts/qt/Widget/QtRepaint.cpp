@@ -13,17 +13,17 @@ void QtRepaint::frameDidChange(QWidget& widget, UIWindowInput& window) {
     const bool wasComparable = std::exchange(isComparable_, false);
     isPresent_ = false;
     if (!widget.isVisible() || !device_ || isRecording_) return widget.update();
+    const bool isSameDevice = *device_ == shown_.transform();
     isPresent_ = true; // Unless the views change something while they draw.
     isRecording_ = true;
-    canvas_.begin(next_, *device_, &shown_);
+    canvas_.begin(shown_, *device_);
     window.draw(canvas_);
     canvas_.end();
     isRecording_ = false;
-    std::swap(shown_, next_);
     isPresent_ = isPresent_ && shown_.isComplete();
     isComparable_ = isPresent_;
-    if (!wasComparable || !isPresent_ || shown_.transform() != next_.transform()) return widget.update();
-    const QRect changed = shown_.areaChangedSince(next_);
+    if (!wasComparable || !isPresent_ || !isSameDevice) return widget.update();
+    const QRect changed = shown_.changedArea();
     if (!changed.isEmpty()) widget.update(pointsOf(changed));
 }
 

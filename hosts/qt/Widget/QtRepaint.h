@@ -15,11 +15,11 @@ namespace gx::qt {
 
 /// Has a widget painted where its views look different, and nowhere else.
 ///
-/// After each tick the views draw into a recorded frame, which is compared with the one before; the
-/// widget's next paint event paints that frame.
+/// After each tick the views draw over the recorded frame; the widget's next paint event paints
+/// what looks different in it.
 ///
 /// - A view draws once a frame, whatever is painted, and only if it, one below it or one around it
-///   was invalidated; the others are taken over.
+///   was invalidated; the others stay as they were recorded.
 /// - No view has to say which part of it has changed.
 ///
 /// Invariant: while frames are comparable, the screen shows the present one, but for what is still
@@ -39,7 +39,6 @@ private:
 
     QtCanvas canvas_;
     QtFrame shown_;
-    QtFrame next_;
     std::optional<QTransform> device_; // Of the last paint event.
     bool isRecording_ = false;
     bool isComparable_ = false;
