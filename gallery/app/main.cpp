@@ -87,9 +87,10 @@ int showWindow(const Ref<MainScreen>& screen, const CommandLineArguments& argume
 
 int main(int argc, char** argv) {
     std::string error;
-    const auto words = std::span(argv, static_cast<std::size_t>(argc)).subspan(argc > 0 ? 1 : 0);
+    const auto all = std::span(argv, static_cast<std::size_t>(argc));
+    const auto words = all.subspan(all.empty() ? 0 : 1);
     const auto arguments = CommandLineArguments::parse({words.begin(), words.end()}, error);
-    const std::string program = CommandLineArguments::programName(argc > 0 ? argv[0] : nullptr);
+    const std::string program = CommandLineArguments::programName(all.empty() ? nullptr : all.front());
     if (!arguments) {
         std::cerr << "gallery: " << error << "\n\n" << CommandLineArguments::usage(program);
         return CannotStart;
