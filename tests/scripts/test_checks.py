@@ -234,7 +234,9 @@ class ContributingTest(unittest.TestCase):
         self.assertTrue(operations and paths)
         for path in paths:
             self.assertTrue(os.path.exists(os.path.join(ROOT, path)), path)
-        code = "".join(path.read_text(encoding="utf-8") for floor in ("platform", "pickers") for path in Path(ROOT, floor).rglob("*.cpp"))
+        folders = ("platform", "services", "pickers", "hosts/qt", "hosts/quick", "hosts/elements", "hosts/web/elements")
+        sources = [source for folder in folders for source in Path(ROOT, folder).rglob("*.cpp")]
+        code = "".join(source.read_text(encoding="utf-8") for source in sources)
         for operation in operations:
             self.assertTrue(f"{operation}(" in code, operation)
 
