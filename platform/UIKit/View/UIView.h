@@ -5,11 +5,10 @@
 #include "GXExport.h"
 #include "NSLayoutConstraint.h"
 #include "UIAccessibility.h"
+#include "UIGraphicsContext.h"
 #include "UIViewNode.h"
 
 namespace gx {
-
-class UIGraphicsContext;
 
 /// A rectangle in a tree of views: it draws itself, lays out its subviews and receives touches. The
 /// base of everything on the screen.
