@@ -69,8 +69,7 @@ void QuickPaintedNode::render(const RenderState* state) {
     frame_.begin(device);
     for (const QuickPiece& piece : pieces_) frame_.add(painted(piece, isPlain ? device : QTransform()));
     // It clips to nothing but the region, so the canvas may blend with its pixels.
-    const bool isImage = isPlain && painter->device()->devType() == QInternal::Image;
-    auto* const image = isImage ? static_cast<QImage*>(painter->device()) : nullptr;
+    auto* const image = isPlain ? dynamic_cast<QImage*>(painter->device()) : nullptr;
     const QRegion* const dirty = state->clipRegion();
     const QTransform toArea = isPlain ? ofWindow : item.inverted();
     // What lies between its rectangles is not cleared before.
