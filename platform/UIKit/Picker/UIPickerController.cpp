@@ -139,8 +139,9 @@ bool UIPickerController::keyPressed(const UIKey& key) {
     if (component < 0 || key.isCommand()) return false;
     switch (key.code) {
     case UIKey::Code::Character: {
-        const std::u32string characters = UIPickerTyping::readableForm(key.characters);
-        for (std::size_t i = 0; !key.isRepeat && i < characters.size(); ++i) typeSelect_.typeCharacter(characters[i], key.timestamp);
+        const std::string characters = UIPickerTyping::readableForm(key.characters);
+        std::string_view rest = key.isRepeat ? std::string_view() : characters;
+        while (!rest.empty()) typeSelect_.typeCharacter(UIPickerTyping::takeCharacter(rest), key.timestamp);
         return !characters.empty();
     }
     case UIKey::Code::Left:

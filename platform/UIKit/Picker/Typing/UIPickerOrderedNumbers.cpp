@@ -9,42 +9,37 @@
 
 namespace gx {
 
-namespace {
-
-bool isDigit(char32_t character) { return character >= U'0' && character <= U'9'; }
-
-} // namespace
-
 // Reading
 
-std::optional<UIPickerOrderedNumbers::Number> UIPickerOrderedNumbers::leadingNumber(const std::u32string& text) {
+std::optional<UIPickerOrderedNumbers::Number> UIPickerOrderedNumbers::leadingNumber(const std::string& text) {
     std::size_t at = 0;
     Number number;
-    number.isNegative = text.substr(0, 1) == U"-";
+    number.isNegative = text.substr(0, 1) == "-";
     if (number.isNegative) at = 1;
     // The column behind a decimal separator may title its rows with it.
-    if (text.substr(at, 1) == U".") ++at;
+    if (text.substr(at, 1) == ".") ++at;
     bool isFraction = false;
     for (; at < text.size(); ++at) {
-        const bool isSeparator = text[at] == U'.' && !isFraction && number.digits > 0 && at + 1 < text.size() && isDigit(text[at + 1]);
+        const bool isSeparator =
+            text[at] == '.' && !isFraction && number.digits > 0 && at + 1 < text.size() && UIPickerTyping::isDigit(text[at + 1]);
         if (isSeparator) {
             isFraction = true;
             continue;
         }
-        if (!isDigit(text[at])) break;
+        if (!UIPickerTyping::isDigit(text[at])) break;
         if (++number.digits > mostDigits) return std::nullopt;
         if (isFraction) ++number.decimals;
-        number.value = number.value * 10 + static_cast<NSInteger>(text[at] - U'0');
+        number.value = number.value * 10 + static_cast<NSInteger>(text[at] - '0');
     }
-    const bool isAlone = std::none_of(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), isDigit);
+    const bool isAlone = std::none_of(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), UIPickerTyping::isDigit);
     if (number.digits == 0 || !isAlone) return std::nullopt;
     if (number.isNegative) number.value = -number.value;
     return number;
 }
 
-std::optional<UIPickerOrderedNumbers::Number> UIPickerOrderedNumbers::wholeNumber(const std::u32string& text) {
+std::optional<UIPickerOrderedNumbers::Number> UIPickerOrderedNumbers::wholeNumber(const std::string& text) {
     const std::optional<Number> number = leadingNumber(text);
-    return number && number->decimals == 0 && isDigit(text.back()) ? number : std::nullopt;
+    return number && number->decimals == 0 && UIPickerTyping::isDigit(text.back()) ? number : std::nullopt;
 }
 
 UIPickerOrderedNumbers::UIPickerOrderedNumbers(NSInteger count, const Titles& titles, Reading reading)

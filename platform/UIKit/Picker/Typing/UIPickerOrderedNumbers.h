@@ -29,12 +29,12 @@ public:
     static constexpr int mostDigits = 18;
 
     /// Texts are in the form of `UIPickerTyping::readableForm`.
-    using Reading = std::optional<Number> (*)(const std::u32string& text);
+    using Reading = std::optional<Number> (*)(const std::string& text);
     /// Whole numbers and nothing else, for typing: "5", "05", "-5" and, for a column behind a
     /// separator, ".5", which counts as 5.
-    static std::optional<Number> wholeNumber(const std::u32string& text);
+    static std::optional<Number> wholeNumber(const std::string& text);
     /// The number that a title begins with, if no other follows: also 5 of "5'", and 36.5.
-    static std::optional<Number> leadingNumber(const std::u32string& text);
+    static std::optional<Number> leadingNumber(const std::string& text);
 
     UIPickerOrderedNumbers(NSInteger count, const Titles& titles, Reading reading);
 

@@ -26,7 +26,7 @@ bool canGrow(const Number& number, const UIPickerOrderedNumbers& numbers) {
     return false;
 }
 
-UIPickerTitleSearch::Result walk(const std::u32string& text, NSInteger count, const UIPickerTitleSearch::Titles& titles) {
+UIPickerTitleSearch::Result walk(const std::string& text, NSInteger count, const UIPickerTitleSearch::Titles& titles) {
     UIPickerTitleSearch::Result result;
     std::optional<NSInteger> same;
     std::optional<NSInteger> equal;
@@ -35,7 +35,7 @@ UIPickerTitleSearch::Result walk(const std::u32string& text, NSInteger count, co
     for (NSInteger row = 0; row < std::min(count, UIPickerTitleSearch::longestWalk); ++row) {
         const std::optional<std::string> title = titles(row);
         if (!title) continue;
-        const std::u32string form = UIPickerTyping::readableForm(*title);
+        const std::string form = UIPickerTyping::readableForm(*title);
         const std::optional<Number> titled = UIPickerOrderedNumbers::wholeNumber(form);
         if (form == text) {
             if (!same) same = row;
@@ -46,18 +46,18 @@ UIPickerTitleSearch::Result walk(const std::u32string& text, NSInteger count, co
         result.canGrow = true;
         if (!beginning) beginning = row;
         // 5 spells 5' and 5 km: only digits would make another number of it.
-        const char32_t after = form[text.size()];
-        if (number && !equal && after != U'.' && (after < U'0' || after > U'9')) equal = row;
+        const char after = form[text.size()];
+        if (number && !equal && after != '.' && !UIPickerTyping::isDigit(after)) equal = row;
     }
     // A number has to be spelled to its end: with rows 10 to 19, a 1 is none of them yet.
-    const bool isOfNumber = number || text == U"-" || text == U"." || text == U"-.";
+    const bool isOfNumber = number || text == "-" || text == "." || text == "-.";
     result.row = same ? same : equal ? equal : isOfNumber ? std::nullopt : beginning;
     return result;
 }
 
 } // namespace
 
-UIPickerTitleSearch::Result UIPickerTitleSearch::resultOfText_amongRows(const std::u32string& text, NSInteger count, const Titles& titles) {
+UIPickerTitleSearch::Result UIPickerTitleSearch::resultOfText_amongRows(const std::string& text, NSInteger count, const Titles& titles) {
     if (text.empty() || count <= 0) return {};
     const std::optional<Number> number = UIPickerOrderedNumbers::wholeNumber(text);
     if (number) {
@@ -67,7 +67,7 @@ UIPickerTitleSearch::Result UIPickerTitleSearch::resultOfText_amongRows(const st
         if (entry || grows) return {entry ? std::optional(entry->row) : std::nullopt, grows};
     }
     Result result = walk(text, count, titles);
-    if (text == U"-" && !result.canGrow) {
+    if (text == "-" && !result.canGrow) {
         result.canGrow = UIPickerOrderedNumbers(count, titles, UIPickerOrderedNumbers::wholeNumber).hasNegative();
     }
     return result;

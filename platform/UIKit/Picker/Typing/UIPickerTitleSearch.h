@@ -33,7 +33,7 @@ public:
     };
     /// `text` is in the form of `UIPickerTyping::readableForm`; an empty one finds nothing. Titles
     /// are queried while it runs, and not afterwards.
-    static Result resultOfText_amongRows(const std::u32string& text, NSInteger count, const Titles& titles);
+    static Result resultOfText_amongRows(const std::string& text, NSInteger count, const Titles& titles);
 };
 
 } // namespace gx

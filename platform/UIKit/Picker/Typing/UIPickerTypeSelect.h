@@ -50,7 +50,7 @@ public:
     explicit UIPickerTypeSelect(Wheel& wheel) : wheel_(wheel) {}
 
     /// A character in the form of `UIPickerTyping::readableForm`.
-    void typeCharacter(char32_t character, NSTimeInterval time);
+    void typeCharacter(const std::string& character, NSTimeInterval time);
     /// A blank by itself. Returns whether it was used: it goes on with a text that can go on.
     bool typeBlank(NSTimeInterval time);
     /// The text is complete, and its column is reported once it has landed.
@@ -63,12 +63,12 @@ public:
     std::optional<NSInteger> waitingComponent() const { return typing_.component(); }
 
 private:
-    bool typeSeparator(char32_t separator, NSInteger component, NSTimeInterval time);
-    bool isShownBehind(char32_t character, NSInteger component);
+    bool typeSeparator(const std::string& separator, NSInteger component, NSTimeInterval time);
+    bool isShownBehind(const std::string& character, NSInteger component);
     bool goOnBehindText(NSInteger component, bool isFraction, NSTimeInterval time);
-    void typeText(char32_t character, NSInteger component, NSTimeInterval time);
-    bool typeBehindComplete(char32_t character, NSInteger component, NSTimeInterval time);
-    UIPickerTitleSearch::Result rowsSpelled(const std::u32string& text, NSInteger component);
+    void typeText(const std::string& character, NSInteger component, NSTimeInterval time);
+    bool typeBehindComplete(const std::string& character, NSInteger component, NSTimeInterval time);
+    UIPickerTitleSearch::Result rowsSpelled(const std::string& text, NSInteger component);
 
     Wheel& wheel_;
     UIPickerTyping typing_;

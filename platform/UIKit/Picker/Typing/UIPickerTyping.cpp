@@ -1,6 +1,5 @@
 #include "UIPickerTyping.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "NSLocale.h"
@@ -24,6 +23,13 @@ std::optional<char32_t> takeCodePoint(std::string_view& text) {
     }
     text.remove_prefix(more);
     return point;
+}
+
+void appendCodePoint(char32_t point, std::string& text) {
+    const unsigned more = point < 0x80 ? 0 : point < 0x800 ? 1 : point < 0x10000 ? 2 : 3;
+    constexpr char32_t leads[] = {0, 0xC0, 0xE0, 0xF0};
+    text.push_back(static_cast<char>(leads[more] | point >> (6 * more)));
+    for (unsigned i = more; i-- > 0;) text.push_back(static_cast<char>(0x80U | (point >> (6 * i) & 0x3FU)));
 }
 
 /// The zeros of scripts whose ten digits follow each other, as in Unicode's category Nd.
@@ -65,15 +71,23 @@ char32_t readable(char32_t point) {
 
 } // namespace
 
-std::u32string UIPickerTyping::readableForm(std::string_view text) {
-    std::u32string form;
+std::string UIPickerTyping::readableForm(std::string_view text) {
+    std::string form;
+    std::size_t end = 0; // Behind the last character that is no blank.
     while (!text.empty()) {
         const std::optional<char32_t> point = takeCodePoint(text);
-        if (point && !isDirectionMark(*point)) form.push_back(readable(*point));
+        if (!point || isDirectionMark(*point) || (form.empty() && isBlankPoint(*point))) continue;
+        appendCodePoint(readable(*point), form);
+        if (!isBlankPoint(*point)) end = form.size();
     }
-    while (!form.empty() && isBlankPoint(form.back())) form.pop_back();
-    form.erase(form.begin(), std::find_if_not(form.begin(), form.end(), isBlankPoint));
+    form.resize(end);
     return form;
+}
+
+std::string UIPickerTyping::takeCharacter(std::string_view& form) {
+    const std::string_view all = form;
+    takeCodePoint(form);
+    return std::string(all.substr(0, all.size() - form.size()));
 }
 
 bool UIPickerTyping::isBlank(std::string_view text) {
@@ -85,10 +99,10 @@ bool UIPickerTyping::isBlank(std::string_view text) {
     return true;
 }
 
-bool UIPickerTyping::endsColumn(char32_t character) {
-    if (character == U'.' || character == U':') return true;
+bool UIPickerTyping::endsColumn(std::string_view character) {
+    if (character == "." || character == ":") return true;
     const std::optional<std::string> separator = NSLocale::currentLocale()->objectForKey(NSLocaleDecimalSeparator);
-    return separator && readableForm(*separator) == std::u32string(1, character);
+    return separator && readableForm(*separator) == character;
 }
 
 void UIPickerTyping::goOnToComponent_atTime(NSInteger component, bool isFraction, NSTimeInterval time) {
@@ -103,7 +117,7 @@ void UIPickerTyping::beginInComponent_onRow(NSInteger component, NSInteger row) 
     rowBefore_ = row;
 }
 
-void UIPickerTyping::setText_atTime(std::u32string text, bool isWaiting, NSTimeInterval time) {
+void UIPickerTyping::setText_atTime(std::string text, bool isWaiting, NSTimeInterval time) {
     text_ = std::move(text);
     isWaiting_ = isWaiting;
     latest_ = time;

@@ -22,12 +22,15 @@ public:
     static constexpr NSTimeInterval longestPause = 1;
 
     /// A text (UTF-8) in that form. Bytes that are no UTF-8 are left out.
-    static std::u32string readableForm(std::string_view text);
+    static std::string readableForm(std::string_view text);
+    /// Takes the first character off a text of that form, which may not be empty.
+    static std::string takeCharacter(std::string_view& form);
+    static bool isDigit(char character) { return character >= '0' && character <= '9'; }
     /// Whether a text (UTF-8) has blanks and nothing else, so that nothing is left of it.
     static bool isBlank(std::string_view text);
     /// Whether a character of that form goes on to the next column: a decimal separator, also that
     /// of the current locale, or the colon of times.
-    static bool endsColumn(char32_t character);
+    static bool endsColumn(std::string_view character);
 
     /// The column whose report waits, since its text may go on; nothing without one.
     std::optional<NSInteger> component() const { return isWaiting_ ? component_ : std::nullopt; }
@@ -35,7 +38,7 @@ public:
     /// complete.
     bool isAtComponent(NSInteger component) const { return component_ == component; }
     /// The text at that column so far.
-    const std::u32string& text() const { return text_; }
+    const std::string& text() const { return text_; }
     /// Whether nothing can go on with that text.
     bool isComplete() const { return !text_.empty() && !isWaiting_; }
     /// Whether the column shows digits behind a decimal separator that was typed before.
@@ -48,7 +51,7 @@ public:
     /// A text begins at the column, while it is on the row or on its way there.
     void beginInComponent_onRow(NSInteger component, NSInteger row);
     /// The text so far, with a character typed at `time`. `isWaiting`: it may go on.
-    void setText_atTime(std::u32string text, bool isWaiting, NSTimeInterval time);
+    void setText_atTime(std::string text, bool isWaiting, NSTimeInterval time);
     /// Until a pause all characters are ignored: they go on beyond the last column, as the seconds
     /// of 12:20:05 where there are only hours and minutes, or belong to a number that is not there.
     void ignoreFromTime(NSTimeInterval time);
@@ -64,7 +67,7 @@ public:
 private:
     std::optional<NSInteger> component_;
     std::optional<NSInteger> rowBefore_;
-    std::u32string text_;
+    std::string text_;
     NSTimeInterval latest_ = 0;
     bool isWaiting_ = false;
     bool isFraction_ = false;
