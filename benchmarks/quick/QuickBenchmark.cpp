@@ -103,38 +103,35 @@ private:
 };
 
 /// Three fingers, one on each column.
+///
+/// Their events go to the window as a platform's do. QTest's touch sequences would sleep for a
+/// millisecond before each, which takes processor time of its own.
 class Fingers {
 public:
-    explicit Fingers(Stage& stage) : stage_(stage) {
-        auto touch = QTest::touchEvent(&stage.window(), device(), false);
-        for (int finger = 0; finger < fingers; ++finger) touch.press(finger, placeOf(finger));
-        touch.commit(false);
-        stage_.draw();
-    }
-    ~Fingers() {
-        auto touch = QTest::touchEvent(&stage_.window(), device(), false);
-        for (int finger = 0; finger < fingers; ++finger) touch.release(finger, placeOf(finger));
-        touch.commit(false);
-        stage_.draw();
-    }
+    explicit Fingers(Stage& stage) : stage_(stage) { send(QEventPoint::Pressed); }
+    ~Fingers() { send(QEventPoint::Released); }
     Fingers(const Fingers&) = delete;
     Fingers& operator=(const Fingers&) = delete;
 
     void move(int by) {
         y_ += by;
-        auto touch = QTest::touchEvent(&stage_.window(), device(), false);
-        for (int finger = 0; finger < fingers; ++finger) touch.move(finger, placeOf(finger));
-        touch.commit(false);
-        stage_.draw();
+        send(QEventPoint::Updated);
     }
 
 private:
-    static constexpr int fingers = 3;
     static QPointingDevice* device() {
         static QPointingDevice* const device = QTest::createTouchDevice();
         return device;
     }
-    QPoint placeOf(int finger) const { return {size.width() * (2 * finger + 1) / 6, y_}; }
+    void send(QEventPoint::State state) {
+        QList<QEventPoint> points;
+        for (int finger = 0; finger < 3; ++finger) {
+            const QPointF place(size.width() * (2 * finger + 1) / 6.0, y_);
+            points.append(QEventPoint(finger, state, place, place));
+        }
+        qt_handleTouchEventv2(&stage_.window(), device(), points, Qt::NoModifier);
+        stage_.draw();
+    }
 
     Stage& stage_;
     int y_ = size.height() / 2;
