@@ -29,12 +29,16 @@ export function provide() {
             rows(element)
                 .filter((node) => node.style.visibility !== 'hidden')
                 .map((node) => node.getBoundingClientRect()),
-        /** A flick of a column by made-up pointers; the times of its events. */
+        /**
+         * A flick of a column by made-up pointers; the times of its events. They lie as far apart as
+         * a finger's, also where a busy machine delivers them late.
+         */
         async flick(element, distance = 120, column = 0) {
             const node = element.shadowRoot.querySelectorAll('.column')[column];
             const box = node.getBoundingClientRect();
             const times = [];
-            const send = (type, offset) => {
+            const begin = performance.now();
+            const send = (type, offset, after) => {
                 const event = new PointerEvent(type, {
                     pointerId: 7,
                     pointerType: 'touch',
@@ -43,15 +47,16 @@ export function provide() {
                     bubbles: true,
                     composed: true,
                 });
+                Object.defineProperty(event, 'timeStamp', { value: begin + after });
                 times.push([type, offset, event.timeStamp / 1000]);
                 node.dispatchEvent(event);
             };
-            send('pointerdown', 0);
+            send('pointerdown', 0, 0);
             for (let step = 1; step <= 6; step += 1) {
-                await new Promise((resolve) => setTimeout(resolve, 14));
-                send('pointermove', (distance * step) / 6);
+                await new Promise((resolve) => setTimeout(resolve, Math.ceil(begin + 14 * step - performance.now())));
+                send('pointermove', (distance * step) / 6, 14 * step);
             }
-            send('pointerup', distance);
+            send('pointerup', distance, 6 * 14);
             return times;
         },
         isGliding: (element) => globalThis.spins.animations(element).length > 0,
