@@ -164,10 +164,12 @@ test('what the compositor shows is where the module has the rows at that time', 
         const starts = () => spins.animations(element).map((each) => each.startTime);
         let time;
         do {
+            if (!spins.isGliding(element)) await spins.flick(element);
             await new Promise((resolve) => requestAnimationFrame(resolve));
             time = document.timeline.currentTime;
-            // On a busy machine a row may have passed after the time of this late frame.
-        } while (told >= time || starts().some((start) => start > time));
+            // On a busy machine a row may have passed after the time of this late frame, or the spin
+            // has ended by now.
+        } while (told >= time || !spins.isGliding(element) || starts().some((start) => start > time));
         const wasGliding = spins.isGliding(element);
         performance.now = () => time;
         const shown = spins.places(element, (node) => getComputedStyle(node));
