@@ -167,8 +167,8 @@ test('what the compositor shows is where the module has the rows at that time', 
             if (!spins.isGliding(element)) await spins.flick(element);
             await new Promise((resolve) => requestAnimationFrame(resolve));
             time = document.timeline.currentTime;
-            // On a busy machine a row may have passed after the time of this late frame, or the spin
-            // has ended by now.
+            // On a busy machine a row may have passed after the time of this late frame, or the
+            // spin has ended by now.
         } while (told >= time || !spins.isGliding(element) || starts().some((start) => start > time));
         const wasGliding = spins.isGliding(element);
         performance.now = () => time;

@@ -30,8 +30,8 @@ export function provide() {
                 .filter((node) => node.style.visibility !== 'hidden')
                 .map((node) => node.getBoundingClientRect()),
         /**
-         * A flick of a column by made-up pointers; the times of its events. They lie as far apart as
-         * a finger's, also where a busy machine delivers them late.
+         * A flick of a column by made-up pointers; the times of its events. They lie as far apart
+         * as a finger's, also where a busy machine delivers them late.
          */
         async flick(element, distance = 120, column = 0) {
             const node = element.shadowRoot.querySelectorAll('.column')[column];
