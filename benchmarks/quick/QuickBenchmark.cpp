@@ -105,7 +105,7 @@ private:
 /// Three fingers, one on each column.
 ///
 /// Their events go to the window as a platform's do. QTest's touch sequences would sleep for a
-/// millisecond before each, which takes processor time of its own.
+/// millisecond before each, and what follows a sleep takes twice as long, in both.
 class Fingers {
 public:
     explicit Fingers(Stage& stage) : stage_(stage) { send(QEventPoint::Pressed); }
