@@ -8,8 +8,7 @@ import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 
 /**
- * In KiB: with all pickers and the largest language in either way, and with one alone in English as
- * one file, whose module the build packs.
+ * In KiB, in either way: with all pickers and the largest language, and with one alone in English.
  */
 export const budgets = { all: 100, one: 75 };
 
@@ -75,8 +74,7 @@ if (process.argv[1] === fileURLToPath(import.meta.url)) {
     const sizes = JSON.parse(readFileSync(path.join(folder, 'sizes.json'), 'utf8'));
     console.log(table(sizes));
     let isOver = false;
-    const [oneFile, twoFiles] = downloads(sizes);
-    for (const row of element ? [oneFile] : [oneFile, twoFiles]) {
+    for (const row of downloads(sizes)) {
         const [parts, size] = element ? [row.parts.slice(0, -1), row.english] : [row.parts, row.gzip];
         const left = budget - size;
         console.log(`${parts.join(' + ')}: ${size} of ${budget} bytes, ${left < 0 ? `${-left} too many` : `${left} left`}`);
