@@ -33,23 +33,25 @@ namespace {
 
 /// A cell class, and what is expected of it.
 struct CellKind {
-    std::string name;
+    const char* name;
+    const char* expectedIdentifier;
     std::string identifier;
-    std::string expectedIdentifier;
-    std::function<Ref<GXBasePickerCell>()> make;
-    std::function<Ref<GXBasePickerCell>(const Ref<NSCoder>&)> restore;
-    std::function<Ref<GXBasePickerCell>(CGRect)> makeWithFrame;
-    std::function<bool(const GXBasePickerView&)> hasMade;
+    Ref<GXBasePickerCell> (*make)();
+    Ref<GXBasePickerCell> (*restore)(const Ref<NSCoder>&);
+    Ref<GXBasePickerCell> (*makeWithFrame)(CGRect);
+    bool (*hasMade)(const GXBasePickerView&);
+
+    friend std::ostream& operator<<(std::ostream& out, const CellKind& kind) { return out << kind.name; }
 };
 
 template <class Cell, class Picker>
-CellKind kind(const std::string& name, const std::string& expectedIdentifier) {
+CellKind kind(const char* name, const char* expectedIdentifier) {
     return {name,
-            Cell::cellIdentifier(),
             expectedIdentifier,
-            [] { return create<Cell>(UITableViewCellStyleDefault, Cell::cellIdentifier()); },
-            [](const Ref<NSCoder>& coder) { return create<Cell>(coder); },
-            [](CGRect frame) { return create<Cell>(frame); },
+            Cell::cellIdentifier(),
+            []() -> Ref<GXBasePickerCell> { return create<Cell>(UITableViewCellStyleDefault, Cell::cellIdentifier()); },
+            [](const Ref<NSCoder>& coder) -> Ref<GXBasePickerCell> { return create<Cell>(coder); },
+            [](CGRect frame) -> Ref<GXBasePickerCell> { return create<Cell>(frame); },
             [](const GXBasePickerView& picker) { return isExactly<Picker>(picker); }};
 }
 
@@ -83,7 +85,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, PickerCell, testing::ValuesIn(allKinds()),
-                         [](const testing::TestParamInfo<CellKind>& tested) { return tested.param.name; });
+                         [](const testing::TestParamInfo<CellKind>& tested) { return std::string(tested.param.name); });
 
 } // namespace
 

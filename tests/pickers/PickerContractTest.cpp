@@ -12,6 +12,7 @@
 #include "GXTemperaturePickerView.h"
 #include "GXWeightPickerView.h"
 #include "IconImages.h"
+#include "PickerKind.h"
 #include "PickerTest.h"
 
 using namespace gx;
@@ -34,7 +35,7 @@ void prepare(GXDistancePickerView& picker) { picker.setNumberOfFractionUnits(2);
 void prepare(GXDurationPickerView& picker) { picker.setType(GXDurationTypeHoursMinutesSeconds); }
 void prepare(GXWeightPickerView& picker) { picker.setWeightUnitSelectable(true); }
 
-/// What changes the rows besides the numbers: 0 to 3.
+/// What changes the rows besides the numbers: variants 0 and 1, or 0 to 3.
 void choose(GXBasePickerView& picker, int variant) { picker.setIsMetric(variant % 2 == 0); }
 void choose(GXDistancePickerView& picker, int variant) {
     picker.setIsMetric(variant % 2 == 0);
@@ -63,82 +64,145 @@ std::vector<NSNumber> extremeNumbers() {
             boxedDouble(-infinite), boxedDouble(1e300),    boxedDouble(-1e-300), boxedDouble(4.44),       NSNumber()};
 }
 
+/// What an own picker is asked for, and what it returns instead of its superclass.
+struct Notes {
+    mutable int numbers = 0;
+    mutable int wheels = 0;
+    std::vector<NSInteger> titles; // the components, when it has none
+    bool hasComponents = true;
+    Ref<PickerNotices> delegateOfGetter;
+};
 template <class Picker>
-struct PickerContract : PickerTest<Picker> {
-    PickerContract() { prepare(*this->picker); }
-    NSInteger components() { return this->wheel().numberOfComponents(); }
+struct OwnClass : Picker, Notes {
+    NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& wheel) override {
+        return hasComponents ? Picker::numberOfComponentsInPickerView(wheel) : 0;
+    }
+    std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& wheel, NSInteger row,
+                                                                   NSInteger component) override {
+        if (!hasComponents) titles.push_back(component);
+        return Picker::pickerView_titleForRow_forComponent(wheel, row, component);
+    }
+    const NSNumber& minValue() const override {
+        ++numbers;
+        return Picker::minValue();
+    }
+    const NSNumber& maxValue() const override {
+        ++numbers;
+        return Picker::maxValue();
+    }
+    const NSNumber& currentValue() const override {
+        ++numbers;
+        return Picker::currentValue();
+    }
+    const Ref<GXMultiValuePickerView>& pickerView() const override {
+        ++wheels;
+        return Picker::pickerView();
+    }
+    WeakRef<GXBasePickerViewDelegate> delegate() const override {
+        if (delegateOfGetter) return delegateOfGetter;
+        return Picker::delegate();
+    }
+};
+using Own = OwnPicker<Notes>;
+
+struct Kind : PickerKind {
+    int variants;
+    void (*prepare)(GXBasePickerView&);
+    void (*choose)(GXBasePickerView&, int variant);
+    bool (*isAllowed)(const GXBasePickerView&);
+    std::vector<double> (*storedIn)(const GXBasePickerView&);
+    Own (*own)(const CGRect&);
+};
+template <class Picker>
+Kind kind(const char* name, int variants = 2) {
+    return {pickerKind<Picker>(name),
+            variants,
+            [](GXBasePickerView& picker) { prepare(static_cast<Picker&>(picker)); },
+            [](GXBasePickerView& picker, int variant) { choose(static_cast<Picker&>(picker), variant); },
+            [](const GXBasePickerView& picker) { return isAllowed(static_cast<const Picker&>(picker)); },
+            [](const GXBasePickerView& picker) { return storedIn(static_cast<const Picker&>(picker)); },
+            ownPicker<OwnClass<Picker>, Notes, CGRect>};
+}
+
+struct PickerContract : PickerTest<GXBasePickerView>, testing::WithParamInterface<Kind> {
+    PickerContract() : PickerTest(GetParam().withFrame) { GetParam().prepare(*picker); }
+    NSInteger components() { return wheel().numberOfComponents(); }
     void renew() {
-        this->picker = create<Picker>(usual);
-        prepare(*this->picker);
-        this->notices = create<PickerNotices>();
-        this->picker->setDelegate(this->notices);
+        picker = GetParam().withFrame(usual);
+        GetParam().prepare(*picker);
+        notices = create<PickerNotices>();
+        picker->setDelegate(notices);
     }
 };
 
-using Pickers = testing::Types<GXBasePickerView, GXBpmPickerView, GXCaloriesPickerView, GXDistancePickerView, GXDurationPickerView,
-                               GXHeartRatePickerView, GXIconPickerView, GXPacePickerView, GXSpeedPickerView, GXTemperaturePickerView,
-                               GXWeightPickerView>;
-TYPED_TEST_SUITE(PickerContract, Pickers);
+INSTANTIATE_TEST_SUITE_P(Pickers, PickerContract,
+                         testing::Values(kind<GXBasePickerView>("Base"), kind<GXBpmPickerView>("Bpm"),
+                                         kind<GXCaloriesPickerView>("Calories"), kind<GXDistancePickerView>("Distance", 4),
+                                         kind<GXDurationPickerView>("Duration", 4), kind<GXHeartRatePickerView>("HeartRate"),
+                                         kind<GXIconPickerView>("Icon"), kind<GXPacePickerView>("Pace", 4),
+                                         kind<GXSpeedPickerView>("Speed"), kind<GXTemperaturePickerView>("Temperature"),
+                                         kind<GXWeightPickerView>("Weight", 4)),
+                         NameOfKind());
 
 } // namespace
 
 // The delegate
 
-TYPED_TEST(PickerContract, ADelegateMayDropTheLastReferenceToThePickerInItsNotice) {
+TEST_P(PickerContract, ADelegateMayDropTheLastReferenceToThePickerInItsNotice) {
     int turned = 0;
-    const NSInteger components = this->components();
-    for (NSInteger component = 0; component < components; ++component) {
-        this->renew();
-        const WeakRef<GXBasePickerView> weak = this->picker;
-        const Ref<GXMultiValuePickerView> wheel = this->picker->pickerView();
+    const NSInteger count = components();
+    for (NSInteger component = 0; component < count; ++component) {
+        renew();
+        const WeakRef<GXBasePickerView> weak = picker;
+        const Ref<GXMultiValuePickerView> wheel = picker->pickerView();
         bool isTold = false;
-        this->notices->whenTold = [&](const PickerNotices::Notice&) {
+        notices->whenTold = [&](const PickerNotices::Notice&) {
             isTold = true;
-            this->notices->list.clear();
-            this->picker = nullptr;
+            notices->list.clear();
+            picker = nullptr;
         };
         wheel->turnToRow_inComponent(1, component);
-        this->notices->list.clear(); // The heart rate's second notice names the picker again.
+        notices->list.clear(); // The heart rate's second notice names the picker again.
         EXPECT_EQ(weak.expired(), isTold) << "component " << component;
         wheel->turnToRow_inComponent(2, component);
         if (isTold) ++turned;
     }
-    EXPECT_GE(turned, components > 1 ? 2 : 1);
+    EXPECT_GE(turned, count > 1 ? 2 : 1);
 }
 
-TYPED_TEST(PickerContract, ADelegateMayDropThePickerWithoutAWheelThatHoldsAnything) {
-    const WeakRef<GXBasePickerView> weak = this->picker;
+TEST_P(PickerContract, ADelegateMayDropThePickerWithoutAWheelThatHoldsAnything) {
+    const WeakRef<GXBasePickerView> weak = picker;
     int told = 0;
-    this->notices->whenTold = [&](const PickerNotices::Notice&) {
+    notices->whenTold = [&](const PickerNotices::Notice&) {
         ++told;
-        this->notices->list.clear();
-        this->picker = nullptr;
+        notices->list.clear();
+        picker = nullptr;
     };
-    TypeParam* const called = this->picker.get(); // The caller holds nothing either.
+    GXBasePickerView* const called = picker.get(); // The caller holds nothing either.
     called->pickerView_didSelectRow_inComponent(nullptr, 3, 0);
-    this->notices->list.clear();
+    notices->list.clear();
     EXPECT_GT(told, 0);
     EXPECT_TRUE(weak.expired());
 }
 
-TYPED_TEST(PickerContract, ADelegateThatDiedIsSkipped) {
-    const auto twin = create<TypeParam>(usual);
-    prepare(*twin);
+TEST_P(PickerContract, ADelegateThatDiedIsSkipped) {
+    const auto twin = GetParam().withFrame(usual);
+    GetParam().prepare(*twin);
     const auto heard = create<PickerNotices>();
     twin->setDelegate(heard);
     twin->pickerView()->turnToRow_inComponent(1, 0);
     EXPECT_FALSE(heard->list.empty());
 
-    this->notices = nullptr;
-    EXPECT_FALSE(this->picker->delegate().lock());
-    this->turn(1, 0);
-    EXPECT_EQ(storedIn(*this->picker), storedIn(*twin));
+    notices = nullptr;
+    EXPECT_FALSE(picker->delegate().lock());
+    turn(1, 0);
+    EXPECT_EQ(GetParam().storedIn(*picker), GetParam().storedIn(*twin));
 }
 
 // The wheel
 
-TYPED_TEST(PickerContract, WithoutAWheelEveryOperationIsSafe) {
-    const auto& tested = this->picker;
+TEST_P(PickerContract, WithoutAWheelEveryOperationIsSafe) {
+    const auto& tested = picker;
     tested->setPickerView(nullptr);
     EXPECT_FALSE(tested->pickerView());
     tested->setIsMetric(true);
@@ -161,40 +225,28 @@ TYPED_TEST(PickerContract, WithoutAWheelEveryOperationIsSafe) {
         tested->pickerView_accessibilityValueForRow_forComponent(nullptr, 0, component);
     }
     tested->pickerView_didSelectRow_inComponent(nullptr, 2, 0);
-    EXPECT_FALSE(this->notices->list.empty());
+    EXPECT_FALSE(notices->list.empty());
 }
 
-TYPED_TEST(PickerContract, AWheelWithoutComponentsAsksAboutMinus1And0) {
-    struct WithoutComponents : TypeParam {
-        std::vector<NSInteger> asked;
-        bool hasComponents = true;
-        NSInteger numberOfComponentsInPickerView(const Ref<UIPickerView>& wheel) override {
-            return hasComponents ? TypeParam::numberOfComponentsInPickerView(wheel) : 0;
-        }
-        std::optional<std::string> pickerView_titleForRow_forComponent(const Ref<UIPickerView>& wheel, NSInteger row,
-                                                                       NSInteger component) override {
-            if (!hasComponents) asked.push_back(component);
-            return TypeParam::pickerView_titleForRow_forComponent(wheel, row, component);
-        }
-    };
-    const auto tested = create<WithoutComponents>(usual);
-    tested->hasComponents = false;
+TEST_P(PickerContract, AWheelWithoutComponentsAsksAboutMinus1And0) {
+    const auto [tested, noted] = GetParam().own(usual);
+    noted->hasComponents = false;
     const Ref<GXMultiValuePickerView> wheel = tested->pickerView();
     wheel->reloadAllComponents();
     tested->reloadData();
     wheel->layoutIfNeeded();
     EXPECT_EQ(wheel->numberOfComponents(), 0);
-    EXPECT_TRUE(std::count(tested->asked.begin(), tested->asked.end(), -1));
-    EXPECT_TRUE(std::count(tested->asked.begin(), tested->asked.end(), 0));
+    EXPECT_TRUE(std::count(noted->titles.begin(), noted->titles.end(), -1));
+    EXPECT_TRUE(std::count(noted->titles.begin(), noted->titles.end(), 0));
 }
 
 // Extreme numbers
 
-TYPED_TEST(PickerContract, ExtremeNumbersNeverLeaveTheWheelWithoutItsRows) {
+TEST_P(PickerContract, ExtremeNumbersNeverLeaveTheWheelWithoutItsRows) {
     const std::vector<NSNumber> numbers = extremeNumbers();
-    const auto& tested = this->picker;
-    for (const int variant : {0, 1, 2, 3}) {
-        choose(*tested, variant);
+    const auto& tested = picker;
+    for (int variant = 0; variant < GetParam().variants; ++variant) {
+        GetParam().choose(*tested, variant);
         for (const NSNumber& minimum : numbers) {
             for (const NSNumber& maximum : numbers) {
                 tested->setMinValue(minimum);
@@ -202,15 +254,15 @@ TYPED_TEST(PickerContract, ExtremeNumbersNeverLeaveTheWheelWithoutItsRows) {
                 tested->setStepSize(minimum);
                 for (const NSNumber& value : numbers) {
                     tested->setCurrentValue(value);
-                    EXPECT_TRUE(isAllowed(*tested));
-                    for (NSInteger component = 0; component < this->components(); ++component) {
-                        const NSInteger count = this->rows(component);
+                    EXPECT_TRUE(GetParam().isAllowed(*tested));
+                    for (NSInteger component = 0; component < components(); ++component) {
+                        const NSInteger count = rows(component);
                         ASSERT_GE(count, 0);
-                        ASSERT_GE(this->selected(component), 0);
-                        ASSERT_LE(this->selected(component), std::max<NSInteger>(count - 1, 0));
+                        ASSERT_GE(selected(component), 0);
+                        ASSERT_LE(selected(component), std::max<NSInteger>(count - 1, 0));
                         tested->pickerView_titleForRow_forComponent(nullptr, highest, component);
                         tested->pickerView_titleForRow_forComponent(nullptr, lowest, component);
-                        this->turn(count - 1, component);
+                        turn(count - 1, component);
                     }
                 }
             }
@@ -221,46 +273,25 @@ TYPED_TEST(PickerContract, ExtremeNumbersNeverLeaveTheWheelWithoutItsRows) {
 
 // Getters
 
-TYPED_TEST(PickerContract, ItAsksForItsNumbersAndItsWheelThroughTheGetters) {
-    struct Asked : TypeParam {
-        mutable int numbers = 0;
-        mutable int wheels = 0;
-        const NSNumber& minValue() const override {
-            ++numbers;
-            return TypeParam::minValue();
-        }
-        const NSNumber& maxValue() const override {
-            ++numbers;
-            return TypeParam::maxValue();
-        }
-        const NSNumber& currentValue() const override {
-            ++numbers;
-            return TypeParam::currentValue();
-        }
-        const Ref<GXMultiValuePickerView>& pickerView() const override {
-            ++wheels;
-            return TypeParam::pickerView();
-        }
-    };
-    const auto tested = create<Asked>(usual);
-    prepare(*tested);
-    tested->numbers = tested->wheels = 0;
+TEST_P(PickerContract, ItAsksForItsNumbersAndItsWheelThroughTheGetters) {
+    const auto [tested, noted] = GetParam().own(usual);
+    GetParam().prepare(*tested);
+    const Ref<UIPickerView> wheel = tested->pickerView();
+    noted->numbers = noted->wheels = 0;
     tested->selectCurrentValue();
-    tested->pickerView_numberOfRowsInComponent(tested->pickerView(), 0);
+    tested->pickerView_numberOfRowsInComponent(wheel, 0);
     tested->informDelegateOfValueChange();
     tested->pickerView_didSelectRow_inComponent(nullptr, 1, 0);
-    EXPECT_GT(tested->numbers, 0);
-    EXPECT_GT(tested->wheels, 0);
+    EXPECT_GT(noted->numbers, 0);
+    EXPECT_GT(noted->wheels, 0);
 }
 
-TYPED_TEST(PickerContract, ItTellsTheDelegateThatItsGetterReturns) {
-    struct WithDelegate : TypeParam {
-        Ref<PickerNotices> own = create<PickerNotices>();
-        WeakRef<GXBasePickerViewDelegate> delegate() const override { return own; }
-    };
-    const auto tested = create<WithDelegate>(usual);
-    prepare(*tested);
+TEST_P(PickerContract, ItTellsTheDelegateThatItsGetterReturns) {
+    const auto [tested, noted] = GetParam().own(usual);
+    GetParam().prepare(*tested);
+    const auto informed = create<PickerNotices>();
+    noted->delegateOfGetter = informed;
     tested->pickerView()->turnToRow_inComponent(1, 0);
-    EXPECT_FALSE(tested->own->list.empty());
-    tested->own->list.clear();
+    EXPECT_FALSE(informed->list.empty());
+    informed->list.clear();
 }

@@ -12,6 +12,7 @@
 #include "GXSpeedPickerView.h"
 #include "GXTemperaturePickerView.h"
 #include "GXWeightPickerView.h"
+#include "PickerKind.h"
 
 using namespace gx;
 
@@ -56,34 +57,42 @@ private:
     }
 };
 
-template <class Picker>
 struct Owner {
     Ref<NotifyingWheel> wheel;
-    Ref<Picker> picker;
+    Ref<GXBasePickerView> picker;
 
-    Owner() {
+    explicit Owner(Ref<GXBasePickerView> (*make)(const CGRect& frame)) {
         GXMultiValuePickerView::setFactory([this](CGRect frame) { return wheel = create<NotifyingWheel>(frame); });
-        picker = create<Picker>(usual);
+        picker = make(usual);
         GXMultiValuePickerView::setFactory({});
     }
 };
 
-/// Calls a picker whose wheel drops it at its first call.
-template <class Picker, class Call>
-void expectToOutliveItsCall(Call call) {
-    Owner<Picker> owner;
-    const WeakRef<Picker> weak = owner.picker;
+/// Drops its picker at the first call of the wheel.
+struct DroppingOwner : Owner {
+    WeakRef<GXBasePickerView> weak;
     bool isCalled = false;
     bool isAlive = false;
-    owner.wheel->whenCalled = [&] {
-        isCalled = true;
-        owner.picker = nullptr;
-        isAlive = !weak.expired();
-    };
-    call(*owner.picker);
-    EXPECT_TRUE(isCalled);
-    EXPECT_TRUE(isAlive) << "while there is more to do";
-    EXPECT_TRUE(weak.expired()) << "and no longer";
+
+    explicit DroppingOwner(Ref<GXBasePickerView> (*make)(const CGRect& frame)) : Owner(make), weak(picker) {
+        wheel->whenCalled = [this] {
+            isCalled = true;
+            picker = nullptr;
+            isAlive = !weak.expired();
+        };
+    }
+    void expectPickerToHaveOutlivedItsCall() const {
+        EXPECT_TRUE(isCalled);
+        EXPECT_TRUE(isAlive) << "while there is more to do";
+        EXPECT_TRUE(weak.expired()) << "and no longer";
+    }
+};
+
+template <class Picker>
+void expectToOutliveItsCall(void (*call)(Picker&)) {
+    DroppingOwner owner(createdAs<Picker, CGRect>);
+    call(static_cast<Picker&>(*owner.picker));
+    owner.expectPickerToHaveOutlivedItsCall();
 }
 
 struct NotifyingHeightPicker : GXHeightPickerView {
@@ -128,17 +137,19 @@ void expectWheelToOutlive(void (*call)(GXMultiValuePickerView&, const Ref<WheelO
     EXPECT_TRUE(owner->isGone);
 }
 
+Ref<GXStyleSheetFont> font() {
+    return GXStyleSheetFont::fontWithFamily_size_weight_color("", 12, UIFontWeight::Regular, UIColor::labelColor());
+}
 NSNumber number(double value) { return NSNumber::numberWithDouble(value); }
 
 } // namespace
 
 TEST(PickerLifetime, APickerOutlivesNewBoundsAndFonts) {
-    const auto font = GXStyleSheetFont::fontWithFamily_size_weight_color("", 12, UIFontWeight::Regular, UIColor::labelColor());
     expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setMinValue(number(5)); });
     expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setMaxValue(number(50)); });
     expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setStepSize(number(2)); });
-    expectToOutliveItsCall<GXBasePickerView>([&](GXBasePickerView& picker) { picker.setCustomValueFont(font); });
-    expectToOutliveItsCall<GXBasePickerView>([&](GXBasePickerView& picker) { picker.setCustomLabelFont(font); });
+    expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setCustomValueFont(font()); });
+    expectToOutliveItsCall<GXBasePickerView>([](GXBasePickerView& picker) { picker.setCustomLabelFont(font()); });
 }
 
 TEST(PickerLifetime, ADistancePickerOutlivesItsCalls) {
@@ -188,15 +199,16 @@ TEST(PickerLifetime, AHeartRatePickerOutlivesItsCalls) {
 }
 
 TEST(PickerLifetime, AWheelMayBeTakenFromItsHeartRatePickerByAQuery) {
-    Owner<GXHeartRatePickerView> owner;
+    Owner owner(createdAs<GXHeartRatePickerView, CGRect>);
     owner.wheel->whenCalled = [&] { owner.picker->setPickerView(nullptr); };
-    owner.picker->setCurrentAvgHeartRate(number(100));
-    EXPECT_EQ(owner.picker->currentAvgHeartRate().integerValue(), 100);
+    auto& heartRate = static_cast<GXHeartRatePickerView&>(*owner.picker);
+    heartRate.setCurrentAvgHeartRate(number(100));
+    EXPECT_EQ(heartRate.currentAvgHeartRate().integerValue(), 100);
     EXPECT_EQ(owner.wheel->selectedRowInComponent(0), 75) << "100 above the minimum of 25: the call has been made";
 }
 
 TEST(PickerLifetime, AWheelMayBeTakenFromItsPickerByANewBound) {
-    Owner<GXBasePickerView> owner;
+    Owner owner(createdAs<GXBasePickerView, CGRect>);
     owner.wheel->whenCalled = [&] {
         owner.picker->setPickerView(nullptr);
         owner.wheel->removeFromSuperview();

@@ -16,6 +16,7 @@
 #include "GXSpeedPickerView.h"
 #include "GXTemperaturePickerView.h"
 #include "GXWeightPickerView.h"
+#include "PickerKind.h"
 #include "PickerNotices.h"
 #include "PickerTest.h"
 #include "TestWindow.h"
@@ -104,16 +105,18 @@ void turnAtRandom(UIPickerView& wheel, TestWindow& window, Random& random) {
     if (random.chance(0.5)) window.runUntilStill();
 }
 
-template <class Picker>
-using Option = std::function<void(Picker&, Random&)>;
+using Make = Ref<GXBasePickerView> (*)(const CGRect& frame);
+/// Changes what only one class of pickers has.
+using Option = void (*)(GXBasePickerView&, Random&);
 
-template <class Picker>
-void exercise(const Option<Picker>& option) {
+void noOption(GXBasePickerView&, Random&) {}
+
+void exercise(Make make, Option option) {
     const std::uint64_t first = firstSeed();
     for (std::uint64_t seed = first; seed < first + (std::getenv("GX_SEED") ? 1 : 60); ++seed) {
         SCOPED_TRACE("GX_SEED=" + std::to_string(seed));
         Random random(seed);
-        const auto picker = create<Picker>(CGRectMake(0, 0, 320, 216));
+        const auto picker = make(CGRectMake(0, 0, 320, 216));
         const auto notices = create<PickerNotices>();
         picker->setDelegate(notices);
         TestWindow window(picker);
@@ -148,30 +151,34 @@ void exercise(const Option<Picker>& option) {
     }
 }
 
+struct Range {
+    double lowest;
+    double highest;
+    bool isReversed = false; // The minimum is the highest.
+    bool isWhole = false;    // The bounds are read as whole numbers.
+};
+
 /// Turns a picker of a sensible range; each notice has to lie in it, and be what is stored.
-template <class Picker>
-void expectToStayInRange(double lowest, double highest, bool isReversed, const Option<Picker>& option) {
+void expectToStayInRange(Make make, Range range, Option option) {
     const std::uint64_t first = firstSeed();
     int told = 0;
     for (std::uint64_t seed = first; seed < first + 100; ++seed) {
         SCOPED_TRACE("GX_SEED=" + std::to_string(seed));
         Random random(seed);
-        double low = std::floor(random.real(lowest, highest) * 10) / 10;
-        double high = std::floor(random.real(lowest, highest) * 10) / 10;
+        double low = std::floor(random.real(range.lowest, range.highest) * 10) / 10;
+        double high = std::floor(random.real(range.lowest, range.highest) * 10) / 10;
         if (low > high) std::swap(low, high);
-        const auto picker = create<Picker>(CGRectMake(0, 0, 320, 216));
+        const auto picker = make(CGRectMake(0, 0, 320, 216));
         picker->setIsMetric(random.chance(0.5));
         option(*picker, random);
-        picker->setMinValue(boxedDouble(isReversed ? high : low));
-        picker->setMaxValue(boxedDouble(isReversed ? low : high));
+        picker->setMinValue(boxedDouble(range.isReversed ? high : low));
+        picker->setMaxValue(boxedDouble(range.isReversed ? low : high));
         picker->setCurrentValue(boxedDouble(random.real(low, high)));
         const auto notices = create<PickerNotices>();
         notices->whenTold = [&](const PickerNotices::Notice& notice) {
             ++told;
             EXPECT_TRUE(notice.value.isIdenticalTo(picker->currentValue()));
-            // The duration's bounds are read as whole milliseconds.
-            constexpr bool isWhole = std::is_same_v<Picker, GXDurationPickerView>;
-            EXPECT_GE(notice.value.doubleValue(), isWhole ? std::trunc(low) : low);
+            EXPECT_GE(notice.value.doubleValue(), range.isWhole ? std::trunc(low) : low);
             EXPECT_LE(notice.value.doubleValue(), high);
         };
         picker->setDelegate(notices);
@@ -183,26 +190,29 @@ void expectToStayInRange(double lowest, double highest, bool isReversed, const O
     EXPECT_GT(told, 500) << "the turns did turn something";
 }
 
-template <class Picker>
-void noOption(Picker&, Random&) {}
-
-void distanceOption(GXDistancePickerView& picker, Random& random) {
+void distanceOption(GXBasePickerView& any, Random& random) {
+    auto& picker = static_cast<GXDistancePickerView&>(any);
     picker.setNumberOfFractionUnits(static_cast<int>(random.between(0, 3)));
 }
-void durationOption(GXDurationPickerView& picker, Random& random) {
+void durationOption(GXBasePickerView& any, Random& random) {
+    auto& picker = static_cast<GXDurationPickerView&>(any);
     picker.setType(random.between(0, 2));
     picker.setSecondsStepSize(static_cast<int>(random.between(-1, 20)));
     picker.setMinutesStepSize(static_cast<int>(random.between(-1, 3)));
 }
-void paceOption(GXPacePickerView& picker, Random& random) { picker.setSecondsStepSize(static_cast<int>(random.between(-1, 15))); }
+void paceOption(GXBasePickerView& any, Random& random) {
+    auto& picker = static_cast<GXPacePickerView&>(any);
+    picker.setSecondsStepSize(static_cast<int>(random.between(-1, 15)));
+}
 
 } // namespace
 
-TEST(PickerProperties, ABpmPickerAlwaysStandsOnRowsThatExist) { exercise<GXBpmPickerView>(noOption<GXBpmPickerView>); }
-TEST(PickerProperties, ACaloriesPickerAlwaysStandsOnRowsThatExist) { exercise<GXCaloriesPickerView>(noOption<GXCaloriesPickerView>); }
-TEST(PickerProperties, ADistancePickerAlwaysStandsOnRowsThatExist) { exercise<GXDistancePickerView>(distanceOption); }
+TEST(PickerProperties, ABpmPickerAlwaysStandsOnRowsThatExist) { exercise(createdAs<GXBpmPickerView, CGRect>, noOption); }
+TEST(PickerProperties, ACaloriesPickerAlwaysStandsOnRowsThatExist) { exercise(createdAs<GXCaloriesPickerView, CGRect>, noOption); }
+TEST(PickerProperties, ADistancePickerAlwaysStandsOnRowsThatExist) { exercise(createdAs<GXDistancePickerView, CGRect>, distanceOption); }
 TEST(PickerProperties, ADurationPickerAlwaysStandsOnRowsThatExist) {
-    exercise<GXDurationPickerView>([](GXDurationPickerView& picker, Random& random) {
+    exercise(createdAs<GXDurationPickerView, CGRect>, [](GXBasePickerView& any, Random& random) {
+        auto& picker = static_cast<GXDurationPickerView&>(any);
         picker.setType(random.between(-1, 4));
         picker.setHoursStepSize(random.number().intValue());
         picker.setMinutesStepSize(random.number().intValue());
@@ -210,17 +220,17 @@ TEST(PickerProperties, ADurationPickerAlwaysStandsOnRowsThatExist) {
     });
 }
 TEST(PickerProperties, APacePickerAlwaysStandsOnRowsThatExist) {
-    exercise<GXPacePickerView>([](GXPacePickerView& picker, Random& random) {
+    exercise(createdAs<GXPacePickerView, CGRect>, [](GXBasePickerView& any, Random& random) {
+        auto& picker = static_cast<GXPacePickerView&>(any);
         picker.setMinutesStepSize(random.number().intValue());
         picker.setSecondsStepSize(random.number().intValue());
     });
 }
-TEST(PickerProperties, ASpeedPickerAlwaysStandsOnRowsThatExist) { exercise<GXSpeedPickerView>(noOption<GXSpeedPickerView>); }
-TEST(PickerProperties, ATemperaturePickerAlwaysStandsOnRowsThatExist) {
-    exercise<GXTemperaturePickerView>(noOption<GXTemperaturePickerView>);
-}
+TEST(PickerProperties, ASpeedPickerAlwaysStandsOnRowsThatExist) { exercise(createdAs<GXSpeedPickerView, CGRect>, noOption); }
+TEST(PickerProperties, ATemperaturePickerAlwaysStandsOnRowsThatExist) { exercise(createdAs<GXTemperaturePickerView, CGRect>, noOption); }
 TEST(PickerProperties, AHeartRatePickerAlwaysStandsOnRowsThatExist) {
-    exercise<GXHeartRatePickerView>([](GXHeartRatePickerView& picker, Random& random) {
+    exercise(createdAs<GXHeartRatePickerView, CGRect>, [](GXBasePickerView& any, Random& random) {
+        auto& picker = static_cast<GXHeartRatePickerView&>(any);
         picker.setShouldShowNullValue(random.chance(0.5));
         picker.setMinimumGapBetweenAvgAndMax(random.number());
         picker.setCurrentAvgHeartRate(random.number());
@@ -228,7 +238,8 @@ TEST(PickerProperties, AHeartRatePickerAlwaysStandsOnRowsThatExist) {
     });
 }
 TEST(PickerProperties, AWeightPickerAlwaysStandsOnRowsThatExist) {
-    exercise<GXWeightPickerView>([](GXWeightPickerView& picker, Random& random) {
+    exercise(createdAs<GXWeightPickerView, CGRect>, [](GXBasePickerView& any, Random& random) {
+        auto& picker = static_cast<GXWeightPickerView&>(any);
         picker.setWeightUnitSelectable(random.chance(0.5));
         picker.setWeightUnit(static_cast<GXWeightUnit>(random.between(0, 3)));
         if (random.chance(0.5)) picker.updateMinMaxWeight();
@@ -255,12 +266,14 @@ TEST(PickerProperties, AHeightPickerAlwaysStandsOnRowsThatExist) {
 }
 
 TEST(PickerProperties, AfterASelectionADistanceLiesInItsRange) {
-    expectToStayInRange<GXDistancePickerView>(0, 300000, false, distanceOption);
+    expectToStayInRange(createdAs<GXDistancePickerView, CGRect>, {0, 300000}, distanceOption);
 }
 TEST(PickerProperties, AfterASelectionADurationLiesInItsRange) {
-    expectToStayInRange<GXDurationPickerView>(0, 3.6e7, false, durationOption);
+    expectToStayInRange(createdAs<GXDurationPickerView, CGRect>, {0, 3.6e7, false, true}, durationOption);
 }
-TEST(PickerProperties, AfterASelectionAPaceLiesInItsRange) { expectToStayInRange<GXPacePickerView>(0.3, 11, true, paceOption); }
+TEST(PickerProperties, AfterASelectionAPaceLiesInItsRange) {
+    expectToStayInRange(createdAs<GXPacePickerView, CGRect>, {0.3, 11, true}, paceOption);
+}
 TEST(PickerProperties, AfterASelectionASpeedLiesInItsRange) {
-    expectToStayInRange<GXSpeedPickerView>(0, 20, false, noOption<GXSpeedPickerView>);
+    expectToStayInRange(createdAs<GXSpeedPickerView, CGRect>, {0, 20}, noOption);
 }

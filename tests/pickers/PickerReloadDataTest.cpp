@@ -13,6 +13,7 @@
 #include "HeightPickerTest.h"
 #include "IconImages.h"
 #include "NSLocale.h"
+#include "PickerKind.h"
 #include "PickerTest.h"
 #include "TestWindow.h"
 
@@ -88,43 +89,50 @@ void changeServices() {
 void prepare(GXBasePickerView&) {}
 void prepare(GXIconPickerView& picker) { picker.setIconImages(iconImages(5)); }
 
+struct Kind : PickerKind {
+    void (*prepare)(GXBasePickerView&);
+};
 template <class Picker>
-struct ReloadData : PickerTest<Picker> {
-    ReloadData() { prepare(*this->picker); }
+Kind kind(const char* name) {
+    return {pickerKind<Picker>(name), [](GXBasePickerView& picker) { prepare(static_cast<Picker&>(picker)); }};
+}
+
+struct ReloadData : PickerTest<GXBasePickerView>, testing::WithParamInterface<Kind> {
+    ReloadData() : PickerTest(GetParam().withFrame) { GetParam().prepare(*picker); }
     ~ReloadData() override { restoreServices(); }
 };
 
-using Pickers = testing::Types<GXBasePickerView, GXBpmPickerView, GXCaloriesPickerView, GXDistancePickerView, GXDurationPickerView,
-                               GXHeartRatePickerView, GXIconPickerView, GXPacePickerView, GXSpeedPickerView, GXTemperaturePickerView,
-                               GXWeightPickerView>;
-TYPED_TEST_SUITE(ReloadData, Pickers);
+INSTANTIATE_TEST_SUITE_P(Pickers, ReloadData,
+                         testing::Values(kind<GXBasePickerView>("Base"), kind<GXBpmPickerView>("Bpm"),
+                                         kind<GXCaloriesPickerView>("Calories"), kind<GXDistancePickerView>("Distance"),
+                                         kind<GXDurationPickerView>("Duration"), kind<GXHeartRatePickerView>("HeartRate"),
+                                         kind<GXIconPickerView>("Icon"), kind<GXPacePickerView>("Pace"), kind<GXSpeedPickerView>("Speed"),
+                                         kind<GXTemperaturePickerView>("Temperature"), kind<GXWeightPickerView>("Weight")),
+                         NameOfKind());
 
-template <class Picker>
-std::optional<std::string> rightText(const Ref<Picker>& picker) {
-    return picker->pickerView()->rightLabelText();
-}
+std::optional<std::string> rightText(const Ref<GXBasePickerView>& picker) { return picker->pickerView()->rightLabelText(); }
 
 } // namespace
 
-TYPED_TEST(ReloadData, AfterwardsThePickerShowsWhatAFreshOneShows) {
-    const Texts before = textsOf(*this->picker);
+TEST_P(ReloadData, AfterwardsThePickerShowsWhatAFreshOneShows) {
+    const Texts before = textsOf(*picker);
     changeServices();
-    EXPECT_EQ(textsOf(*this->picker), before);
-    this->picker->reloadData();
-    EXPECT_EQ(textsOf(*this->picker), textsOf(*create<TypeParam>(usual)));
+    EXPECT_EQ(textsOf(*picker), before);
+    picker->reloadData();
+    EXPECT_EQ(textsOf(*picker), textsOf(*GetParam().withFrame(usual)));
 }
 
-TYPED_TEST(ReloadData, RowsAndLabelsTakeTheNewFonts) {
-    this->picker->layoutIfNeeded();
+TEST_P(ReloadData, RowsAndLabelsTakeTheNewFonts) {
+    picker->layoutIfNeeded();
     changeServices();
-    this->picker->reloadData();
-    this->picker->layoutIfNeeded();
-    const auto& wheel = this->picker->pickerView();
+    picker->reloadData();
+    picker->layoutIfNeeded();
+    const auto& wheel = picker->pickerView();
     EXPECT_EQ(wheel->leftDescLabel()->font()->pointSize(), 31);
     EXPECT_EQ(wheel->rightDescLabel()->font()->pointSize(), 31);
     EXPECT_EQ(wheel->rightDescLabel()->textColor(), UIColor::systemBlueColor());
     for (const NSInteger component : {0, 2}) {
-        const auto row = asKindOf<UILabel>(wheel->viewForRow_forComponent(this->selected(component), component));
+        const auto row = asKindOf<UILabel>(wheel->viewForRow_forComponent(selected(component), component));
         if (row) {
             EXPECT_EQ(row->font()->pointSize(), 30) << "component " << component;
         }
@@ -135,22 +143,22 @@ TYPED_TEST(ReloadData, RowsAndLabelsTakeTheNewFonts) {
     }
 }
 
-TYPED_TEST(ReloadData, ValuesRowsAndRowHeightStayAndNobodyIsTold) {
-    this->wheel().selectRow_inComponent_animated(1, 0, false);
-    const NSNumber value = this->picker->currentValue();
-    const CGFloat height = this->picker->pickerView_rowHeightForComponent(nullptr, 0);
+TEST_P(ReloadData, ValuesRowsAndRowHeightStayAndNobodyIsTold) {
+    wheel().selectRow_inComponent_animated(1, 0, false);
+    const NSNumber value = picker->currentValue();
+    const CGFloat height = picker->pickerView_rowHeightForComponent(nullptr, 0);
     std::vector<NSInteger> rows;
-    for (NSInteger i = 0; i < this->wheel().numberOfComponents(); ++i) rows.push_back(this->selected(i));
+    for (NSInteger i = 0; i < wheel().numberOfComponents(); ++i) rows.push_back(selected(i));
     changeServices();
-    this->picker->reloadData();
-    EXPECT_TRUE(this->picker->currentValue().isIdenticalTo(value));
-    EXPECT_EQ(this->picker->pickerView_rowHeightForComponent(nullptr, 0), height);
-    for (NSInteger i = 0; i < this->wheel().numberOfComponents(); ++i) EXPECT_EQ(this->selected(i), rows[static_cast<std::size_t>(i)]);
-    EXPECT_TRUE(this->notices->list.empty());
+    picker->reloadData();
+    EXPECT_TRUE(picker->currentValue().isIdenticalTo(value));
+    EXPECT_EQ(picker->pickerView_rowHeightForComponent(nullptr, 0), height);
+    for (NSInteger i = 0; i < wheel().numberOfComponents(); ++i) EXPECT_EQ(selected(i), rows[static_cast<std::size_t>(i)]);
+    EXPECT_TRUE(notices->list.empty());
 }
 
-TYPED_TEST(ReloadData, ItReloadsTheWheelOnceAndSelectsNothing) {
-    const Calls calls = this->callsOf([this] { this->picker->reloadData(); });
+TEST_P(ReloadData, ItReloadsTheWheelOnceAndSelectsNothing) {
+    const Calls calls = callsOf([this] { picker->reloadData(); });
     ASSERT_FALSE(calls.empty());
     EXPECT_EQ(calls.front(), "reload");
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "reload"), 1);

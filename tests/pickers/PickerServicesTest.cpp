@@ -15,7 +15,7 @@
 #include "GXWeatherAndTemperaturePickerView.h"
 #include "GXWeightPickerView.h"
 #include "IconImages.h"
-#include "PickerTest.h"
+#include "PickerKind.h"
 
 using namespace gx;
 
@@ -88,14 +88,13 @@ public:
     std::optional<std::string> unit(const NSNumber& quantity) const override { return this->asked(Base::unit(quantity)); }
 };
 
-template <class Picker>
-struct PickerServices : testing::Test {
-    PickerServices() {
+struct OwnServices : testing::Test {
+    OwnServices() {
         log() = Log();
         Sheet::replace();
         Localization::replace();
     }
-    ~PickerServices() override {
+    ~OwnServices() override {
         log().whenAsked = nullptr;
         GXStyleSheet::setGlobalStyleSheet(nullptr);
         GXLocalization::setSharedLocalization(nullptr);
@@ -106,18 +105,33 @@ void prepare(GXBasePickerView&) {}
 void prepare(GXIconPickerView& picker) { picker.setIconImages(iconImages(5)); }
 void prepare(GXWeightPickerView& picker) { picker.setWeightUnitSelectable(true); }
 
-using Pickers = testing::Types<GXBasePickerView, GXBpmPickerView, GXCaloriesPickerView, GXDistancePickerView, GXDurationPickerView,
-                               GXHeartRatePickerView, GXIconPickerView, GXPacePickerView, GXSpeedPickerView, GXTemperaturePickerView,
-                               GXWeightPickerView, GXDistanceAndDurationPicker, GXWeatherAndTemperaturePickerView>;
-TYPED_TEST_SUITE(PickerServices, Pickers);
+struct Kind : PickerKind {
+    void (*prepare)(GXBasePickerView&);
+};
+template <class Picker>
+Kind kind(const char* name) {
+    return {pickerKind<Picker>(name), [](GXBasePickerView& picker) { prepare(static_cast<Picker&>(picker)); }};
+}
+
+struct PickerServices : OwnServices, testing::WithParamInterface<Kind> {};
+
+INSTANTIATE_TEST_SUITE_P(Pickers, PickerServices,
+                         testing::Values(kind<GXBasePickerView>("Base"), kind<GXBpmPickerView>("Bpm"),
+                                         kind<GXCaloriesPickerView>("Calories"), kind<GXDistancePickerView>("Distance"),
+                                         kind<GXDurationPickerView>("Duration"), kind<GXHeartRatePickerView>("HeartRate"),
+                                         kind<GXIconPickerView>("Icon"), kind<GXPacePickerView>("Pace"), kind<GXSpeedPickerView>("Speed"),
+                                         kind<GXTemperaturePickerView>("Temperature"), kind<GXWeightPickerView>("Weight"),
+                                         kind<GXDistanceAndDurationPicker>("DistanceAndDuration"),
+                                         kind<GXWeatherAndTemperaturePickerView>("WeatherAndTemperature")),
+                         NameOfKind());
 
 } // namespace
 
-TYPED_TEST(PickerServices, OneThatReplacesItselfLivesUntilItHasReturned) {
-    create<TypeParam>(create<NSCoder>());
-    create<TypeParam>(usual, 50.0F);
-    const auto picker = create<TypeParam>(usual);
-    prepare(*picker);
+TEST_P(PickerServices, OneThatReplacesItselfLivesUntilItHasReturned) {
+    GetParam().withCoder(create<NSCoder>());
+    GetParam().withRowHeight(usual, 50);
+    const auto picker = GetParam().withFrame(usual);
+    GetParam().prepare(*picker);
     picker->layoutIfNeeded();
     picker->setIsMetric(true);
     picker->setIsMetric(false);
@@ -134,20 +148,20 @@ TYPED_TEST(PickerServices, OneThatReplacesItselfLivesUntilItHasReturned) {
     EXPECT_EQ(log().gone, 0);
 }
 
-TYPED_TEST(PickerServices, OneMayDropThePickerThatAsksIt) {
-    Ref<TypeParam> held;
-    using Call = void (*)(TypeParam&);
-    const Call calls[] = {[](TypeParam& picker) { picker.reloadData(); },
-                          [](TypeParam& picker) { picker.setIsMetric(true); },
-                          [](TypeParam& picker) { picker.setCustomLabelFont(nullptr); },
-                          [](TypeParam& picker) { picker.layoutIfNeeded(); },
-                          [](TypeParam& picker) { picker.pickerView_viewForRow_forComponent_reusingView(nullptr, 0, 0, nullptr); },
-                          [](TypeParam& picker) { picker.pickerView_accessibilityLabelForComponent(nullptr, 0); }};
+TEST_P(PickerServices, OneMayDropThePickerThatAsksIt) {
+    Ref<GXBasePickerView> held;
+    using Call = void (*)(GXBasePickerView&);
+    const Call calls[] = {[](GXBasePickerView& picker) { picker.reloadData(); },
+                          [](GXBasePickerView& picker) { picker.setIsMetric(true); },
+                          [](GXBasePickerView& picker) { picker.setCustomLabelFont(nullptr); },
+                          [](GXBasePickerView& picker) { picker.layoutIfNeeded(); },
+                          [](GXBasePickerView& picker) { picker.pickerView_viewForRow_forComponent_reusingView(nullptr, 0, 0, nullptr); },
+                          [](GXBasePickerView& picker) { picker.pickerView_accessibilityLabelForComponent(nullptr, 0); }};
     int dropped = 0;
     for (const Call call : calls) {
-        held = create<TypeParam>(usual);
-        prepare(*held);
-        const WeakRef<TypeParam> weak = held;
+        held = GetParam().withFrame(usual);
+        GetParam().prepare(*held);
+        const WeakRef<GXBasePickerView> weak = held;
         log().whenAsked = [&] { held = nullptr; };
         call(*held);
         log().whenAsked = nullptr;
@@ -158,9 +172,7 @@ TYPED_TEST(PickerServices, OneMayDropThePickerThatAsksIt) {
     EXPECT_EQ(log().gone, 0);
 }
 
-using OtherServices = PickerServices<GXBasePickerView>;
-
-TEST_F(OtherServices, AFormatterThatIsTakenFromItsPickerLivesUntilItHasReturned) {
+TEST_F(OwnServices, AFormatterThatIsTakenFromItsPickerLivesUntilItHasReturned) {
     const auto distance = create<GXDistancePickerView>(usual);
     const auto speed = create<GXSpeedPickerView>(usual);
     const auto calories = create<GXCaloriesPickerView>(usual);
@@ -182,7 +194,7 @@ TEST_F(OtherServices, AFormatterThatIsTakenFromItsPickerLivesUntilItHasReturned)
     EXPECT_EQ(log().gone, 0);
 }
 
-TEST_F(OtherServices, CellsAndTheHeightPickerKeepTheirsToo) {
+TEST_F(OwnServices, CellsAndTheHeightPickerKeepTheirsToo) {
     create<GXBpmPickerCell>(UITableViewCellStyleDefault, std::nullopt);
     create<GXTemperaturePickerCell>(UITableViewCellStyleDefault, std::nullopt);
     const auto height = create<GXHeightPickerView>(usual);
@@ -194,7 +206,7 @@ TEST_F(OtherServices, CellsAndTheHeightPickerKeepTheirsToo) {
     EXPECT_EQ(log().gone, 0);
 }
 
-TEST_F(OtherServices, OneMayDropTheCellThatAsksIt) {
+TEST_F(OwnServices, OneMayDropTheCellThatAsksIt) {
     auto cell = create<GXTemperaturePickerCell>(UITableViewCellStyleDefault, std::nullopt);
     const WeakRef<UIView> weak = cell;
     log().whenAsked = [&] { cell = nullptr; };

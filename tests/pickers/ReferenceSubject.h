@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <utility>
 
 #include "GXDistancePickerView.h"
@@ -61,11 +62,12 @@ struct Subject {
     Setters setters;
 };
 
-template <class Picker>
+/// Any picker but the height picker.
 struct BaseSubject : Subject {
-    BaseSubject() {
+    using Stored = std::string (*)(const gx::GXBasePickerView&);
+    BaseSubject(const gx::Ref<gx::GXBasePickerView>& tested, Setters own, Stored storedIn) : picker(tested), stored_(storedIn) {
         picker->setDelegate(notices);
-        setters = ownSetters(*picker);
+        setters = std::move(own);
         setters["min"] = [this](const Argument& to) { picker->setMinValue(to.box); };
         setters["max"] = [this](const Argument& to) { picker->setMaxValue(to.box); };
         setters["step"] = [this](const Argument& to) { picker->setStepSize(to.box); };
@@ -76,7 +78,7 @@ struct BaseSubject : Subject {
     std::optional<std::string> title(gx::NSInteger row, gx::NSInteger component) override {
         return picker->pickerView_titleForRow_forComponent(wheel_, row, component);
     }
-    std::string stored() override { return storedIn(*picker); }
+    std::string stored() override { return stored_(*picker); }
     Texts takeTold() override {
         Texts told;
         for (const PickerNotices::Notice& notice : notices->list) {
@@ -87,10 +89,17 @@ struct BaseSubject : Subject {
         return told;
     }
 
-    gx::Ref<Picker> picker = gx::create<Picker>(gx::CGRectMake(0, 0, 320, 216));
+    gx::Ref<gx::GXBasePickerView> picker;
+    Stored stored_;
     gx::Ref<gx::UIPickerView> wheel_ = picker->pickerView();
     gx::Ref<PickerNotices> notices = gx::create<PickerNotices>();
 };
+template <class Picker>
+std::unique_ptr<Subject> subject() {
+    const auto picker = gx::create<Picker>(gx::CGRectMake(0, 0, 320, 216));
+    const auto storedInPicker = [](const gx::GXBasePickerView& any) { return storedIn(static_cast<const Picker&>(any)); };
+    return std::make_unique<BaseSubject>(picker, ownSetters(*picker), storedInPicker);
+}
 
 struct HeightNotices : gx::NSObject, gx::GXHeightPickerViewDelegate {
     void heightPickerView_didSelectHeightInCm_metric(const gx::Ref<gx::GXHeightPickerView>&, gx::CGFloat height, bool metric) override {
@@ -117,5 +126,6 @@ struct HeightSubject : Subject {
     gx::Ref<gx::UIPickerView> wheel_ = picker;
     gx::Ref<HeightNotices> notices = gx::create<HeightNotices>();
 };
+inline std::unique_ptr<Subject> heightSubject() { return std::make_unique<HeightSubject>(); }
 
 } // namespace reference

@@ -22,12 +22,6 @@ using namespace reference;
 
 namespace {
 
-using Make = std::function<std::unique_ptr<Subject>()>;
-template <class S>
-std::unique_ptr<Subject> make() {
-    return std::make_unique<S>();
-}
-
 /// "?" and "." stand for what no rule settles, "int" for an integer of either width.
 bool fits(const Texts& expected, const Texts& actual) {
     const auto fitsWord = [](const std::string& word, const std::string& got) {
@@ -131,7 +125,7 @@ private:
 
 struct Table {
     const char* name;
-    Make make;
+    std::unique_ptr<Subject> (*make)();
 };
 // GoogleTest asks for this name.
 void PrintTo(const Table& table, std::ostream* stream) { *stream << table.name; }
@@ -176,16 +170,16 @@ TEST_P(ReferenceTablesTest, picksWhatTheModelOfTheRulesPicks) {
     EXPECT_EQ(differences, 0);
 }
 
-const std::array tables = {Table{"bpm", make<BaseSubject<GXBpmPickerView>>},
-                           Table{"calories", make<BaseSubject<GXCaloriesPickerView>>},
-                           Table{"distance", make<BaseSubject<GXDistancePickerView>>},
-                           Table{"duration", make<BaseSubject<GXDurationPickerView>>},
-                           Table{"heartrate", make<BaseSubject<GXHeartRatePickerView>>},
-                           Table{"height", make<HeightSubject>},
-                           Table{"pace", make<BaseSubject<GXPacePickerView>>},
-                           Table{"speed", make<BaseSubject<GXSpeedPickerView>>},
-                           Table{"temperature", make<BaseSubject<GXTemperaturePickerView>>},
-                           Table{"weight", make<BaseSubject<GXWeightPickerView>>}};
+const std::array tables = {Table{"bpm", subject<GXBpmPickerView>},
+                           Table{"calories", subject<GXCaloriesPickerView>},
+                           Table{"distance", subject<GXDistancePickerView>},
+                           Table{"duration", subject<GXDurationPickerView>},
+                           Table{"heartrate", subject<GXHeartRatePickerView>},
+                           Table{"height", heightSubject},
+                           Table{"pace", subject<GXPacePickerView>},
+                           Table{"speed", subject<GXSpeedPickerView>},
+                           Table{"temperature", subject<GXTemperaturePickerView>},
+                           Table{"weight", subject<GXWeightPickerView>}};
 
 INSTANTIATE_TEST_SUITE_P(Pickers, ReferenceTablesTest, testing::ValuesIn(tables),
                          [](const testing::TestParamInfo<Table>& table) { return std::string(table.param.name); });

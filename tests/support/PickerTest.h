@@ -10,9 +10,10 @@ using Calls = std::vector<std::string>;
 /// A picker of 320 by 216 points on a recording wheel, with a delegate that notes what it is told.
 template <class Picker>
 struct PickerTest : testing::Test {
-    PickerTest() {
+    PickerTest() : PickerTest(gx::create<Picker, gx::CGRect>) {}
+    explicit PickerTest(gx::Ref<Picker> (*make)(const gx::CGRect& frame)) {
         RecordingWheel::install();
-        picker = gx::create<Picker>(gx::CGRectMake(0, 0, 320, 216));
+        picker = make(gx::CGRectMake(0, 0, 320, 216));
         RecordingWheel::uninstall();
         notices = gx::create<PickerNotices>();
         picker->setDelegate(notices);
