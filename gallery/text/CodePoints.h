@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include <GXUIPickers/UITextEngine.h>
+
 namespace gallery {
 
 /// A code point of a text in UTF-8.
@@ -19,10 +21,9 @@ inline CodePoint codePointAt(std::string_view text, std::size_t place) {
     CodePoint point = {first, place, place + 1};
     if (first >= 0xC0) point.code = first & (first >= 0xF0 ? 0x07U : first >= 0xE0 ? 0x0FU : 0x1FU);
     for (; point.end < text.size(); ++point.end) {
-        const auto next = static_cast<unsigned char>(text[point.end]);
-        const bool continues = (next & 0xC0U) == 0x80U;
-        if (!continues) break;
-        point.code = (point.code << 6U) | (next & 0x3FU);
+        const char next = text[point.end];
+        if (gx::UITextEngine::startsCodePoint(next)) break;
+        point.code = (point.code << 6U) | (static_cast<unsigned char>(next) & 0x3FU);
     }
     return point;
 }

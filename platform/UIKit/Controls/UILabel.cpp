@@ -11,7 +11,6 @@ const Ref<UIFont>& defaultFont() {
     static const Ref<UIFont> font = UIFont::systemFontOfSize_weight(UIFont::labelFontSize);
     return font;
 }
-bool startsCodePoint(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 constexpr std::string_view ellipsis = "\u2026";
 
 /// Which share of the free room lies before the text.
@@ -135,9 +134,9 @@ void UILabel::fitText(CGFloat width) const {
     std::size_t measured = tooLong;
     for (;;) {
         std::size_t middle = fitting + (tooLong - fitting) / 2;
-        while (middle > fitting && !startsCodePoint(text[middle])) --middle;
+        while (middle > fitting && !UITextEngine::startsCodePoint(text[middle])) --middle;
         if (middle == fitting) ++middle;
-        while (middle < tooLong && !startsCodePoint(text[middle])) ++middle;
+        while (middle < tooLong && !UITextEngine::startsCodePoint(text[middle])) ++middle;
         if (middle >= tooLong) break;
         (fits(middle, ellipsis) ? fitting : tooLong) = middle;
         measured = middle;

@@ -26,8 +26,6 @@ void UITextEngine::measuresDidChange() { ++currentGeneration(); }
 std::uint64_t UITextEngine::generation() { return currentGeneration(); }
 
 CGSize UIFixedWidthTextEngine::sizeOfText_font(std::string_view text, const UIFont&) {
-    // Every byte that does not continue a code point starts one.
-    const auto startsCodePoint = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
     const auto count = std::count_if(text.begin(), text.end(), startsCodePoint);
     return {static_cast<CGFloat>(count) * codePointWidth_, lineHeight_};
 }

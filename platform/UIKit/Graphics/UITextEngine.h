@@ -28,8 +28,15 @@ public:
     /// have measured.
     static std::uint64_t generation();
 
+    /// Whether a byte of UTF-8 starts a code point: each one that does not continue another. For
+    /// engines that count code points, and for what cuts a text between them.
+    static constexpr bool startsCodePoint(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
     /// The size of one line of UTF-8 text: its advance width and the line height of the font. Empty
     /// text has no width and a full line height.
+    ///
+    /// Any bytes may come, also such that are no UTF-8. Views are placed by the result, so it has
+    /// to be finite.
     virtual CGSize sizeOfText_font(std::string_view text, const UIFont& font) = 0;
 };
 
