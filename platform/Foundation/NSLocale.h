@@ -53,7 +53,8 @@ public:
     /// languages that are written in Arabic script, "、" in Japanese, "，" in Chinese.
     const std::string& listSeparator() const { return listSeparator_; }
 
-    /// For a user who deviates from the custom of the language.
+    /// For a user who deviates from the custom of the language. Taken as it is, also an empty text;
+    /// texts on screen stay as they are until they are set again.
     void setDecimalSeparator(std::string separator);
     /// Where lines begin. Default: as the language is written.
     NSLocaleLanguageDirection characterDirection() const { return direction_; }
