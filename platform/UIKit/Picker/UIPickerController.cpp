@@ -12,7 +12,7 @@ namespace gx {
 // Layout and requests
 
 void UIPickerController::layout() {
-    const bool areRowsInvalid = components_.takeRowsInvalid();
+    const auto binding = components_.takeRowsInvalid() ? UIPickerRows::Binding::All : UIPickerRows::Binding::Missing;
     components_.refreshAll();
     components_.placeColumns(view_);
     for (NSInteger i = 0; i < components_.count(); ++i) {
@@ -20,7 +20,7 @@ void UIPickerController::layout() {
         if (i >= components_.count() || !components_.at(i).column) continue;
         components_.fitAxis(i, reported, view_.bounds().size.height);
         components_.scrollColumn(i);
-        rows_.showRows(i, areRowsInvalid);
+        rows_.showRows(i, binding);
     }
     // A gesture whose row is gone has landed and is still to be reported, in the next frame.
     if (components_.isActive()) animate();
@@ -241,7 +241,7 @@ bool UIPickerController::advanceToTime(NSTimeInterval time) {
         passed = wrappingAdd(passed, advanceColumn(i, time));
         if (owner_.isLayoutNeeded()) continue; // The layout that follows shows the rows anyway.
         components_.scrollColumn(i);
-        rows_.showRows(i, false);
+        rows_.showRows(i, UIPickerRows::Binding::Missing);
     }
     tick(passed);
     reportLandings();

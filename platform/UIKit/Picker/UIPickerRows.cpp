@@ -18,7 +18,7 @@ Ref<UILabel> makeTitleLabel() {
 
 } // namespace
 
-void UIPickerRows::showRows(NSInteger component, bool bindsAgain) {
+void UIPickerRows::showRows(NSInteger component, Binding binding) {
     const Ref<UIPickerColumn> column = components_.at(component).column;
     if (!column) return;
     const UIPickerColumn::Range range = column->rowsInSight(components_.at(component).rows);
@@ -26,7 +26,7 @@ void UIPickerRows::showRows(NSInteger component, bool bindsAgain) {
     // Callbacks may take rows away, or change the whole wheel.
     for (NSInteger row = range.first; row < range.last && components_.hasRow(row, component); ++row) {
         if (components_.at(component).column != column) return;
-        if (bindsAgain || !column->viewForRow(row)) showRow(component, row);
+        if (binding == Binding::All || !column->viewForRow(row)) showRow(component, row);
     }
     column->trimPool(poolSize);
 }
@@ -34,7 +34,7 @@ void UIPickerRows::showRows(NSInteger component, bool bindsAgain) {
 void UIPickerRows::showRow(NSInteger component, NSInteger row) {
     const Ref<UIPickerColumn> column = components_.at(component).column;
     const UIPickerOwner::Delegate delegate = owner_.lockDelegate();
-    UIPickerColumn::Row offered = column->takeRow(row, true);
+    UIPickerColumn::Row offered = column->takeRow(row, UIPickerColumn::Maker::Delegate);
     Ref<UIView> view = delegate ? owner_.viewForRow(delegate, row, component, offered.view) : nullptr;
     // If the query has replaced the delegate or taken the row away, its view is dropped. The layout
     // that is needed then queries again.
@@ -46,11 +46,11 @@ void UIPickerRows::showRow(NSInteger component, NSInteger row) {
     if (view && column->isDescendantOfView(view)) view = nullptr;
     if (view) {
         if (offered.view && offered.view != view) column->pool(std::move(offered));
-        column->showRow({row, std::move(view), true});
+        column->showRow({row, std::move(view), UIPickerColumn::Maker::Delegate});
         return;
     }
     column->pool(std::move(offered));
-    const UIPickerColumn::Row own = column->takeRow(row, false);
+    const UIPickerColumn::Row own = column->takeRow(row, UIPickerColumn::Maker::Wheel);
     auto label = std::static_pointer_cast<UILabel>(own.view);
     if (!label) label = makeTitleLabel();
     label->setFont(owner_.titleFont());
@@ -61,7 +61,7 @@ void UIPickerRows::showRow(NSInteger component, NSInteger row) {
         const bool isThere = delegate && components_.hasRow(row, component);
         label->setText(isThere ? owner_.titleForRow(delegate, row, component) : std::nullopt);
     }
-    column->showRow({row, std::move(label), false});
+    column->showRow({row, std::move(label), UIPickerColumn::Maker::Wheel});
 }
 
 std::optional<std::string> UIPickerRows::titleOfRow(NSInteger row, NSInteger component) {

@@ -13,9 +13,13 @@ class UIPickerRows {
 public:
     UIPickerRows(UIPickerOwner& owner, UIPickerComponents& components) : owner_(owner), components_(components) {}
 
-    /// Gives each visible row of a component a view, those that have one only if they are bound
-    /// again.
-    void showRows(NSInteger component, bool bindsAgain);
+    /// Which visible rows are bound to a view.
+    enum class Binding {
+        All,    ///< also those that have a view, since what they show may have changed
+        Missing ///< those that have come into sight
+    };
+    /// Gives each visible row of a component a view.
+    void showRows(NSInteger component, Binding binding);
     /// Its attributed title, or else the plain one; nothing for a row that does not exist, or is
     /// gone after a query.
     std::optional<std::string> titleOfRow(NSInteger row, NSInteger component);

@@ -74,7 +74,7 @@ void UIScrollView::setContentOffset_animated(CGPoint offset, bool animated) {
     const CGFloat target = clamped(offset.y);
     if (target == this->offset() && !axis_->isGoing()) return;
     axis_->restAt(this->offset());
-    endPress(false, 0);
+    endPress(PressEnd::Cancel, 0);
     if (!animated || target == this->offset() || !canGlide()) return moveTo(target);
     flashScrollIndicators();
     axis().easeTo(target, UIScrollMotion::requestDuration, std::nullopt, UIScrollAxis::State::Requested);
@@ -123,7 +123,7 @@ void UIScrollView::finishAnimations() {
 void UIScrollView::stop() {
     const Ref<UIView> keep = refTo<UIView>(this);
     axis_->restAt(offset());
-    endPress(false, 0);
+    endPress(PressEnd::Cancel, 0);
     moveTo(clamped(offset()));
 }
 
@@ -142,7 +142,7 @@ bool UIScrollView::touchBegan(const UITouch& touch) {
     // Taken, so that no view above uses it.
     if (isSecond || !std::isfinite(touch.locationInWindow.y)) return true;
     const Ref<UIView> keep = refTo<UIView>(this);
-    endPress(false, touch.timestamp); // Of the same finger, whose end was not reported.
+    endPress(PressEnd::Cancel, touch.timestamp); // Of the same finger, whose end was not reported.
     const bool stopsMovement = axis_->isGoing();
     axis().touchBegan(touch.identifier, touch.locationInWindow.y, touch.timestamp);
     isPressed_ = !stopsMovement;
@@ -156,7 +156,7 @@ void UIScrollView::touchMoved(const UITouch& touch) {
     const bool begins = axis().touchMoved(touch.locationInWindow.y, touch.timestamp);
     if (isDragging()) flashScrollIndicators();
     if (!begins) return moveTo(axis_->position());
-    endPress(false, touch.timestamp);
+    endPress(PressEnd::Cancel, touch.timestamp);
     if (isDragging()) scrollViewWillBeginDragging();
 }
 
@@ -172,7 +172,7 @@ void UIScrollView::touchEnded(const UITouch& touch) {
     } else if (velocity != 0 && highestOffset() > 0 && !reducesMotion()) {
         throwAt(velocity, touch.timestamp);
     }
-    endPress(true, touch.timestamp);
+    endPress(PressEnd::Tap, touch.timestamp);
     if (indicator_->isVisible()) startMoving();
 }
 
@@ -181,14 +181,14 @@ void UIScrollView::touchCancelled(const UITouch& touch) {
     const Ref<UIView> keep = refTo<UIView>(this);
     axis_->restAt(offset());
     if (axis().isBeyondEnd()) springBack(touch.timestamp);
-    endPress(false, touch.timestamp);
+    endPress(PressEnd::Cancel, touch.timestamp);
     if (indicator_->isVisible()) startMoving();
 }
 
-void UIScrollView::endPress(bool isTap, NSTimeInterval time) {
+void UIScrollView::endPress(PressEnd end, NSTimeInterval time) {
     if (!isPressed_) return;
     isPressed_ = false;
-    pressEnded(isTap, time);
+    pressEnded(end == PressEnd::Tap, time);
 }
 
 /// Whether content may move by itself: without a window it has no clock.

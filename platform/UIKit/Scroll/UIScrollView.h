@@ -122,6 +122,8 @@ protected:
     void drawSubviews(UIGraphicsContext& context) override;
 
 private:
+    enum class PressEnd { Tap, Cancel };
+
     UIScrollAxis& axis() const;
     CGFloat offset() const { return bounds().origin.y; }
     CGFloat clamped(CGFloat offset) const;
@@ -130,7 +132,7 @@ private:
     void throwAt(double velocity, NSTimeInterval time);
     void springBack(NSTimeInterval time);
     void fitToContent();
-    void endPress(bool isTap, NSTimeInterval time);
+    void endPress(PressEnd end, NSTimeInterval time);
 
     CGSize contentSize_;
     // What moves the offset. The offset itself is the origin of the bounds.

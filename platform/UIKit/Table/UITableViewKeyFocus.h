@@ -42,8 +42,13 @@ public:
     std::optional<NSIndexPath> rowForKey(UIKey::Code code, NSIndexPath present, CGFloat visibleHeight);
 
 private:
-    std::optional<NSIndexPath> tappableRow(std::optional<NSIndexPath> path, bool isDownward);
-    std::optional<NSIndexPath> rowAPageFrom(NSIndexPath present, bool isDownward, CGFloat visibleHeight) const;
+    enum class Direction { Up, Down };
+
+    static Direction opposite(Direction direction) { return direction == Direction::Up ? Direction::Down : Direction::Up; }
+    std::optional<NSIndexPath> rowBeside(NSIndexPath path, Direction direction) const;
+    std::optional<NSIndexPath> endOfRows(Direction direction) const;
+    std::optional<NSIndexPath> tappableRow(std::optional<NSIndexPath> path, Direction direction);
+    std::optional<NSIndexPath> rowAPageFrom(NSIndexPath present, Direction direction, CGFloat visibleHeight) const;
 
     const UITableViewRows& rows_;
     Client& client_;

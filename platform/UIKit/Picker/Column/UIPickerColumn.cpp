@@ -86,7 +86,7 @@ void UIPickerColumn::recycleRowsOutside(Range range) {
     }
 }
 
-UIPickerColumn::Row UIPickerColumn::takeRow(NSInteger row, bool isDelegates) {
+UIPickerColumn::Row UIPickerColumn::takeRow(NSInteger row, Maker maker) {
     const auto take = [](std::vector<Row>& rows, std::vector<Row>::iterator entry) {
         Row taken = std::move(*entry);
         *entry = std::move(rows.back());
@@ -96,12 +96,11 @@ UIPickerColumn::Row UIPickerColumn::takeRow(NSInteger row, bool isDelegates) {
     const auto same = std::find_if(shown_.begin(), shown_.end(), [row](const Row& entry) { return entry.row == row; });
     if (same != shown_.end()) {
         Row taken = take(shown_, same);
-        if (taken.isDelegates == isDelegates) return taken;
+        if (taken.maker == maker) return taken;
         pool_.push_back(std::move(taken));
     }
-    const auto pooled =
-        std::find_if(pool_.begin(), pool_.end(), [isDelegates](const Row& entry) { return entry.isDelegates == isDelegates; });
-    return pooled == pool_.end() ? Row{row, nullptr, isDelegates} : take(pool_, pooled);
+    const auto pooled = std::find_if(pool_.begin(), pool_.end(), [maker](const Row& entry) { return entry.maker == maker; });
+    return pooled == pool_.end() ? Row{row, nullptr, maker} : take(pool_, pooled);
 }
 
 void UIPickerColumn::showRow(Row row) {

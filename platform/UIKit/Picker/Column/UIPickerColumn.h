@@ -18,11 +18,13 @@ namespace gx {
 /// place: a tap there spins to it.
 class UIPickerColumn : public UIView {
 public:
-    /// A view that shows a row, and whether the delegate made it.
+    /// Who made the view of a row.
+    enum class Maker { Wheel, Delegate };
+    /// A view that shows a row.
     struct Row {
         NSInteger row = 0;
         Ref<UIView> view;
-        bool isDelegates = false;
+        Maker maker = Maker::Wheel;
     };
 
     bool initWithFrame(CGRect frame) override;
@@ -55,9 +57,9 @@ public:
 
     /// Puts the rows outside the range into the pool.
     void recycleRowsOutside(Range range);
-    /// Takes the entry of this row or, without one, a pooled view of that kind. The row is no
-    /// longer shown.
-    Row takeRow(NSInteger row, bool isDelegates);
+    /// Takes the entry of this row or, without one, a pooled view of the same maker. The row is no
+    /// longer shown. Without such a view the entry has none.
+    Row takeRow(NSInteger row, Maker maker);
     /// Shows a row by this view.
     void showRow(Row row);
     /// Puts a taken view back that was not used.

@@ -17,7 +17,7 @@ void UIPickerTypeSelect::typeCharacter(const std::string& character, NSTimeInter
         if (typeSeparator(character, component, time)) return;
     } else if (!typing_.text().empty() && (character == " " || isShownBehind(character, component))) {
         const bool isOfTitle = rowsSpelled(typing_.text() + character, component).canGrow;
-        if (!isOfTitle && goOnBehindText(component, false, time)) return;
+        if (!isOfTitle && goOnBehindText(component, Part::Whole, time)) return;
     }
     typeText(character, component, time);
 }
@@ -26,7 +26,7 @@ bool UIPickerTypeSelect::typeBlank(NSTimeInterval time) {
     if (typing_.text().empty() || typing_.isOverAt(time)) return false;
     const NSInteger component = wheel_.componentOfKeys();
     if (component < 0 || wheel_.isHeld(component) || !typing_.isAtComponent(component)) return false;
-    if (!rowsSpelled(typing_.text() + ' ', component).canGrow) return goOnBehindText(component, false, time);
+    if (!rowsSpelled(typing_.text() + ' ', component).canGrow) return goOnBehindText(component, Part::Whole, time);
     typeText(" ", component, time);
     return true;
 }
@@ -41,14 +41,14 @@ bool UIPickerTypeSelect::isShownBehind(const std::string& character, NSInteger c
 
 /// Goes on to the next column, if there is one and the text so far is not that of no row, as the .5
 /// of 3.5 where rows begin at 30. Returns whether it did.
-bool UIPickerTypeSelect::goOnBehindText(NSInteger component, bool isFraction, NSTimeInterval time) {
+bool UIPickerTypeSelect::goOnBehindText(NSInteger component, Part part, NSTimeInterval time) {
     const NSInteger next = wheel_.componentAfter(component);
     const std::string text = typing_.text();
     if (next < 0 || (!text.empty() && !rowsSpelled(text, component).row)) return false;
     complete();
     // Also a column of one row: what is typed next is meant for it.
     wheel_.chooseComponent(next);
-    typing_.goOnToComponent_atTime(next, isFraction, time);
+    typing_.goOnToComponent_atTime(next, part, time);
     return true;
 }
 
@@ -57,7 +57,7 @@ bool UIPickerTypeSelect::typeSeparator(const std::string& separator, NSInteger c
     const std::string text = typing_.text();
     // A title may have one of its own, as 36.5 has after 36.
     if (!text.empty() && rowsSpelled(text + separator, component).canGrow) return false;
-    if (goOnBehindText(component, separator != ":", time)) return true;
+    if (goOnBehindText(component, separator == ":" ? Part::Whole : Part::Fraction, time)) return true;
     // A title may begin with one, as .5 does in a column of tenths.
     const bool isOfNothing = !text.empty() && !rowsSpelled(text, component).row;
     if (text.empty() || (!isOfNothing && rowsSpelled(separator, component).canGrow)) return false;
@@ -94,7 +94,8 @@ void UIPickerTypeSelect::typeText(const std::string& character, NSInteger compon
 ///   last one they are ignored.
 /// - What follows a mark that ends a title goes on too, as the inches of 5'9.
 bool UIPickerTypeSelect::typeBehindComplete(const std::string& character, NSInteger component, NSTimeInterval time) {
-    const bool isFraction = typing_.isFraction();
+    const Part part = typing_.part();
+    const bool isFraction = part == Part::Fraction;
     if (!isFraction && UIPickerTyping::isDigit(typing_.text().back())) return false;
     const NSInteger next = wheel_.componentAfter(component);
     if (next == component + 1) {
@@ -103,7 +104,7 @@ bool UIPickerTypeSelect::typeBehindComplete(const std::string& character, NSInte
         if (found.row || found.canGrow) {
             complete();
             wheel_.chooseComponent(next);
-            typing_.goOnToComponent_atTime(next, isFraction, time);
+            typing_.goOnToComponent_atTime(next, part, time);
             typeText(character, next, time);
             return true;
         }

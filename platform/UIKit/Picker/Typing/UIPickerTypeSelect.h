@@ -63,9 +63,11 @@ public:
     std::optional<NSInteger> waitingComponent() const { return typing_.component(); }
 
 private:
+    using Part = UIPickerTyping::Part;
+
     bool typeSeparator(const std::string& separator, NSInteger component, NSTimeInterval time);
     bool isShownBehind(const std::string& character, NSInteger component);
-    bool goOnBehindText(NSInteger component, bool isFraction, NSTimeInterval time);
+    bool goOnBehindText(NSInteger component, Part part, NSTimeInterval time);
     void typeText(const std::string& character, NSInteger component, NSTimeInterval time);
     bool typeBehindComplete(const std::string& character, NSInteger component, NSTimeInterval time);
     UIPickerTitleSearch::Result rowsSpelled(const std::string& text, NSInteger component);

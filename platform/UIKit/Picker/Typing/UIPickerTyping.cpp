@@ -105,10 +105,10 @@ bool UIPickerTyping::endsColumn(std::string_view character) {
     return separator && readableForm(*separator) == character;
 }
 
-void UIPickerTyping::goOnToComponent_atTime(NSInteger component, bool isFraction, NSTimeInterval time) {
+void UIPickerTyping::goOnToComponent_atTime(NSInteger component, Part part, NSTimeInterval time) {
     clear();
     component_ = component;
-    isFraction_ = isFraction;
+    part_ = part;
     latest_ = time;
 }
 
@@ -135,8 +135,8 @@ void UIPickerTyping::clear() {
     component_.reset();
     rowBefore_.reset();
     text_.clear();
+    part_ = Part::Whole;
     isWaiting_ = false;
-    isFraction_ = false;
     isIgnoring_ = false;
 }
 

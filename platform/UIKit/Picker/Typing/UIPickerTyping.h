@@ -18,6 +18,12 @@ namespace gx {
 /// Example: "１２٫5" becomes "12.5". It keeps state alone; `UIPickerTypeSelect` decides what follows.
 class UIPickerTyping {
 public:
+    /// What a column shows, seen from what was typed before it.
+    enum class Part {
+        Whole,   ///< a number or text of its own
+        Fraction ///< digits behind a decimal separator
+    };
+
     /// Characters within this time belong together; after it the text is complete. Prescribed.
     static constexpr NSTimeInterval longestPause = 1;
 
@@ -41,13 +47,13 @@ public:
     const std::string& text() const { return text_; }
     /// Whether nothing can go on with that text.
     bool isComplete() const { return !text_.empty() && !isWaiting_; }
-    /// Whether the column shows digits behind a decimal separator that was typed before.
-    bool isFraction() const { return isFraction_; }
+    /// `Fraction` behind a decimal separator that was typed before.
+    Part part() const { return part_; }
     /// The row that the column was on when its text began.
     std::optional<NSInteger> rowBefore() const { return rowBefore_; }
 
     /// What is typed next belongs to this column.
-    void goOnToComponent_atTime(NSInteger component, bool isFraction, NSTimeInterval time);
+    void goOnToComponent_atTime(NSInteger component, Part part, NSTimeInterval time);
     /// A text begins at the column, while it is on the row or on its way there.
     void beginInComponent_onRow(NSInteger component, NSInteger row);
     /// The text so far, with a character typed at `time`. `isWaiting`: it may go on.
@@ -69,8 +75,8 @@ private:
     std::optional<NSInteger> rowBefore_;
     std::string text_;
     NSTimeInterval latest_ = 0;
+    Part part_ = Part::Whole;
     bool isWaiting_ = false;
-    bool isFraction_ = false;
     bool isIgnoring_ = false;
 };
 

@@ -133,7 +133,7 @@ TEST_F(UIPickerComponentsTest, ColumnsThatShowNothingCannotBeSpunOrChosen) {
 
 TEST_F(UIPickerComponentsTest, KeysChooseAmongColumnsOfMoreThanOneRow) {
     layout();
-    for (NSInteger i = 0; i < 3; ++i) components.at(i).column->showRow({0, create<UIView>(CGRectZero), true});
+    for (NSInteger i = 0; i < 3; ++i) components.at(i).column->showRow({0, create<UIView>(CGRectZero), UIPickerColumn::Maker::Delegate});
     EXPECT_EQ(components.componentOfKeys(), 0);
     EXPECT_EQ(components.componentBeside(0, 1), 2) << "the second has one row";
     EXPECT_EQ(components.componentAfter(0), 1) << "which can be spun all the same";

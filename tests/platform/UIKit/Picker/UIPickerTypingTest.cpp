@@ -136,17 +136,17 @@ TEST(UIPickerTyping, AtTheNextColumnAnotherTextBegins) {
     UIPickerTyping typing;
     typing.beginInComponent_onRow(0, 7);
     typing.setText_atTime("12", true, 10);
-    typing.goOnToComponent_atTime(2, true, 10.5);
+    typing.goOnToComponent_atTime(2, UIPickerTyping::Part::Fraction, 10.5);
     EXPECT_TRUE(typing.isAtComponent(2));
-    EXPECT_TRUE(typing.isFraction());
+    EXPECT_EQ(typing.part(), UIPickerTyping::Part::Fraction);
     EXPECT_EQ(typing.text(), "");
     EXPECT_FALSE(typing.component());
     EXPECT_FALSE(typing.rowBefore());
     EXPECT_FALSE(typing.isOverAt(11.49));
     typing.beginInComponent_onRow(2, 3);
-    EXPECT_TRUE(typing.isFraction());
+    EXPECT_EQ(typing.part(), UIPickerTyping::Part::Fraction);
     typing.clear();
-    EXPECT_FALSE(typing.isFraction());
+    EXPECT_EQ(typing.part(), UIPickerTyping::Part::Whole);
     EXPECT_FALSE(typing.isAtComponent(2));
 }
 
