@@ -121,7 +121,7 @@ CGPoint UIViewNode::convertPointFromWindow(CGPoint point) const {
 UIViewNode* UIViewNode::top() const {
     const UIViewNode* view = this;
     while (view->above_) view = view->above_;
-    // Views above are not const because this one is
+    // The view above is no part of this one, so it is not const with it.
     return const_cast<UIViewNode*>(view); // NOLINT(cppcoreguidelines-pro-type-const-cast)
 }
 
