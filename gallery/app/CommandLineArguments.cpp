@@ -55,66 +55,78 @@ std::optional<double> parsedTextScale(const std::string& text) {
     return value;
 }
 
-bool isOption(const std::string& word) {
-    constexpr std::array<std::string_view, 9> options = {"--shots",      "--size",     "--scale",  "--locale", "--page",
-                                                         "--text-scale", "--contrast", "--record", "--replay"};
-    return std::find(options.begin(), options.end(), word) != options.end();
+/// Stores a value that could be read; returns whether it could.
+template <class Value>
+bool store(std::optional<Value> read, Value& member) {
+    if (read) member = *read;
+    return read.has_value();
 }
+
+/// An option that takes a value.
+struct Option {
+    std::string_view name;
+    /// Returns false for a value that is not as the rule says.
+    bool (*read)(const std::string& value, CommandLineArguments& parsed);
+    std::string_view rule; ///< empty for an option that takes any text
+};
+
+template <std::optional<std::string> CommandLineArguments::*member>
+bool readText(const std::string& value, CommandLineArguments& parsed) {
+    parsed.*member = value;
+    return true;
+}
+
+bool readSize(const std::string& value, CommandLineArguments& parsed) {
+    parsed.size = parsedSize(value);
+    return parsed.size.has_value();
+}
+
+bool readContrast(const std::string& value, CommandLineArguments& parsed) {
+    parsed.isContrastHigh = value == "high";
+    return parsed.isContrastHigh || value == "normal";
+}
+
+constexpr std::array<Option, 9> options = {{
+    {"--shots", readText<&CommandLineArguments::pictureFolder>, ""},
+    {"--size", readSize, "a width and a height of 320 to 4096 points, such as 900x640"},
+    {"--scale", [](const auto& value, auto& parsed) { return store(parsedScale(value), parsed.scale); }, "1, 2, 3 or 4"},
+    {"--locale", readText<&CommandLineArguments::locale>, ""},
+    {"--page", readText<&CommandLineArguments::page>, ""},
+    {"--text-scale", [](const auto& value, auto& parsed) { return store(parsedTextScale(value), parsed.textScale); },
+     "0.8 to 3, such as 1.3"},
+    {"--contrast", readContrast, "normal or high"},
+    {"--record", readText<&CommandLineArguments::recordingToWrite>, ""},
+    {"--replay", readText<&CommandLineArguments::recordingToPlay>, ""},
+}};
 
 } // namespace
 
 std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vector<std::string>& arguments, std::string& error) {
     CommandLineArguments parsed;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string& option = arguments[i];
-        if (option == "--help" || option == "-h") {
+        const std::string& name = arguments[i];
+        if (name == "--help" || name == "-h") {
             parsed.showsHelp = true;
             continue;
         }
-        if (option == "--version") {
+        if (name == "--version") {
             parsed.showsVersion = true;
             continue;
         }
-        if (!isOption(option)) {
-            error = "unknown option " + option;
+        const auto* const option =
+            std::find_if(options.begin(), options.end(), [&name](const Option& known) { return known.name == name; });
+        if (option == options.end()) {
+            error = "unknown option " + name;
             return std::nullopt;
         }
         if (i + 1 == arguments.size() || arguments[i + 1].empty()) {
-            error = option + " needs a value";
+            error = name + " needs a value";
             return std::nullopt;
         }
         const std::string& value = arguments[++i];
-        if (option == "--shots") parsed.pictureFolder = value;
-        if (option == "--locale") parsed.locale = value;
-        if (option == "--page") parsed.page = value;
-        if (option == "--record") parsed.recordingToWrite = value;
-        if (option == "--replay") parsed.recordingToPlay = value;
-        if (option == "--size" && !(parsed.size = parsedSize(value))) {
-            error = "--size is a width and a height of 320 to 4096 points, such as 900x640, and not " + value;
+        if (!option->read(value, parsed)) {
+            error = name + " is " + std::string(option->rule) + ", and not " + value;
             return std::nullopt;
-        }
-        if (option == "--scale") {
-            const auto pixels = parsedScale(value);
-            if (!pixels) {
-                error = "--scale is 1, 2, 3 or 4, and not " + value;
-                return std::nullopt;
-            }
-            parsed.scale = *pixels;
-        }
-        if (option == "--text-scale") {
-            const auto textScale = parsedTextScale(value);
-            if (!textScale) {
-                error = "--text-scale is 0.8 to 3, such as 1.3, and not " + value;
-                return std::nullopt;
-            }
-            parsed.textScale = *textScale;
-        }
-        if (option == "--contrast") {
-            if (value != "normal" && value != "high") {
-                error = "--contrast is normal or high, and not " + value;
-                return std::nullopt;
-            }
-            parsed.isContrastHigh = value == "high";
         }
     }
     if (parsed.recordingToWrite && (parsed.recordingToPlay || parsed.pictureFolder)) {
