@@ -50,7 +50,7 @@ std::optional<Workout> WorkoutFile::workoutOfText(const std::string& text, std::
         return std::nullopt;
     };
     if (text.size() > longest) return refuse(Translations::text("This file is no workout."));
-    const Json whole = Json::parse(text, nullptr, false);
+    const Json whole = Json::parse(text, nullptr, /*allow_exceptions=*/false);
     if (whole.is_discarded()) return refuse(Translations::text("This file is damaged, or no workout."));
     const auto kind = whole.is_object() ? whole.find("format") : whole.end();
     if (kind == whole.end() || *kind != format) return refuse(Translations::text("This file is no workout."));

@@ -4,7 +4,7 @@
 
 namespace gx {
 
-bool GXUnitFormatter::init() { return initWithStyle_isMetric_usingUnit(0, false, true); }
+bool GXUnitFormatter::init() { return initWithStyle_isMetric_usingUnit(/*style=*/0, /*isMetric=*/false, /*usingUnit=*/true); }
 
 bool GXUnitFormatter::initWithStyle_isMetric_usingUnit(NSInteger style, bool isMetric, bool usingUnit) {
     if (!NSObject::init()) return false;

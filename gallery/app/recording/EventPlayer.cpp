@@ -159,9 +159,9 @@ std::string valuesOfScreen(const MainScreen& screen) {
         }
         elements.push_back(std::move(found));
     }
-    const Json workout = Json::parse(WorkoutFile::textOfWorkout(screen.entry()->workout()), nullptr, false);
+    const Json workout = Json::parse(WorkoutFile::textOfWorkout(screen.entry()->workout()), nullptr, /*allow_exceptions=*/false);
     const Json whole = {{"page", screen.pageNames()[screen.pageIndex()]}, {"elements", elements}, {"workout", workout["workout"]}};
-    return whole.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return whole.dump(2, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace) + "\n";
 }
 
 } // namespace gallery

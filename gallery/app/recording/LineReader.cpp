@@ -9,7 +9,7 @@ LineReader::LineReader(const std::string& line) {
         refuse("the line is too long");
         return;
     }
-    line_ = Json::parse(line, nullptr, false);
+    line_ = Json::parse(line, nullptr, /*allow_exceptions=*/false);
     if (line_.is_discarded()) {
         refuse("this is no JSON; the line may be cut off");
     } else if (!line_.is_object()) {

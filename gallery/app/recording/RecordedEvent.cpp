@@ -162,7 +162,7 @@ std::string RecordedEvent::line() const {
     }
     if (kind == Kind::Picture) json["name"] = name;
     // A text that is no UTF-8 must not end the recording.
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return json.dump(-1, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
 }
 
 std::optional<RecordedEvent> RecordedEvent::eventOfLine(const std::string& line, std::string& error) {

@@ -58,7 +58,7 @@ std::string RecordingStart::line() const {
                                          {"isDark", isDark},
                                          {"offersClicks", offersClicks},
                                          {"page", page}};
-    return json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    return json.dump(-1, ' ', /*ensure_ascii=*/false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
 std::optional<RecordingStart> RecordingStart::startOfLine(const std::string& line, std::string& error) {

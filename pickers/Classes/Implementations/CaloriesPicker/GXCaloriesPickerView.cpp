@@ -13,7 +13,7 @@ constexpr std::int32_t labelledCalories = 100;
 } // namespace
 
 Ref<GXCaloriesFormatter> GXCaloriesPickerView::caloriesFormatter() {
-    if (!caloriesFormatter_) caloriesFormatter_ = create<GXCaloriesFormatter>(0, isMetric(), true);
+    if (!caloriesFormatter_) caloriesFormatter_ = create<GXCaloriesFormatter>(/*style=*/0, isMetric(), /*usingUnit=*/true);
     return caloriesFormatter_;
 }
 

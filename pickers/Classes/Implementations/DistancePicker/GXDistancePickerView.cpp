@@ -49,7 +49,7 @@ void GXDistancePickerView::setNumberOfFractionUnits(std::int32_t count) {
 }
 
 Ref<GXDistanceFormatter> GXDistancePickerView::distanceFormatter() {
-    if (!distanceFormatter_) distanceFormatter_ = create<GXDistanceFormatter>(1, isMetric(), true);
+    if (!distanceFormatter_) distanceFormatter_ = create<GXDistanceFormatter>(/*style=*/1, isMetric(), /*usingUnit=*/true);
     return distanceFormatter_;
 }
 

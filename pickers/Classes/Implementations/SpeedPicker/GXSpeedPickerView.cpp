@@ -44,7 +44,7 @@ void GXSpeedPickerView::showTexts() {
 // Properties
 
 Ref<GXSpeedFormatter> GXSpeedPickerView::speedFormatter() {
-    if (!speedFormatter_) speedFormatter_ = create<GXSpeedFormatter>(1, isMetric(), true);
+    if (!speedFormatter_) speedFormatter_ = create<GXSpeedFormatter>(/*style=*/1, isMetric(), /*usingUnit=*/true);
     return speedFormatter_;
 }
 
