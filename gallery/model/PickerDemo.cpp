@@ -44,6 +44,21 @@ PickerDemo pickerDemo(const Ref<GXBasePickerView>& picker, const NoticeHandler& 
     return demo;
 }
 
+DemoOption unitSystemOption(const Ref<GXBasePickerView>& picker) {
+    return {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}};
+}
+
+DemoOption stepOption(std::string title, const std::vector<std::int32_t>& steps, std::size_t chosen,
+                      std::function<void(std::int32_t step)> setStep) {
+    std::vector<std::string> choices;
+    for (const std::int32_t step : steps) choices.push_back(std::to_string(step));
+    return {std::move(title),
+            std::move(choices),
+            chosen,
+            [steps, setStep = std::move(setStep)](std::size_t choice) { setStep(steps.at(choice)); },
+            {}};
+}
+
 std::string unitBesideWheel(const Ref<GXBasePickerView>& picker) { return picker->pickerView()->rightLabelText().value_or(""); }
 
 } // namespace gallery

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -48,6 +49,12 @@ struct PickerDemo {
 /// `unit` is the base unit of the values that it tells; `inWords` puts such a value into words.
 PickerDemo pickerDemo(const gx::Ref<gx::GXBasePickerView>& picker, const NoticeHandler& report, const std::string& unit,
                       std::function<std::string(const gx::NSNumber& value, gx::NSInteger component)> inWords);
+
+/// Metric or imperial, of a picker that begins as metric and knows both.
+DemoOption unitSystemOption(const gx::Ref<gx::GXBasePickerView>& picker);
+/// Steps from one row to the next. `setStep` brings the picker to one of them.
+DemoOption stepOption(std::string title, const std::vector<std::int32_t>& steps, std::size_t chosen,
+                      std::function<void(std::int32_t step)> setStep);
 
 /// The text beside the wheel, which is the name of the unit that it shows.
 std::string unitBesideWheel(const gx::Ref<gx::GXBasePickerView>& picker);

@@ -60,13 +60,7 @@ PickerDemo makeBpmDemo(const NoticeHandler& report) {
         return NumberFormat::decimal(rate.doubleValue(), 0) + " " + unitBesideWheel(picker);
     });
     demo.options = {
-        {"Step",
-         {"1", "5", "10"},
-         2,
-         [picker](std::size_t choice) {
-             picker->setStepSize(NSNumber::numberWithInt(std::array{1, 5, 10}.at(choice)));
-         },
-         {}},
+        stepOption("Step", {1, 5, 10}, 2, [picker](std::int32_t step) { picker->setStepSize(NSNumber::numberWithInt(step)); }),
         {"Range",
          {Translations::filled("{0} to {1}", "0", "240"), Translations::filled("{0} to {1}", "40", "220")},
          0,

@@ -1,6 +1,5 @@
 #include "MovementPages.h"
 
-#include <array>
 #include <memory>
 
 #include "NumberFormat.h"
@@ -27,7 +26,7 @@ PickerDemo makeDistanceDemo(const NoticeHandler& report) {
         return NumberFormat::decimal(shown, picker->numberOfFractionUnits()) + " " + unitBesideWheel(picker);
     });
     demo.options = {
-        {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},
+        unitSystemOption(picker),
         {"Decimals",
          {"1", "2"},
          0,
@@ -89,30 +88,21 @@ PickerDemo makeDurationDemo(const NoticeHandler& report) {
              setRange(picker, *isBounded);
          },
          {}},
-        {"Step of hours",
-         {"1", "2", "6"},
-         0,
-         [picker](std::size_t choice) {
-             picker->setHoursStepSize(std::array{1, 2, 6}.at(choice));
-             picker->selectCurrentValue();
-         },
-         {}},
-        {"Step of minutes",
-         {"1", "5", "15"},
-         0,
-         [picker](std::size_t choice) {
-             picker->setMinutesStepSize(std::array{1, 5, 15}.at(choice));
-             picker->selectCurrentValue();
-         },
-         {}},
-        {"Step of seconds",
-         {"1", "5", "15"},
-         1,
-         [picker](std::size_t choice) {
-             picker->setSecondsStepSize(std::array{1, 5, 15}.at(choice));
-             picker->selectCurrentValue();
-         },
-         {}},
+        stepOption("Step of hours", {1, 2, 6}, 0,
+                   [picker](std::int32_t step) {
+                       picker->setHoursStepSize(step);
+                       picker->selectCurrentValue();
+                   }),
+        stepOption("Step of minutes", {1, 5, 15}, 0,
+                   [picker](std::int32_t step) {
+                       picker->setMinutesStepSize(step);
+                       picker->selectCurrentValue();
+                   }),
+        stepOption("Step of seconds", {1, 5, 15}, 1,
+                   [picker](std::int32_t step) {
+                       picker->setSecondsStepSize(step);
+                       picker->selectCurrentValue();
+                   }),
     };
     return demo;
 }
@@ -132,15 +122,13 @@ PickerDemo makePaceDemo(const NoticeHandler& report) {
         return NumberFormat::minutes(seconds) + " " + unitBesideWheel(picker);
     });
     demo.options = {
-        {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},
-        {"Step of seconds",
-         {"1", "5", "15"},
-         1,
-         [picker](std::size_t choice) {
-             picker->setSecondsStepSize(std::array{1, 5, 15}.at(choice));
-             picker->selectCurrentValue(); // A new step reloads the wheel and selects nothing.
-         },
-         {}},
+        unitSystemOption(picker),
+        stepOption("Step of seconds", {1, 5, 15}, 1,
+                   [picker](std::int32_t step) {
+                       picker->setSecondsStepSize(step);
+                       // A new step reloads the wheel and selects nothing.
+                       picker->selectCurrentValue();
+                   }),
     };
     return demo;
 }
@@ -156,7 +144,7 @@ PickerDemo makeSpeedDemo(const NoticeHandler& report) {
         return NumberFormat::decimal(shown, 1) + " " + unitBesideWheel(picker);
     });
     demo.options = {
-        {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},
+        unitSystemOption(picker),
     };
     return demo;
 }

@@ -1,6 +1,5 @@
 #include "QuantityPages.h"
 
-#include <array>
 #include <cmath>
 
 #include "NumberFormat.h"
@@ -29,14 +28,8 @@ PickerDemo makeTemperatureDemo(const NoticeHandler& report) {
         return NumberFormat::decimal(static_cast<double>(shown), 0) + " " + unitBesideWheel(picker);
     });
     demo.options = {
-        {"Unit system", {"Metric", "Imperial"}, 0, [picker](std::size_t choice) { picker->setIsMetric(choice == 0); }, {}},
-        {"Step",
-         {"1", "5", "10"},
-         1,
-         [picker](std::size_t choice) {
-             picker->setStepSize(NSNumber::numberWithInt(std::array{1, 5, 10}.at(choice)));
-         },
-         {}},
+        unitSystemOption(picker),
+        stepOption("Step", {1, 5, 10}, 1, [picker](std::int32_t step) { picker->setStepSize(NSNumber::numberWithInt(step)); }),
     };
     return demo;
 }
@@ -149,13 +142,7 @@ PickerDemo makeCaloriesDemo(const NoticeHandler& report) {
         return NumberFormat::decimal(calories.doubleValue(), 0) + " " + unitBesideWheel(picker);
     });
     demo.options = {
-        {"Step",
-         {"10", "50", "100"},
-         0,
-         [picker](std::size_t choice) {
-             picker->setStepSize(NSNumber::numberWithInt(std::array{10, 50, 100}.at(choice)));
-         },
-         {}},
+        stepOption("Step", {10, 50, 100}, 0, [picker](std::int32_t step) { picker->setStepSize(NSNumber::numberWithInt(step)); }),
         {"Range",
          {Translations::filled("Below {0}", "100000"), Translations::filled("Below {0}", "2000")},
          0,
