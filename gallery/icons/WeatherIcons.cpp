@@ -80,12 +80,14 @@ void drawLine(IconCanvas& canvas, unsigned color, CGFloat left, CGFloat right, C
     canvas.fill(SmoothShape::stroke({{left, y}, {right, y}}, strokeWidth), color);
 }
 
-/// A breeze from the left that ends in a curl, upward or downward.
-void drawBreeze(IconCanvas& canvas, unsigned color, CGPoint from, CGFloat right, CGFloat radius, bool isUpward) {
-    const CGFloat side = isUpward ? -1 : 1;
+enum class Curl { Upward, Downward };
+
+/// A breeze from the left that ends in a curl.
+void drawBreeze(IconCanvas& canvas, unsigned color, CGPoint from, CGFloat right, CGFloat radius, Curl curl) {
+    const CGFloat side = curl == Curl::Upward ? -1 : 1;
     std::vector<CGPoint> points = {from};
-    const auto curl = arcPoints({right, from.y + side * radius}, radius, -90 * side, 125 * side);
-    points.insert(points.end(), curl.begin(), curl.end());
+    const auto arc = arcPoints({right, from.y + side * radius}, radius, -90 * side, 125 * side);
+    points.insert(points.end(), arc.begin(), arc.end());
     canvas.fill(SmoothShape::stroke(std::move(points), strokeWidth), color);
 }
 
@@ -148,9 +150,9 @@ void drawSnow(IconCanvas& canvas, const Palette& palette) {
 }
 
 void drawWind(IconCanvas& canvas, const Palette& palette) {
-    drawBreeze(canvas, palette.air, {8, 17.5}, 24, 4.5, true);
-    drawBreeze(canvas, palette.air, {5, 24.5}, 36, 5.5, true);
-    drawBreeze(canvas, palette.air, {12, 31.5}, 28, 4.5, false);
+    drawBreeze(canvas, palette.air, {8, 17.5}, 24, 4.5, Curl::Upward);
+    drawBreeze(canvas, palette.air, {5, 24.5}, 36, 5.5, Curl::Upward);
+    drawBreeze(canvas, palette.air, {12, 31.5}, 28, 4.5, Curl::Downward);
 }
 
 struct Kind {

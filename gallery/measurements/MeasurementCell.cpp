@@ -88,9 +88,9 @@ void MeasurementCell::layoutSubviews() {
     const CGSize size = contentView()->bounds().size;
     const Frames frames = framesForWidth(size.width);
     const CGFloat top = frames.areStacked ? std::max(0.0, 0.5 * (size.height - frames.height)) : 0;
-    const CGFloat higher = frames.areStacked ? 0 : size.height - frames.height;
+    const CGFloat extraHeight = frames.areStacked ? 0 : size.height - frames.height;
     const auto place = [&](const Ref<Paragraph>& text, CGRect frame) {
-        const CGRect moved = CGRectMake(frame.origin.x, frame.origin.y + top, frame.size.width, frame.size.height + higher);
+        const CGRect moved = CGRectMake(frame.origin.x, frame.origin.y + top, frame.size.width, frame.size.height + extraHeight);
         text->setFrame(ReadingDirection::frame(moved, size.width));
     };
     place(name_, frames.name);

@@ -112,15 +112,19 @@ void SettingsScreen::change(const std::function<void(Settings&)>& take) {
 }
 
 void SettingsScreen::makeControls() {
+    const std::string language = Translations::text("Language");
+    title_->setText(Translations::text("Settings"));
+    languageTitle_->setText(language);
+    languageCard_->setAccessibilityLabel(language);
+    makeChoices();
+    makeLanguageButtons();
+    setNeedsLayout();
+}
+
+void SettingsScreen::makeChoices() {
     choicesCard_->removeChoices();
     choiceNames_.clear();
-    for (const Language& language : languages_) language.button->removeFromSuperview();
-    languages_.clear();
-
     const auto text = [](const char* english) { return Translations::text(english); };
-    title_->setText(text("Settings"));
-    languageTitle_->setText(text("Language"));
-    languageCard_->setAccessibilityLabel(text("Language"));
     addChoice("Units", {text("Metric"), text("Imperial")}, settings_.isMetric ? 0 : 1,
               [](Settings& settings, std::size_t choice) { settings.isMetric = choice == 0; });
     addChoice("Weight", {text("Kilograms"), text("Pounds"), text("Stones")}, static_cast<std::size_t>(settings_.weightUnit),
@@ -143,7 +147,11 @@ void SettingsScreen::makeControls() {
         addChoice("Wheel clicks", {text("Off"), text("On")}, *settings_.clicks ? 1 : 0,
                   [](Settings& settings, std::size_t choice) { settings.clicks = choice == 1; });
     }
+}
 
+void SettingsScreen::makeLanguageButtons() {
+    for (const Language& language : languages_) language.button->removeFromSuperview();
+    languages_.clear();
     for (const std::string& identifier : GXLocalization::availableLanguages()) {
         const auto button = Button::buttonWithTitle_style(GXLocalization::nameOfLanguage(identifier), Button::Style::Row);
         button->setChosen(identifier == settings_.language);
@@ -153,7 +161,6 @@ void SettingsScreen::makeControls() {
         languages_.push_back({identifier, button});
         languageCard_->addSubview(button);
     }
-    setNeedsLayout();
 }
 
 void SettingsScreen::addChoice(const std::string& name, std::vector<std::string> choices, std::size_t chosen,

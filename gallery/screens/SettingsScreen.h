@@ -41,6 +41,8 @@ private:
     Frames framesForWidth(gx::CGFloat width) const;
     void offerTextScale();
     void makeControls();
+    void makeChoices();
+    void makeLanguageButtons();
     void addChoice(const std::string& name, std::vector<std::string> choices, std::size_t chosen,
                    std::function<void(Settings&, std::size_t)> take);
     void change(const std::function<void(Settings&)>& take);

@@ -59,8 +59,8 @@ void EntryHeader::setShowsButtons(bool shows) {
     setNeedsLayout();
 }
 
-void EntryHeader::setMessage(const std::string& message, bool isError) {
-    message_->setColor(isError ? Theme::warning() : Theme::secondaryText());
+void EntryHeader::setMessage(const std::string& message, MessageKind kind) {
+    message_->setColor(kind == MessageKind::Error ? Theme::warning() : Theme::secondaryText());
     message_->setText(message);
     setNeedsLayout();
 }

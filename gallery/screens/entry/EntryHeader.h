@@ -14,6 +14,9 @@ namespace gallery {
 /// may be another.
 class EntryHeader : public gx::UIView {
 public:
+    /// What a message says of what the user did last.
+    enum class MessageKind { Success, Error };
+
     bool initWithFrame(gx::CGRect frame) override;
 
     /// Shows its texts in the current language.
@@ -23,7 +26,7 @@ public:
     void setShowsButtons(bool shows);
     /// Empty for none.
     const std::string& message() const { return message_->text(); }
-    void setMessage(const std::string& message, bool isError);
+    void setMessage(const std::string& message, MessageKind kind);
 
     const gx::Ref<Paragraph>& title() const { return title_; }
     const gx::Ref<Button>& openButton() const { return openButton_; }

@@ -194,7 +194,7 @@ void EntryList::finishSpins() {
     pane_->finishAnimationsInTree();
 }
 
-// What the table asks
+// What the table queries
 
 std::optional<std::string> EntryList::tableView_titleForHeaderInSection(const Ref<UITableView>&, NSInteger section) {
     return Translations::text(groups_[static_cast<std::size_t>(section)].heading);

@@ -100,7 +100,8 @@ private:
     std::vector<Texts> texts_;                 // Of each measurement.
     std::vector<gx::Ref<Paragraph>> headings_; // For those of several lines.
     gx::Ref<gx::UITableViewCell> pickerCell_;  // Of the open picker, once it was shown.
-    bool isPickerReady_ = false;               // It shows the workout in the table.
+    // Whether its picker has the values of the workout, and the fonts that fit in the table.
+    bool isPickerReady_ = false;
     bool showsPickerBeside_ = false;
 
     gx::Ref<gx::UITableView> table_;

@@ -48,7 +48,7 @@ void EntryScreen::setSettings(const Settings& settings) {
     const bool isOtherLanguage = settings.language != settings_.language;
     if (!isSame) finishSpins();
     settings_ = settings;
-    if (isOtherLanguage) tell("", false);
+    if (isOtherLanguage) tell("", MessageKind::Success);
     if (!isSame) showTexts();
 }
 
@@ -66,10 +66,11 @@ void EntryScreen::setFiles(std::shared_ptr<UserFiles> files) {
     setNeedsLayout();
 }
 
-void EntryScreen::tell(const std::string& message, bool isError) {
-    header_->setMessage(message, isError);
+void EntryScreen::tell(const std::string& message, MessageKind kind) {
+    header_->setMessage(message, kind);
     using Priority = UIAccessibilityAnnouncement::Priority;
-    if (const Ref<UIWindow> shownIn = window()) shownIn->announce(message, isError ? Priority::Assertive : Priority::Polite);
+    if (const Ref<UIWindow> shownIn = window())
+        shownIn->announce(message, kind == MessageKind::Error ? Priority::Assertive : Priority::Polite);
     setNeedsLayout();
 }
 
@@ -81,8 +82,11 @@ void EntryScreen::save() {
     files->saveText_name(WorkoutFile::textOfWorkout(*workout_), "workout.json", [weak = WeakRef<EntryScreen>(keep)](const auto& outcome) {
         const auto entry = weak.lock();
         if (!entry) return;
-        const bool isError = !outcome.error.empty();
-        entry->tell(isError ? outcome.error : Translations::filled("Saved: {0}", outcome.name), isError);
+        if (outcome.error.empty()) {
+            entry->tell(Translations::filled("Saved: {0}", outcome.name), MessageKind::Success);
+        } else {
+            entry->tell(outcome.error, MessageKind::Error);
+        }
     });
 }
 
@@ -96,11 +100,11 @@ void EntryScreen::open() {
         std::string error = outcome.error;
         const auto workout = error.empty() ? WorkoutFile::workoutOfText(outcome.text, error) : std::nullopt;
         if (!workout) {
-            entry->tell(outcome.name.empty() ? error : Translations::filled("{0}: {1}", outcome.name, error), true);
+            entry->tell(outcome.name.empty() ? error : Translations::filled("{0}: {1}", outcome.name, error), MessageKind::Error);
             return;
         }
         entry->setWorkout(*workout);
-        entry->tell(Translations::filled("Opened: {0}", outcome.name), false);
+        entry->tell(Translations::filled("Opened: {0}", outcome.name), MessageKind::Success);
     });
 }
 

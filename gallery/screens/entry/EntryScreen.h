@@ -72,7 +72,8 @@ public:
 
 private:
     void showTexts();
-    void tell(const std::string& message, bool isError);
+    using MessageKind = EntryHeader::MessageKind;
+    void tell(const std::string& message, MessageKind kind);
 
     std::shared_ptr<Workout> workout_ = std::make_shared<Workout>();
     Settings settings_;
