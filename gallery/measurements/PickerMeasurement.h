@@ -39,8 +39,8 @@ public:
         return made;
     }
 
-    /// Asks the open picker. Before there is one, a picker that lives no longer than the call has
-    /// the same text.
+    /// The open picker's text. Before there is one, a picker that lives no longer than the call has
+    /// the same.
     std::string valueText() override {
         if (picker_) return picker_->currentValueText();
         const gx::Ref<Picker> picker = gx::create<Picker>(gx::CGRectZero);

@@ -32,6 +32,15 @@ bool MainScreen::initWithFrame(CGRect frame) {
     sidebar_ = Sidebar::sidebarWithPages_show(names_, [weak](std::size_t page) {
         if (const auto screen = weak.lock()) screen->showPage(page);
     });
+    makeBar();
+    // In the order of Tab: the bar above the page, the page, and then the list of the other pages.
+    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{bar_, entry_, scroll_, sidebar_}) addSubview(view);
+    showPage(entryPage);
+    return true;
+}
+
+void MainScreen::makeBar() {
+    const WeakRef<MainScreen> weak = refTo(this);
     bar_ = create<UIView>(CGRectZero);
     bar_->setBackgroundColor(Theme::sidebar());
     barTitle_ = Paragraph::paragraphWithStyle_color(Theme::TextStyle::Heading, Theme::text());
@@ -54,10 +63,6 @@ bool MainScreen::initWithFrame(CGRect frame) {
         return Translations::text(screen && screen->style() == UIUserInterfaceStyle::Dark ? "Dark" : "Light");
     });
     for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{barTitle_, menuButton_, styleButton_}) bar_->addSubview(view);
-    // In the order of Tab: the bar above the page, the page, and then the list of the other pages.
-    for (const Ref<UIView>& view : std::initializer_list<Ref<UIView>>{bar_, entry_, scroll_, sidebar_}) addSubview(view);
-    showPage(entryPage);
-    return true;
 }
 
 // Pages

@@ -78,6 +78,7 @@ private:
     static gx::CGFloat sidebarWidthInWidth(gx::CGFloat width);
     bool showsPickerBeside() const;
     gx::Ref<gx::UIView> contentOfPage(std::size_t index);
+    void makeBar();
     void showTitles();
     void takeFocusFromMenu();
     /// Shows for a moment that a page that has come into sight is longer than the window.

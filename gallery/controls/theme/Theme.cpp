@@ -57,6 +57,7 @@ Ref<UIFont> Theme::font(TextStyle style) {
         double scale = 0;
         Ref<UIFont> scaledFont = nullptr;
     };
+    // In the order of `TextStyle`.
     static std::array<Font, 7> fonts = {{{28, UIFontWeight::Bold},
                                          {17, UIFontWeight::Semibold},
                                          {bodySize, UIFontWeight::Regular},
