@@ -14,6 +14,7 @@ import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { promisify, TextDecoder } from 'node:util';
 import { gzipSync } from 'node:zlib';
+import { shortNames } from './names.mjs';
 import { kindOf, manifestOfOne, optionsOfOne, scriptOfOne, withKindsAsNumbers } from './only.mjs';
 import { ordered } from './order.mjs';
 import { readSizesOfOne, table, tableOfOne } from './sizes.mjs';
@@ -35,11 +36,12 @@ const wasm = path.join(folder, 'gxuipickers.wasm');
 // - Functions stay functions: what is inlined is less like its neighbours, and so larger packed.
 // - Equal ends of branches stay, which pack well.
 // - Zeros stay in the data: a segment for each stretch between them is larger packed.
+// - What is computed twice stays too: a variable for it is larger packed.
 const optimisations = [
     ['-Oz', '--converge'],
     ['--ignore-implicit-traps', '--low-memory-unused'],
     ['--one-caller-inline-max-function-size', '0'],
-    ['--skip-pass=memory-packing', '--skip-pass=code-folding'],
+    ['memory-packing', 'code-folding', 'local-cse'].map((name) => `--skip-pass=${name}`),
     features.map((name) => `--enable-${name}`),
 ].flat();
 execFileSync(path.join(here, 'node_modules/.bin/wasm-opt'), [...optimisations, path.join(source, 'gxuipickers.wasm'), '-o', wasm], {
@@ -112,6 +114,8 @@ const generated = {
     },
 };
 
+const names = shortNames(path.join(here, 'script'), readFileSync(wasm));
+
 // Chromium then compiles functions as it reads them, and not one by one when they are first called.
 const hint = '//# allFunctionsCalledOnLoad';
 
@@ -125,6 +129,8 @@ const bundle = (entry, outfile) =>
         format: 'esm',
         target: 'es2022',
         minify: true,
+        mangleProps: new RegExp(`^(?:${Object.keys(names).join('|')})$`),
+        mangleCache: { ...names },
         sourcemap: true,
         charset: 'utf8',
         legalComments: 'none',
@@ -147,9 +153,9 @@ if (onlyElement) {
 }
 for (const name of ['package/package.json', '../../LICENSE']) copyFileSync(path.join(here, name), path.join(folder, path.basename(name)));
 
-const names = ['gxuipickers.js', 'asset.js', 'gxuipickers.wasm', ...files.values()];
+const sent = ['gxuipickers.js', 'asset.js', 'gxuipickers.wasm', ...files.values()];
 const sizes = Object.fromEntries(
-    names.map((name) => {
+    sent.map((name) => {
         const bytes = readFileSync(path.join(folder, name));
         return [name, { bytes: bytes.length, gzip: gzipSync(bytes, { level: 9 }).length }];
     }),

@@ -12,6 +12,7 @@
 #include <version>
 
 #include "WebHeap.h"
+#include "WebMath.h"
 #include "WebMathTables.h"
 #include "WebPage.h"
 
@@ -97,10 +98,18 @@ std::string textOfInt(int number) { return textOfLong(number); }
 
 extern "C" {
 
-// Sine and cosine of angles beyond a million, which rows of a wheel never have: the height of an
-// element is a whole number of pixels, and a row is less than a million times as high.
+// For sine and cosine, whose names for it these are.
 
-int __rem_pio2_large(double*, double*, int, int, int) { __builtin_trap(); }
+int __rem_pio2(double angle, double* rest) {
+    const auto reduced = gx::web::WebMath::reducedAngle(angle);
+    rest[0] = reduced.rest[0];
+    rest[1] = reduced.rest[1];
+    return reduced.quarters;
+}
+
+double hypot(double x, double y) { return gx::web::WebMath::hypot(x, y); }
+double atan2(double y, double x) { return gx::web::WebMath::atan2(y, x); }
+double round(double number) { return gx::web::WebMath::round(number); }
 
 // The C library's own are loops; there is an instruction for each.
 
