@@ -104,6 +104,32 @@ test('a notch of the mouse wheel is a row, and the page stands still, also at th
     await close();
 });
 
+test('a wheel that counts in lines or pages turns rows, and sideways it is the page’s', async () => {
+    const { page, place, value, close } = await opened();
+    const roll = (deltaMode, deltaX, deltaY) =>
+        page.evaluate(
+            (how) => {
+                const event = new WheelEvent('wheel', { ...how, bubbles: true, cancelable: true, composed: true });
+                document.querySelector('gx-distance-picker').shadowRoot.querySelector('.column').dispatchEvent(event);
+                return event.defaultPrevented;
+            },
+            { deltaMode, deltaX, deltaY, clientX: place.x, clientY: place.y },
+        );
+    const [lines, pages] = [1, 2];
+    assert.equal(await roll(lines, 0, 6), true);
+    await untilStill(page, asked);
+    assert.equal(await value(), 7000);
+    assert.equal(await roll(pages, 0, 2), true);
+    await untilStill(page, asked);
+    assert.equal(await value(), 9000);
+    // More sideways than down, in either unit.
+    assert.equal(await roll(lines, 4, 3), false);
+    assert.equal(await roll(pages, 2, 1), false);
+    await untilStill(page, asked);
+    assert.equal(await value(), 9000);
+    await close();
+});
+
 test('beside the columns the page scrolls, by wheel and by finger', async () => {
     const { page, value, close } = await opened(`${distance}<div style="height:3000px"></div>`);
     await page.mouse.move(30, 100);

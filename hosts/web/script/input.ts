@@ -145,10 +145,10 @@ export class Input {
         const isWheel = isInLines || (event.deltaX === 0 && units !== undefined && units !== 0 && units % unitsOfNotch === 0);
         let isTaken: boolean;
         if (isWheel) {
-            const notches = isInLines
-                ? event.deltaY / (event.deltaMode === WheelEvent.DOM_DELTA_LINE ? linesOfNotch : 1)
-                : -(units ?? 0) / unitsOfNotch;
-            isTaken = this.target.scroll(true, isInLines ? event.deltaX / linesOfNotch : 0, notches, x, y, time, false);
+            // In lines or pages; a page is a notch.
+            const ofNotch = event.deltaMode === WheelEvent.DOM_DELTA_LINE ? linesOfNotch : 1;
+            const notches = isInLines ? event.deltaY / ofNotch : -(units ?? 0) / unitsOfNotch;
+            isTaken = this.target.scroll(true, isInLines ? event.deltaX / ofNotch : 0, notches, x, y, time, false);
         } else {
             isTaken = this.target.scroll(false, event.deltaX, event.deltaY, x, y, time, false);
             if (isTaken) this.awaitStrokeEnd(x, y);
