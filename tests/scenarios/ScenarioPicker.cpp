@@ -59,17 +59,16 @@ public:
     explicit ScenarioPickerMaker(ScenarioPicker& made) : made_(made) {}
 
     template <class Picker>
-    const Ref<Picker>& whole(const Ref<Picker>& picker) {
-        made_.view_ = picker;
-        made_.text_ = [&view = *picker] { return view.currentValueText(); };
-        made_.reload_ = [&view = *picker] { view.reloadData(); };
+    Ref<Picker> base() {
+        const auto picker = create<Picker>(CGRectZero);
+        whole(*picker);
         return picker;
     }
-    template <class Picker>
-    Ref<Picker> base() {
-        const Ref<Picker> picker = whole(create<Picker>(CGRectZero));
-        picker->setDelegate(Ref<GXBasePickerViewDelegate>(refTo(&made_)));
-        return picker;
+    void whole(GXBasePickerView& picker) {
+        made_.view_ = refTo<UIView>(&picker);
+        made_.text_ = [&picker] { return picker.currentValueText(); };
+        made_.reload_ = [&picker] { picker.reloadData(); };
+        picker.setDelegate(Ref<GXBasePickerViewDelegate>(refTo(&made_)));
     }
     void option(const std::string& name, std::function<void(const Json&)> setter, GXBasePickerView& picker) {
         made_.setters_[name] = [setter = std::move(setter), &picker](const Json& value) {
@@ -92,17 +91,17 @@ public:
         made_.values_.emplace_back(name, [&picker] { return Json(picker.currentValue().doubleValue()); });
     }
     /// The unit is metric unless a scenario says otherwise.
-    template <class Picker>
-    void unit(Picker& picker) {
-        unitOfInner(picker, picker);
-    }
+    void unit(GXBasePickerView& picker) { unitOfInner(picker, picker); }
     /// The unit of the whole, after which an inner picker selects its value again.
-    template <class Picker>
-    void unitOfInner(Picker& picker, GXBasePickerView& inner) {
+    void unitOfInner(GXBasePickerView& picker, GXBasePickerView& inner) {
         option(
             "unit", [&](const Json& value) { picker.setIsMetric(isMetric(value)); }, inner);
         made_.values_.emplace_back("unit", [&inner] { return nameOfUnit(inner.isMetric()); });
         made_.set("unit", "metric");
+    }
+    void rangeAndValue(GXBasePickerView& picker) {
+        range(picker);
+        value(picker);
     }
     void fraction(GXDistancePickerView& picker) {
         option(
@@ -171,8 +170,11 @@ void ScenarioPickerMaker::heartRate() {
 }
 
 void ScenarioPickerMaker::height() {
-    const Ref<GXHeightPickerView> made = whole(create<GXHeightPickerView>(CGRectZero));
+    const auto made = create<GXHeightPickerView>(CGRectZero);
     GXHeightPickerView& picker = *made;
+    made_.view_ = made;
+    made_.text_ = [&picker] { return picker.currentValueText(); };
+    made_.reload_ = [&picker] { picker.reloadData(); };
     picker.setHeightDelegate(Ref<GXHeightPickerViewDelegate>(refTo(&made_)));
     made_.setters_["unit"] = [&](const Json& unit) { picker.setIsMetric(isMetric(unit)); };
     made_.setters_["value"] = [&](const Json& value) { picker.setHeightInCm(value.get<double>()); };
@@ -253,51 +255,49 @@ void ScenarioPickerMaker::wheel(const Json& options) {
     };
 }
 
-Ref<ScenarioPicker> ScenarioPicker::pickerOfKind(const std::string& kind, const Json& options) {
-    const auto made = create<ScenarioPicker>();
-    ScenarioPickerMaker maker(*made);
-    const auto single = [&maker](GXBasePickerView& picker) {
-        maker.range(picker);
-        maker.value(picker);
-    };
-    const std::map<std::string, std::function<void()>> kinds = {
+namespace {
+
+using Fill = void (*)(ScenarioPickerMaker&, const Json& options);
+
+std::map<std::string, Fill> kinds() {
+    return {
         {"number",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXBasePickerView>();
              maker.step(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
         {"bpm",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXBpmPickerView>();
              maker.step(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
         {"calories",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXCaloriesPickerView>();
              maker.step(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
         {"distance",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXDistancePickerView>();
              maker.fraction(*picker);
              maker.unit(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
-        {"distance-and-duration", [&] { maker.distanceAndDuration(); }},
+        {"distance-and-duration", [](ScenarioPickerMaker& maker, const Json&) { maker.distanceAndDuration(); }},
         {"duration",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXDurationPickerView>();
              maker.duration(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
-        {"heart-rate", [&] { maker.heartRate(); }},
-        {"height", [&] { maker.height(); }},
-        {"icon", [&] { maker.icon(options); }},
+        {"heart-rate", [](ScenarioPickerMaker& maker, const Json&) { maker.heartRate(); }},
+        {"height", [](ScenarioPickerMaker& maker, const Json&) { maker.height(); }},
+        {"icon", [](ScenarioPickerMaker& maker, const Json& options) { maker.icon(options); }},
         {"pace",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXPacePickerView>();
              GXPacePickerView& pace = *picker;
              maker.option(
@@ -305,26 +305,33 @@ Ref<ScenarioPicker> ScenarioPicker::pickerOfKind(const std::string& kind, const 
              maker.option(
                  "seconds-step", [&pace](const Json& value) { pace.setSecondsStepSize(narrow(value)); }, pace);
              maker.unit(pace);
-             single(pace);
+             maker.rangeAndValue(pace);
          }},
         {"speed",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXSpeedPickerView>();
              maker.unit(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
         {"temperature",
-         [&] {
+         [](ScenarioPickerMaker& maker, const Json&) {
              const auto picker = maker.base<GXTemperaturePickerView>();
              maker.step(*picker);
              maker.unit(*picker);
-             single(*picker);
+             maker.rangeAndValue(*picker);
          }},
-        {"weather-and-temperature", [&] { maker.weatherAndTemperature(options); }},
-        {"weight", [&] { maker.weight(); }},
-        {"wheel", [&] { maker.wheel(options); }},
+        {"weather-and-temperature", [](ScenarioPickerMaker& maker, const Json& options) { maker.weatherAndTemperature(options); }},
+        {"weight", [](ScenarioPickerMaker& maker, const Json&) { maker.weight(); }},
+        {"wheel", [](ScenarioPickerMaker& maker, const Json& options) { maker.wheel(options); }},
     };
-    kinds.at(kind)();
+}
+
+} // namespace
+
+Ref<ScenarioPicker> ScenarioPicker::pickerOfKind(const std::string& kind, const Json& options) {
+    const auto made = create<ScenarioPicker>();
+    ScenarioPickerMaker maker(*made);
+    kinds().at(kind)(maker, options);
     for (const auto& [name, value] : options.items()) {
         if (name != "icons" && name != "columns") made->set(name, value);
     }
