@@ -21,11 +21,20 @@ public:
     NSInteger columnCount() const { return static_cast<NSInteger>(columns_.size()); }
     /// Replaces all columns. Counts are clamped to what a double counts.
     void setRowCounts(const std::vector<double>& counts);
+
+    // Setters are no-ops for a column that does not exist.
+
+    /// In points; a width that is not above 0 leaves it to the wheel, as is the default.
     void setWidth_ofColumn(double width, NSInteger column);
+    /// What a screen reader calls the column; empty, the default, for the wheel's own label.
     void setLabel_ofColumn(std::string label, NSInteger column);
+    /// The selected row: 0 in a column without rows, −1 for a column that does not exist.
     double rowOfColumn(NSInteger column) const;
+    /// Selects a row without animation and without a call of `didChange`. A fraction is cut off and
+    /// NaN is 0. A row beyond the last one is remembered, and shows the last one.
     void setRow_ofColumn(double row, NSInteger column);
-    /// The row in the selection indicator.
+    /// The row in the selection indicator, also while the column spins; −1 for a column that does
+    /// not exist.
     double shownRowOfColumn(NSInteger column) const;
 
     Ref<UIView> view() const override { return wheel_; }

@@ -20,10 +20,16 @@ namespace gx::elements {
 /// the properties that its `get` returns something for.
 class PropertyPicker : public NSObject, public GXBasePickerViewDelegate, public GXHeightPickerViewDelegate {
 public:
+    /// The picker; never empty.
     virtual Ref<UIView> view() const = 0;
+    /// Its wheels from the left; a composite has two.
     virtual std::vector<Ref<UIPickerView>> wheels() const = 0;
+    /// Values in the picker's base unit, flags as 0 and 1; nothing for a property that it does not
+    /// have.
     virtual std::optional<double> get(PickerProperty property) const = 0;
-    /// Returns whether the picker has the property.
+    /// Returns whether the picker has the property. Any number may come: where the picker takes an
+    /// integer, fractions are cut off, NaN is 0, and what is too large the largest. `didChange` is
+    /// not called.
     virtual bool set(PickerProperty property, double value) = 0;
     // A picker that shows icons keeps them. NOLINTBEGIN(performance-unnecessary-value-param)
     /// What an icon picker shows; ignored by all others.
