@@ -125,7 +125,8 @@ std::optional<CommandLineArguments> CommandLineArguments::parse(const std::vecto
         }
         const std::string& value = arguments[++i];
         if (!option->read(value, parsed)) {
-            error = name + " is " + std::string(option->rule) + ", and not " + value;
+            error = name + " is ";
+            error.append(option->rule).append(", and not ").append(value);
             return std::nullopt;
         }
     }
