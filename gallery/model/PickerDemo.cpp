@@ -51,6 +51,7 @@ DemoOption unitSystemOption(const Ref<GXBasePickerView>& picker) {
 DemoOption stepOption(std::string title, const std::vector<std::int32_t>& steps, std::size_t chosen,
                       std::function<void(std::int32_t step)> setStep) {
     std::vector<std::string> choices;
+    choices.reserve(steps.size());
     for (const std::int32_t step : steps) choices.push_back(std::to_string(step));
     return {std::move(title),
             std::move(choices),
