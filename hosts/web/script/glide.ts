@@ -12,11 +12,11 @@ const mostDistance = 14;
  * In pixels: how far a row may leave its curve where its speed changes, after which frames lie less
  * far apart. Chosen: unseen.
  */
-const mostError = 0.2;
+const mostError = 0.3;
 /** In seconds, from frame to frame. Chosen: twice as many as most screens show. */
 const leastStep = 1 / 120;
-/** In seconds, from frame to frame. Chosen: rows that turn round do so within a pixel. */
-const mostStep = 1 / 15;
+/** In seconds, from frame to frame. Chosen: the last rows then leave their curves by 0.2 pixels. */
+const mostStep = 1 / 7;
 /** In seconds. Chosen: how late a row that passes is reported, at most. */
 const mostTick = 1 / 30;
 /** In seconds, to the second frame, which tells how fast rows are. Chosen: they hardly move. */
@@ -39,6 +39,8 @@ interface Ahead {
     readonly tracks: readonly Track[];
     readonly times: readonly number[];
     readonly wakes: readonly number[];
+    /** Nothing moves after the last frame. */
+    readonly isWhole: boolean;
 }
 
 const isSame = (one: Place, other: Place): boolean =>
@@ -103,9 +105,9 @@ export class Glide {
             this.wait(ahead.wakes, wake);
         } else {
             this.reels.stop();
-            // It stays so until something happens.
-            if (isWanted) this.heldUntil = Infinity;
         }
+        // What is to come stays known until something happens.
+        if (isWanted && (!this.isActive || ahead!.isWhole)) this.heldUntil = Infinity;
         return this.isActive;
     }
 
@@ -184,7 +186,7 @@ export class Glide {
         this.isAhead = false;
         if (!isClear) return undefined;
         const end = isOver || times.length <= reserve ? times.at(-1)! : times[times.length - reserve]!;
-        return { tracks, times, wakes: [...wakes.filter((row) => row < end), end] };
+        return { tracks, times, wakes: [...wakes.filter((row) => row < end), end], isWhole: isOver };
     }
 
     private wait(times: readonly number[], wake: (draws: boolean) => void, next = 0): void {
@@ -197,7 +199,7 @@ export class Glide {
                 // Unless something has happened meanwhile.
                 if (!isLast && this.timer === timer) this.wait(times, wake, next + 1);
             },
-            Math.max(rest, 0),
+            Math.max(Math.ceil(rest), 0),
         );
     }
 }
