@@ -16,9 +16,9 @@ struct UIPickerColumnNumbers : testing::Test {
     TestWindow window{wheel};
 
     Ref<UIAccessibilityElement> element(std::size_t index = 0) { return wheel->accessibilityElements().at(index); }
-    void show(NSInteger count, std::function<std::string(NSInteger row)> title, NSInteger row) {
+    void show(NSInteger count, std::string (*title)(NSInteger row), NSInteger row) {
         source->rows = {count};
-        source->title = [title = std::move(title)](NSInteger shown, NSInteger) { return title(shown); };
+        source->title = [title](NSInteger shown, NSInteger) { return title(shown); };
         wheel->reloadAllComponents();
         wheel->selectRow_inComponent_animated(row, 0, false);
         window.tick(TestWindow::frame);
@@ -82,7 +82,7 @@ TEST_F(UIPickerColumnNumbers, ADashInFrontCountsAsOneStepBefore) {
     EXPECT_EQ(rowAfterSetting(22.4), 0);
     EXPECT_EQ(rowAfterSetting(22.6), 1);
     show(
-        2, [](NSInteger row) { return row == 0 ? "–" : "5"; }, 1);
+        2, [](NSInteger row) -> std::string { return row == 0 ? "–" : "5"; }, 1);
     expectNumbers(5, 4, 5, 1);
 }
 
@@ -97,16 +97,16 @@ TEST_F(UIPickerColumnNumbers, MayDescend) {
 }
 
 TEST_F(UIPickerColumnNumbers, WithoutNumbersInOrderTheyAreTheIndex) {
-    const std::vector<std::string> units = {"km", "mi", "m"};
     show(
-        3, [&units](NSInteger row) { return units.at(static_cast<std::size_t>(row)); }, 1);
+        3, [](NSInteger row) -> std::string { return row == 0   ? "km"
+                                                     : row == 1 ? "mi"
+                                                                : "m"; }, 1);
     expectNumbers(1, 0, 2, 1);
     EXPECT_EQ(rowAfterSetting(1.6), 2);
     EXPECT_EQ(rowAfterSetting(-5), 0);
     EXPECT_EQ(rowAfterSetting(std::numeric_limits<double>::quiet_NaN()), 0);
-    const std::vector<std::string> mixed = {"3", "x", "9", "5"};
     show(
-        4, [&mixed](NSInteger row) { return mixed.at(static_cast<std::size_t>(row)); }, 1);
+        4, [](NSInteger row) { return std::string(1, "3x95"[row]); }, 1);
     expectNumbers(1, 0, 3, 1);
     wheel->selectRow_inComponent_animated(2, 0, false);
     expectNumbers(2, 0, 3, 1);

@@ -13,19 +13,20 @@ using Result = UIPickerTitleSearch::Result;
 
 /// Titles from a list or by a rule, counting how many are asked for.
 struct Search {
+    using Rule = std::string (*)(NSInteger row);
+
     NSInteger count = 0;
-    std::function<std::optional<std::string>(NSInteger)> title;
+    std::vector<std::string> titles;
+    Rule rule = nullptr;
     int questions = 0;
 
-    Search(NSInteger rows, std::function<std::optional<std::string>(NSInteger)> rule) : count(rows), title(std::move(rule)) {}
-    explicit Search(std::vector<std::string> titles)
-        : count(static_cast<NSInteger>(titles.size())),
-          title([titles](NSInteger row) { return titles.at(static_cast<std::size_t>(row)); }) {}
+    Search(NSInteger rows, Rule titleOfRow) : count(rows), rule(titleOfRow) {}
+    explicit Search(const std::vector<std::string>& list) : count(static_cast<NSInteger>(list.size())), titles(list) {}
 
     Result operator()(const std::string& text) {
         return UIPickerTitleSearch::resultOfText_amongRows(text, count, [this](NSInteger row) {
             ++questions;
-            return title(row);
+            return rule ? rule(row) : titles.at(static_cast<std::size_t>(row));
         });
     }
 };
@@ -153,10 +154,12 @@ TEST(UIPickerTitleSearch, NumbersInNoOrderAreLookedForInTheFirstRows) {
 }
 
 TEST(UIPickerTitleSearch, NothingIsFoundWithoutATextTitlesOrRows) {
-    Search search(3, [](NSInteger) { return std::nullopt; });
-    EXPECT_EQ(search("1"), (Result{}));
-    EXPECT_EQ(search("-"), (Result{}));
-    EXPECT_EQ(search(""), (Result{}));
+    const auto searchWithoutTitles = [](const std::string& text) {
+        return UIPickerTitleSearch::resultOfText_amongRows(text, 3, [](NSInteger) { return std::nullopt; });
+    };
+    EXPECT_EQ(searchWithoutTitles("1"), (Result{}));
+    EXPECT_EQ(searchWithoutTitles("-"), (Result{}));
+    EXPECT_EQ(searchWithoutTitles(""), (Result{}));
     Search empty(std::vector<std::string>{});
     EXPECT_EQ(empty("1"), (Result{}));
     EXPECT_EQ(empty.questions, 0);

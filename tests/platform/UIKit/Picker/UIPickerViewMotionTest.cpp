@@ -72,7 +72,7 @@ std::vector<WheelStage::Frame> play(const Script& script, int framesPerSecond) {
 
 /// Where a wheel of 100000 rows lands that stood on row 500, all from a fling of 30 rows a second
 /// on.
-double landingAfterFling(const std::function<void(WheelStage&)>& write) {
+double landingAfterFling(void (*write)(WheelStage&)) {
     WheelStage stage(100000, 500);
     flingOf30Rows(stage);
     write(stage);

@@ -3,7 +3,6 @@
 
 #include "UIView.h"
 
-#include <functional>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -32,7 +31,8 @@ struct UIViewTest : testing::Test {
         window->tick(now);
     }
     /// Whether the change makes the window ask for a frame.
-    bool repaints(const std::function<void()>& change) {
+    template <class Change>
+    bool repaints(const Change& change) {
         while (window->tick(++now)) {
         }
         change();
