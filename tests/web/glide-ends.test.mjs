@@ -1,4 +1,4 @@
-// What happens to an element while the page's compositor shows its spin: its rows are its own again.
+// What happens to an element while the page's compositor shows its spin.
 import { test } from 'node:test';
 import assert from 'node:assert/strict';
 import { openGliding, openWheel, provide } from './spins.mjs';

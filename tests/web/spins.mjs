@@ -55,7 +55,7 @@ export function provide() {
             rows(element)
                 .filter((node) => node.style.visibility !== 'hidden')
                 .map((node) => node.getBoundingClientRect()),
-        /** A finger's event on a column, so far above its middle; at this time of the page if given. */
+        /** A finger's event on a column, so far above its middle; at this time if given. */
         point(element, type, { pointerId = 7, offset = 0, column = 0, time } = {}) {
             const node = element.shadowRoot.querySelectorAll('.column')[column];
             const box = node.getBoundingClientRect();
