@@ -176,15 +176,16 @@ TEST_F(DistanceAndDuration, AnInnerPickerMayTakeBothAwayWhileItIsToldSomething) 
 }
 
 TEST_F(DistanceAndDuration, AnInnerPickerMayDropItWhileItIsToldSomething) {
-    for (const auto& act : std::vector<std::function<void(GXBasePickerView&)>>{[](GXBasePickerView& view) { view.setFrame(lying); },
-                                                                               [](GXBasePickerView& view) { view.setDelegate({}); },
-                                                                               [](GXBasePickerView& view) { view.setIsMetric(true); }}) {
+    using Call = void (*)(GXBasePickerView&);
+    const Call calls[] = {[](GXBasePickerView& view) { view.setFrame(lying); }, [](GXBasePickerView& view) { view.setDelegate({}); },
+                          [](GXBasePickerView& view) { view.setIsMetric(true); }};
+    for (const Call call : calls) {
         picker = create<GXDistanceAndDurationPicker>(upright);
         const WeakRef<GXBasePickerView> weak = picker;
         const auto meddler = create<MeddlingPicker<GXDistancePickerView>>(upright);
         picker->setDistancePicker(meddler);
         meddler->whenTold = [&] { picker = nullptr; };
-        act(*picker);
+        call(*picker);
         EXPECT_TRUE(weak.expired());
     }
 }

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "GXLocalization.h"
+#include "KeysAndComments.h"
 #include "PickerTest.h"
 
 using namespace gx;
@@ -94,21 +95,16 @@ TEST_F(DurationPicker, ALayoutPutsItsNameAndSeparatorsOnTheWheelThenReloadsAndSe
 }
 
 TEST_F(DurationPicker, TheNamesAreTheLocalisers) {
-    struct Words : GXLocalization {
-        std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const override {
-            return "<" + key + "|" + comment + ">";
-        }
-    };
-    GXLocalization::setSharedLocalization(create<Words>());
+    GXLocalization::setSharedLocalization(create<KeysAndComments>());
     picker->setType(1);
     const auto withSeconds = wheel().rightLabelText();
     picker->setType(2);
     const auto withoutHours = wheel().rightLabelText();
     picker->setType(0);
     GXLocalization::setSharedLocalization(nullptr);
-    EXPECT_EQ(withSeconds, "<hh:mm:ss|hh:mm:ss>");
-    EXPECT_EQ(withoutHours, "<mm:ss|mm:ss>");
-    EXPECT_EQ(wheel().rightLabelText(), "<hh:mm|hh:mm>");
+    EXPECT_EQ(withSeconds, "hh:mm:ss|hh:mm:ss");
+    EXPECT_EQ(withoutHours, "mm:ss|mm:ss");
+    EXPECT_EQ(wheel().rightLabelText(), "hh:mm|hh:mm");
 }
 
 TEST_F(SecondsPicker, WithSecondsThereAreFiveColumns) {

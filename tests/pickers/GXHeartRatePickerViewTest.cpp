@@ -1,6 +1,7 @@
 #include "GXHeartRatePickerView.h"
 
 #include "GXLocalization.h"
+#include "KeysAndComments.h"
 #include "PickerTest.h"
 
 using namespace gx;
@@ -72,12 +73,7 @@ TEST_F(HeartRatePicker, TheOtherInitialisersSetItUpAlike) {
 }
 
 TEST(HeartRatePickerLabels, TheyAreLocalised) {
-    struct Noted : GXLocalization {
-        std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const override {
-            return key + "|" + comment;
-        }
-    };
-    GXLocalization::setSharedLocalization(create<Noted>());
+    GXLocalization::setSharedLocalization(create<KeysAndComments>());
     const auto picker = create<GXHeartRatePickerView>(CGRectMake(0, 0, 320, 216));
     GXLocalization::setSharedLocalization(nullptr);
     EXPECT_EQ(picker->pickerView()->leftLabelText(), "AVG|AVG - Heartrate Unit");

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "GXLocalization.h"
+#include "KeysAndComments.h"
 #include "PickerTest.h"
 
 using namespace gx;
@@ -97,12 +98,7 @@ TEST_F(PacePicker, TheUnitSystemNamesTheUnitReloadsAndSelectsButConvertsNoValue)
 }
 
 TEST_F(PacePicker, TheUnitIsTheLocalisers) {
-    struct Words : GXLocalization {
-        std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const override {
-            return key + "|" + comment;
-        }
-    };
-    GXLocalization::setSharedLocalization(create<Words>());
+    GXLocalization::setSharedLocalization(create<KeysAndComments>());
     EXPECT_EQ(callsOf([&] { picker->updatePaceUnitLabel(); }), Calls{"right min/mi|unit min/mi (minutes per mile)"});
     const Calls metric = callsOf([&] { picker->setIsMetric(true); });
     GXLocalization::setSharedLocalization(nullptr);

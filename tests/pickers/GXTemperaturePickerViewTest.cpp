@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "GXLocalization.h"
+#include "KeysAndComments.h"
 #include "PickerTest.h"
 #include "TestWindow.h"
 
@@ -62,12 +63,7 @@ TEST_F(TemperaturePicker, TheOtherInitialisersSetItUpAlike) {
 }
 
 TEST(TemperaturePickerLabel, ItIsLocalised) {
-    struct Noted : GXLocalization {
-        std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const override {
-            return key + "|" + comment;
-        }
-    };
-    GXLocalization::setSharedLocalization(create<Noted>());
+    GXLocalization::setSharedLocalization(create<KeysAndComments>());
     const auto picker = create<GXTemperaturePickerView>(CGRectMake(0, 0, 320, 216));
     EXPECT_EQ(picker->pickerView()->rightLabelText(), "°F|°F");
     picker->setIsMetric(true);

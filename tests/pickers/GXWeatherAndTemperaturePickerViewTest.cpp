@@ -234,15 +234,16 @@ TEST_F(WeatherAndTemperature, AnInnerPickerMayTakeBothAwayWhileItIsToldSomething
 }
 
 TEST_F(WeatherAndTemperature, AnInnerPickerMayDropItWhileItIsToldSomething) {
-    for (const auto& act : std::vector<std::function<void(GXBasePickerView&)>>{[](GXBasePickerView& view) { view.setFrame(lying); },
-                                                                               [](GXBasePickerView& view) { view.setDelegate({}); },
-                                                                               [](GXBasePickerView& view) { view.setIsMetric(true); }}) {
+    using Call = void (*)(GXBasePickerView&);
+    const Call calls[] = {[](GXBasePickerView& view) { view.setFrame(lying); }, [](GXBasePickerView& view) { view.setDelegate({}); },
+                          [](GXBasePickerView& view) { view.setIsMetric(true); }};
+    for (const Call call : calls) {
         picker = create<GXWeatherAndTemperaturePickerView>(upright);
         const WeakRef<GXBasePickerView> weak = picker;
         const auto meddler = create<MeddlingPicker<GXIconPickerView>>(upright);
         picker->setWeatherPicker(meddler);
         meddler->whenTold = [&] { picker = nullptr; };
-        act(*picker);
+        call(*picker);
         EXPECT_TRUE(weak.expired());
     }
 }

@@ -1,6 +1,7 @@
 #include "GXWeightPickerView.h"
 
 #include "GXLocalization.h"
+#include "KeysAndComments.h"
 #include "NSLocale.h"
 #include "PickerTest.h"
 
@@ -70,15 +71,10 @@ TEST(WeightPickerLocale, TheSeparatorIsTheLocalesOfTheMomentItIsMade) {
 }
 
 TEST(WeightPickerLabels, TheyAreLocalised) {
-    struct Noted : GXLocalization {
-        std::optional<std::string> localizedStringWithKey_comment(const std::string& key, const std::string& comment) const override {
-            return key + "|" + comment;
-        }
-    };
     struct Silent : GXLocalization {
         std::optional<std::string> localizedStringWithKey_comment(const std::string&, const std::string&) const override { return {}; }
     };
-    GXLocalization::setSharedLocalization(create<Noted>());
+    GXLocalization::setSharedLocalization(create<KeysAndComments>());
     const auto picker = create<GXWeightPickerView>(CGRectMake(0, 0, 320, 216));
     EXPECT_EQ(picker->pickerView()->rightLabelText(), "kg|unit kg (kilogram)");
     picker->setWeightUnit(GXWeightUnitPound);
