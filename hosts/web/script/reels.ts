@@ -56,7 +56,7 @@ function placeBeyond({ first, places }: Track, times: readonly number[], frame: 
  *
  * - Each animation costs time in each frame, also while its row is out of sight. So rows that pass
  *   one after the other hang in one element, a reel, too far apart to be in sight together. It
- *   jumps to the next row while it is transparent. A usual fling takes 7 reels for 22 rows.
+ *   jumps to the next row while it is transparent. A usual fling takes 6 reels for 22 rows.
  * - Rows in a reel are laid out, not moved, so that the page paints them as one layer. Several
  *   layers would be drawn into a picture first, since the reel is transparent as a whole.
  */
