@@ -6,6 +6,7 @@ option(GX_GALLERY_CLICKS "Let the gallery's wheels click, where Qt Multimedia is
 option(GX_BUILD_WEB "Build the browser's host (with the preset web, its WebAssembly module)" OFF)
 set(GX_WEB_PICKER "" CACHE STRING "The only kind of picker in the browser's module, such as Distance; all without it")
 option(GX_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
+option(GX_BUILD_UNIT_TESTS "With GX_BUILD_TESTS, build the unit tests too, beside those from outside" ON)
 option(GX_BUILD_BENCHMARKS "Build the benchmarks (needs Google Benchmark)" OFF)
 option(BUILD_SHARED_LIBS "Build shared libraries instead of static ones" OFF)
 option(GX_LANGUAGES_ON_DEMAND "Compile English alone in; other languages are added as data" OFF)
