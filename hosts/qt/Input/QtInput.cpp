@@ -63,13 +63,20 @@ UIKey::Code codeOf(int key) {
     }
 }
 
+/// Whether a text begins with what a reader sees; beyond U+FFFF it takes two places.
+bool isPrintable(const QString& text) {
+    if (text.isEmpty()) return false;
+    const bool isPair = text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+    return QChar::isPrint(isPair ? QChar::surrogateToUcs4(text[0], text[1]) : char32_t{text[0].unicode()});
+}
+
 UIKey keyOf(const QKeyEvent& event, NSTimeInterval time) {
     UIKey key;
     key.code = codeOf(event.key());
     key.isRepeat = event.isAutoRepeat();
     key.timestamp = time;
     const QString text = event.text();
-    const bool isTyped = key.code == UIKey::Code::None && !text.isEmpty() && text.front().isPrint();
+    const bool isTyped = key.code == UIKey::Code::None && isPrintable(text);
     if (isTyped) {
         key.code = UIKey::Code::Character;
         key.characters = text.toStdString();

@@ -105,6 +105,16 @@ TEST_F(UIViewWidgetKeys, AltGrTypesCharacters) {
     EXPECT_EQ(source->notices, (Notices{{0, 0}}));
 }
 
+TEST_F(UIViewWidgetKeys, TypesCharactersBeyondTheFirstPlane) {
+    source->title = [](NSInteger row, NSInteger) { return row == 3 ? "🚴" : "a"; };
+    wheel->reloadAllComponents();
+    EXPECT_TRUE(press(0, {}, "🚴"));
+    EXPECT_FALSE(press(0, {}, QString(QChar(0xd83d)))) << "half a character";
+    EXPECT_FALSE(press(0, {}, QString::fromUcs4(U"\U000f0000"))) << "of private use";
+    run(2);
+    EXPECT_EQ(source->notices, (Notices{{3, 0}}));
+}
+
 TEST_F(UIViewWidgetKeys, TabGoesRoundTheWheels) {
     const auto page = create<UIView>(CGRectMake(0, 0, 320, 216));
     const auto other = wheelWithSource(source);
