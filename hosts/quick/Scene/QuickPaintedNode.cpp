@@ -68,6 +68,7 @@ void QuickPaintedNode::render(const RenderState* state) {
     const bool isPlain = qt::QtCanvas::isPlain(device);
     frame_.begin(device);
     for (const QuickPiece& piece : pieces_) frame_.add(painted(piece, isPlain ? device : QTransform()));
+    frame_.end(); // Releases the images of the frame before.
     // It clips to nothing but the region, so the canvas may blend with its pixels.
     auto* const image = isPlain ? dynamic_cast<QImage*>(painter->device()) : nullptr;
     const QRegion* const dirty = state->clipRegion();

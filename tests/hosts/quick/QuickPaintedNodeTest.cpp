@@ -45,6 +45,26 @@ private:
     bool isPainted;
 };
 
+/// Shows one image by the node that paints.
+class Picture : public QQuickItem {
+public:
+    explicit Picture(QQuickItem* parent) : QQuickItem(parent) {
+        setFlag(ItemHasContents);
+        setSize({8, 8});
+    }
+    void setImage(const QImage& image) {
+        piece_.image = image;
+        piece_.area = QRectF({}, QSizeF(image.size()));
+        update();
+    }
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override { return nodeWithPieces({piece_}, node, *window()); }
+
+private:
+    QuickPiece piece_;
+};
+
 /// A square of one colour.
 class Square : public QQuickItem {
 public:
@@ -186,6 +206,20 @@ TEST_F(QuickPictures, WhatLiesBetweenTwoChangedItemsIsNotPaintedAgain) {
     };
     EXPECT_NE(pictureWithSquares(Qt::red), before);
     EXPECT_EQ(pictureWithSquares(Qt::white), before);
+}
+
+TEST_F(QuickPictures, AFrameKeepsNoImagesOfTheOneBefore) {
+    Picture picture(screen.contentItem());
+    QImage first(8, 8, QImage::Format_ARGB32_Premultiplied);
+    first.fill(Qt::red);
+    QImage second(8, 8, QImage::Format_ARGB32_Premultiplied);
+    second.fill(Qt::blue);
+    picture.setImage(first);
+    EXPECT_EQ(screen.grabWindow().pixelColor(4, 4), QColor(Qt::red));
+    EXPECT_FALSE(first.isDetached()) << "it is shown";
+    picture.setImage(second);
+    EXPECT_EQ(screen.grabWindow().pixelColor(4, 4), QColor(Qt::blue));
+    EXPECT_TRUE(first.isDetached());
 }
 
 TEST_F(QuickPictures, ASpinOverRowsThatWereShownMakesNoTextures) {
