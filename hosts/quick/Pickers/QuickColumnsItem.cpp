@@ -7,6 +7,29 @@
 
 namespace gx::quick {
 
+namespace {
+
+/// QML has two types of numbers; models of an application in C++ have all of them.
+bool isNumber(int type) {
+    switch (type) {
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 QuickColumnsItem::~QuickColumnsItem() {
     if (!wheel_) return;
     wheel_->didChange = nullptr;
@@ -69,7 +92,7 @@ QuickColumnsItem::Column QuickColumnsItem::columnOf(const QVariant& description,
         return column;
     }
     const int type = plain.typeId();
-    if (type == QMetaType::Int || type == QMetaType::Double || type == QMetaType::UInt || type == QMetaType::LongLong) {
+    if (isNumber(type)) {
         column.rows = plain.toDouble();
         column.isNumbered = true;
         if (column.rows >= 0) return column;

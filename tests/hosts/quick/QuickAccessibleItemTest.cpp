@@ -78,6 +78,18 @@ private:
 
 } // namespace
 
+TEST_F(LinkedModule, ACountOfRowsMayBeAnyNumberOfCpp) {
+    const QSignalSpy warnings(&engine, &QQmlEngine::warnings);
+    QQuickItem* const wheel = made("WheelPicker {}");
+    const QVariantList counts = {qint16{2}, quint16{3}, 4, 5U, qint64{6}, quint64{7}, 8.0F, 9.0};
+    EXPECT_TRUE(wheel->setProperty("columns", counts));
+    EXPECT_TRUE(wheel->setProperty("currentIndexes", QVariant::fromValue(QList<double>(8, 100))));
+    EXPECT_EQ(wheel->property("currentIndexes").value<QList<double>>(), (QList<double>{1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(warnings.count(), 0);
+    EXPECT_TRUE(wheel->setProperty("columns", QVariantList{true}));
+    EXPECT_EQ(warnings.count(), 1) << "no number";
+}
+
 TEST_F(LinkedModule, APickerIsAGroupOfItsColumns) {
     QAccessibleInterface* const picker = QAccessible::queryAccessibleInterface(made(duration));
     ASSERT_NE(picker, nullptr);
