@@ -1,13 +1,11 @@
 #include "QuickItem.h"
 
-#include <QGuiApplication>
 #include <QQmlInfo>
-
-#include <GXUIPickers/QtHost.h>
 
 #include "QtAccessibility.h"
 #include "QtLooks.h"
 #include "QuickAccessibleItem.h"
+#include "QuickHost.h"
 #include "QuickPaintedNode.h"
 
 namespace gx::quick {
@@ -35,15 +33,11 @@ QAccessibleInterface* accessibleInterfaceFor(const QString&, QObject* object) {
     return nullptr;
 }
 
-void installHost() {
-    if (UITextEngine::shared() != qt::QtTextEngine::shared()) qt::installQtHost(*qGuiApp);
-    QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
-}
-
 } // namespace
 
 QuickItem::QuickItem(QQuickItem* parent) : QQuickItem(parent) {
     installHost();
+    QAccessible::installFactory(accessibleInterfaceFor); // Qt keeps a factory once.
     window_ = gx::create<UIWindow>(CGRectZero);
     input_ = std::make_shared<qt::QtInput>(window_);
     clock_.start();
