@@ -38,6 +38,13 @@ double LineReader::number(const char* name, double lowest, double highest) {
     return 0;
 }
 
+gx::CGSize LineReader::size(double smallestSide) {
+    const double width = number("width", smallestSide, largestSide);
+    const double height = number("height", smallestSide, largestSide);
+    if (width * height > largestArea) refuse(R"("width" times "height" is too large)");
+    return {width, height};
+}
+
 std::optional<std::int64_t> LineReader::integerOf(const Json& value) {
     // Larger ones are kept as unsigned numbers.
     const bool isWhole = value.is_number_integer() && !(value.is_number_unsigned() && value.get<std::uint64_t>() > INT64_MAX);

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include <GXUIPickers/CGGeometry.h>
 #include <nlohmann/json.hpp>
 
 namespace gallery {
@@ -19,9 +20,11 @@ public:
     static constexpr std::size_t longestLine = 8U << 20U;
     /// Far beyond any screen and any recording.
     static constexpr double largestNumber = 1e12;
-    /// Of a window, in points. Chosen: with four pixels for each, a picture of it still fits into
-    /// memory.
-    static constexpr double largestSide = 4096;
+    /// Of a window, in points. Chosen: more than three of the widest screens beside each other.
+    static constexpr double largestSide = 32767;
+    /// Of a window, in points. Chosen: with four pixels each way for one, a picture of 4096 by 4096
+    /// takes a gibibyte.
+    static constexpr double largestArea = 4096.0 * 4096.0;
 
     /// Chosen: no element lies as deep in a screen.
     static constexpr std::size_t longestList = 32;
@@ -33,6 +36,8 @@ public:
     void refuse(const std::string& reason);
 
     double number(const char* name, double lowest = -largestNumber, double highest = largestNumber);
+    /// Of a window: "width" and "height".
+    gx::CGSize size(double smallestSide);
     std::int64_t integer(const char* name);
     /// A list of up to `longestList` of them.
     std::vector<std::int64_t> integers(const char* name);

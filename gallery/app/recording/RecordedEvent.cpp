@@ -176,8 +176,7 @@ std::optional<RecordedEvent> RecordedEvent::eventOfLine(const std::string& line,
     if (event.kind == Kind::Scroll) readScroll(reader, event.scroll);
     if (event.kind == Kind::Key) readKey(reader, event.key);
     if (event.kind == Kind::Action) readAction(reader, event);
-    if (event.kind == Kind::Size)
-        event.size = {reader.number("width", 0, LineReader::largestSide), reader.number("height", 0, LineReader::largestSide)};
+    if (event.kind == Kind::Size) event.size = reader.size(0);
     if (event.kind == Kind::File) readFile(reader, event.file);
     if (event.kind == Kind::Picture) {
         event.name = reader.text("name");

@@ -70,8 +70,7 @@ std::optional<RecordingStart> RecordingStart::startOfLine(const std::string& lin
     if (made < 1) reader.refuse("\"version\" is below 1");
     if (made > version) reader.refuse("this was recorded by a newer version of the gallery");
     RecordingStart start;
-    start.size = {reader.number("width", smallestSide, LineReader::largestSide),
-                  reader.number("height", smallestSide, LineReader::largestSide)};
+    start.size = reader.size(smallestSide);
     start.scale = reader.number("scale", 1, largestScale);
     start.locale = reader.text("locale");
     start.decimalSeparator = reader.text("decimalSeparator");

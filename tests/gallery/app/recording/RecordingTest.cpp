@@ -113,12 +113,22 @@ TEST(RecordedEvent, DamagedLinesAreRefusedWithTheirReason) {
     EXPECT_EQ(errorOf(R"({"time":1,"event":"touchBegan","finger":1,"x":0})"), "\"y\" is missing");
     EXPECT_EQ(errorOf(R"({"time":1,"event":"look","isOn":1})"), "\"isOn\" is neither true nor false");
     EXPECT_EQ(errorOf(R"({"time":1,"event":"size","width":-1,"height":100})"), "\"width\" is no number in its range");
-    EXPECT_EQ(errorOf(R"({"time":1,"event":"size","width":4097,"height":100})"), "\"width\" is no number in its range");
+    EXPECT_EQ(errorOf(R"({"time":1,"event":"size","width":32768,"height":100})"), "\"width\" is no number in its range");
+    EXPECT_EQ(errorOf(R"({"time":1,"event":"size","width":4096,"height":4097})"), R"("width" times "height" is too large)");
     EXPECT_EQ(errorOf(R"({"time":1,"event":"key","key":"F1","text":"","modifiers":0,"isRepeat":false})"), "\"F1\" is not known here");
     EXPECT_EQ(errorOf(R"({"time":1,"event":"key","key":"up","text":"","modifiers":16,"isRepeat":false})"),
               "\"modifiers\" are not known here");
     EXPECT_EQ(errorOf("{\"time\":1,\"event\":\"\xFF\"}"), "this is no JSON; the line may be cut off");
     EXPECT_EQ(errorOf(std::string(LineReader::longestLine + 1, ' ')), "the line is too long");
+}
+
+TEST(RecordedEvent, AWindowMayCoverSeveralScreens) {
+    RecordedEvent event;
+    event.kind = Kind::Size;
+    for (const CGSize size : {CGSizeMake(32767, 512), CGSizeMake(5120, 2880), CGSizeMake(4096, 4096), CGSizeMake(0, 9000)}) {
+        event.size = size;
+        EXPECT_EQ(eventOf(event.line()).size, size);
+    }
 }
 
 TEST(RecordedEvent, DamagedActionsAreRefusedWithTheirReason) {
@@ -177,6 +187,15 @@ TEST(Recording, ErrorsNameTheLine) {
     std::string large = start;
     large.replace(large.find("\"textScale\":1.0"), 15, "\"textScale\":9.0");
     EXPECT_EQ(errorOfText(large), "line 1: \"textScale\" is no number in its range");
+}
+
+TEST(Recording, MayStartInAWindowOverSeveralScreens) {
+    RecordingStart wide;
+    wide.size = {7680, 2160};
+    std::string error;
+    const auto recording = Recording::recordingOfText(wide.line() + "\n", error);
+    ASSERT_TRUE(recording) << error;
+    EXPECT_EQ(recording->start.size, wide.size);
 }
 
 TEST(Recording, EveryCutAndEveryChangedByteIsReadOrRefused) {
