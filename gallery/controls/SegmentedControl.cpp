@@ -132,9 +132,9 @@ const std::vector<CGRect>& SegmentedControl::framesForWidth(CGFloat width) const
         ruler_->setText(choice);
         texts.push_back(ruler_->widthInOneLine());
     }
-    for (const CGFloat inset : {wantedInset(), narrowInset()}) {
+    for (const CGFloat margin : {wantedInset(), narrowInset()}) {
         std::vector<CGFloat> needed = texts;
-        for (CGFloat& each : needed) each += 2 * inset;
+        for (CGFloat& each : needed) each += 2 * margin;
         if (sumOf(needed) <= width) {
             frames_ = framesSideBySide(width, needed);
             return frames_;
