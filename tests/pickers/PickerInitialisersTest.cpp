@@ -108,13 +108,7 @@ Kind kind(const char* name) {
 struct PickerInitialisers : testing::TestWithParam<Kind> {};
 
 INSTANTIATE_TEST_SUITE_P(Pickers, PickerInitialisers,
-                         testing::Values(kind<GXBasePickerView>("Base"), kind<GXBpmPickerView>("Bpm"),
-                                         kind<GXCaloriesPickerView>("Calories"), kind<GXDistancePickerView>("Distance"),
-                                         kind<GXDurationPickerView>("Duration"), kind<GXHeartRatePickerView>("HeartRate"),
-                                         kind<GXIconPickerView>("Icon"), kind<GXPacePickerView>("Pace"), kind<GXSpeedPickerView>("Speed"),
-                                         kind<GXTemperaturePickerView>("Temperature"), kind<GXWeightPickerView>("Weight"),
-                                         kind<GXDistanceAndDurationPicker>("DistanceAndDuration"),
-                                         kind<GXWeatherAndTemperaturePickerView>("WeatherAndTemperature")),
+                         testing::ValuesIn(kindsOfPickers([]<class Picker>(const char* name) { return kind<Picker>(name); })),
                          NameOfKind());
 
 } // namespace

@@ -4,8 +4,17 @@
 
 #include <ostream>
 #include <string>
+#include <vector>
 
-#include "GXBasePickerView.h"
+#include "GXBpmPickerView.h"
+#include "GXCaloriesPickerView.h"
+#include "GXDistanceAndDurationPicker.h"
+#include "GXHeartRatePickerView.h"
+#include "GXIconPickerView.h"
+#include "GXPacePickerView.h"
+#include "GXSpeedPickerView.h"
+#include "GXWeatherAndTemperaturePickerView.h"
+#include "GXWeightPickerView.h"
 #include "NSCoder.h"
 
 /// One class of pickers, for tests that pickers of each class have to pass: a test compiles once
@@ -28,6 +37,31 @@ gx::Ref<gx::GXBasePickerView> createdAs(const Arguments&... arguments) {
 template <class Picker>
 PickerKind pickerKind(const char* name) {
     return {name, createdAs<Picker, gx::CGRect>, createdAs<Picker, gx::Ref<gx::NSCoder>>, createdAs<Picker, gx::CGRect, float>};
+}
+
+/// What `make` makes for each class of pickers but composites, from the class and its name.
+template <class Make>
+auto kindsOfSinglePickers(Make make) {
+    return std::vector{make.template operator()<gx::GXBasePickerView>("Base"),
+                       make.template operator()<gx::GXBpmPickerView>("Bpm"),
+                       make.template operator()<gx::GXCaloriesPickerView>("Calories"),
+                       make.template operator()<gx::GXDistancePickerView>("Distance"),
+                       make.template operator()<gx::GXDurationPickerView>("Duration"),
+                       make.template operator()<gx::GXHeartRatePickerView>("HeartRate"),
+                       make.template operator()<gx::GXIconPickerView>("Icon"),
+                       make.template operator()<gx::GXPacePickerView>("Pace"),
+                       make.template operator()<gx::GXSpeedPickerView>("Speed"),
+                       make.template operator()<gx::GXTemperaturePickerView>("Temperature"),
+                       make.template operator()<gx::GXWeightPickerView>("Weight")};
+}
+
+/// The same with the composites.
+template <class Make>
+auto kindsOfPickers(Make make) {
+    auto kinds = kindsOfSinglePickers(make);
+    kinds.push_back(make.template operator()<gx::GXDistanceAndDurationPicker>("DistanceAndDuration"));
+    kinds.push_back(make.template operator()<gx::GXWeatherAndTemperaturePickerView>("WeatherAndTemperature"));
+    return kinds;
 }
 
 /// Names a test by the kind of its picker.

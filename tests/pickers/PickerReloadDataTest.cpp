@@ -103,11 +103,7 @@ struct ReloadData : PickerTest<GXBasePickerView>, testing::WithParamInterface<Ki
 };
 
 INSTANTIATE_TEST_SUITE_P(Pickers, ReloadData,
-                         testing::Values(kind<GXBasePickerView>("Base"), kind<GXBpmPickerView>("Bpm"),
-                                         kind<GXCaloriesPickerView>("Calories"), kind<GXDistancePickerView>("Distance"),
-                                         kind<GXDurationPickerView>("Duration"), kind<GXHeartRatePickerView>("HeartRate"),
-                                         kind<GXIconPickerView>("Icon"), kind<GXPacePickerView>("Pace"), kind<GXSpeedPickerView>("Speed"),
-                                         kind<GXTemperaturePickerView>("Temperature"), kind<GXWeightPickerView>("Weight")),
+                         testing::ValuesIn(kindsOfSinglePickers([]<class Picker>(const char* name) { return kind<Picker>(name); })),
                          NameOfKind());
 
 std::optional<std::string> rightText(const Ref<GXBasePickerView>& picker) { return picker->pickerView()->rightLabelText(); }
